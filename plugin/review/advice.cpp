@@ -68,9 +68,8 @@ bool isMet(const BoundCondition& bound, Numbers numbers, const Facts& facts)
     const auto isMetAt = [&](Place place) { return isMet(bound, facts.value(place), numbers, facts); };
     if (bound.places.empty())
         return isMetAt({});
-    return bound.condition->over == Condition::Over::some
-               ? std::any_of(bound.places.begin(), bound.places.end(), isMetAt)
-               : std::all_of(bound.places.begin(), bound.places.end(), isMetAt);
+    return bound.condition->over == Condition::Over::some ? std::ranges::any_of(bound.places, isMetAt)
+                                                          : std::ranges::all_of(bound.places, isMetAt);
 }
 
 bool speaks(const BoundRule& bound, const Facts& facts)
@@ -78,8 +77,8 @@ bool speaks(const BoundRule& bound, const Facts& facts)
     const auto holds = [&](const BoundCondition& condition) {
         return isMet(condition, bound.numbers, facts);
     };
-    return std::all_of(bound.all.begin(), bound.all.end(), holds) &&
-           (bound.any.empty() || std::any_of(bound.any.begin(), bound.any.end(), holds));
+    return std::ranges::all_of(bound.all, holds) &&
+           (bound.any.empty() || std::ranges::any_of(bound.any, holds));
 }
 
 QString quickText(const QString& path, const QString& value)

@@ -22,7 +22,7 @@ constexpr Format kFormats[] = {{"10", kZeta10Count}, {"20", kEarlierFieldCount},
 template <class Is>
 const Format& firstFormat(Is is)
 {
-    return *std::find_if(std::begin(kFormats), std::end(kFormats) - 1, is);
+    return *std::ranges::find_if(std::begin(kFormats), std::end(kFormats) - 1, is);
 }
 
 Place maskPlace()
@@ -42,9 +42,9 @@ const MaskField* boxWith(int field)
 {
     const auto holds = [&](const DataSetBox& box) {
         const auto end = box.field.positions.begin() + box.field.count;
-        return std::find(box.field.positions.begin(), end, field) != end;
+        return std::ranges::find(box.field.positions.begin(), end, field) != end;
     };
-    const auto found = std::find_if(kDataSetBoxes.begin(), kDataSetBoxes.end(), holds);
+    const auto found = std::ranges::find_if(kDataSetBoxes, holds);
     return found == kDataSetBoxes.end() ? nullptr : &found->field;
 }
 

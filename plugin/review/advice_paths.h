@@ -81,11 +81,9 @@ constexpr bool arePathsOf(const Rule& rule)
         return argument.kind == Argument::Kind::unread || known(argument.path);
     };
     const auto isOfMending = [&](const Mending& mending) { return known(mending.path); };
-    return std::all_of(rule.all.begin(), rule.all.end(), isOfCondition) &&
-           std::all_of(rule.any.begin(), rule.any.end(), isOfCondition) &&
-           std::all_of(rule.names.begin(), rule.names.end(), known) &&
-           std::all_of(rule.arguments.begin(), rule.arguments.end(), isOfArgument) &&
-           std::all_of(rule.mendings.begin(), rule.mendings.end(), isOfMending);
+    return std::ranges::all_of(rule.all, isOfCondition) && std::ranges::all_of(rule.any, isOfCondition) &&
+           std::ranges::all_of(rule.names, known) && std::ranges::all_of(rule.arguments, isOfArgument) &&
+           std::ranges::all_of(rule.mendings, isOfMending);
 }
 
 // Rule by rule: compilers bound what one evaluation may take.

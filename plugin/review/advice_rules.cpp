@@ -105,15 +105,14 @@ constexpr ProtocolNames kProtocols[] = {{"R-7044", "K5.2"},        {"R-7280", "K
 
 constexpr auto kProtocolRules = [] {
     std::array<Rule, std::size(kProtocols)> rules;
-    std::transform(std::begin(kProtocols), std::end(kProtocols), rules.begin(),
-                   [](const ProtocolNames& protocol) {
-                       return rule("quick_protocol", warning, "adv_008")
-                           .when(isOn("TRANS/SRV1/use"), isNot("TRANS/SRV1/protocol", protocol.page),
-                                 isUnread("TRANS/SRV1/format", protocol.quick))
-                           .naming("TRANS/SRV1/protocol")
-                           .telling(unreadAt("TRANS/SRV1/format"), valueOf("TRANS/SRV1/protocol"))
-                           .mending("TRANS/SRV1/protocol", protocol.page);
-                   });
+    std::ranges::transform(kProtocols, rules.begin(), [](const ProtocolNames& protocol) {
+        return rule("quick_protocol", warning, "adv_008")
+            .when(isOn("TRANS/SRV1/use"), isNot("TRANS/SRV1/protocol", protocol.page),
+                  isUnread("TRANS/SRV1/format", protocol.quick))
+            .naming("TRANS/SRV1/protocol")
+            .telling(unreadAt("TRANS/SRV1/format"), valueOf("TRANS/SRV1/protocol"))
+            .mending("TRANS/SRV1/protocol", protocol.page);
+    });
     return rules;
 }();
 
@@ -465,8 +464,8 @@ template <std::size_t i>
 struct NamedSensors
 {
     static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
-    static constexpr bool any = std::any_of(type.vendors.begin(), type.vendors.end(),
-                                            [](const BluetoothVendor& model) { return model.needsName; });
+    static constexpr bool any =
+        std::ranges::any_of(type.vendors, [](const BluetoothVendor& model) { return model.needsName; });
     // "BLUETOOTH/FS%1/type"
     static constexpr auto model = [] {
         std::array<char, 32> path{};
@@ -495,13 +494,13 @@ constexpr auto nameless()
 {
     using Sensors = NamedSensors<i>;
     std::array<Rule, Sensors::any> rules;
-    std::fill(rules.begin(), rules.end(),
-              rule("bluetooth_name", hint, "adv_030")
-                  .each(kBluetoothSensors)
-                  .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::type.code),
-                        is(Sensors::model.data(), Sensors::codes.data()), is("BLUETOOTH/SENS%1/name", ""))
-                  .naming("BLUETOOTH/SENS%1/name", Sensors::model.data())
-                  .telling(outerNumber(), valueOf(Sensors::model.data())));
+    std::ranges::fill(rules, rule("bluetooth_name", hint, "adv_030")
+                                 .each(kBluetoothSensors)
+                                 .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::type.code),
+                                       is(Sensors::model.data(), Sensors::codes.data()),
+                                       is("BLUETOOTH/SENS%1/name", ""))
+                                 .naming("BLUETOOTH/SENS%1/name", Sensors::model.data())
+                                 .telling(outerNumber(), valueOf(Sensors::model.data())));
     return rules;
 }
 

@@ -82,8 +82,8 @@ Change why(const Text& row, const Reading& reading, const QString& value)
         return Change::tooLong;
     const auto filled = [](const QString& text) {
         QString places;
-        std::copy_if(text.begin(), text.end(), std::back_inserter(places),
-                     [](QChar sign) { return sign.isLetterOrNumber(); });
+        std::ranges::copy_if(text, std::back_inserter(places),
+                             [](QChar sign) { return sign.isLetterOrNumber(); });
         return places;
     };
     if (filled(value) == filled(reading.text))

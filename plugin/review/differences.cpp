@@ -93,7 +93,7 @@ int Differences::count() const
 bool Differences::isDifferent(int table, int row) const
 {
     const std::vector<int>& held = FileKeys::all().heldBy(table, row);
-    return std::any_of(held.begin(), held.end(), [this](int key) { return isDifferent(key); });
+    return std::ranges::any_of(held, [this](int key) { return isDifferent(key); });
 }
 
 bool Differences::isAlong(int key) const

@@ -57,8 +57,8 @@ int FileKeys::tableOfSection(const QString& path) const
 
 int FileKeys::tableOf(const SettingsTable& table) const
 {
-    const auto found = std::find_if(layouts_.begin(), layouts_.end(),
-                                    [&](const TableLayout* layout) { return layout->table == &table; });
+    const auto found =
+        std::ranges::find_if(layouts_, [&](const TableLayout* layout) { return layout->table == &table; });
     return found == layouts_.end() ? -1 : static_cast<int>(found - layouts_.begin());
 }
 

@@ -29,8 +29,8 @@ bool isMaskOn(const MaskField& field, const QString& part)
 
 int maskItem(const MaskField& field, const QString& part)
 {
-    const auto found = std::find_if(field.items.begin(), field.items.end(),
-                                    [&](const Code& item) { return part == QLatin1String(item.code); });
+    const auto found =
+        std::ranges::find_if(field.items, [&](const Code& item) { return part == QLatin1String(item.code); });
     return found == field.items.end() ? -1 : static_cast<int>(found - field.items.begin());
 }
 

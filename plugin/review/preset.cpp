@@ -78,7 +78,7 @@ void addCause(PresetProblem* problem, int key, const Configuration& tried)
     const Values& values = tried.tables()[FileKeys::all()[key].table];
     for (const Sets& rule : values.table().all<Sets>()) {
         if (rule.moment == Moment::edit || rule.when.row < 0 || !values.holds(rule.when) ||
-            std::find(rows.begin(), rows.end(), rule.path.row) == rows.end())
+            std::ranges::find(rows, rule.path.row) == rows.end())
             continue;
         problem->cause = rule.when.row;
         problem->causeValue = values.value(rule.when.row);
@@ -118,7 +118,7 @@ FileState stateWith(const Texts& texts, const Configuration& configuration, Conf
 
 void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys, Personal personal)
 {
-    std::sort(keys.begin(), keys.end());
+    std::ranges::sort(keys);
     root.setString(kCreator, kPresetCreator);
     root.commit();
     for (const int key : keys) {
@@ -132,8 +132,7 @@ bool isPersonal(int key)
     const FileKey& place = FileKeys::all()[key];
     const TableLayout& layout = FileKeys::all().layout(place.table);
     return place.path == QLatin1String("TRANS/OBJECT/name") ||
-           std::any_of(place.rows.begin(), place.rows.end(),
-                       [&](int row) { return layout.rows[row].base->secret; });
+           std::ranges::any_of(place.rows, [&](int row) { return layout.rows[row].base->secret; });
 }
 
 std::optional<ChosenParts> chosenParts(int key, const QString& text)
@@ -199,7 +198,7 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
             addCause(&applied.problems.back(), entry.first, applied.result);
         return isUnfit;
     };
-    texts.erase(std::remove_if(texts.begin(), texts.end(), isUnfit), texts.end());
+    std::erase_if(texts, isUnfit);
     stateWith(texts, configuration, &applied.result);
     applied.state = FileState::ofConfiguration(applied.result);
     for (const auto& [key, text] : texts)

@@ -55,9 +55,8 @@ std::vector<KeptUnsaved> keptAs(const QString& folder, const QString& stem)
         if (unsaved)
             kept.push_back({path, std::move(*unsaved)});
     }
-    std::stable_sort(kept.begin(), kept.end(), [](const KeptUnsaved& a, const KeptUnsaved& b) {
-        return a.unsaved.moment > b.unsaved.moment;
-    });
+    std::ranges::stable_sort(
+        kept, [](const KeptUnsaved& a, const KeptUnsaved& b) { return a.unsaved.moment > b.unsaved.moment; });
     return kept;
 }
 

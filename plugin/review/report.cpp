@@ -112,7 +112,7 @@ bool isTold(const Values& values, int row, const std::optional<std::vector<int>>
     const int key = FileKeys::all().of(table, row);
     const Setting& holder = values.setting(values.holder(row));
     return key >= 0 && holder.shown() && (holder.shown()->captionKey || holder.is<Digits>()) &&
-           values.isWritten(row) && (!keys || std::find(keys->begin(), keys->end(), key) != keys->end());
+           values.isWritten(row) && (!keys || std::ranges::find(*keys, key) != keys->end());
 }
 
 // That a file does not have and a read works out: whether a server is used, the operator of an access point.
@@ -122,8 +122,8 @@ bool isWorkedOut(const Values& values, int row)
     const Shown* shown = values.setting(row).shown();
     const auto& rules = values.layout().afterRead;
     return !place.base->stored && shown && shown->captionKey &&
-           (!place.presets.empty() || std::any_of(rules.begin(), rules.end(),
-                                                  [row](const Sets* rule) { return rule->path.row == row; }));
+           (!place.presets.empty() ||
+            std::ranges::any_of(rules, [row](const Sets* rule) { return rule->path.row == row; }));
 }
 
 // All lines of a title in the place of the first one. What is worked out is told beside others alone.
@@ -142,7 +142,7 @@ Lines byTitle(Lines lines)
     for (const Line& line : lines)
         titleOf(line).isInFile |= !line.isWorkedOut;
     std::erase_if(lines, [&](const Line& line) { return !titleOf(line).isInFile; });
-    std::stable_sort(lines.begin(), lines.end(), [&](const Line& left, const Line& right) {
+    std::ranges::stable_sort(lines, [&](const Line& left, const Line& right) {
         return titleOf(left).place < titleOf(right).place;
     });
     return lines;

@@ -92,9 +92,8 @@ QString otherNames(QString path)
 {
     static const QRegularExpression digits(QStringLiteral("\\d"));
     path.remove(digits);
-    const auto found =
-        std::find_if(std::begin(kSearchWords), std::end(kSearchWords),
-                     [&](const SearchWords& words) { return path == QLatin1String(words.path); });
+    const auto found = std::ranges::find_if(
+        kSearchWords, [&](const SearchWords& words) { return path == QLatin1String(words.path); });
     return found == std::end(kSearchWords) ? QString() : translated(found->text);
 }
 
@@ -227,12 +226,11 @@ std::vector<Hit> Search::find(const QString& query)
         if (const int points = asked.words.empty() ? 1 : score(entry, asked); points > 0)
             found.emplace_back(points, &entry);
     }
-    std::stable_sort(found.begin(), found.end(),
-                     [](const auto& left, const auto& right) { return left.first > right.first; });
+    std::ranges::stable_sort(found, std::ranges::greater(), &std::pair<int, const Entry*>::first);
     std::vector<Hit> hits;
     hits.reserve(found.size());
-    std::transform(found.begin(), found.end(), std::back_inserter(hits),
-                   [](const auto& entry) { return entry.second->hit; });
+    std::ranges::transform(found, std::back_inserter(hits),
+                           [](const auto& entry) { return entry.second->hit; });
     return hits;
 }
 

@@ -24,9 +24,8 @@ constexpr Unshown kUnshown[] = {
 
 QString captionOfUnshown(const TableLayout::Row& row)
 {
-    const auto found = std::find_if(std::begin(kUnshown), std::end(kUnshown), [&](const Unshown& unshown) {
-        return row.filePath.endsWith(QLatin1String(unshown.end));
-    });
+    const auto found = std::ranges::find_if(
+        kUnshown, [&](const Unshown& unshown) { return row.filePath.endsWith(QLatin1String(unshown.end)); });
     return found == std::end(kUnshown) ? row.key : inOneLine(translated(found->caption));
 }
 

@@ -31,9 +31,8 @@ std::vector<int> tiedTo(const TableLayout& layout, int row)
 {
     std::vector<int> rows;
     const auto tie = [&](std::initializer_list<int> tied) {
-        if (std::find(tied.begin(), tied.end(), row) != tied.end())
-            std::copy_if(tied.begin(), tied.end(), std::back_inserter(rows),
-                         [](int one) { return one >= 0; });
+        if (std::ranges::find(tied, row) != tied.end())
+            std::ranges::copy_if(tied, std::back_inserter(rows), [](int one) { return one >= 0; });
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
         if (rule.moment != Moment::edit && rule.moment != Moment::save)
@@ -92,8 +91,7 @@ std::vector<int> withNeeded(const Differences& differences, std::vector<int> key
         for (const int row : companions(all.layout(table), before.isThere ? before.row : after.row,
                                         before.isThere != after.isThere)) {
             const int key = all.of(table, row);
-            if (key >= 0 && differences.isDifferent(key) &&
-                std::find(keys.begin(), keys.end(), key) == keys.end())
+            if (key >= 0 && differences.isDifferent(key) && std::ranges::find(keys, key) == keys.end())
                 keys.push_back(key);
         }
     }
@@ -167,8 +165,7 @@ std::vector<int> takeOver(Configuration& configuration, const Differences& diffe
             for (const int row : all[keys[i]].rows) {
                 for (const int tied : tiedTo(layout, layout.rows[row].target)) {
                     for (const int key : all.heldBy(table, layout.rows[tied].target)) {
-                        if (differences.isDifferent(key) &&
-                            std::find(keys.begin(), keys.end(), key) == keys.end())
+                        if (differences.isDifferent(key) && std::ranges::find(keys, key) == keys.end())
                             keys.push_back(key);
                     }
                 }

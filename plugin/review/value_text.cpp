@@ -36,8 +36,8 @@ QString told(const Number& row, const QString& value, const char* unit)
 // Nothing is told of an address without a digit, although its signs stand in the file.
 QString told(const Text& row, const QString& value, const char* /*unit*/)
 {
-    const bool isEmpty = row.mask && std::none_of(value.begin(), value.end(),
-                                                  [](QChar sign) { return sign.isLetterOrNumber(); });
+    const bool isEmpty =
+        row.mask && std::ranges::none_of(value, [](QChar sign) { return sign.isLetterOrNumber(); });
     return isEmpty ? QString() : value;
 }
 
