@@ -26,7 +26,7 @@ struct Name
     }
 
     constexpr explicit operator bool() const { return tail; }
-    // Of a key its element.
+    // The element of a key.
     constexpr std::string_view form() const { return {head ? head : "", headSize}; }
 
     const char* head = nullptr;

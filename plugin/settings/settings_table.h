@@ -33,7 +33,7 @@ struct SettingsTable
     bool emptied = true; // a save empties the section first
     RuleLists<Sets, Distance, RangeWhen, ExclusiveChoice, Presets, Doubt, Enable> rules{};
 
-    // Of one kind.
+    // The rules of one kind.
     template <class Rule>
     constexpr std::span<const Rule> all() const
     {
@@ -50,7 +50,7 @@ constexpr std::array<Setting, 0> listOf(const Heading&)
     return {};
 }
 
-// Of a row or a rule.
+// The numbers of a row or a rule.
 constexpr Numbers& numbersOf(auto& item)
 {
     if constexpr (requires { item.base(); })

@@ -30,7 +30,7 @@ public:
     int rowAt(const QString& path) const { return layout_->rowAt(path); }
     const TableLayout::Row& row(int row) const { return layout_->rows[row]; }
     const Setting& setting(int row) const { return *layout_->rows[row].setting; }
-    // Of a choice; null for another kind.
+    // The row as a choice; null for another kind.
     const Choice* choice(int row) const { return setting(row).as<Choice>(); }
     // The row that holds the value: of a link its target, else the row itself.
     int holder(int row) const { return layout_->rows[row].target; }
@@ -44,7 +44,7 @@ public:
     // Whether a file of this state has the key, and what it holds there.
     bool isWritten(int row) const;
     QString written(int row) const { return written(row, value(row)); }
-    // The same for another value.
+    // What a file would hold for another value.
     QString written(int row, const QString& value) const;
     // Range in units of the widget, and unit, as the rules have them now.
     Limits limits(int row) const;

@@ -20,8 +20,7 @@ struct MaskField
     std::uint8_t count = 0; // of the positions
     bool always = false;    // checked, whatever the file holds
     bool anyReads = false;  // checked where any position is set; else the first one counts
-    // Of a list: what its positions hold for each item. A mask that has none of them there leaves it as it
-    // is.
+    // What the positions hold for each item of a list. A mask that has none of them there leaves it as it is.
     std::span<const Code> items{};
 };
 
