@@ -123,7 +123,7 @@ constexpr auto rowsOfType(Path owner)
                                   .caption(Type::kType.vendorCaption);
         constexpr auto more = [] {
             std::array<Setting, Type::kType.more.size()> rows{};
-            std::copy(Type::kType.more.begin(), Type::kType.more.end(), rows.begin());
+            std::ranges::copy(Type::kType.more, rows.begin());
             return rows;
         }();
         const Group own = group(Type::kType.section).onlyWhen(chosen);
@@ -138,7 +138,7 @@ constexpr auto rowsOfType(Path owner)
                                      .onlyWhen(chosen);
             constexpr auto constants = [] {
                 std::array<Setting, Type::kType.index.withType> rows{};
-                std::fill(rows.begin(), rows.end(), constant("type", "0"));
+                std::ranges::fill(rows, constant("type", "0"));
                 return rows;
             }();
             // Whether it counts is known when the vendor has been read.
@@ -167,8 +167,8 @@ constexpr auto typeCodes(bool (*isListed)(const BluetoothSensorType&))
         if (isListed(type))
             codes[size++] = {.code = type.code, .label = type.text ? type.text : "", .offered = type.offered};
     }
-    std::sort(codes.begin(), codes.end(),
-              [](const Code& a, const Code& b) { return numberOf(a.code) < numberOf(b.code); });
+    std::ranges::sort(codes,
+                      [](const Code& a, const Code& b) { return numberOf(a.code) < numberOf(b.code); });
     return codes;
 }
 
@@ -177,9 +177,7 @@ constexpr bool hasText(const BluetoothSensorType& type)
     return type.text;
 }
 // A file may name any type that has a text; those of the list are offered.
-inline constexpr auto kTypeCodes =
-    typeCodes<std::count_if(std::begin(kBluetoothSensorTypes), std::end(kBluetoothSensorTypes), hasText)>(
-        hasText);
+inline constexpr auto kTypeCodes = typeCodes<std::ranges::count_if(kBluetoothSensorTypes, hasText)>(hasText);
 inline constexpr auto kFormCodes = [] {
     auto codes = typeCodes<kTypes>([](const BluetoothSensorType&) { return true; });
     for (Code& code : codes)

@@ -39,9 +39,8 @@ inline constexpr std::array<ElementType, 14> kElementTypes = {{
 // The type with this code, null for an unknown one.
 inline const ElementType* elementType(const QString& code)
 {
-    const auto* found =
-        std::find_if(kElementTypes.begin(), kElementTypes.end(),
-                     [&](const ElementType& type) { return code == QLatin1String(type.code); });
+    const auto* found = std::ranges::find_if(
+        kElementTypes, [&](const ElementType& type) { return code == QLatin1String(type.code); });
     return found == kElementTypes.end() ? nullptr : found;
 }
 
