@@ -68,7 +68,7 @@ protected:
     // The caption goes to the label of the widget, to the widget itself if it has a text, and else to screen
     // readers alone.
     void caption(QWidget* widget, const QString& suffix = {});
-    // The same with another caption than the row's.
+    // Sets another caption than the row's.
     void caption(QWidget* widget, const char* key, const char* format, const QString& suffix = {});
 
     Edits& edits_;
