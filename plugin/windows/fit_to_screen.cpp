@@ -163,7 +163,7 @@ bool ContentArea::eventFilter(QObject* watched, QEvent* event)
 
 void ContentArea::claimRoom()
 {
-    if (widget() == nullptr)
+    if (!widget())
         return;
     const QSize others = window()->size() - size();
     const QSize needed = (widget()->minimumSizeHint() + others).expandedTo(window()->layout()->minimumSize());

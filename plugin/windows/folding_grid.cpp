@@ -58,7 +58,7 @@ QList<QLayoutItem*> FoldingGrid::items() const
 bool FoldingGrid::isAlone(const Place& place) const
 {
     const auto all = items();
-    return std::none_of(all.begin(), all.end(), [&](QLayoutItem* other) {
+    return std::ranges::none_of(all, [&](QLayoutItem* other) {
         const Place& beside = places_[other];
         return beside.row == place.row && beside.column == place.column + 1;
     });
@@ -155,7 +155,7 @@ QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
         next += any ? 1 : 0;
     };
     const auto isWhole = [&](int row) {
-        return std::any_of(all.begin(), all.end(), [&](QLayoutItem* item) {
+        return std::ranges::any_of(all, [&](QLayoutItem* item) {
             return places_[item].row == row && places_[item].columns > kColumnsOfPair;
         });
     };

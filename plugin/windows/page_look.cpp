@@ -237,8 +237,8 @@ void PageLook::dressFields()
                 return box->style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, box).width();
             };
             const int needed = box->sizeHint().width();
-            const auto* fits = std::find_if(std::begin(kDigits), std::end(kDigits),
-                                            [&](int digits) { return widthOf(digits) >= needed; });
+            const auto* fits =
+                std::ranges::find_if(kDigits, [&](int digits) { return widthOf(digits) >= needed; });
             width = std::max(width, fits == std::end(kDigits) ? needed : widthOf(*fits));
         }
         for (QAbstractSpinBox* box : boxes)

@@ -26,7 +26,7 @@ public:
 
     void setVisible(bool visible) override
     {
-        if (visible && widget() == nullptr)
+        if (visible && !widget())
             setWidget(page_);
         QScrollArea::setVisible(visible);
     }

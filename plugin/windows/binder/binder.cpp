@@ -123,7 +123,7 @@ void Binder::bind()
 
 void Binder::addTarget(QWidget* widget, const Enable& rule)
 {
-    const auto known = std::find_if(targets_.begin(), targets_.end(), [&](const Target& target) {
+    const auto known = std::ranges::find_if(targets_, [&](const Target& target) {
         return target.widget == widget && target.effect == rule.effect;
     });
     if (known != targets_.end()) {
@@ -268,8 +268,8 @@ void Binder::evaluateRules()
     for (const Target& target : targets_) {
         if (!target.widget)
             continue;
-        const bool allowed = std::all_of(target.rules.begin(), target.rules.end(),
-                                         [&](const auto* rule) { return values_.holds(*rule); });
+        const bool allowed =
+            std::ranges::all_of(target.rules, [&](const auto* rule) { return values_.holds(*rule); });
         for (QWidget* widget : {target.widget.data(), static_cast<QWidget*>(target.label.data())}) {
             if (widget)
                 target.effect == Enable::Effect::shown ? widget->setVisible(allowed)

@@ -38,9 +38,8 @@ QLabel* BoundForms::Form::label(const QString& name) const
 
 const BoundForms::Form* BoundForms::formNamed(const QString& name) const
 {
-    const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form& form) {
-        return form.widget && form.widget->objectName() == name;
-    });
+    const auto found = std::ranges::find_if(
+        forms_, [&](const Form& form) { return form.widget && form.widget->objectName() == name; });
     return found == forms_.end() ? nullptr : &*found;
 }
 

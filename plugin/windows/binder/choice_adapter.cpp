@@ -52,8 +52,8 @@ QString ChoiceAdapter::held() const
 
 std::unique_ptr<Adapter> adapterFor(const Choice& row, const Joint& joint)
 {
-    const bool overBoxes = std::any_of(row.codes.begin(), row.codes.end(),
-                                       [](const Code& code) { return static_cast<bool>(code.widget); });
+    const bool overBoxes =
+        std::ranges::any_of(row.codes, [](const Code& code) { return static_cast<bool>(code.widget); });
     if (overBoxes)
         return std::make_unique<ExclusiveAdapter>(row, joint);
     auto* box = joint.findAs<QComboBox>(row.widget);

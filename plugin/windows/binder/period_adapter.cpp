@@ -84,7 +84,7 @@ std::unique_ptr<Adapter> adapterFor(const Period& row, const Joint& joint)
     std::vector<QWidget*> boxes;
     for (const PeriodPart& part : row.parts)
         boxes.push_back(joint.find(part.widget));
-    const bool isWhole = std::find(boxes.begin(), boxes.end(), nullptr) == boxes.end();
+    const bool isWhole = std::ranges::find(boxes, nullptr) == boxes.end();
     return isWhole ? std::make_unique<PeriodAdapter>(row, joint, boxes) : nullptr;
 }
 
