@@ -37,7 +37,7 @@ CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCoun
 {
     dressTable(this, TableUse::edit);
     horizontalHeader()->setMinimumSectionSize(0);
-    // As the cells.
+    // Aligned like the cells.
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     for (int column = 0; column < ColumnCount; ++column)

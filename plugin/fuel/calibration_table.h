@@ -33,7 +33,7 @@ public:
     // Marks a volume, or a value at another volume, that repeats the one above it, with a tool tip.
     void markRepeats(const QString& ofVolume, const QString& ofValue);
     vlk::FuelRows rows() const;
-    // Of the rows with both texts.
+    // The points of the rows with both texts.
     vlk::FuelPoints points() const;
 
     bool anyMarked() const;

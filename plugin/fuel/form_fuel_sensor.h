@@ -43,7 +43,7 @@ public:
     ~VLK_Form_Fuel_Sensor() override;
 
     QString name() const { return name_; }
-    // Of the tab that holds the form, -1 for none.
+    // The index of the tab that holds the form, -1 for none.
     int tabIndex() const { return tabIndex_; }
     void setTabIndex(int index) { tabIndex_ = index; }
     int kind() const { return kind_; }
@@ -79,7 +79,7 @@ public:
     void setEdited(bool edited);
     // Puts rows in the place of those that are there; they are dirty.
     void replaceRows(const vlk::FuelRows& rows);
-    // As it stands, for the next time. False when the disk refused.
+    // Keeps the table as it stands, for the next time. False when the disk refused.
     bool keep(const QString& path, const QString& vehicle, const QDateTime& time) const;
 
     void printReport();

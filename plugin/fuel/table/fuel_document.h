@@ -27,8 +27,8 @@ int cutVolumes(const FuelRows& rows);
 // Puts one sensor's table into the root of a document.
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 
-// The same with volumes as they stand and with the name where fuelTableName finds it: for a document that
-// only this program reads.
+// Puts the table with volumes as they stand and with the name where fuelTableName finds it: for a document
+// that only this program reads.
 void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 
 // The table in the root of a document; none when it has more than maxFuelRows rows.

@@ -30,7 +30,7 @@ bool saveFuelFile(const QString& path, const QByteArray& content);
 std::optional<QByteArray> readFuelFile(const QString& path, QString* fault = nullptr);
 // The rows of a CSV file; none likewise, or when it holds no table. The log (vlk.fuel) says why.
 std::optional<FuelRows> readFuelCsvFile(const QString& path);
-// The same by its headings. A file whose headings do not tell has its rows, so the log says nothing of it.
+// A CSV file by its headings. One whose headings do not tell has its rows, so the log says nothing of it.
 std::variant<FuelCsv, FuelCsvFault> readFuelCsvFileByHeadings(const QString& path,
                                                               const FuelCaptions& captions);
 

@@ -67,7 +67,7 @@ QStringList splitAtCommas(const QString& line)
     return cells;
 }
 
-// As they stand.
+// The headings of a line as they stand.
 Cells headsOf(const QString& line)
 {
     QStringList cells;
@@ -250,7 +250,7 @@ QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows)
 
 std::optional<FuelHeadings> fuelCsvHeadings(const QByteArray& content, const FuelCaptions& captions)
 {
-    // Of another system's encoding figures can be read, headings cannot: then they are tried in each of them.
+    // In another system's encoding figures can be read, headings cannot: then they are tried in each of them.
     const QByteArray start = content.left(kMaxFuelLine);
     std::optional<FuelHeadings> headings;
     for (const QString& text : {decoded(start), QString::fromUtf8(start), fromWindows1251(start)}) {

@@ -31,7 +31,7 @@ struct FuelCaptions
     QString value;
 };
 
-// Of a line no more than this is looked at. Characters.
+// No more characters of a line than these are looked at.
 inline constexpr int kMaxFuelLine = 1024;
 
 // The order of the columns.
