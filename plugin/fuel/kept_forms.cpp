@@ -39,9 +39,9 @@ std::vector<KeptTable> KeptForms::offered(const QString& folder) const
 {
     std::vector<KeptTable> tables = keptTables(folder);
     std::erase_if(tables, [this](const KeptTable& table) {
-        return isClaimed(table.path) ||
-               std::any_of(shown_.begin(), shown_.end(),
-                           [&table](const auto& shown) { return shown.second.path == table.path; });
+        return isClaimed(table.path) || std::ranges::any_of(shown_, [&table](const auto& shown) {
+                   return shown.second.path == table.path;
+               });
     });
     return tables;
 }

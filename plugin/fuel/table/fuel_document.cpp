@@ -46,9 +46,8 @@ void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bo
 
 int cutVolumes(const FuelRows& rows)
 {
-    return static_cast<int>(std::count_if(rows.begin(), rows.end(), [](const FuelRow& row) {
-        return row.volume.toDouble() != wholeLitres(row.volume);
-    }));
+    return static_cast<int>(std::ranges::count_if(
+        rows, [](const FuelRow& row) { return row.volume.toDouble() != wholeLitres(row.volume); }));
 }
 
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)

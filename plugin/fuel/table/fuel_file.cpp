@@ -57,7 +57,7 @@ bool saveFuelFile(const QString& path, const QByteArray& content)
 std::optional<QByteArray> readFuelFile(const QString& path, QString* fault)
 {
     const auto refuse = [fault](const QString& reason) {
-        if (fault != nullptr)
+        if (fault)
             *fault = reason;
         return std::nullopt;
     };
@@ -88,7 +88,7 @@ std::variant<FuelCsv, FuelCsvFault> readFuelCsvFileByHeadings(const QString& pat
     if (const std::optional<QByteArray> content = readFuelFile(path, &fault))
         read = readFuelCsvByHeadings(*content, captions);
     const auto* const found = std::get_if<FuelCsvFault>(&read);
-    if (found != nullptr && *found == FuelCsvFault::NoTable)
+    if (found && *found == FuelCsvFault::NoTable)
         qCWarning(lcFuel).noquote() << fault;
     return read;
 }

@@ -95,8 +95,8 @@ constexpr int kFuelGroupCount = static_cast<int>(std::size(kFuelGroups));
 // Index of the group that a letter names, -1 for none.
 constexpr int fuelGroupOf(char letter)
 {
-    const auto* found = std::find_if(std::begin(kFuelGroups), std::end(kFuelGroups),
-                                     [letter](const FuelGroup& group) { return group.letter == letter; });
+    const auto* found = std::ranges::find_if(
+        kFuelGroups, [letter](const FuelGroup& group) { return group.letter == letter; });
     return found == std::end(kFuelGroups) ? -1 : static_cast<int>(found - std::begin(kFuelGroups));
 }
 

@@ -53,16 +53,16 @@ QString number(const QString& cell)
 
 bool isDigits(const QString& cell)
 {
-    return !cell.isEmpty() && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c.isDigit(); });
+    return !cell.isEmpty() && std::ranges::all_of(cell, [](QChar c) { return c.isDigit(); });
 }
 
 // A comma may separate two cells, or a number from its decimals.
 QStringList splitAtCommas(const QString& line)
 {
     QStringList cells = split(line, kComma);
-    if (cells.size() == 4 && std::all_of(cells.begin(), cells.end(), isDigits))
+    if (cells.size() == 4 && std::ranges::all_of(cells, isDigits))
         return {cells[0] + kPoint + cells[1], cells[2] + kPoint + cells[3]};
-    if (cells.size() > 2 && std::all_of(cells.begin(), cells.begin() + 3, isDigits))
+    if (cells.size() > 2 && std::ranges::all_of(cells.begin(), cells.begin() + 3, isDigits))
         return {line};
     return cells;
 }
@@ -133,8 +133,8 @@ QStringList wordsOf(const QString& heading)
 template <std::size_t Count>
 bool beginsWithAny(const QString& word, const QString (&beginnings)[Count])
 {
-    return std::any_of(std::begin(beginnings), std::end(beginnings),
-                       [&word](const QString& beginning) { return word.startsWith(beginning); });
+    return std::ranges::any_of(beginnings,
+                               [&word](const QString& beginning) { return word.startsWith(beginning); });
 }
 
 // Hands over line by line; stops when `take` gives false.
@@ -166,15 +166,14 @@ const QString kReadingWords[] = {QStringLiteral("value"), QStringLiteral("readin
 template <std::size_t Count>
 bool names(const QStringList& words, const QString (&beginnings)[Count])
 {
-    return std::any_of(words.begin(), words.end(),
-                       [&beginnings](const QString& word) { return beginsWithAny(word, beginnings); });
+    return std::ranges::any_of(
+        words, [&beginnings](const QString& word) { return beginsWithAny(word, beginnings); });
 }
 
 bool namesVolume(const QStringList& words)
 {
-    return names(words, kVolumeWords) || std::any_of(words.begin(), words.end(), [](const QString& word) {
-               return std::find(std::begin(kVolumeUnits), std::end(kVolumeUnits), word) !=
-                      std::end(kVolumeUnits);
+    return names(words, kVolumeWords) || std::ranges::any_of(words, [](const QString& word) {
+               return std::ranges::find(kVolumeUnits, word) != std::end(kVolumeUnits);
            });
 }
 
