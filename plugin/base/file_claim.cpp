@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Of a program on another computer nobody knows whether it still runs.
+// How long a claim may stand: nobody knows whether a program on another computer still runs.
 constexpr std::chrono::milliseconds kLongest = 7 * 24h;
 constexpr std::chrono::milliseconds kPatience = 200ms; // with one who only looks
 

@@ -26,8 +26,8 @@ using WriteContent = std::function<bool(QIODevice& device)>;
 bool replaceFile(const QString& path, const WriteContent& write, QString* reason = nullptr);
 bool replaceFile(const QString& path, const QByteArray& content, QString* reason = nullptr);
 
-// The same for a file that its owner alone may read, from its first byte on. The log says nothing: `reason`
-// tells why it came to nothing.
+// Replaces a file that its owner alone may read, from its first byte on. The log says nothing: `reason` tells
+// why it came to nothing.
 bool replacePrivateFile(const QString& path, const QByteArray& content, QString* reason);
 
 // Why a file at `path` could not be written now, as the system words it; empty if it could. Tries it out, and

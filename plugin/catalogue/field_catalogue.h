@@ -145,7 +145,7 @@ consteval int field(std::string_view name)
     return kElements[element(name)].field;
 }
 
-// The same for a name that comes from a file; names are case-sensitive.
+// The element of a name that comes from a file; names are case-sensitive.
 std::optional<ElementIndex> findElement(std::string_view name);
 
 } // namespace vlk

@@ -56,7 +56,7 @@ enum class Message : std::uint32_t {
     TachographFileReady = 2355,
     GetBalanceUssd = 2356,
     RaiseConfiguration = 2373,
-    // The same way, extensions
+    // Host to plug-in, extensions
     EndSave = 7106001,
     GetRunningWork = 7106002,
     GetExtensions = 7106003,
@@ -218,7 +218,7 @@ struct FileDifference
     const QString* page = nullptr;
     const QString* group = nullptr;
     const QString* caption = nullptr;
-    // As the file holds them, and in words and units; null where the file lacks the key.
+    // The values as the file holds them, and in words and units; null where the file lacks the key.
     const QString* before = nullptr;
     const QString* after = nullptr;
     const QString* beforeText = nullptr;
@@ -266,7 +266,7 @@ struct FileRemark
     std::uint32_t severity = warning;
     const QString* path = nullptr;      // where to mend it
     const QStringList* paths = nullptr; // of all settings that take part
-    // Of the setting, in the present language; null for what is no setting.
+    // Where the setting stands, in the present language; null for what is no setting.
     const QString* page = nullptr;
     const QString* caption = nullptr;
     const QString* text = nullptr; // a sentence in the present language

@@ -37,7 +37,7 @@ void setContent(QXmlInputSource& source, const QByteArray& text)
     static const QRegularExpression declaration(
         QStringLiteral(R"(\A<\?xml\s[^>]*encoding\s*=\s*["']windows-1251["'])"),
         QRegularExpression::CaseInsensitiveOption);
-    // As it is written here; others are compared more slowly.
+    // The declaration as it is written here; others are compared more slowly.
     static const QByteArray own(R"(<?xml version="1.0" encoding="windows-1251"?>)");
     if (text.startsWith(own) || declaration.match(QString::fromLatin1(text.left(100))).hasMatch())
         source.setData(vlk::fromWindows1251(text));

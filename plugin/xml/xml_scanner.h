@@ -39,7 +39,7 @@ public:
     // The next tag; none behind the last one.
     Token next();
 
-    // Of the tag.
+    // The last tag: its text, its name, its attributes.
     const TextSpan& tag() const { return tag_; }
     const TextSpan& name() const { return name_; }
     const std::vector<Attribute>& attributes() const { return attributes_; }
