@@ -23,7 +23,7 @@ bool isDigit(QChar sign)
 qint64 leadingLong(const QString& text)
 {
     // Most are a few digits.
-    if (text.size() <= 9 && std::all_of(text.begin(), text.end(), isDigit))
+    if (text.size() <= 9 && std::ranges::all_of(text, isDigit))
         return std::accumulate(text.begin(), text.end(), 0,
                                [](int read, QChar digit) { return 10 * read + (digit.unicode() - '0'); });
     // Short texts stay off the heap.

@@ -31,8 +31,8 @@ QString fromWindows1251(const QByteArray& bytes)
         return all;
     }();
     QString text(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char byte) { return characters[static_cast<std::uint8_t>(byte)]; });
+    std::ranges::transform(bytes, text.begin(),
+                           [](char byte) { return characters[static_cast<std::uint8_t>(byte)]; });
     return text;
 }
 

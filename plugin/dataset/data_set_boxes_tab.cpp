@@ -158,7 +158,7 @@ void DataSetBoxesTab::place(const DataSetBox& row, QWidget* widget, Group& group
         return;
     }
     const QString kind = QString::fromLatin1(row.field.widget);
-    auto column = std::find(group.columns.begin(), group.columns.end(), kind);
+    auto column = std::ranges::find(group.columns, kind);
     if (column == group.columns.end())
         column = group.columns.insert(column, kind);
     const int index = static_cast<int>(column - group.columns.begin());
@@ -207,8 +207,9 @@ void DataSetBoxesTab::load(MaskVersion version, const QString& mask)
 {
     for (const Box& box : boxes_) {
         MaskField field = box.row->field;
-        const bool concerned = std::any_of(field.positions.begin(), field.positions.begin() + field.count,
-                                           [&](int position) { return versionOf(position) == version; });
+        const bool concerned =
+            std::ranges::any_of(field.positions.begin(), field.positions.begin() + field.count,
+                                [&](int position) { return versionOf(position) == version; });
         if (!concerned)
             continue;
         while (versionAt(field, field.count - 1) > version)

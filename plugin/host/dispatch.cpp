@@ -272,18 +272,14 @@ constexpr Entry kTable[] = {
      }},
 };
 
-static_assert(std::is_sorted(std::begin(kTable), std::end(kTable), [](const Entry& left, const Entry& right) {
-    return left.number < right.number;
-}));
+static_assert(std::ranges::is_sorted(kTable, {}, &Entry::number));
 
 } // namespace
 
 void VLK_Device_R7106::receive(std::uint32_t id, void* p1, void* p2)
 {
     const auto number = static_cast<Message>(id);
-    const auto* found =
-        std::lower_bound(std::begin(kTable), std::end(kTable), number,
-                         [](const Entry& entry, Message wanted) { return entry.number < wanted; });
+    const auto* found = std::ranges::lower_bound(kTable, number, {}, &Entry::number);
     if (found != std::end(kTable) && found->number == number)
         found->handle(*this, Parameters{p1, p2});
 }

@@ -31,8 +31,8 @@ constexpr int kHeightWithoutLevels = 60;
 
 const UsePage* pageOf(const QString& code)
 {
-    const auto* found = std::find_if(std::begin(kPages), std::end(kPages),
-                                     [&](const UsePage& page) { return code == QLatin1String(page.code); });
+    const auto* found =
+        std::ranges::find_if(kPages, [&](const UsePage& page) { return code == QLatin1String(page.code); });
     return found == std::end(kPages) ? nullptr : found;
 }
 

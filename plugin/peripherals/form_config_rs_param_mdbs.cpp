@@ -261,8 +261,7 @@ void VLK_Form_Config_RS_Param_Mdbs::tellOf(Line& line)
     if (renamed && eventNames_.removeOne(before.name))
         offerEventNames();
     if (renamed && !now.name.isEmpty() && !eventNames_.contains(now.name)) {
-        eventNames_.insert(std::lower_bound(eventNames_.begin(), eventNames_.end(), now.name, earlier),
-                           now.name);
+        eventNames_.insert(std::ranges::lower_bound(eventNames_, now.name, earlier), now.name);
         offerEventNames();
     }
 }
@@ -300,7 +299,7 @@ void VLK_Form_Config_RS_Param_Mdbs::withdrawAll()
 
 QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const
 {
-    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
+    const auto found = std::ranges::find_if(lines_, [&](const Line& line) {
         return !line.offered.name.isEmpty() && composite(line.offered) == text;
     });
     return found == lines_.end() ? QString() : keyOf(found->row);
@@ -308,8 +307,7 @@ QString VLK_Form_Config_RS_Param_Mdbs::keyOfName(const QString& text) const
 
 QString VLK_Form_Config_RS_Param_Mdbs::nameOfKey(const QString& key) const
 {
-    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
-        return !line.offered.name.isEmpty() && keyOf(line.row) == key;
-    });
+    const auto found = std::ranges::find_if(
+        lines_, [&](const Line& line) { return !line.offered.name.isEmpty() && keyOf(line.row) == key; });
     return found == lines_.end() ? QString() : composite(found->offered);
 }

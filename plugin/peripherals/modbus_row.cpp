@@ -34,7 +34,7 @@ void ModbusLists::measure(const QFontMetrics& metrics)
     registerTypeWidths = widthsOf(ModbusRow::registerTypes(), QStringLiteral("AO…"), metrics);
     // Two letters behind the size tell the kinds apart.
     const auto shorter = [](const QString& a, const QString& b) { return a.size() < b.size(); };
-    const QString longest = *std::max_element(dataTypes.begin(), dataTypes.end(), shorter);
+    const QString longest = *std::ranges::max_element(dataTypes, shorter);
     dataTypeWidths = widthsOf(
         dataTypes, longest.left(longest.indexOf(QLatin1Char(',')) + kLettersOfKind) + QChar(0x2026), metrics);
     // The letters in brackets tell the orders apart; the words behind them may be elided.

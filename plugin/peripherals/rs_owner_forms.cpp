@@ -60,9 +60,8 @@ constexpr RsOwnerForm kForms[] = {
 
 const RsOwnerForm* formOfOwner(const QString& owner)
 {
-    const auto* found = std::find_if(std::begin(kForms), std::end(kForms), [&](const RsOwnerForm& entry) {
-        return owner == QLatin1String(entry.owner);
-    });
+    const auto* found = std::ranges::find_if(
+        kForms, [&](const RsOwnerForm& entry) { return owner == QLatin1String(entry.owner); });
     return found == std::end(kForms) ? nullptr : found;
 }
 

@@ -10,8 +10,8 @@ CXmlNode::CXmlNode(QString nodeName, CXmlNode* parentNode)
 
 CXmlNode* CXmlNode::child(const QString& childName) const
 {
-    const auto found = std::find_if(children.begin(), children.end(),
-                                    [&](const auto& node) { return node->isNamed(childName); });
+    const auto found =
+        std::ranges::find_if(children, [&](const auto& node) { return node->isNamed(childName); });
     return found == children.end() ? nullptr : found->get();
 }
 

@@ -89,7 +89,8 @@ void XmlScanner::skipSpace()
 TextSpan XmlScanner::scanName()
 {
     const int begin = at_;
-    at_ = static_cast<int>(std::find_if(text_.begin() + begin, text_.end(), endsName) - text_.begin());
+    at_ =
+        static_cast<int>(std::ranges::find_if(text_.begin() + begin, text_.end(), endsName) - text_.begin());
     return {begin, at_};
 }
 
@@ -130,8 +131,7 @@ bool isOfBearableSize(const QString& text)
     constexpr int mostAttributes = 1000;
     constexpr int mostElements = 100'000;
     // Each attribute has an equals sign, and most documents have no more of these in all.
-    if (text.size() <= mostElements &&
-        std::count(text.begin(), text.end(), QLatin1Char('=')) <= mostAttributes)
+    if (text.size() <= mostElements && std::ranges::count(text, QLatin1Char('=')) <= mostAttributes)
         return true;
     XmlScanner scanner(text);
     int elements = 0;

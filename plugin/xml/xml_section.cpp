@@ -12,8 +12,8 @@ namespace {
 
 QString asciiOnly(QString text)
 {
-    std::replace_if(
-        text.begin(), text.end(), [](QChar character) { return character.unicode() >= 0x80; },
+    std::ranges::replace_if(
+        text, [](QChar character) { return character.unicode() >= 0x80; },
         QChar(QChar::ReplacementCharacter));
     return text;
 }
@@ -104,8 +104,7 @@ CXmlSection* CXmlSection::nextChild()
 std::size_t CXmlSection::position(const QString& name) const
 {
     const auto find = [this](const QString& key) {
-        return std::find_if(table_.begin(), table_.end(),
-                            [&](const CXmlRecord& record) { return record.name == key; });
+        return std::ranges::find_if(table_, [&](const CXmlRecord& record) { return record.name == key; });
     };
     auto found = find(name);
     // Only a name that a section cannot carry stands there as something else.

@@ -44,8 +44,7 @@ constexpr struct
 // Without NUL.
 bool isAscii(const QString& text)
 {
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar character) { return character.unicode() - 1U < 0x7F; });
+    return std::ranges::all_of(text, [](QChar character) { return character.unicode() - 1U < 0x7F; });
 }
 
 const char* encoded(QChar character)
@@ -109,7 +108,7 @@ QString unescapeName(const QString& name)
 
 QString encodeValue(const QString& value)
 {
-    if (std::none_of(value.begin(), value.end(), encoded))
+    if (std::ranges::none_of(value, encoded))
         return value;
     QString text;
     text.reserve(value.size() + 16);
@@ -124,7 +123,7 @@ QString encodeValue(const QString& value)
 
 QString decodeValue(const QString& value)
 {
-    if (std::none_of(value.begin(), value.end(), [](QChar sign) { return sign == '&' || sign == '_'; }))
+    if (std::ranges::none_of(value, [](QChar sign) { return sign == '&' || sign == '_'; }))
         return value;
     QString text = value;
     for (const auto& [entity, character] : kEntities)
@@ -140,7 +139,7 @@ QString sectionText(const QString& text)
     const auto stands = [&carriedOnes](QChar character) {
         return !character.isNull() && carriedOnes[character.unicode()];
     };
-    if (text.size() <= kSectionTextLimit && std::all_of(text.begin(), text.end(), stands))
+    if (text.size() <= kSectionTextLimit && std::ranges::all_of(text, stands))
         return text;
     QString carried;
     for (int i = 0; i < text.size() && !text[i].isNull() && carried.size() < kSectionTextLimit; ++i) {

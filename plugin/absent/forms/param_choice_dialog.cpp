@@ -129,9 +129,8 @@ void ParamChoiceDialog::keyPressEvent(QKeyEvent* event)
 
 int ParamChoiceDialog::checkedCount() const
 {
-    return static_cast<int>(std::count_if(items_.begin(), items_.end(), [](const QStandardItem* item) {
-        return item->checkState() == Qt::Checked;
-    }));
+    return static_cast<int>(std::ranges::count_if(
+        items_, [](const QStandardItem* item) { return item->checkState() == Qt::Checked; }));
 }
 
 void ParamChoiceDialog::tellState()

@@ -41,8 +41,7 @@ SensorTeller::SensorTeller(const Values& bluetooth, int sensor, const std::vecto
 
 BleSensorForm* SensorTeller::formOf(const BluetoothSensorType& type) const
 {
-    return *std::find_if(forms_.begin(), forms_.end(),
-                         [&](const BleSensorForm* form) { return &form->type() == &type; });
+    return *std::ranges::find_if(forms_, [&](const BleSensorForm* form) { return &form->type() == &type; });
 }
 
 void SensorTeller::tell(const SensorOffers& now)

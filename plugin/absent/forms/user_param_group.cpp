@@ -118,8 +118,8 @@ void UserParamGroup::add(const QString& text)
         offered_.sort(Qt::CaseSensitive);
     }
     enable();
-    const bool taken = std::any_of(boxes_.begin(), boxes_.end(),
-                                   [&](const auto* box) { return box->currentText() == text; });
+    const bool taken =
+        std::ranges::any_of(boxes_, [&](const auto* box) { return box->currentText() == text; });
     if (!text.isEmpty() && !taken)
         append(text, nullptr);
 }
@@ -170,7 +170,7 @@ void UserParamGroup::takeChoice(int slot)
 
 int UserParamGroup::bytesInUse() const
 {
-    const auto used = std::count_if(boxes_.begin(), boxes_.end(), [this](const ElidingComboBox* box) {
+    const auto used = std::ranges::count_if(boxes_, [this](const ElidingComboBox* box) {
         return !isNone(box->currentText()) && box->currentText() != reserved_;
     });
     return slots_.bytes * static_cast<int>(used);
