@@ -37,7 +37,7 @@ private:
 
     std::function<bool()> isSaving_;
     RecordCheck records_;
-    // Of the period that was asked for last.
+    // Ends of the period that was asked for last.
     std::optional<qint64> first_;
     std::optional<qint64> last_;
 };

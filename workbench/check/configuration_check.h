@@ -4,8 +4,8 @@
 // DEVICE. The plug-in takes what it cannot read for an empty configuration and says nothing, so whoever hands
 // it one asks here first.
 //
-// Of the content only the model is looked at. A document without a model passes: files of other tools lack
-// it.
+// Nothing of the content is looked at but the model. A document without a model passes: files of other tools
+// lack it.
 
 #include <QByteArray>
 #include <QString>

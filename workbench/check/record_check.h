@@ -43,7 +43,7 @@ public:
 
     // The protocol version in a record's head: 10, 20 or 30. 0 for what is no record, packets among them.
     static int versionOf(Message answer, const QByteArray& bytes);
-    // Of the record in an answer.
+    // What the record in an answer holds.
     static RecordContent contentOf(Message answer, const QByteArray& bytes);
     // None for a record that can be right. A right one is what the next one's time is compared with; where
     // two that follow each other agree on another time, it was the one before them that was wrong.

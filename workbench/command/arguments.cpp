@@ -371,7 +371,7 @@ Arguments readArguments(const QByteArrayList& arguments)
     setUp(app, read);
     const int dashes = arguments.indexOf("--");
     const int end = dashes < 0 ? arguments.size() : dashes;
-    // As the parser takes them, backwards.
+    // The arguments from the last to the first, as the parser takes them.
     std::vector<std::string> left;
     for (int i = end - 1; i > 0; --i)
         left.push_back(arguments[i].toStdString());

@@ -37,7 +37,7 @@ struct Call
     bool dryRun = false;
     bool csv = false;
     Conversion conversion;
-    // Of fuel.
+    // Options of the command fuel.
     QStringList tables;
     QStringList sensors;
     double rise = 20; // litres

@@ -50,7 +50,7 @@ public:
         held_.push_back(number);
     }
 
-    // Of so many files.
+    // Whether that many files all hold the same.
     bool agrees(std::size_t files) const { return held_.empty() && same_ == files; }
     void fill(std::size_t files)
     {
@@ -295,7 +295,7 @@ private:
     }
 
     QStringList files_;
-    // Of the keys that settings know, and behind them of others.
+    // A column for each key that settings know, and behind them for others.
     std::vector<Column> columns_ = std::vector<Column>(FileKeys::all().count());
     QHash<QString, std::size_t> strangers_;
     QStringList strangerPaths_;

@@ -15,10 +15,10 @@ class XmlDocument;
 
 namespace workbench::command {
 
-// Of one that could not be opened, or read to its end.
+// Why a file could not be opened, or read to its end.
 QString whyUnreadable(const QFile& file);
 
-// Of bytes that begin as a configuration; empty for a whole one.
+// What is wrong with bytes that begin as a configuration; empty for a whole one.
 QString whyDamaged(const QByteArray& bytes);
 
 Outcome refusal(const Call& call, const QString& name, const QString& reason);

@@ -51,7 +51,7 @@ private:
     QSet<QString> found_;
 };
 
-// The same for the files of a call that are configurations, or whatever they are.
+// Works through the files of a call that are configurations, or whatever they are.
 int eachFile(const QStringList& names, const std::function<Outcome(const File&)>& work, Output& output);
 
 } // namespace workbench::command

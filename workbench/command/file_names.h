@@ -12,9 +12,9 @@ void prepareFileNames();
 
 // For people and programs that read: as UTF-8, a byte that is none as "%NN".
 QString readable(const QString& name);
-// The same in one line: control characters as "%NN" too.
+// A name in one line: control characters as "%NN" too.
 QString inOneLine(const QString& name);
-// Of what is no name: a value, words.
+// A text in one line that is no name: a value, words.
 QString valueInOneLine(const QString& value);
 
 // What the system says of a fault comes in its bytes too.

@@ -98,7 +98,7 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
     return {lineOf(call, file, facts), complaints, summary.damages.empty() ? nothing : found};
 }
 
-// Of the section TRANS; null where there is none.
+// A text of the section TRANS; null where there is none.
 QString textAt(const CXmlSection& root, const char* group, const char* key)
 {
     const CXmlSectionPtr transfer = root.existing(QStringLiteral("TRANS"));

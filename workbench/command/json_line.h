@@ -12,7 +12,7 @@ public:
     // A null text is null.
     JsonLine& add(const char* name, const QString& text);
     JsonLine& add(const char* name, const QStringList& texts);
-    // As it stands.
+    // Adds JSON as it stands.
     JsonLine& addRaw(const char* name, const QByteArray& json);
 
     QByteArray object() const { return '{' + members_ + '}'; }

@@ -16,7 +16,7 @@ std::string heading(const char* key)
     return ".SH " + text(key).toUpper().toStdString() + '\n';
 }
 
-// As it stands: no sign of it is a command to the formatter.
+// The text as it stands: no sign of it is a command to the formatter.
 std::string plain(const std::string& text)
 {
     std::string result;

@@ -29,7 +29,7 @@ QString wordsOf(const QString& path)
     return path.chopped(4) + QStringLiteral(".json");
 }
 
-// Of a number that a tracker tells, what may stand in the name of a file.
+// A number that a tracker tells, with such signs alone as may stand in the name of a file.
 QString fileWord(QString number)
 {
     static const QRegularExpression other(QStringLiteral("[^0-9A-Za-z.-]"));

@@ -21,7 +21,7 @@ struct SettingChange
     // As a file holds them; null where that side lacks the key.
     QString before;
     QString after;
-    // The same in words and units.
+    // The values in words and units.
     QString beforeText;
     QString afterText;
 

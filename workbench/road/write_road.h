@@ -20,8 +20,8 @@ class WriteRoad : public QObject
 
 public:
     using Step = RoadReport::Step;
-    // Of a silence. A tracker answers a question, or takes a block of a file, within a second, slow ones in
-    // two.
+    // How long a silence may last. A tracker answers a question, or takes a block of a file, within a second,
+    // slow ones in two.
     struct Timing
     {
         // Worth a word: as long as any answer is waited for before somebody is told.

@@ -28,7 +28,7 @@ public:
     void unplug();
 
     void post(const Answer& answer);
-    // Of the answer that the sender is being given; 0 outside of that.
+    // The ticket of the answer that the sender is being given; 0 outside of that.
     quint32 ticket() const { return ticket_; }
     void dropSearch();
     // As bytes look on the other end.

@@ -16,7 +16,7 @@ public:
 
     // Checks the document, keeps the present configuration as the backup and takes the new one.
     WriteReport write(const QByteArray& document);
-    // The same of a file.
+    // Takes the document in a file.
     WriteReport write(const QString& path);
     // As when the power goes in the middle of that: what was being written is damaged.
     void losePower(const QByteArray& document);

@@ -39,7 +39,7 @@ constexpr Work kWorks[] = {
 };
 constexpr quint64 kWorkSeed = 9;
 
-// Of a stop, and what is poured or drained then. Litres, seconds.
+// The chances of a pour and of a drain at a stop, and what is poured or drained then. Litres, seconds.
 constexpr double kTopUpChance = 0.04;
 constexpr double kDrainChance = 0.03;
 constexpr double kLeastKeptByThieves = 60;

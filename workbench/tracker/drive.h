@@ -23,7 +23,7 @@ public:
     // Earlier times count as the beginning.
     Moment at(qint64 time);
     Moment record(quint32 number);
-    // Of the last record at or before the time, of the first at or after it.
+    // The number of the last record at or before the time, of the first at or after it.
     quint32 lastBefore(qint64 time);
     quint32 firstAfter(qint64 time);
 

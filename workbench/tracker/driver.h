@@ -16,7 +16,7 @@ struct Driver
 };
 
 const Driver& driverOf(const Moment& moment);
-// Of the tag on the load, five bytes; it changes with the trip.
+// The number of the tag on the load, five bytes; it changes with the trip.
 quint64 tagNumber(const Moment& moment);
 
 } // namespace tracker

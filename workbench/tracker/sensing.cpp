@@ -31,8 +31,8 @@ constexpr Action kActions[] = {
     {EventCode::TemperatureRestored, 13},
 };
 
-// And what switches it without a record of its own: the trigger of a line, from the first on, the engine, and
-// the restore of any line or shock sensor.
+// Actions that switch an output without a record of their own: the trigger of a line, from the first on, the
+// engine, and the restore of any line or shock sensor.
 constexpr int kLineAction = 0;
 constexpr int kEngineStartAction = 14;
 constexpr int kEngineStopAction = 15;

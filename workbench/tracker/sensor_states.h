@@ -15,10 +15,10 @@ struct SensorStates
     std::array<qint8, 4> zones{}; // -1 below the zone, 1 above it
     bool supplyLow = false;
     bool engine = false;
-    // Of the voltage, in Unix seconds; 0 while it is not low, or below that of a running engine.
+    // Unix seconds since the voltage is low, and since it is that of a running engine; 0 while it is not.
     qint64 supplyLowSince = 0;
     qint64 engineSince = 0;
-    // Of what the readings of fuel level sensors wait for, and whether the supply does for them.
+    // Since when fuel level sensors have what their readings wait for, and whether the supply does.
     qint64 fuelSince = 0;
     bool fuelSupplied = true;
     bool fuelCounts = true;

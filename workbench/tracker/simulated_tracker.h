@@ -65,7 +65,7 @@ public:
     // The answers to a request come with the ticket that it had, so that who sends one twice knows to which
     // of them an answer belongs.
     bool handle(vlk::Message id, void* p1, void* p2, quint32 ticket = 0);
-    // Of the answer that the sender is being given.
+    // The ticket of the answer that the sender is being given.
     quint32 ticket() const;
 
     // For TrackerAttached.
@@ -73,7 +73,7 @@ public:
     QString text1() const; // firmware
     QString text2() const; // IMEI
     quint64 capabilityMask() const;
-    // Of the vehicle, as its configuration says.
+    // The name of the vehicle, as its configuration says.
     QString vehicleName() const;
 
     // Detaching drops the answers that are under way.
@@ -86,14 +86,14 @@ public:
     Reading readConfiguration();
     // What it kept before the last write; empty where nothing was written.
     Reading readPrevious();
-    // The same from behind, whatever the cable does to it.
+    // The configuration that it holds, whatever the cable does to it.
     const ConfigurationValues& configuration() const;
     // "fleet.example.com:4000", of servers 1 to 3; empty for none.
     QString serverAddress(int server) const;
     // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
     // and a pulled cable refuse it.
     WriteReport writeConfiguration(const QString& path);
-    // The same when the file has come over the cable in blocks.
+    // Takes a document that has come over the cable in blocks.
     WriteReport takeConfiguration(const QByteArray& document);
     enum class Block { Kept, Silent, Gone };
     Block takeBlock();

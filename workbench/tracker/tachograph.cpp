@@ -69,8 +69,8 @@ constexpr int kCardInside = 1;
 
 Answers stateAnswer(const Vehicle& vehicle)
 {
-    // Of driver 1, in minutes: driving without a break, the breaks, what he does now, driving in two weeks.
-    // There is no driver 2.
+    // Minutes of driver 1: driving without a break, the breaks, what he does now, driving in two weeks. There
+    // is no driver 2.
     const double driven = vehicle.m.at.loadSeconds / 60;
     const double minutes[] = {std::fmod(driven, 270), 15 + std::fmod(driven, 30), std::fmod(driven, 90),
                               2400 + std::fmod(driven, 3000)};

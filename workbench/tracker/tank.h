@@ -24,7 +24,7 @@ inline constexpr std::array kTanks{
     Tank{"D6", TankShape::Box, 60, false},
 };
 
-// Of the whole height, from 0 to 1.
+// How high the fuel stands: a share of the whole height, from 0 to 1.
 double fuelHeight(const Tank& tank, double litres);
 
 // What the sensor says when the fuel stands so high: millivolts or a code.

@@ -17,7 +17,7 @@ constexpr std::size_t kMostPours = 500;
 constexpr double kSettlingSeconds = 1.2;
 constexpr double kSwingSeconds = 2;
 constexpr qint64 kRestAfterSeconds = 60;
-// Of the height.
+// Shares of the height.
 constexpr double kNoise = 0.0005;
 constexpr double kSwing = 0.02;
 

@@ -23,7 +23,7 @@ public:
 
     // What held at that second.
     Controls controlsAt(qint64 time) const;
-    // Of the last change later than `after` and not later than `until`.
+    // The event of the last change later than `after` and not later than `until`.
     std::optional<EventCode> changeWithin(qint64 after, qint64 until) const;
     void change(qint64 time, EventCode code, const std::function<void(Controls& controls)>& set = {});
 

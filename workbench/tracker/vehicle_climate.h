@@ -7,7 +7,7 @@
 namespace tracker {
 
 double temperature(const Vehicle& v, int sensor); // degrees, -128 without a sensor
-// Of the devices that are heard by Bluetooth.
+// Measured by the devices that are heard by Bluetooth, each in its place.
 double fineTemperature(const Vehicle& v, int place); // 0.05 degree
 double humidity(const Vehicle& v, int place);        // 0.5 percent
 double coolant(const Vehicle& v);                    // degrees

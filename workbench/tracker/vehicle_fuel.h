@@ -16,7 +16,7 @@ struct FuelSource
 // What is in a tank into which nobody has poured, in litres.
 double fuelLeft(const Vehicle& v, std::size_t tank);
 double fuelSensor(const Vehicle& v, int sensor); // D1 to D6, 0 to 4095
-// The same, or the last one that counted.
+// What the sensor says, or said when it counted last.
 double recordedFuel(const Vehicle& v, int sensor);
 // What a filter takes away from it.
 double slosh(const Vehicle& v, int sensor);

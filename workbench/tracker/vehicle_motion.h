@@ -21,7 +21,7 @@ double shockState(const Vehicle& v);
 double speedThresholds(const Vehicle& v); // a bit for each exceeded
 double thresholds(double g);
 double tachographState(const Vehicle& v);
-// Of the counters with addresses of their own: who has entered on this trip; 255 where there is none.
+// How many have entered on this trip, by the counters with addresses of their own; 255 where there is none.
 double passengers(const Vehicle& v, int counter);
 
 } // namespace tracker

@@ -42,7 +42,7 @@ struct TrackRules
     bool operator==(const TrackRules&) const = default;
 };
 
-// As the file has them; a 2 is none of them.
+// Numbers as the file has them; a 2 is none of them.
 enum class AtStops { Nothing = 0, Average = 1, Fix = 3 };
 
 struct NavigationRules
@@ -191,7 +191,7 @@ struct WorkingSettings
     bool hasIgnition(int triggered) const;
 
     static WorkingSettings of(const ConfigurationValues& values);
-    // The same in the current group of a settings file.
+    // Settings from the current group of a settings file.
     static WorkingSettings load(const QSettings& file);
     void save(QSettings& file) const;
     bool operator==(const WorkingSettings&) const = default;

@@ -33,8 +33,8 @@ enum class Sign { OfLanguage, OfTheOther };
 struct Edit
 {
     const char* widget;
-    // As the file holds them; the one that the tracker does not hold yet is set, so that every run changes
-    // something.
+    // Two values as the file holds them; the one that the tracker does not hold yet is set, so that every run
+    // changes something.
     const char* one;
     const char* two;
     const char* path;

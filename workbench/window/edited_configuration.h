@@ -39,7 +39,7 @@ public:
     QString text() const;
     // Without its folder, of one that came from a file; else empty.
     QString file() const { return source_ == Source::File ? file_ : QString(); }
-    // The same in short, for a title; empty while nothing is open.
+    // The text in short, for a title; empty while nothing is open.
     QString name() const;
 
 private:

@@ -28,7 +28,7 @@ void setPeriod(const QDateTime& first, const QDateTime& last)
     Tour::find<QDateTimeEdit>("dateTimeEdit_Last")->setDateTime(last);
 }
 
-// Of the record on show, as the window's zone has it, which the fields of the period have too.
+// The time of the record on show, as the window's zone has it, which the fields of the period have too.
 QDateTime timeOnShow()
 {
     const QString format = QStringLiteral("HH:mm:ss dd.MM.yyyy");

@@ -54,7 +54,7 @@ public:
     std::optional<QByteArray> present(Sentence& why);
     // Put on the write road. Null, or why it is not; what becomes of it there its report tells.
     Sentence writeAgain(const WriteRequest& request);
-    // Of the paths alone where there are some.
+    // Brings back only these paths where there are some.
     Sentence bringBack(int backup, const QStringList& paths = {});
     // What the tracker kept before the last write.
     Sentence bringBackPrevious();

@@ -29,7 +29,7 @@ public:
     QString current() const { return current_; }
     // False when the texts of that language are missing; then nothing changes.
     bool set(const QString& code);
-    // Of a key in any language, also one that is not in use; null where it has none.
+    // The text of a key in any language, also one that is not in use; null where it has none.
     QString textIn(const QString& code, const char* key);
 
 private:
@@ -41,7 +41,7 @@ private:
 
 // The text of a key in the language in use.
 QString text(const char* key);
-// The same without the sign of a mnemonic, for where there is none.
+// The text without the sign of a mnemonic, for where there is none.
 QString plainText(const char* key);
 
 } // namespace workbench

@@ -10,9 +10,9 @@ void open(Tour& tour);
 void close(Tour& tour);
 
 QWidget* window();
-// Of the record on show.
+// The number of the record on show.
 QString number();
-// Of the form on show, or beside it; the forms share names.
+// The text of a label in the form on show, or beside it; the forms share names.
 QString textOf(const char* label);
 // Object name of the content form on show: "page_Zeta3" and so on.
 QString page();

@@ -30,7 +30,7 @@ class MessageLogModel : public QAbstractTableModel
 
 public:
     enum Column { Time, Way, Number, Name, Parameters, ColumnCount };
-    // Of a row: its vlk::Direction as an integer.
+    // Gives the vlk::Direction of a row as an integer.
     static constexpr int kDirectionRole = Qt::UserRole;
     static constexpr int kDefaultCapacity = 100'000;
 

@@ -50,7 +50,7 @@ public:
     // Once, then after each write with what the plug-in's file held.
     void promiseConfirmations();
     void confirmWrite(const QByteArray& content);
-    // Of every language, until they are withdrawn; `languages` lives as long.
+    // Offers the texts of every language, until they are withdrawn; `languages` lives as long.
     void offerTexts(Languages& languages);
     void withdrawTexts();
     // Nothing runs in a plug-in that does not know these two.

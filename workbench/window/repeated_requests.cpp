@@ -17,7 +17,7 @@ Parameter parameterOf(Message request)
     return info == std::end(kMessages) ? Parameter::None : info->p1;
 }
 
-// Of an answer that is there the tracker is asked sooner than of one that does not come.
+// After an answer that is refused the tracker is asked again sooner than after none.
 constexpr int kRefusedMs = 1000;
 
 Asked askedBy(Message request, const void* p1)

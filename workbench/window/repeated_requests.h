@@ -5,7 +5,7 @@
 // request, and what comes on top of that is dropped. What the tracker holds may look wrong and be what it
 // holds: a second answer with the same problem is passed on.
 //
-// Of each number the newest request alone is sent again: whoever asks anew has given up on the one before.
+// Only the newest request of each number is sent again: whoever asks anew has given up on the one before.
 
 #include "check/answer_check.h"
 #include "plugin_names.h"
@@ -26,7 +26,7 @@ public:
 
     // False when it is no request for the tracker.
     bool send(Message request, void* p1, void* p2);
-    // Of the answer that the tracker is giving: whether the plug-in is to get it.
+    // Whether the plug-in is to get the answer that the tracker is giving.
     bool takesAnswer(Message answer, const void* p1);
     // What is wrong with the answer that is being passed on.
     const std::optional<AnswerProblem>& problem() const { return problem_; }

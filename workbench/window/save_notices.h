@@ -28,7 +28,7 @@ public:
     TypingNotices& typing() { return typing_; }
 
 Q_SIGNALS:
-    // Of a file that the window that saved it should tell of too.
+    // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
     // A save is over, well or not.
     void ended();

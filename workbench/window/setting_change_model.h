@@ -17,7 +17,7 @@ QString settingName(const SettingChange& change);
 // What a side holds; a dash where it lacks the key.
 QString shownValue(const QString& value, const QString& words);
 
-// Of all rows and the heads, however few there are.
+// The height of all rows and the heads, however few there are.
 int heightOfRows(const QTableView& table);
 // The columns of values as wide as they need, within bounds; the rest is for the names of the settings.
 void fitValues(QTableView& table);

@@ -34,7 +34,7 @@ public:
 Q_SIGNALS:
     // A command is on its way that the tracker answers.
     void sent(vlk::Message command);
-    // As the user wished, be it that nothing was sent.
+    // It ended as the user wished, be it that nothing was sent.
     void done(const workbench::Sentence& sentence);
     // Nobody knows what became of it.
     void failed(const workbench::Sentence& sentence);

@@ -15,7 +15,7 @@ namespace workbench {
 // Sentences side by side; empty ones are left out.
 QString sentences(std::initializer_list<QString> parts);
 
-// Of an answer or a file that was said to be no configuration, or to hold no telemetry: why.
+// Why an answer or a file is said to be no configuration, or to hold no telemetry.
 QString reasonOf(const ConfigurationProblem& problem);
 QString reasonOf(const TelemetryFileProblem& problem);
 // A few words without a full stop, for a list.
