@@ -28,7 +28,7 @@ bool areLines(const QByteArray& text, const QByteArray& asked)
 {
     const QList<QByteArray> wanted = asked.split(',');
     const QList<QByteArray> pairs = text.split(',');
-    return text.isEmpty() || std::all_of(pairs.begin(), pairs.end(), [&wanted](const QByteArray& pair) {
+    return text.isEmpty() || std::ranges::all_of(pairs, [&wanted](const QByteArray& pair) {
                const int colon = pair.indexOf(':');
                bool isNumber = false;
                pair.mid(colon + 1).toUShort(&isNumber, 16);
@@ -50,7 +50,7 @@ void AnswerCheck::note(const Asked& asked)
 
 std::optional<AnswerProblem> AnswerCheck::look(Message answer, const void* p1, const Asked& asked)
 {
-    if (p1 == nullptr)
+    if (!p1)
         return {};
     if (RecordCheck::carriesRecord(answer))
         return lookAtRecord(answer, *static_cast<const QByteArray*>(p1), asked);

@@ -61,9 +61,8 @@ bool referencesArePlain(const QByteArray& document)
 // This reader takes more signs in a name than the plug-in's does.
 bool isPlainName(const QStringRef& name)
 {
-    return std::all_of(name.begin(), name.end(), [](QChar sign) {
-        return sign.isLetter() || QStringView(u"0123456789_-.:").contains(sign);
-    });
+    return std::ranges::all_of(
+        name, [](QChar sign) { return sign.isLetter() || QStringView(u"0123456789_-.:").contains(sign); });
 }
 
 class Check
@@ -116,7 +115,7 @@ private:
     {
         const QXmlStreamAttributes attributes = xml_.attributes();
         return isPlainName(xml_.qualifiedName()) &&
-               std::all_of(attributes.begin(), attributes.end(), [](const QXmlStreamAttribute& attribute) {
+               std::ranges::all_of(attributes, [](const QXmlStreamAttribute& attribute) {
                    return isPlainName(attribute.qualifiedName());
                });
     }

@@ -35,8 +35,8 @@ constexpr int kHeaderTime = 7;
 
 const HeaderRow* headerOf(Message answer)
 {
-    const auto* row = std::find_if(std::begin(kHeaders), std::end(kHeaders),
-                                   [answer](const HeaderRow& r) { return r.answer == answer; });
+    const auto* row =
+        std::ranges::find_if(kHeaders, [answer](const HeaderRow& r) { return r.answer == answer; });
     return row == std::end(kHeaders) ? nullptr : row;
 }
 
@@ -116,7 +116,7 @@ bool RecordCheck::carriesRecord(Message answer)
 int RecordCheck::versionOf(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);
-    const bool isRecord = header != nullptr && bytes.size() >= header->size + 2 &&
+    const bool isRecord = header && bytes.size() >= header->size + 2 &&
                           static_cast<quint8>(bytes.at(header->size)) == kRecordType;
     return isRecord ? static_cast<quint8>(bytes.at(header->size + 1)) : 0;
 }
@@ -124,7 +124,7 @@ int RecordCheck::versionOf(Message answer, const QByteArray& bytes)
 RecordContent RecordCheck::contentOf(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);
-    if (header == nullptr || bytes.size() < header->size)
+    if (!header || bytes.size() < header->size)
         return {};
     // Behind a short record the frame is filled up.
     const int length = numberAt<quint16>(bytes, header->size == kExtraPacketHeader ? 0 : 1);
@@ -134,7 +134,7 @@ RecordContent RecordCheck::contentOf(Message answer, const QByteArray& bytes)
 std::optional<AnswerProblem> RecordCheck::look(Message answer, const QByteArray& bytes)
 {
     const HeaderRow* header = headerOf(answer);
-    if (header == nullptr)
+    if (!header)
         return {};
     const qint64 came = bytes.size();
     if (came < header->size)

@@ -99,7 +99,7 @@ std::optional<TelemetryFileProblem> checkTelemetryFile(const QString& path)
         seen = lookAtXml(file);
     } else {
         const uchar* bytes = file.map(0, file.size());
-        if (bytes == nullptr)
+        if (!bytes)
             return problem(Kind::Unreadable);
         seen = lookAtBinary({bytes, static_cast<std::size_t>(file.size())});
     }

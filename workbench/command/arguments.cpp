@@ -200,8 +200,8 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
     if (row.takes == CommandRow::settingsAndFiles) {
         // Up to "--" where it stands, else up to the first without a sign.
         const auto isFile = [](const QString& name) { return !name.contains(QLatin1Char('=')); };
-        const auto settings = plain ? files.size() - plain->size()
-                                    : std::find_if(files.begin(), files.end(), isFile) - files.begin();
+        const auto settings =
+            plain ? files.size() - plain->size() : std::ranges::find_if(files, isFile) - files.begin();
         QSet<QString> paths;
         for (int i = 0; i < settings; ++i) {
             call->settings << QString::fromUtf8(files[i].toLatin1());
@@ -213,8 +213,8 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
             paths.insert(path);
         }
         // The shell gives whatever name matches, with a sign in it too.
-        const auto taken = std::find_if(files.begin(), files.begin() + settings,
-                                        [](const QString& name) { return QFileInfo::exists(name); });
+        const auto taken = std::ranges::find_if(files.begin(), files.begin() + settings,
+                                                [](const QString& name) { return QFileInfo::exists(name); });
         const QString fileTaken = taken != files.begin() + settings ? inOneLine(*taken) : QString();
         files = files.mid(static_cast<int>(settings));
         if (!plain && !fileTaken.isNull())
@@ -265,7 +265,7 @@ QString whyNoCommand(const QStringList& arguments)
         names << QString::fromLatin1(row.name);
     const QString all = names.join(QStringLiteral(", "));
     const auto isOption = [](const QString& argument) { return argument.startsWith(QLatin1Char('-')); };
-    const auto found = std::find_if_not(arguments.begin(), arguments.end(), isOption);
+    const auto found = std::ranges::find_if_not(arguments, isOption);
     return found == arguments.end() ? text("cli_014").arg(all) : text("cli_015").arg(*found, all);
 }
 
@@ -277,20 +277,20 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
     for (const std::string& argument : app.remaining(true))
         left << readable(nameOf(argument));
     const std::vector<CLI::App*> chosen = app.get_subcommands();
-    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
+    if (dynamic_cast<const CLI::RequiredError*>(&error))
         return chosen.empty() ? whyNoCommand(left)
                               : text("cli_017").arg(said.section(QLatin1Char(' '), 0, 0));
-    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr)
+    if (dynamic_cast<const CLI::ExtrasError*>(&error))
         return text("cli_016").arg(left.join(QLatin1Char(' ')));
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) {
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) {
         if (said.endsWith(QLatin1String("flag override")))
             return text("cli_263").arg(QStringLiteral("--") + said.section(QLatin1Char(' '), 0, 0));
         const QString name = said.section(QLatin1Char(':'), 0, 0);
         const CLI::App& of = chosen.empty() ? app : *chosen.front();
         const CLI::Option* option = of.get_option_no_throw(name.toStdString());
-        return text(option != nullptr && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
+        return text(option && option->count() > 1 ? "cli_031" : "cli_018").arg(name);
     }
-    if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) {
+    if (dynamic_cast<const CLI::ValidationError*>(&error)) {
         const QString name = said.section(QLatin1Char(':'), 0, 0);
         if (name == QLatin1String("--rise") || name == QLatin1String("--fall"))
             return text("cli_235").arg(name);

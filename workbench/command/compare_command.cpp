@@ -176,7 +176,7 @@ private:
         std::vector<std::pair<int, std::size_t>> places;
         for (std::size_t place = 0; place < columns_.size(); ++place)
             places.emplace_back(FileKeys::all().tableOfSection(pathOf(place)), place);
-        std::sort(places.begin(), places.end());
+        std::ranges::sort(places);
         std::vector<std::size_t> order;
         order.reserve(places.size());
         for (const auto& [table, place] : places)
@@ -238,7 +238,7 @@ private:
                              const QStringList& lacking, const QString& most)
     {
         const auto readableAll = [](QStringList files) {
-            std::transform(files.begin(), files.end(), files.begin(), readable);
+            std::ranges::transform(files, files.begin(), readable);
             return files;
         };
         JsonLine byValue;

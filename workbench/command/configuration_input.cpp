@@ -87,7 +87,7 @@ bool isDoubtful(const QByteArray& bytes)
         const auto code = static_cast<uchar>(sign);
         return sign == '&' || (code < ' ' && !std::isspace(code)) || (code >= 0x80 && !isOneByte);
     };
-    if (std::any_of(bytes.begin(), bytes.end(), isOdd))
+    if (std::ranges::any_of(bytes, isOdd))
         return true;
     const QString text = QString::fromLatin1(bytes);
     vlk::XmlScanner scanner(text);
@@ -96,8 +96,8 @@ bool isDoubtful(const QByteArray& bytes)
         names.clear();
         for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes())
             names.push_back(scanner.at(attribute.name));
-        std::sort(names.begin(), names.end());
-        if (std::adjacent_find(names.begin(), names.end()) != names.end())
+        std::ranges::sort(names);
+        if (std::ranges::adjacent_find(names) != names.end())
             return true;
     }
     return false;

@@ -101,7 +101,7 @@ public:
         bool isWritten = file_.open();
         while (std::optional<RecordBatch> batch = isWritten ? records.next() : std::nullopt) {
             const quint32 origin = numberOf(batch->origin);
-            const quint32 tracker = trackers == nullptr ? kNoTracker : numberOf(batch->tracker, trackers);
+            const quint32 tracker = trackers ? numberOf(batch->tracker, trackers) : kNoTracker;
             const RecordStore& store = batch->records;
             for (int record = 0; record < store.size(); ++record) {
                 held_.add(store.layout(record), store.bytes(record));

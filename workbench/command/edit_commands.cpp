@@ -39,8 +39,8 @@ bool isFraction(const PresetProblem& problem)
 {
     bool isNumber = false;
     QString(problem.text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&isNumber);
-    const vlk::Number* number = problem.setting != nullptr ? problem.setting->number() : nullptr;
-    return isNumber && number != nullptr && !number->isText && !number->hexadecimal;
+    const vlk::Number* number = problem.setting ? problem.setting->number() : nullptr;
+    return isNumber && number && !number->isText && !number->hexadecimal;
 }
 
 const char* reasonKey(const PresetProblem& problem)

@@ -76,7 +76,7 @@ QString expected(const vlk::Text& row, const Limits&)
 
 QString withExpected(const QString& sentence, const vlk::review::PresetProblem& problem)
 {
-    if (problem.setting == nullptr || problem.change == Change::byRule)
+    if (!problem.setting || problem.change == Change::byRule)
         return sentence;
     const auto* line = problem.setting->as<vlk::Text>();
     if (line && problem.change != Change::tooLong)

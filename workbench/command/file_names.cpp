@@ -63,8 +63,7 @@ QString inOneLine(const QString& name)
 
 QString systemText(const QString& text)
 {
-    const bool isBytes =
-        std::all_of(text.begin(), text.end(), [](QChar sign) { return sign.unicode() < 0x100; });
+    const bool isBytes = std::ranges::all_of(text, [](QChar sign) { return sign.unicode() < 0x100; });
     return isBytes ? readable(text) : text;
 }
 

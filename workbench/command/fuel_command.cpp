@@ -97,7 +97,7 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
     for (int i = 0; i < std::max(call.tables.size(), call.sensors.size()); ++i) {
         const QString element = call.sensors.value(i);
         const vlk::LevelSensor* sensor = vlk::levelSensorOfElement(element);
-        if (!element.isEmpty() && sensor == nullptr)
+        if (!element.isEmpty() && !sensor)
             return refuse(element, text("cli_241"));
         if (call.tables.isEmpty()) {
             if (isTaken(sensor))
@@ -113,9 +113,9 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
         if (const auto* fault = std::get_if<vlk::TableFault>(&read))
             return refuse(call.tables[i], text(vlk::faultKey(*fault)));
         const auto& table = std::get<vlk::Calibration>(read);
-        if (sensor == nullptr)
+        if (!sensor)
             sensor = vlk::levelSensorOfTable(table.sensor);
-        if (sensor == nullptr)
+        if (!sensor)
             return refuse(call.tables[i], text("cli_242"));
         if (isTaken(sensor))
             return refuse(call.tables[i], text("cli_031").arg(QLatin1String(sensor->element().data())));

@@ -104,7 +104,7 @@ QString textAt(const CXmlSection& root, const char* group, const char* key)
     const CXmlSectionPtr transfer = root.existing(QStringLiteral("TRANS"));
     const CXmlSectionPtr section = transfer ? transfer->existing(QString::fromLatin1(group)) : nullptr;
     const QString* text = section ? section->find(QString::fromLatin1(key)) : nullptr;
-    return text != nullptr && !text->isEmpty() ? *text : QString();
+    return text && !text->isEmpty() ? *text : QString();
 }
 
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)

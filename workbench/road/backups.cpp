@@ -73,13 +73,13 @@ void Backups::load()
         all_.append({match.captured(1).toInt(), made, match.captured(3), object[kNameKey].toString(),
                      object[kNoteKey].toString(), file.filePath()});
     }
-    std::sort(all_.begin(), all_.end(), [](const Backup& a, const Backup& b) { return a.number > b.number; });
+    std::ranges::sort(all_, std::ranges::greater(), &Backup::number);
 }
 
 std::optional<Backup> Backups::find(int number) const
 {
-    const auto found = std::find_if(all_.cbegin(), all_.cend(),
-                                    [number](const Backup& backup) { return backup.number == number; });
+    const auto found =
+        std::ranges::find_if(all_, [number](const Backup& backup) { return backup.number == number; });
     return found == all_.cend() ? std::nullopt : std::optional(*found);
 }
 

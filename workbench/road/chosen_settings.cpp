@@ -37,8 +37,8 @@ struct Element
     }
     auto attribute(const QString& key)
     {
-        return std::find_if(attributes.begin(), attributes.end(),
-                            [&key](const auto& attribute) { return attribute.first == key; });
+        return std::ranges::find_if(attributes,
+                                    [&key](const auto& attribute) { return attribute.first == key; });
     }
 };
 
@@ -94,8 +94,8 @@ void copyElement(Element& parent, const Element* from, const QString& step)
     if (from && there) {
         there->text = from->text;
     } else if (there && there->attributes.empty() && there->children.empty()) {
-        parent.children.erase(std::find_if(parent.children.begin(), parent.children.end(),
-                                           [there](const auto& child) { return child.get() == there; }));
+        parent.children.erase(std::ranges::find_if(
+            parent.children, [there](const auto& child) { return child.get() == there; }));
     }
 }
 

@@ -188,8 +188,7 @@ void WriteRoad::presentCame(const QByteArray& document)
                           [](const SettingChange& change) { return change.isRemoved(); });
     review_.changes = *changes;
     const auto count = [&](bool (SettingChange::*is)() const) {
-        return int(std::count_if(changes->cbegin(), changes->cend(),
-                                 [is](const SettingChange& change) { return (change.*is)(); }));
+        return int(std::ranges::count_if(*changes, is));
     };
     review_.added = count(&SettingChange::isAdded);
     review_.removed = count(&SettingChange::isRemoved);
@@ -201,8 +200,7 @@ void WriteRoad::presentCame(const QByteArray& document)
         review_.advice = advise_(wanted);
     std::stable_partition(review_.advice.begin(), review_.advice.end(),
                           [](const SettingAdvice& advice) { return advice.isError; });
-    review_.errors = int(std::count_if(review_.advice.cbegin(), review_.advice.cend(),
-                                       [](const SettingAdvice& advice) { return advice.isError; }));
+    review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     setStep(Step::review);
     Q_EMIT reviewReady(review_);
@@ -272,9 +270,9 @@ void WriteRoad::readBackCame(const QByteArray& document)
         report_.settings.append({sent, change.after, change.afterText, false});
     }
     for (const SettingChange& change : std::as_const(review_.changes)) {
-        const auto found =
-            std::find_if(report_.settings.begin(), report_.settings.begin() + notTaken.size(),
-                         [&](const WrittenSetting& setting) { return setting.change.path == change.path; });
+        const auto found = std::ranges::find_if(
+            report_.settings.begin(), report_.settings.begin() + notTaken.size(),
+            [&](const WrittenSetting& setting) { return setting.change.path == change.path; });
         if (found == report_.settings.begin() + notTaken.size())
             report_.settings.append({change, change.after, change.afterText, true});
         else

@@ -64,7 +64,7 @@ QByteArray AnswerLine::distorted(const QByteArray& bytes, Answer::Form form) con
         const int kept = result.size() / 2;
         // The receiver of a record reads all of it.
         if (form == Answer::Form::Record)
-            std::fill(result.begin() + kept, result.end(), '\0');
+            std::ranges::fill(result.begin() + kept, result.end(), '\0');
         else
             result.truncate(kept);
     }

@@ -97,7 +97,7 @@ QByteArray withoutOneChange(const QByteArray& taken, const QByteArray& old)
     const auto isChanged = [&](const QString& path) {
         return before.contains(path) && before.text(path) != after.text(path);
     };
-    const auto changed = std::find_if(after.paths().begin(), after.paths().end(), isChanged);
+    const auto changed = std::ranges::find_if(after.paths(), isChanged);
     QDomDocument document;
     QDomDocument was;
     if (changed == after.paths().end() || !document.setContent(taken) || !was.setContent(old))
@@ -123,8 +123,7 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
             report.removed.append({path, before.text(path), {}});
     // The order of a document's attributes is not kept when sections are added to it.
     for (auto* changes : {&report.changed, &report.added, &report.removed})
-        std::sort(changes->begin(), changes->end(),
-                  [](const KeyChange& a, const KeyChange& b) { return a.path < b.path; });
+        std::ranges::sort(*changes, {}, &KeyChange::path);
 }
 
 // Replaces the file as a whole, or leaves what was there and says so in the log.

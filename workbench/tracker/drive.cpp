@@ -69,8 +69,7 @@ quint32 Drive::lastBefore(qint64 time)
     const Day& day = dayAt(time);
     const qint64 second = time - midnight_ - qint64(day.index) * kDaySeconds;
     const auto& points = day.tracked.points;
-    const auto after = std::upper_bound(points.begin(), points.end(), second,
-                                        [](qint64 t, const TrackPoint& point) { return t < point.second; });
+    const auto after = std::ranges::upper_bound(points, second, {}, &TrackPoint::second);
     const quint32 made = begins_[day.index].trace.records + static_cast<quint32>(after - points.begin());
     return std::max(made, 1U) - 1;
 }
@@ -95,8 +94,7 @@ Drive::Day Drive::make(int index) const
 const Drive::Day& Drive::day(int index)
 {
     index = std::clamp(index, 0, kLongestDays);
-    const auto kept =
-        std::find_if(days_.begin(), days_.end(), [index](const Day& day) { return day.index == index; });
+    const auto kept = std::ranges::find_if(days_, [index](const Day& day) { return day.index == index; });
     if (kept != days_.end()) {
         days_.splice(days_.begin(), days_, kept);
         return days_.front();
@@ -143,8 +141,8 @@ const TrackPoint& Drive::pointOf(quint32 number, qint64& time)
 Moment Drive::moment(const Day& day, qint64 time) const
 {
     const auto& segments = day.plan.segments;
-    const auto after = std::upper_bound(segments.begin() + 1, segments.end(), time,
-                                        [](qint64 t, const Segment& segment) { return t < segment.from; });
+    const auto after =
+        std::ranges::upper_bound(segments.begin() + 1, segments.end(), time, {}, &Segment::from);
     const Segment& segment = *(after - 1);
     const double elapsed = static_cast<double>(std::min<qint64>(time - segment.from, segment.seconds));
     Moment result;

@@ -231,7 +231,7 @@ constexpr bool everyElementHasOneRow()
     for (const FieldRow& row : kFieldRows)
         for (int i = 0; i < row.count; ++i)
             ++uses[row.first + i * row.stride];
-    return std::all_of(uses.begin(), uses.end(), [](int count) { return count == 1; });
+    return std::ranges::all_of(uses, [](int count) { return count == 1; });
 }
 static_assert(everyElementHasOneRow());
 

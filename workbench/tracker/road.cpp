@@ -110,8 +110,8 @@ double withinTour(double km)
 // The step that the kilometre lies behind; there is always one more after it.
 const Step& stepAt(double kmOfTour)
 {
-    const auto after = std::upper_bound(steps().begin() + 1, steps().end() - 1, kmOfTour,
-                                        [](double km, const Step& step) { return km < step.km; });
+    const auto after =
+        std::ranges::upper_bound(steps().begin() + 1, steps().end() - 1, kmOfTour, {}, &Step::km);
     return *(after - 1);
 }
 

@@ -44,8 +44,8 @@ bool SettingsHistory::change(qint64 time, const WorkingSettings& settings)
 
 SettingsHistory::Period SettingsHistory::at(qint64 time) const
 {
-    const auto after = std::find_if(entries_.begin() + 1, entries_.end(),
-                                    [time](const Entry& entry) { return entry.time >= time; });
+    const auto after = std::ranges::find_if(entries_.begin() + 1, entries_.end(),
+                                            [time](const Entry& entry) { return entry.time >= time; });
     return {(after - 1)->settings,
             after == entries_.end() ? std::numeric_limits<qint64>::max() : after->time};
 }
@@ -59,8 +59,7 @@ void SettingsHistory::load()
         entries_.push_back({file.value(kTimeKey).toLongLong(),
                             std::make_shared<WorkingSettings>(WorkingSettings::load(file))});
     }
-    std::stable_sort(entries_.begin(), entries_.end(),
-                     [](const Entry& a, const Entry& b) { return a.time < b.time; });
+    std::ranges::stable_sort(entries_, {}, &Entry::time);
 }
 
 void SettingsHistory::save() const

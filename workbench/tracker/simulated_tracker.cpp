@@ -22,9 +22,8 @@ constexpr quint64 kBluetoothCapability = 0x800;
 // The number that answers a request by the table of messages.
 Message answerTo(Message request)
 {
-    const auto found =
-        std::find_if(std::begin(vlk::kMessages), std::end(vlk::kMessages),
-                     [request](const vlk::MessageInfo& info) { return info.number == request; });
+    const auto found = std::ranges::find_if(
+        vlk::kMessages, [request](const vlk::MessageInfo& info) { return info.number == request; });
     return found == std::end(vlk::kMessages) ? Message{} : static_cast<Message>(found->answer);
 }
 

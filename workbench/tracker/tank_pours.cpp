@@ -92,8 +92,7 @@ void TankPours::load()
             pours_.push_back({file.value(QStringLiteral("time")).toLongLong(), tank,
                               litres("before", kTanks[tank]), litres("after", kTanks[tank])});
     }
-    std::stable_sort(pours_.begin(), pours_.end(),
-                     [](const Pour& a, const Pour& b) { return a.time < b.time; });
+    std::ranges::stable_sort(pours_, {}, &Pour::time);
 }
 
 void TankPours::save() const

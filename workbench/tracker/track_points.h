@@ -45,8 +45,8 @@ public:
     void add(int second, const State& state) { entries_.push_back({second, state}); }
     const State& at(qint64 second) const
     {
-        const auto later = std::upper_bound(entries_.begin() + 1, entries_.end(), second,
-                                            [](qint64 t, const Entry& entry) { return t < entry.second; });
+        const auto later =
+            std::ranges::upper_bound(entries_.begin() + 1, entries_.end(), second, {}, &Entry::second);
         return (later - 1)->state;
     }
 

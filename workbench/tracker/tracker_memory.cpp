@@ -43,7 +43,7 @@ Controls TrackerMemory::controlsAt(qint64 time) const
 
 std::optional<EventCode> TrackerMemory::changeWithin(qint64 after, qint64 until) const
 {
-    const auto found = std::find_if(changes_.rbegin(), changes_.rend(), [&](const Change& change) {
+    const auto found = std::ranges::find_if(changes_.rbegin(), changes_.rend(), [&](const Change& change) {
         return change.time > after && change.time <= until;
     });
     return found == changes_.rend() ? std::nullopt : std::optional(found->code);
@@ -86,8 +86,7 @@ void TrackerMemory::load()
         change.controls.mileageShift = std::isfinite(shift) ? shift : 0;
         changes_.push_back(change);
     }
-    std::stable_sort(changes_.begin(), changes_.end(),
-                     [](const Change& a, const Change& b) { return a.time < b.time; });
+    std::ranges::stable_sort(changes_, {}, &Change::time);
 }
 
 void TrackerMemory::save() const

@@ -163,24 +163,23 @@ const char* elementOf(LineUse use)
 
 int useOf(const QString& code)
 {
-    const auto found = std::find_if(std::begin(kLineUses), std::end(kLineUses),
-                                    [&](const UseCode& use) { return code == QLatin1String(use.code); });
+    const auto found =
+        std::ranges::find_if(kLineUses, [&](const UseCode& use) { return code == QLatin1String(use.code); });
     return found == std::end(kLineUses) ? 0 : static_cast<int>(found - kLineUses);
 }
 
 int deviceOf(const QString& address)
 {
-    const auto found =
-        std::find_if(kBluetoothDevices.begin(), kBluetoothDevices.end(), [&](const BluetoothDevice& device) {
-            return address.compare(QLatin1String(device.mac), Qt::CaseInsensitive) == 0;
-        });
+    const auto found = std::ranges::find_if(kBluetoothDevices, [&](const BluetoothDevice& device) {
+        return address.compare(QLatin1String(device.mac), Qt::CaseInsensitive) == 0;
+    });
     return found == kBluetoothDevices.end() ? -1 : static_cast<int>(found - kBluetoothDevices.begin());
 }
 
 int ownerOf(const QString& code)
 {
-    const auto* found = std::find_if(std::begin(kLineOwners), std::end(kLineOwners),
-                                     [&](const char* owner) { return code == QLatin1String(owner); });
+    const auto* found =
+        std::ranges::find_if(kLineOwners, [&](const char* owner) { return code == QLatin1String(owner); });
     return found == std::end(kLineOwners) ? 0 : static_cast<int>(found - kLineOwners);
 }
 

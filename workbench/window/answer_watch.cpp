@@ -13,15 +13,15 @@ bool asksForAnswer(quint32 id)
 {
     if (hasEffect(static_cast<Message>(id), Effect::Destroys))
         return false;
-    return std::any_of(
-        std::begin(vlk::kMessages), std::end(vlk::kMessages),
-        [id](const vlk::MessageInfo& row) { return quint32(row.number) == id && row.answer != 0; });
+    return std::ranges::any_of(vlk::kMessages, [id](const vlk::MessageInfo& row) {
+        return quint32(row.number) == id && row.answer != 0;
+    });
 }
 
 bool isAnswer(quint32 id)
 {
-    return std::any_of(std::begin(vlk::kMessages), std::end(vlk::kMessages),
-                       [id](const vlk::MessageInfo& row) { return row.answer == id; });
+    return std::ranges::any_of(vlk::kMessages,
+                               [id](const vlk::MessageInfo& row) { return row.answer == id; });
 }
 
 } // namespace

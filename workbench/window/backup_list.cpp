@@ -38,7 +38,7 @@ int numberOf(const QTreeWidgetItem* item)
 
 int earlierThan(const Backups& backups, const Backup& backup)
 {
-    const auto found = std::find_if(backups.all().cbegin(), backups.all().cend(), [&](const Backup& each) {
+    const auto found = std::ranges::find_if(backups.all(), [&](const Backup& each) {
         return each.tracker == backup.tracker && each.number < backup.number;
     });
     return found == backups.all().cend() ? 0 : found->number;

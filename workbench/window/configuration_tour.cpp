@@ -47,10 +47,10 @@ void lookAround(Tour& tour)
 {
     auto* operators = Tour::find<QComboBox>("Transfer_comboBox_GSM_Operator_1");
     QWidget* page = operators;
-    while (qobject_cast<QScrollArea*>(page) == nullptr && page->parentWidget() != nullptr)
+    while (!qobject_cast<QScrollArea*>(page) && page->parentWidget())
         page = page->parentWidget();
     auto* area = qobject_cast<QScrollArea*>(page);
-    Tour::expect(area != nullptr, QStringLiteral("the page does not scroll"));
+    Tour::expect(area, QStringLiteral("the page does not scroll"));
     const auto photograph = [&tour](const char* name, const QString& picture) {
         tour.waitFor([name] { return Tour::findVisible(name); }, QLatin1String(name));
         QWidget* window = Tour::findVisible(name)->window();

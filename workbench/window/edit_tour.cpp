@@ -87,7 +87,7 @@ QString shownBy(QWidget* widget)
     if (const auto* number = qobject_cast<QDoubleSpinBox*>(widget))
         return QString::number(number->value(), 'f', number->decimals());
     const auto* button = qobject_cast<QAbstractButton*>(widget);
-    Tour::expect(button != nullptr, QStringLiteral("%1 cannot be edited").arg(widget->objectName()));
+    Tour::expect(button, QStringLiteral("%1 cannot be edited").arg(widget->objectName()));
     return button->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
 }
 
@@ -179,9 +179,8 @@ void writeTracker(Tour& tour, Notebook& book)
 
 bool isPulled(const QString& path)
 {
-    return std::any_of(std::begin(kEdits), std::end(kEdits), [&](const Edit& edit) {
-        return edit.pulls && path.startsWith(QLatin1String(edit.pulls));
-    });
+    return std::ranges::any_of(
+        kEdits, [&](const Edit& edit) { return edit.pulls && path.startsWith(QLatin1String(edit.pulls)); });
 }
 
 // Every edited key is other than before and holds what was edited, and no key changed that has no reason to.

@@ -107,7 +107,7 @@ void saveAndCancel(Tour& tour)
     startSave(tour, "pushButton_SaveToFile", kPart);
     const auto came = [] {
         auto* bar = qobject_cast<QProgressBar*>(Tour::findVisible("progressBar_Time"));
-        return bar != nullptr && bar->maximum() > 1000 && bar->value() >= kEnough;
+        return bar && bar->maximum() > 1000 && bar->value() >= kEnough;
     };
     tour.waitFor(came, QStringLiteral("the progress of a long save"), 60'000);
     tour.picture(QStringLiteral("saving.png"), live::window());

@@ -90,7 +90,7 @@ QWidget* FrontNotice::lookedAt() const
     if (QWidget* modal = windows_.modal())
         return modal;
     const QVector<QWidget*> latest = ActiveWindows::instance().latest();
-    const auto found = std::find_if(latest.begin(), latest.end(), [this](const QWidget* window) {
+    const auto found = std::ranges::find_if(latest, [this](const QWidget* window) {
         return window == telemetry_ || window == PluginWindows::calibration();
     });
     return found == latest.end() ? telemetry_.data() : *found;

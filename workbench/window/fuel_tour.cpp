@@ -36,7 +36,7 @@ Widget* inForm(const char* name)
     const QString sensor = QLatin1String(tracker::kTanks[kTank].sensor);
     auto* form = window()->findChild<QWidget*>(sensor);
     auto* widget = form ? form->findChild<Widget*>(QLatin1String(name)) : nullptr;
-    Tour::expect(widget != nullptr, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
+    Tour::expect(widget, QStringLiteral("no %1 for %2").arg(QLatin1String(name), sensor));
     return widget;
 }
 

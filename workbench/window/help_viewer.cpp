@@ -74,7 +74,7 @@ bool HelpBrowser::findNext(const QString& words)
     if (find(words))
         return true;
     QStringList pages = pages_.names(language_);
-    const auto here = std::find(pages.begin(), pages.end(), source().path());
+    const auto here = std::ranges::find(pages, source().path());
     if (here != pages.end())
         std::rotate(pages.begin(), here + 1, pages.end());
     for (const QString& page : std::as_const(pages)) {

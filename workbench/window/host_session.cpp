@@ -201,7 +201,7 @@ void HostSession::followSearch(vlk::Message id, const void* p1)
         isSearching_ = true;
     else if (id == vlk::Message::BtSearchStopped)
         isSearching_ = false;
-    else if (id == vlk::Message::BtSearchEvent && p1 != nullptr)
+    else if (id == vlk::Message::BtSearchEvent && p1)
         isSearching_ = *static_cast<const char*>(p1) == tracker::kSearchRuns;
 }
 

@@ -125,7 +125,7 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     if (direction == vlk::Direction::ToPlugin && answer == vlk::Message::TrackerDetached)
         tellDetached(std::exchange(isPulled_, false));
     const bool isOfSearch = answer == vlk::Message::BtSearchEvent || answer == vlk::Message::BtSearchStopped;
-    if (isOfSearch && p1 != nullptr && tracker::isSearchState(*static_cast<const char*>(p1)))
+    if (isOfSearch && p1 && tracker::isSearchState(*static_cast<const char*>(p1)))
         setTrouble({});
     else if (isOfSearch)
         setTrouble([id] { return text("wb_search_bad").arg(id); });
@@ -135,7 +135,7 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
         refused_ = {};
         setTrouble({});
     }
-    if (!RecordCheck::carriesRecord(answer) || p1 == nullptr)
+    if (!RecordCheck::carriesRecord(answer) || !p1)
         return;
     const QByteArray& bytes = *static_cast<const QByteArray*>(p1);
     const auto problem = session_.requests().problem();

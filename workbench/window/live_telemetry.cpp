@@ -43,9 +43,9 @@ QString textOf(const char* label)
 {
     const QString name = QLatin1String(label);
     const auto* found = form()->findChild<QLabel*>(name);
-    if (found == nullptr)
+    if (!found)
         found = window()->findChild<QLabel*>(name);
-    Tour::expect(found != nullptr, QStringLiteral("no label named %1").arg(name));
+    Tour::expect(found, QStringLiteral("no label named %1").arg(name));
     return found->text();
 }
 

@@ -33,9 +33,8 @@ bool MessageLogFilter::filterAcceptsRow(int row, const QModelIndex& parent) cons
     QString searched;
     for (const int column : {MessageLogModel::Number, MessageLogModel::Name, MessageLogModel::Parameters})
         searched += at(column, Qt::DisplayRole).toString() + QLatin1Char('\n');
-    return std::all_of(words_.begin(), words_.end(), [&searched](const QString& word) {
-        return searched.contains(word, Qt::CaseInsensitive);
-    });
+    return std::ranges::all_of(
+        words_, [&searched](const QString& word) { return searched.contains(word, Qt::CaseInsensitive); });
 }
 
 } // namespace workbench

@@ -8,8 +8,7 @@ namespace workbench {
 namespace {
 
 // What findMessage relies on.
-static_assert(std::is_sorted(std::begin(kMessages), std::end(kMessages),
-                             [](const MessageInfo& a, const MessageInfo& b) { return a.number < b.number; }));
+static_assert(std::ranges::is_sorted(kMessages, {}, &MessageInfo::number));
 
 template <class Record>
 const Record& as(const void* address)
@@ -181,7 +180,7 @@ constexpr Describe describeOf(Message message)
 // A message that brings a record and has no row would be told without its content.
 static_assert(std::ranges::all_of(kMessages, [](const MessageInfo& info) {
     return (info.p1 != Parameter::RecordAddress && info.p2 != Parameter::RecordAddress) ||
-           describeOf(info.number) != nullptr;
+           describeOf(info.number);
 }));
 
 MessageText describeParameter(Message message, Parameter kind, const void* p)
@@ -220,8 +219,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
 
 const MessageInfo* findMessage(Direction direction, quint32 id)
 {
-    const auto* row = std::lower_bound(std::begin(kMessages), std::end(kMessages), id,
-                                       [](const MessageInfo& m, quint32 n) { return quint32(m.number) < n; });
+    const auto* row = std::ranges::lower_bound(kMessages, Message(id), {}, &MessageInfo::number);
     const bool found =
         row != std::end(kMessages) && quint32(row->number) == id && row->direction == direction;
     return found ? row : nullptr;

@@ -111,13 +111,13 @@ PluginLog::~PluginLog()
 QStringList PluginLog::parts(const QString& category, const QString& message)
 {
     const CategoryRow* row = rowOf(category.toLatin1().constData(), message);
-    return row != nullptr ? matched(*row, message).capturedTexts().mid(1) : QStringList();
+    return row ? matched(*row, message).capturedTexts().mid(1) : QStringList();
 }
 
 QString PluginLog::words(const QString& category, const QString& message)
 {
     const CategoryRow* row = rowOf(category.toLatin1().constData(), message);
-    if (row == nullptr)
+    if (!row)
         return {};
     QString said = text(row->text);
     const QStringList found = parts(category, message);
@@ -142,14 +142,14 @@ void PluginLog::listen(QtMsgType type, const QMessageLogContext& context, const 
         const QScopedValueRollback pass(passing, true);
         next(type, context, message);
     }
-    if (type != QtWarningMsg || context.category == nullptr)
+    if (type != QtWarningMsg || !context.category)
         return;
     const CategoryRow* row = rowOf(context.category, message);
-    if (row == nullptr)
+    if (!row)
         return;
     std::unique_lock lock(guard);
     PluginLog* log = theLog;
-    if (log == nullptr)
+    if (!log)
         return;
     const auto tell = [log, row, message] {
         Q_EMIT log->warned(row->topic, QLatin1String(row->category), message);

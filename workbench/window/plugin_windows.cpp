@@ -24,15 +24,15 @@ QVector<QWidget*> PluginWindows::open() const
 QWidget* PluginWindows::modal() const
 {
     const QVector<QWidget*> windows = open();
-    const auto last = std::find_if(windows.rbegin(), windows.rend(),
-                                   [](const QWidget* window) { return window->isModal(); });
+    const auto last = std::ranges::find_if(windows.rbegin(), windows.rend(),
+                                           [](const QWidget* window) { return window->isModal(); });
     return last == windows.rend() ? nullptr : *last;
 }
 
 QWidget* PluginWindows::calibration()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    const auto found = std::ranges::find_if(windows, [](const QWidget* window) {
         return window->isVisible() && window->inherits("VLK_Form_TMI_Fuel_Sensors");
     });
     return found == windows.end() ? nullptr : *found;

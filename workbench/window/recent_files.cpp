@@ -110,7 +110,7 @@ void RecentFiles::refresh()
 void RecentFiles::offerWindows(const QPoint& at)
 {
     const QListWidgetItem* item = list_->itemAt(at);
-    if (item == nullptr)
+    if (!item)
         return;
     const QString path = item->data(kPathRole).toString();
     if (storedFileKind(path) != StoredFile::Telemetry)

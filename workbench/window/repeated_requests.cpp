@@ -12,8 +12,8 @@ namespace {
 
 Parameter parameterOf(Message request)
 {
-    const auto* info = std::find_if(std::begin(kMessages), std::end(kMessages),
-                                    [request](const MessageInfo& row) { return row.number == request; });
+    const auto* info =
+        std::ranges::find_if(kMessages, [request](const MessageInfo& row) { return row.number == request; });
     return info == std::end(kMessages) ? Parameter::None : info->p1;
 }
 
@@ -23,7 +23,7 @@ constexpr int kRefusedMs = 1000;
 Asked askedBy(Message request, const void* p1)
 {
     Asked asked{request, {}, {}, {}};
-    if (p1 == nullptr)
+    if (!p1)
         return asked;
     if (request == Message::RequestRecordByNumber)
         asked.number = *static_cast<const quint32*>(p1);
@@ -36,7 +36,7 @@ Asked askedBy(Message request, const void* p1)
 
 bool answersReading(Message answer)
 {
-    return std::any_of(std::begin(kMessages), std::end(kMessages), [answer](const MessageInfo& row) {
+    return std::ranges::any_of(kMessages, [answer](const MessageInfo& row) {
         return row.answer == quint32(answer) &&
                (hasEffect(row.number, Effect::Reads) || hasEffect(row.number, Effect::MayBeMute));
     });
@@ -81,7 +81,7 @@ std::function<void()> RepeatedRequests::sending(Message request, void* p1, quint
     const auto copying = [&send](const auto* value) -> std::function<void()> {
         return [send, copy = *value]() mutable { send(&copy); };
     };
-    if (p1 != nullptr) {
+    if (p1) {
         switch (parameterOf(request)) {
         case Parameter::Int32Address:
             return copying(static_cast<const std::int32_t*>(p1));
@@ -116,8 +116,8 @@ bool RepeatedRequests::takesAnswer(Message answer, const void* p1)
         Q_EMIT dropped(answer);
         return false;
     }
-    const auto waiting = std::find_if(waiting_.begin(), waiting_.end(),
-                                      [ticket](const auto& entry) { return entry.second.ticket == ticket; });
+    const auto waiting =
+        std::ranges::find_if(waiting_, [ticket](const auto& entry) { return entry.second.ticket == ticket; });
     Waiting* entry = waiting == waiting_.end() ? nullptr : &waiting->second;
     problem_ = check_.look(answer, p1, entry ? entry->asked : Asked{});
     if (mustBeRefused(answer, entry)) {

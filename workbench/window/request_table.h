@@ -64,7 +64,7 @@ constexpr const RequestRow* findRequest(Message request)
 // A request without a row would be taken for one that may be repeated, or not, by accident.
 static_assert([] {
     for (const MessageInfo& info : kMessages) {
-        if (info.direction == Direction::ToHost && info.answer != 0 && findRequest(info.number) == nullptr)
+        if (info.direction == Direction::ToHost && info.answer != 0 && !findRequest(info.number))
             return false;
     }
     return true;
@@ -73,7 +73,7 @@ static_assert([] {
 constexpr bool hasEffect(Message request, Effect effect)
 {
     const RequestRow* row = findRequest(request);
-    return row != nullptr && row->effect == effect;
+    return row && row->effect == effect;
 }
 
 } // namespace workbench

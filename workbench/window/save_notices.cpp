@@ -32,8 +32,7 @@ bool isForTracker(const QString& path)
 bool isAboutRoom(const QString& reason)
 {
     constexpr int codes[] = {ENOSPC, EDQUOT, EFBIG};
-    return std::any_of(std::begin(codes), std::end(codes),
-                       [&reason](int code) { return reason.contains(qt_error_string(code)); });
+    return std::ranges::any_of(codes, [&reason](int code) { return reason.contains(qt_error_string(code)); });
 }
 
 } // namespace

@@ -39,7 +39,7 @@ SaveWatch::SaveWatch(const PluginLog& log, const QWidget* mainWindow, SavesAtOnc
 void SaveWatch::forget(const QString& message)
 {
     const auto isNamed = [&message](const Candidate& file) { return message.startsWith(file.path); };
-    if (std::any_of(awaited_.cbegin(), awaited_.cend(), isNamed))
+    if (std::ranges::any_of(awaited_, isNamed))
         awaited_.clear();
 }
 
@@ -70,7 +70,7 @@ bool SaveWatch::eventFilter(QObject* object, QEvent* event)
         return false;
     auto* dialog = qobject_cast<QFileDialog*>(object);
     // The workbench's own dialogs tell of themselves, and so do windows that give theirs this name.
-    if (dialog == nullptr || dialog->objectName() == QLatin1String("fileDialog_Told") ||
+    if (!dialog || dialog->objectName() == QLatin1String("fileDialog_Told") ||
         (dialog->parentWidget() && dialog->parentWidget()->window() == mainWindow_))
         return false;
     Q_EMIT asked();

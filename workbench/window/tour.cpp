@@ -160,7 +160,7 @@ void Tour::check(QAbstractButton* box, bool on)
 void Tour::giveName(QFileDialog& dialog, const QString& path)
 {
     auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    expect(edit != nullptr, QStringLiteral("the file dialog is not Qt's own"));
+    expect(edit, QStringLiteral("the file dialog is not Qt's own"));
     // A file of an earlier tour would be asked about.
     if (dialog.acceptMode() == QFileDialog::AcceptSave)
         QFile::remove(path);

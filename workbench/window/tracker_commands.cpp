@@ -54,7 +54,7 @@ bool TrackerCommands::take(Message message, void* p1)
         return false;
     Command command{message, 0, 0};
     if (message == Message::SetMileage) {
-        if (p1 == nullptr)
+        if (!p1)
             return true;
         command.mileage = *static_cast<const float*>(p1);
     } else {
@@ -101,16 +101,16 @@ const char* TrackerCommands::whyNotNow()
 bool TrackerCommands::isAllowed(const QString& question, const char* verb)
 {
     const char* reason = whyNotNow();
-    if (reason == nullptr && mayDestroy_) {
+    if (!reason && mayDestroy_) {
         if (!mayDestroy_(question, text(verb))) {
             Q_EMIT done(saying("wb_command_cancelled"));
             return false;
         }
         reason = whyNotNow();
     }
-    if (reason != nullptr)
+    if (reason)
         Q_EMIT refused(saying(reason), [this, reason] { return whyNotNow() == reason; });
-    return reason == nullptr;
+    return !reason;
 }
 
 QString TrackerCommands::clearQuestion(int first)
@@ -152,7 +152,7 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
         isPresentShown_ = answer == Message::CurrentRecord || answer == Message::ClearedRecord;
     isAnswered_ = answer == Message::ClearedRecord && !cleared_.empty();
     if (isAnswered_)
-        isDoubtful_ |= p1 == nullptr || RecordCheck().look(answer, *static_cast<const QByteArray*>(p1));
+        isDoubtful_ |= !p1 || RecordCheck().look(answer, *static_cast<const QByteArray*>(p1));
     link_.send(answer, p1, p2);
     // Reset when the plug-in went on to the next server.
     if (!std::exchange(isAnswered_, false))

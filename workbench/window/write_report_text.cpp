@@ -49,8 +49,8 @@ constexpr AdviceRow kAdvices[] = {
 
 QString reasonFor(const RoadReport& report)
 {
-    const auto* row = std::find_if(std::begin(kFaultRows), std::end(kFaultRows),
-                                   [&](const FaultRow& each) { return each.fault == report.fault; });
+    const auto* row =
+        std::ranges::find_if(kFaultRows, [&](const FaultRow& each) { return each.fault == report.fault; });
     const char* advice = row == std::end(kFaultRows) ? nullptr : row->adviceKey;
     QString reason = row == std::end(kFaultRows) ? text(report.reasonKey.toLatin1().constData())
                      : report.fault == Fault::unplugged && report.outcome == Outcome::notWritten &&
