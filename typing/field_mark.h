@@ -35,7 +35,7 @@ QColor markColor(Mark mark, const QPalette& palette);
 // For words that say what is wrong (kept_palette.h).
 QPalette withInvalidText(QPalette palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
-// Of that many pixels, for a screen of that ratio.
+// The mark with sides of that many pixels, for a screen of that ratio.
 QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio);
 // For the tab of a page, whose bar has icons of kMarkSize; without a mark it keeps the place of one.
 QIcon tabMark(std::optional<Mark> mark, const QPalette& palette);

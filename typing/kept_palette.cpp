@@ -18,7 +18,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* widget = static_cast<QWidget*>(watched);
-        // Of the application only windows are told.
+        // Only windows are told when the palette of the application changes.
         if (event->type() == (widget->isWindow() ? QEvent::ApplicationPaletteChange : QEvent::PaletteChange))
             set(widget);
         return QObject::eventFilter(watched, event);

@@ -45,12 +45,12 @@ public:
     // Puts a notice up, in the place of the one that had this number before. It stays until it is ended or
     // the user closes it with the cross.
     void tell(int number, const Notice& notice);
-    // The same with a notice that is asked for again when the language changes.
+    // Puts up a notice that is asked for again when the language changes.
     void tell(int number, const std::function<Notice()>& notice);
-    // The same for a while: it goes by itself, unless the mouse or the focus is on the bar. As long as it is
-    // there only what is invalid comes before it.
+    // Puts up news that go by themselves after a while, unless the mouse or the focus is on the bar. As long
+    // as they are there only what is invalid comes before them.
     void tellNews(int number, const std::function<Notice()>& notice);
-    // Of a bar that tells one thing: its sentence, asked for again likewise; null takes it away.
+    // Sets the sentence of a bar that tells one thing, asked for again likewise; null takes it away.
     void tell(const std::function<QString()>& sentence);
     void end(int number);
     bool isOnShow(int number) const;
@@ -72,7 +72,7 @@ Q_SIGNALS:
 protected:
     // Null when there is none.
     const Notice* shown() const;
-    // As the cross does.
+    // Closes what is shown, like the cross.
     void closeShown();
 
     bool hasHeightForWidth() const override;

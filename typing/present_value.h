@@ -11,8 +11,8 @@ namespace vlk {
 // DemiBold; a field loses its frame, its arrows and its Tab stop, and keeps its name, its class and its
 // colours, which may tell something.
 void standOut(QWidget* value, bool present = true);
-// The same, and a field has the colour of the window around it, no paler where it is disabled. Without
-// `present` a line is one to type into again.
+// Shows it as standOut does, and a field has the colour of the window around it, no paler where it is
+// disabled. Without `present` a line is one to type into again.
 void showAsPresent(QWidget* value, bool present = true);
 // One that holds no longer is grey.
 void showAsOld(QWidget* value, bool old);

@@ -23,7 +23,7 @@ namespace {
 constexpr int kRowPadding = 8;  // above and below together
 constexpr int kCellPadding = 6; // left, and right
 
-// Of which styles leave a part.
+// The part of kCellPadding that styles leave by themselves.
 int ownPadding(const QWidget* table)
 {
     return table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1;
