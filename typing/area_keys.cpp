@@ -15,7 +15,7 @@ constexpr int kRoundMs = 5000; // between two steps of one round
 
 bool holds(const QWidgetList& area, const QWidget* widget)
 {
-    return widget != nullptr && std::any_of(area.begin(), area.end(), [widget](const QWidget* part) {
+    return widget && std::ranges::any_of(area, [widget](const QWidget* part) {
                return part == widget || part->isAncestorOf(widget);
            });
 }
@@ -75,8 +75,8 @@ void AreaKeys::go(int step)
 {
     const std::vector<QWidgetList> areas = areasNow();
     QWidget* focus = QApplication::focusWidget();
-    const auto here = std::find_if(areas.begin(), areas.end(),
-                                   [focus](const QWidgetList& area) { return holds(area, focus); });
+    const auto here =
+        std::ranges::find_if(areas, [focus](const QWidgetList& area) { return holds(area, focus); });
     const int count = static_cast<int>(areas.size());
     int at = step > 0 ? -1 : count;
     if (here != areas.end()) {

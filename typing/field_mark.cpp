@@ -56,8 +56,8 @@ public:
         setObjectName(QStringLiteral("mark_") + field->objectName());
         resize(kMarkSize, kMarkSize);
         const auto labels = parentWidget()->findChildren<QLabel*>();
-        const auto caption = std::find_if(labels.begin(), labels.end(),
-                                          [field](const QLabel* label) { return label->buddy() == field; });
+        const auto caption =
+            std::ranges::find_if(labels, [field](const QLabel* label) { return label->buddy() == field; });
         if (caption != labels.end())
             caption_ = *caption;
         field->installEventFilter(this);
@@ -189,7 +189,7 @@ private:
         const QRect shape(corner, size());
         const auto siblings = host.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         return host.rect().adjusted(-1, 0, 0, 0).contains(shape) &&
-               std::none_of(siblings.begin(), siblings.end(), [&](const QWidget* other) {
+               std::ranges::none_of(siblings, [&](const QWidget* other) {
                    return other != this && other != caption_ && other != inner && !other->isHidden() &&
                           other->geometry().intersects(shape);
                });

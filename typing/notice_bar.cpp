@@ -182,12 +182,8 @@ void NoticeBar::tell(const std::function<QString()>& sentence)
 
 void NoticeBar::end(int number)
 {
-    const auto gone = std::remove_if(told_.begin(), told_.end(),
-                                     [number](const Told& told) { return told.number == number; });
-    if (gone == told_.end())
-        return;
-    told_.erase(gone, told_.end());
-    refresh();
+    if (std::erase_if(told_, [number](const Told& told) { return told.number == number; }) > 0)
+        refresh();
 }
 
 bool NoticeBar::isOnShow(int number) const
@@ -209,7 +205,7 @@ void NoticeBar::retranslate()
 
 const NoticeBar::Told* NoticeBar::worst() const
 {
-    const auto found = std::min_element(told_.begin(), told_.end(), [this](const Told& a, const Told& b) {
+    const auto found = std::ranges::min_element(told_, [this](const Told& a, const Told& b) {
         const auto rank = [](const Told& told) {
             return std::pair(told.notice.mark == Mark::invalid, told.isNews);
         };

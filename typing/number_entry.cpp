@@ -141,13 +141,11 @@ NumberEntry::Reading NumberEntry::read(QString text) const
     }
     if (isMinus && least() >= 0)
         return {{}, translated("typed_negative").arg(told), false};
-    const int point =
-        static_cast<int>(std::find_if(text.cbegin(), text.cend(), isDecimalSign) - text.cbegin());
+    const int point = static_cast<int>(std::ranges::find_if(text, isDecimalSign) - text.cbegin());
     const QString whole = text.left(point);
     QString fraction = text.mid(point + 1);
     const auto isDigit = [](QChar sign) { return sign >= QLatin1Char('0') && sign <= QLatin1Char('9'); };
-    const bool isAllDigits = std::all_of(whole.begin(), whole.end(), isDigit) &&
-                             std::all_of(fraction.cbegin(), fraction.cend(), isDigit);
+    const bool isAllDigits = std::ranges::all_of(whole, isDigit) && std::ranges::all_of(fraction, isDigit);
     if (!isAllDigits)
         return {{}, translated("typed_number").arg(told), false};
     if (point < text.size() && decimals() == 0)

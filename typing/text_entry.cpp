@@ -56,7 +56,8 @@ void TextEntry::keepInMask()
     const int free = shown.indexOf(QLatin1Char(' '));
     const int place = line_->cursorPosition();
     const bool isChosen = line_->hasSelectedText() && std::ranges::any_of(shown, isFilled);
-    if (free >= 0 && place > free && !isChosen && std::none_of(shown.begin() + place, shown.end(), isFilled))
+    if (free >= 0 && place > free && !isChosen &&
+        std::ranges::none_of(shown.begin() + place, shown.end(), isFilled))
         line_->setCursorPosition(free);
 }
 
