@@ -104,8 +104,7 @@ void walkList(benchmark::State& state, const QString& name, bool first)
         },
         bench::openEmptyDialog);
     const auto mean = [](const Item& one) { return one.times > 0 ? one.seconds / one.times : 0; };
-    const auto slowest = std::max_element(items.begin(), items.end(),
-                                          [&](const Item& a, const Item& b) { return mean(a) < mean(b); });
+    const auto slowest = std::ranges::max_element(items, {}, mean);
     state.counters["slowest_ms"] = 1e3 * mean(*slowest);
     state.SetLabel(list->itemData(static_cast<int>(slowest - items.begin())).toString().toStdString());
 }

@@ -128,8 +128,8 @@ private Q_SLOTS:
         auto tables = vlk::allSettings();
         if (section.isEmpty())
             tables = {&vlk::kQuickSettings};
-        const auto table = std::find_if(tables.begin(), tables.end(),
-                                        [&](const auto* known) { return known->section == section; });
+        const auto table =
+            std::ranges::find_if(tables, [&](const auto* known) { return known->section == section; });
         QVERIFY2(table != tables.end(), "no rows of this section");
         compared_ << section;
         values_ = vlk::Values(**table);
@@ -143,11 +143,10 @@ private Q_SLOTS:
             const GoldenTable golden(
                 QString::fromUtf8(readFile(QString(VLK_SOURCE "/tests/settings/golden/%1.tsv").arg(file))));
             for (const GoldenKey& key : golden.keys()) {
-                const auto row =
-                    std::find_if(layout.rows.begin(), layout.rows.end(), [&](const auto& candidate) {
-                        return candidate.filePath == key.path && candidate.base->stored &&
-                               !known[&candidate - layout.rows.data()];
-                    });
+                const auto row = std::ranges::find_if(layout.rows, [&](const auto& candidate) {
+                    return candidate.filePath == key.path && candidate.base->stored &&
+                           !known[&candidate - layout.rows.data()];
+                });
                 if (row == layout.rows.end()) {
                     wrong << key.path + ": no row";
                     continue;
@@ -157,7 +156,7 @@ private Q_SLOTS:
                 compare(key, static_cast<int>(found.back()), &wrong);
             }
             QVERIFY(!found.empty());
-            QVERIFY2(std::is_sorted(found.begin(), found.end()), qPrintable(file + ": another order"));
+            QVERIFY2(std::ranges::is_sorted(found), qPrintable(file + ": another order"));
         }
         for (std::size_t row = 0; row < layout.rows.size(); ++row) {
             const auto& place = layout.rows[row];
@@ -271,9 +270,8 @@ private:
             return parts.join(", ");
         }
         if (const auto* digits = row.as<vlk::Digits>()) {
-            const auto boxes =
-                std::count_if(digits->positions.begin(), digits->positions.end(),
-                              [](const vlk::Position& position) { return bool(position.widget); });
+            const auto boxes = std::ranges::count_if(
+                digits->positions, [](const vlk::Position& position) { return bool(position.widget); });
             return QString("%1 of %2").arg(boxes).arg(digits->positions.size());
         }
         if (const auto* mask = row.as<vlk::Mask>())

@@ -74,7 +74,7 @@ inline std::unique_ptr<TmiPage_Zeta3> packetOf(const QByteArray& navigation, con
 inline QByteArray randomBytes(std::mt19937& random, int size)
 {
     QByteArray bytes(size, '\0');
-    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<char>(random()); });
+    std::ranges::generate(bytes, [&] { return static_cast<char>(random()); });
     return bytes;
 }
 

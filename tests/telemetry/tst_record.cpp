@@ -94,7 +94,7 @@ public:
     QByteArray bytes(int count)
     {
         QByteArray bytes(count, Qt::Uninitialized);
-        std::generate(bytes.begin(), bytes.end(), [this] { return static_cast<char>(engine_()); });
+        std::ranges::generate(bytes, [this] { return static_cast<char>(engine_()); });
         return bytes;
     }
 

@@ -146,8 +146,8 @@ private Q_SLOTS:
                 const TachographAnswer read = tachographAnswer(whole.left(size), kNoon);
                 QCOMPARE(read.subject == Subject::Nothing, size <= 6);
                 const QSet<QString> now(read.lines.begin(), read.lines.end());
-                const auto kept = std::count_if(before.begin(), before.end(),
-                                                [&](const QString& line) { return now.contains(line); });
+                const auto kept =
+                    std::ranges::count_if(before, [&](const QString& line) { return now.contains(line); });
                 QVERIFY(kept >= before.size() - 1);
                 before = read.lines;
             }

@@ -91,7 +91,7 @@ private Q_SLOTS:
         QStringList unused;
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
             const auto begins = [&](const QString& family) { return text.key().startsWith(family); };
-            if (!keys_.contains(text.key()) && std::none_of(families_.begin(), families_.end(), begins))
+            if (!keys_.contains(text.key()) && std::ranges::none_of(families_, begins))
                 unused << text.key();
         }
         missing.sort();

@@ -529,7 +529,7 @@ private:
     static bool isSorted(const QByteArray& lines)
     {
         const QByteArrayList list = lines.trimmed().split('\n');
-        return std::is_sorted(list.begin(), list.end());
+        return std::ranges::is_sorted(list);
     }
     QString path(const QString& name) const { return folder_->filePath(name); }
     void put(const QString& name, const QByteArray& content) const { writeFile(path(name), content); }

@@ -228,8 +228,7 @@ private Q_SLOTS:
         model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
         const auto counted = [&view](const QString& text) {
             const auto labels = view.findChildren<QLabel*>();
-            return std::any_of(labels.begin(), labels.end(),
-                               [&](const QLabel* label) { return label->text() == text; });
+            return std::ranges::any_of(labels, [&](const QLabel* label) { return label->text() == text; });
         };
         const auto saveTip = [&view] {
             return view.findChild<QToolButton*>("toolButton_LogSave")->toolTip();

@@ -356,7 +356,7 @@ private Q_SLOTS:
         QVERIFY(list->topLevelItem(0)->child(0)->isHidden() && !list->topLevelItem(0)->child(1)->isHidden());
         QTest::keyClicks(filter, "?");
         const auto notes = list->findChildren<QLabel*>();
-        QVERIFY(std::any_of(notes.cbegin(), notes.cend(), [](const QLabel* note) {
+        QVERIFY(std::ranges::any_of(notes, [](const QLabel* note) {
             return note->isVisible() && note->text() == "Nothing matches.";
         }));
 
