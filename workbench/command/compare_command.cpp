@@ -269,7 +269,7 @@ private:
         return lines.toUtf8();
     }
 
-    // Of the value that more files have than any other their number, of the others their names.
+    // Tells how many files have the most frequent value, and which ones have each of the others.
     static QByteArray tableOf(const Names& names, std::vector<Told> values, const QStringList& lacking)
     {
         if (!lacking.isEmpty())

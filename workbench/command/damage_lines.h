@@ -11,7 +11,7 @@ namespace workbench::command {
 
 // Where it is, what, and where reading went on in a file of that size.
 QString damageText(const vlk::FileDamage& damage, qint64 size);
-// The same as a line that begins with the file's name.
+// The line of a damage: the name of the file, then its text.
 QByteArray damageLine(const File& file, const vlk::FileDamage& damage, qint64 size);
 
 } // namespace workbench::command

@@ -260,7 +260,7 @@ private:
         parts_.push_back(std::move(part));
     }
 
-    // Of thresholds from which false ones come.
+    // Warns of thresholds below the noise of the level.
     void warnOfNoise(const File& file, double noise)
     {
         for (const auto& [option, litres] :

@@ -30,7 +30,7 @@ protected:
 
 private:
     void place();
-    // Of the bars of the window, below those that are on show.
+    // Has the bars of the window that are on show leave so much room below them.
     void askForRoom(int pixels);
     bool takesKey(const QWidget& widget, QKeyEvent& event);
     void offerByKeys();

@@ -58,10 +58,10 @@ public:
                                    int* end) const;
     bool hasWords(const FilterColumn& column) const { return words_.contains(column); }
 
-    // Of those that are known: in this order before all others where names are offered.
+    // Has these names, where they are known, offered before all others, in this order.
     void offerFirst(const QStringList& names);
 
-    // As they are offered.
+    // All names in the order in which they are offered.
     const QStringList& names() const { return names_; }
     // The names, folded.
     const QStringList& foldedNames() const { return foldedNames_; }

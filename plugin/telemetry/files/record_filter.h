@@ -61,7 +61,7 @@ struct Filter
     std::optional<FilterNode> root; // none lets everything pass
 
     bool empty() const { return !root; }
-    // As it is kept.
+    // The filter as it is kept: with names of elements and codes.
     QString text() const;
     QString text(const FilterWording& wording) const;
 

@@ -21,7 +21,7 @@ public:
     // `rows`: what there is of it already. `vehicle`: for the name of the file.
     TypedTable(const LevelSensor& sensor, const FuelRows& rows, const QString& vehicle, QWidget* parent);
 
-    // Of the file, once it was accepted.
+    // The file that holds the table, once the dialog was accepted.
     QString path() const { return path_; }
 
     // Without a table that can be read and a file that holds it the dialog stays.

@@ -74,7 +74,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(form_, qOverload<int>(&QComboBox::currentIndexChanged), this, &ExportDialog::enableOptions);
     enableOptions();
-    // As they stand, from top to bottom.
+    // Tab goes from top to bottom, whatever was made first.
     const QWidgetList order{what_->buttons().last(), form_, sign_, columns_, save, cancel};
     for (int place = 1; place < order.size(); ++place)
         setTabOrder(order[place - 1], order[place]);

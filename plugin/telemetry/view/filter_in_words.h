@@ -9,7 +9,7 @@ namespace vlk {
 
 class RecordsModel;
 
-// As it is kept where no words would be read as the same filter.
+// The filter in the words of the windows; as it is kept where no words would be read as the same one.
 QString filterInWords(const Filter& filter, const FilterNames& names, const RecordsModel& model,
                       qint32 utcOffset);
 

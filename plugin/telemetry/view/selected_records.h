@@ -18,7 +18,7 @@ inline constexpr std::size_t kMostCopied = 100'000;
 // Heads and cells of the columns on show, with a tab between them, each row on a line.
 QString selectionText(const RecordsModel& model, const RecordsTable& table);
 
-// Of a column over the chosen rows: least, greatest and mean. Empty where there are no numbers.
+// Least, greatest and mean of a column over the chosen rows. Empty where there are no numbers.
 QString sumsText(const RecordsModel& model, int column, ShownRecords& shown);
 
 // "56.500000, 37.250000"; with `link` "geo:56.500000,37.250000". Empty where the record tells no place.

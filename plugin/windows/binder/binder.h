@@ -75,7 +75,7 @@ public:
     std::vector<Place> placesOf(int row) const;
     // The first one of the part, else the first one. Null where there is none.
     QWidget* widgetOf(int row, int part = -1) const;
-    // Of a disabled one the rule that does it, in words; else its tool tip.
+    // The rule that disables the widget, in words; its tool tip where no rule does.
     QString whyDisabled(const QWidget* widget) const;
 
     const Values& values() const override { return values_; }
