@@ -239,11 +239,14 @@ private Q_SLOTS:
         host_.send(Message::LanguageChanged);
         QCOMPARE(text("label_Sums"), QString("tmizta_158, abbr_011 12.00 15.90 13.950 40"));
         // The summary is made of the same rows, and of none behind another filter.
-        child<QTabWidget>("tabWidget_Views")->setCurrentWidget(child<QWidget>("widget_Summary"));
+        QTest::keyClick(table_, Qt::Key_PageDown, Qt::ControlModifier);
+        auto* views = child<QTabWidget>("tabWidget_Views");
+        QCOMPARE(views->currentWidget(), child<QWidget>("widget_Summary"));
+        QVERIFY(views->hasFocus() || views->tabBar()->hasFocus());
         child<QComboBox>("comboBox_SummaryOver")->setCurrentIndex(2);
         const auto* summary = child<QTableView>("tableView_Summary")->model();
         QCOMPARE(summary->index(13, 1).data().toString(), QString("40"));
-        table_->selectRow(1);
+        QTest::keyClick(table_, Qt::Key_Down);
         QTRY_COMPARE(summary->rowCount(), 0);
         table_->selectAll();
         QTRY_COMPARE(summary->rowCount(), 16);

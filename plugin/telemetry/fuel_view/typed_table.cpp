@@ -42,6 +42,9 @@ TypedTable::TypedTable(const LevelSensor& sensor, const FuelRows& rows, const QS
     setWindowTitle(QStringLiteral("%1: %2").arg(tr("cfgt6_037"), levelSensorCaption(sensor)));
     form_->setParamEditable(true);
     form_->addRows(rows);
+    // The file that is made of it keeps no name.
+    for (const char* const name : {"label_Name", "lineEdit_Name"})
+        form_->findChild<QWidget*>(QLatin1String(name))->hide();
     fault_->setWordWrap(true);
     fault_->hide();
     auto* const take = namedWidget<QPushButton>("pushButton_TakeTable", this);

@@ -44,6 +44,12 @@ void RecordsPlaces::setName(const QString& name)
         part.setName(name);
 }
 
+void RecordsPlaces::turn(int step)
+{
+    views_->setCurrentIndex((views_->currentIndex() + step + views_->count()) % views_->count());
+    views_->setFocus(Qt::ShortcutFocusReason);
+}
+
 bool RecordsPlaces::stepBack()
 {
     return std::ranges::any_of(parts_,

@@ -22,6 +22,8 @@ public:
     void retranslate();
     // Steps back in the first part that has something to take back; false where none has.
     bool stepBack();
+    // To the next view, or the one before, and round: the keyboard is at its tab then.
+    void turn(int step);
     // Null without views.
     QTabWidget* views() const { return views_; }
 

@@ -157,6 +157,8 @@ void VLK_Widget_Tmi_Table::addKeys()
         {QKeySequence::Find, [this] { findBar_->open(); }},
         {QKeySequence(Qt::Key_F3), [this] { findBar_->goOn(1); }},
         {QKeySequence(QStringLiteral("Shift+F3")), [this] { findBar_->goOn(-1); }},
+        {QKeySequence(QStringLiteral("Ctrl+PgDown")), [this] { places_->turn(1); }},
+        {QKeySequence(QStringLiteral("Ctrl+PgUp")), [this] { places_->turn(-1); }},
         {QKeySequence(Qt::Key_F1), [this] { helpButton_->click(); }},
     };
     for (const auto& [sequence, act] : keys)
