@@ -184,6 +184,27 @@ private Q_SLOTS:
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
     }
 
+    // However long the values are, and however narrow the window.
+    void keepsNamesReadable()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        const auto isReadable = [](const char* dialog, const char* name) {
+            const int width = 720;
+            Bench::find(dialog)->resize(width, 400);
+            const auto* table = Bench::find<QTableView>(name);
+            return table->viewport()->width() < width && table->horizontalScrollBar()->maximum() == 0 &&
+                   table->columnWidth(0) * 3 > table->viewport()->width();
+        };
+        bench.editName("A lorry of the third column, with a trailer");
+        QTRY_VERIFY(Bench::isReviewed());
+        QTRY_VERIFY(isReadable("dialog_Review", "tableView_Review"));
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        QTRY_VERIFY(isReadable("dialog_Report", "tableView_Report"));
+        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+    }
+
     // Enter presses the button that has the keyboard, whichever is the first choice.
     void entersTheButtonInFocus()
     {

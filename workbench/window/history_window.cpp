@@ -9,6 +9,7 @@
 #include "window/host_session.h"
 #include "window/message_box.h"
 #include "window/scrolling.h"
+#include "window/setting_columns.h"
 #include "window/settings.h"
 #include "window/trouble_text.h"
 
@@ -106,7 +107,8 @@ QWidget* HistoryWindow::buildDifferences()
     dressTable(table_, TableUse::read);
     elideInTheMiddle(table_, SettingChangeModel::Setting);
     table_->setIconSize({kMarkSize, kMarkSize});
-    table_->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
+    columns_ = new SettingColumns(table_, {{SettingChangeModel::Before}, {SettingChangeModel::After}});
+    wrapTexts(table_);
     empty_ = new EmptyNote(table_);
     connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
 
@@ -270,7 +272,7 @@ void HistoryWindow::compare()
     compared_ = sides;
     model_.setChanges(changes.value_or(SettingChanges()), chosen);
     model_.retranslate();
-    fitValues(*table_);
+    columns_->fit();
     empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
                  : changes                                 ? text("wb_review_none")
                  : why                                     ? sentences({text("wb_history_unreadable"), why()})

@@ -23,6 +23,7 @@ namespace workbench {
 class BackupList;
 class HostSession;
 class Settings;
+class SettingColumns;
 
 class HistoryWindow : public QDialog
 {
@@ -75,6 +76,7 @@ private:
     QComboBox* other_;
     SettingChangeModel model_;
     QTableView* table_;
+    SettingColumns* columns_ = nullptr;
     vlk::EmptyNote* empty_ = nullptr;
     QComboBox* keep_;
     QPushButton* note_ = nullptr;

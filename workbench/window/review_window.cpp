@@ -7,6 +7,7 @@
 #include "window/languages.h"
 #include "window/scrolling.h"
 #include "window/setting_change_model.h"
+#include "window/setting_columns.h"
 #include "window/settings.h"
 #include "window/trouble_text.h"
 
@@ -180,8 +181,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setIconSize({kMarkSize, kMarkSize});
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
-    table->horizontalHeader()->setSectionResizeMode(SettingChangeModel::Setting, QHeaderView::Stretch);
-    fitValues(*table);
+    new SettingColumns(table, {{SettingChangeModel::Before}, {SettingChangeModel::After}});
     wrapTexts(table);
     column->addWidget(table, 1);
 }

@@ -28,22 +28,6 @@ int heightOfRows(const QTableView& table)
     return table.verticalHeader()->defaultSectionSize() * (qMax(atLeast, table.model()->rowCount()) + 2);
 }
 
-void fitColumn(QTableView& table, int column, int most)
-{
-    constexpr int fewest = 9; // letters
-    const QAbstractItemView& view = table;
-    const int letter = table.fontMetrics().averageCharWidth();
-    const int wanted =
-        qMax(view.sizeHintForColumn(column), table.horizontalHeader()->sectionSizeHint(column));
-    table.setColumnWidth(column, qBound(fewest * letter, wanted, most * letter));
-}
-
-void fitValues(QTableView& table)
-{
-    for (const int column : {SettingChangeModel::Before, SettingChangeModel::After})
-        fitColumn(table, column, kMostOfValue);
-}
-
 SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent)
     : QAbstractTableModel(parent), heads_(std::move(heads)), canBeChosen_(canBeChosen)
 {

@@ -19,11 +19,6 @@ QString shownValue(const QString& value, const QString& words);
 
 // The height of all rows and the heads, however few there are.
 int heightOfRows(const QTableView& table);
-// The columns of values as wide as they need, within bounds; the rest is for the names of the settings.
-void fitValues(QTableView& table);
-// One column; `most` letters.
-void fitColumn(QTableView& table, int column, int most);
-constexpr int kMostOfValue = 24;
 
 class SettingChangeModel : public QAbstractTableModel
 {

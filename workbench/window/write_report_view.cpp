@@ -9,6 +9,7 @@
 #include "window/message_box.h"
 #include "window/scrolling.h"
 #include "window/setting_change_model.h"
+#include "window/setting_columns.h"
 #include "window/trouble_text.h"
 #include "window/write_report_text.h"
 
@@ -82,9 +83,12 @@ void WriteReportView::buildTable()
     elideInTheMiddle(table_, WriteReportModel::Setting);
     elideInTheMiddle(table_, WriteReportModel::Key);
     table_->setIconSize({kMarkSize, kMarkSize});
-    // The name takes what the others leave.
-    table_->horizontalHeader()->setSectionResizeMode(WriteReportModel::Setting, QHeaderView::Stretch);
-    fitColumns();
+    // A key is whole as long as it can be: people look for it in the file.
+    constexpr int mostOfKey = 34;
+    columns_ =
+        new SettingColumns(table_, {{.number = WriteReportModel::Key, .most = mostOfKey, .isLast = true},
+                                    {.number = WriteReportModel::Sent},
+                                    {.number = WriteReportModel::ReadBack}});
     wrapTexts(table_);
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
@@ -93,15 +97,6 @@ void WriteReportView::buildTable()
                         ? QString()
                         : text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
     });
-}
-
-// A key is whole: people look for it in the file.
-void WriteReportView::fitColumns()
-{
-    constexpr int mostOfKey = 34;
-    fitColumn(*table_, WriteReportModel::Key, mostOfKey);
-    for (const int column : {WriteReportModel::Sent, WriteReportModel::ReadBack})
-        fitColumn(*table_, column, kMostOfValue);
 }
 
 QPushButton* WriteReportView::addButton(const char* name, Sentence (WriteReportView::*act)())
@@ -134,7 +129,7 @@ void WriteReportView::setReport(const RoadReport& report, const QString& typed)
     report_ = report;
     typed_ = typed;
     model_.setReport(report);
-    fitColumns();
+    columns_->fit();
     texts_.apply();
     showSummary();
 }
@@ -170,7 +165,7 @@ void WriteReportView::retranslate()
 {
     texts_.apply();
     model_.retranslate();
-    fitColumns();
+    columns_->fit();
     showSummary();
 }
 

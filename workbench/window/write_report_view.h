@@ -20,6 +20,7 @@ class QToolButton;
 namespace workbench {
 
 class HostSession;
+class SettingColumns;
 
 class WriteReportView : public QWidget
 {
@@ -45,7 +46,6 @@ private:
     Sentence tryAgain();
     Sentence bringBack();
     void buildTable();
-    void fitColumns();
     void showSummary();
 
     HostSession& session_;
@@ -58,6 +58,7 @@ private:
     QLabel* time_;
     QToolButton* copy_;
     QTableView* table_;
+    SettingColumns* columns_ = nullptr;
     QLabel* backup_;
     QHBoxLayout* buttons_;
     QPushButton* again_;
