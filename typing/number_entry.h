@@ -1,7 +1,7 @@
 #pragma once
 
 // Typing a number into a spin box. Point and comma are both the decimal sign, in either language and also in
-// a paste, and never a group sign.
+// a paste, and never a group sign; blanks may stand between thousands.
 
 #include "typing/typed_entry.h"
 

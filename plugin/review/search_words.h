@@ -19,7 +19,8 @@ inline constexpr SearchWords kSearchWords[] = {
     {"TRACK/POINTS/maxSpeed", "rev_236"},   {"BLUETOOTH/GLOBAL/use", "rev_237"},
     {"BLUETOOTH/SENS/type", "rev_238"},     {"RS/OPTIONS/owner", "rev_302"},
     {"TRACK/POINTS/moveTimer", "rev_301"},  {"SYSTEM/TIME/zone", "rev_303"},
-    {"TRANS/SRV/objID", "rev_304"},
+    {"TRANS/SRV/objID", "rev_304"},         {"OUTPUTS/LINE/safeBlock", "rev_233"},
+    {"TRANS/AP/operator", "rev_234"},
 };
 
 } // namespace vlk::review

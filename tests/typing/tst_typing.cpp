@@ -87,6 +87,8 @@ private Q_SLOTS:
             .row("no figure before the sign", "en", 1, 0, 99, "<All>,5<Tab>", 20, 0.5, "")
             .row("two signs", "en", 1, 0, 9999, "<All>1.234,5<Tab>", 20, 20, "typed_number")
             .row("group of thousands", "en", 0, 0, 9999, "<All>1,234<Tab>", 20, 20, "typed_whole")
+            .row("blank between thousands", "ru", 1, 0, 9999, "<All>1 234,5<Tab>", 20, 1234.5, "")
+            .row("blank elsewhere", "ru", 0, 0, 9999, "<All>12 34<Tab>", 20, 20, "typed_number")
             .row("fraction in a whole one", "ru", 0, 0, 99, "<All>2,5<Tab>", 20, 20, "typed_whole")
             .row("too many decimals", "ru", 1, 0, 99, "<All>2,55<Tab>", 20, 20, "typed_decimals")
             .row("zeros behind", "ru", 1, 0, 99, "<All>2,500<Tab>", 20, 2.5, "")

@@ -77,6 +77,23 @@ private Q_SLOTS:
         }
     }
 
+    // A modal window that comes up over their owner leaves them usable, and gives them back when it goes.
+    void staysUsableUnderNewWindows()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.window.activateWindow();
+        QTRY_VERIFY(bench.window.isActiveWindow());
+        QTest::keyClick(&bench.window, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        QDialog report;
+        report.setModal(true);
+        report.show();
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &report);
+        report.hide();
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
+    }
+
     // Where there is no room beside a window its buttons stay free.
     void coversNoButtons()
     {
@@ -139,11 +156,13 @@ private Q_SLOTS:
         click(&bench.window, "checkBox_Silence");
         QTest::qWait(20);
         QVERIFY(silent());
-        // Another modal window comes over it, gets them by the key and goes.
+        // Another modal window comes over it, gets them, by the key with the keyboard, and goes.
         {
             QDialog above;
             above.setModal(true);
             above.show();
+            QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &above);
+            above.activateWindow();
             QTRY_VERIFY(above.isActiveWindow());
             QTest::keyClick(&above, Qt::Key_F9);
             QVERIFY(visibleFaults());

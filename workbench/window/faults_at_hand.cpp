@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QWindow>
 
 namespace workbench {
 
@@ -30,6 +31,14 @@ bool FaultsAtHand::eventFilter(QObject* object, QEvent* event)
     if (event->type() == QEvent::Hide && !event->spontaneous()) {
         if (window_ && object == window_->parentWidget())
             leave();
+        return false;
+    }
+    if (event->type() == QEvent::WindowBlocked) {
+        if (window_ && window_->isVisible() && object == window_->windowHandle()) {
+            if (!home_)
+                home_ = window_->parentWidget();
+            moveOn();
+        }
         return false;
     }
     if (event->type() != QEvent::KeyPress || !object->isWidgetType() || QApplication::activePopupWidget())
@@ -59,12 +68,18 @@ void FaultsAtHand::leave()
     if (!window_->isVisible())
         return;
     window_->hide();
-    // What was below the owner comes to the front.
+    moveOn();
+}
+
+void FaultsAtHand::moveOn()
+{
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (QWidget* modal = QApplication::activeModalWidget())
-                windowOf(modal)->comeUp(false);
+            QWidget* modal = QApplication::activeModalWidget();
+            QWidget* owner = modal ? modal : home_.data();
+            if (owner && owner->isVisible())
+                windowOf(owner)->comeUp(false);
         },
         Qt::QueuedConnection);
 }
@@ -91,6 +106,7 @@ void FaultsAtHand::toggle()
         return;
     }
     wanted_ = true;
+    home_.clear();
     windowOf(windowInFront(mainWindow_))->comeUp(true);
 }
 

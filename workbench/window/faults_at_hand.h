@@ -42,12 +42,15 @@ private:
     void offer();
     // Its owner goes.
     void leave();
+    // To the window that takes the mouse now: one that came up over its owner, or the one below that.
+    void moveOn();
     FaultsWindow* windowOf(QWidget* owner);
 
     tracker::SimulatedTracker& tracker_;
     QKeySequence key_;
     QWidget* mainWindow_;
     QPointer<FaultsWindow> window_;
+    QPointer<QWidget> home_;  // its owner before a modal window came up over that
     QPointer<QWidget> asker_; // the modal window from which the tracker was asked last
     QString trouble_;
     bool wanted_ = true; // the user has not closed it

@@ -121,6 +121,29 @@ constexpr ValueSeries kGeofences[] = {
     {"label_Geo_Value_%1", "tmizta_214", item("GeozoneInfo.0"), 10, Main::Geo},
 };
 
+// Stays open, and says why, when what was typed is not the mileage that would be sent.
+class MileageDialog : public QInputDialog
+{
+public:
+    using QInputDialog::QInputDialog;
+
+    void done(int result) override
+    {
+        auto* box = findChild<QAbstractSpinBox*>();
+        auto* entry = vlk::TypedEntry::of(box);
+        if (result == Accepted && entry) {
+            entry->finish();
+            if (const QString news = entry->takeNews(); !news.isEmpty()) {
+                setLabelText(VLK_Form_Tmi_F3_Tab_Main::tr("tmift1_061") + QLatin1Char('\n') + news);
+                box->setFocus();
+                box->selectAll();
+                return;
+            }
+        }
+        QInputDialog::done(result);
+    }
+};
+
 // The only field of a dialog leaves the keys that end typing to the dialog.
 class OnlyField : public QObject
 {
@@ -137,7 +160,6 @@ public:
         switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            vlk::TypedEntry::of(box_)->finish();
             dialog_.accept();
             return true;
         case Qt::Key_Escape:
@@ -262,7 +284,7 @@ void VLK_Form_Tmi_F3_Tab_Main::retranslate()
 void VLK_Form_Tmi_F3_Tab_Main::slot_pressed_Btn_SetRun()
 {
     constexpr double kHighest = 10'000'000;
-    QInputDialog dialog(this);
+    MileageDialog dialog(this);
     dialog.setInputMode(QInputDialog::DoubleInput);
     dialog.setWindowTitle(tr("tmift1_036"));
     dialog.setLabelText(tr("tmift1_061"));
