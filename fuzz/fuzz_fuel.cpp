@@ -44,7 +44,7 @@ void csv(const QByteArray& bytes)
     }
     // What a paste gives a cell can hold, so it all comes back.
     const PastedRows again = readFuelClipboard(fuelClipboard(kCaptions, pasted), kCaptions, fuelKind(0));
-    expect(again.rows == pasted && again.leftOut == 0);
+    expect(again.rows == pasted && again.leftOut.empty());
 }
 
 void document(const QByteArray& bytes)

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ranges>
 
 namespace vlk {
 
@@ -36,7 +35,8 @@ void FuelListModel::set(std::vector<FuelEvent> events, const std::vector<TankSen
     };
     const auto known = static_cast<int>(events_.size());
     const auto found = static_cast<int>(events.size());
-    const bool isLonger = known > 0 && std::ranges::equal(events_, events | std::views::take(known), isSame);
+    const bool isLonger =
+        known > 0 && known <= found && std::equal(events_.begin(), events_.end(), events.begin(), isSame);
     if (!isLonger)
         beginResetModel();
     else if (found > known)
