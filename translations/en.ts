@@ -1431,6 +1431,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
     <message id="cli_303"><translation>no record has coordinates for a track</translation></message>
     <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
+    <message id="cli_311"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken</translation></message>
+    <message id="cli_312"><translation>no reading of %1 is a level by its calibration table, all are above its scale: are volumes and readings interchanged?</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

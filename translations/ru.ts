@@ -1431,6 +1431,8 @@
     <message id="cli_302"><translation>это таблица %1, по --sensor применена к %2</translation></message>
     <message id="cli_303"><translation>ни в одной записи нет координат для трека</translation></message>
     <message id="cli_310"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные</translation></message>
+    <message id="cli_311"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края</translation></message>
+    <message id="cli_312"><translation>ни одно показание %1 не является уровнем по тарировочной таблице, все выше её шкалы: не перепутаны ли объёмы и показания?</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

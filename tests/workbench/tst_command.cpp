@@ -64,6 +64,10 @@ private Q_SLOTS:
         put("days/2.xml", "<TMI model=\"R-7106\">\r\n" + drained.mid(page(10)) + "</TMI>\r\n");
         const QByteArray rows = "<TABLE><DATA param_U='0' param_V='0'/><DATA param_U='400' param_V='4000'/>";
         put("tank.xml", "<FUEL type='D1'>" + rows + "</TABLE></FUEL>");
+        put("short.xml", QByteArray("<FUEL type='D1'>" + rows + "</TABLE></FUEL>")
+                             .replace("param_U='400' param_V='4000'", "param_U='260' param_V='2600'"));
+        put("turned.xml", QByteArray("<FUEL type='D1'>" + rows + "</TABLE></FUEL>")
+                              .replace("param_U='400' param_V='4000'", "param_U='4000' param_V='400'"));
         put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
         put("falls.xml", "<FUEL type='D1'>" + rows + "<DATA param_U='500' param_V='9'/></TABLE></FUEL>");
         put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
@@ -189,6 +193,13 @@ private Q_SLOTS:
             .row("a threshold below the noise", "fuel --fall 5 --table tank.xml noisy.xml", 0, "",
                  "noisy.xml: --fall of 5.0\u00a0l is below the noise of the level, 5.3\u00a0l: expect false "
                  "ones\n")
+            .row("readings beyond the table", "fuel --table short.xml week.xml", 0, "",
+                 "week.xml: 10 of 20 readings of LevelRS485_1 are beyond the ends of the calibration table: "
+                 "there the volume of the end is taken\n")
+            .row(
+                "volumes in place of readings", "fuel --table turned.xml week.xml", 2, "",
+                "week.xml: no reading of LevelRS485_1 is a level by its calibration table, all are above its "
+                "scale: are volumes and readings interchanged?\n")
             .row("a threshold above it", "fuel --fall 8 --table tank.xml noisy.xml", 0, "", "")
             .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
                  "r7106: --fall takes a number of litres above 0\n" + help)

@@ -24,6 +24,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <set>
@@ -176,7 +177,8 @@ public:
         vlk::RecordColumns columns(records_);
         const vlk::NumberColumn litres = vlk::tankLitres(columns, tanks_);
         const QString sensor = vlk::elementsOf(tanks_);
-        refuseWithoutLevels(litres, sensor);
+        refuseWithoutLevels(columns, litres, sensor);
+        warnOfEnds(files.front(), columns);
         const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
         warnOfNoise(files.front(), vlk::levelNoise(medians));
         for (const FuelEvent& event : vlk::findFuelEvents(columns, medians, {call_.rise, call_.fall})) {
@@ -272,13 +274,42 @@ private:
         }
     }
 
-    void refuseWithoutLevels(const vlk::NumberColumn& litres, const QString& sensor)
+    // Beyond the ends of its table a tank has the volume of the end, whatever becomes of the level.
+    void warnOfEnds(const File& file, vlk::RecordColumns& columns)
+    {
+        using Place = vlk::FuelCurve::Place;
+        for (const TankSensor& tank : tanks_) {
+            std::array<int, 4> counts{};
+            for (const double level : vlk::sensorLevels(columns, *tank.sensor))
+                ++counts[tank.curve ? tank.curve->read(level).place : Place::NoLevel];
+            const int beyond = counts[Place::Below] + counts[Place::Above];
+            if (beyond > 0)
+                outcome_.complaints +=
+                    complaint(file.name, text("cli_311")
+                                             .arg(beyond)
+                                             .arg(beyond + counts[Place::Within])
+                                             .arg(QLatin1String(tank.sensor->element().data())));
+        }
+    }
+
+    // Whether a sensor tells numbers there, be they errors by its table.
+    bool saysAnything(vlk::RecordColumns& columns, const Part& part) const
+    {
+        return std::ranges::any_of(tanks_, [&](const TankSensor& tank) {
+            const auto levels = std::span(vlk::sensorLevels(columns, *tank.sensor))
+                                    .subspan(part.begin, part.end - part.begin);
+            return tank.curve && std::ranges::any_of(levels, [](double level) { return level > 0; });
+        });
+    }
+
+    void refuseWithoutLevels(vlk::RecordColumns& columns, const vlk::NumberColumn& litres,
+                             const QString& sensor)
     {
         for (const Part& part : parts_) {
             const auto levels = std::span(litres).subspan(part.begin, part.end - part.begin);
             const bool isKnown = part.hadRecords && levels.empty();
             if (!isKnown && std::ranges::all_of(levels, [](double level) { return std::isnan(level); }))
-                refuse(part.file, text("cli_244").arg(sensor));
+                refuse(part.file, text(saysAnything(columns, part) ? "cli_312" : "cli_244").arg(sensor));
         }
     }
 
