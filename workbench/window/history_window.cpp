@@ -36,7 +36,7 @@ namespace workbench {
 namespace {
 
 constexpr QSize historySize(980, 500);
-constexpr int kListWidth = 330;
+constexpr int kListWidth = 380;
 
 // Numbers of backups, and what else can be compared with.
 enum Other { TheTracker = -1, AFile = -2 };
