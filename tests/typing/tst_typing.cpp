@@ -148,7 +148,7 @@ private Q_SLOTS:
             .row("other sign", 10, "12,5", "<All><Paste>", 12.5, "")
             .row("with its unit", 10, " 12,5 V\n", "<All><Paste>", 12.5, "")
             .row("minus sign", 10, QString::fromUtf8("\u22123"), "<All><Paste>", -3, "")
-            .row("groups", 10, "1 234", "<All><Paste>", 16, "typed_number")
+            .row("groups", 10, "1 234", "<All><Paste>", 1234, "")
             .row("a word", 10, "12 l", "<All><Paste>", 16, "typed_number")
             .row("hexadecimal", 16, "", "<All>1f", 31, "")
             .row("hexadecimal, too large", 16, "", "<All>100", 255, "typed_range")
