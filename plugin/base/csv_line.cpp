@@ -6,7 +6,7 @@ namespace vlk {
 
 QString csvCell(QString text, char separator)
 {
-    const bool isPlain = std::none_of(text.cbegin(), text.cend(), [separator](QChar sign) {
+    const bool isPlain = std::ranges::none_of(text, [separator](QChar sign) {
         return sign == QLatin1Char(separator) || sign == QLatin1Char('"') || sign < QLatin1Char(' ');
     });
     if (isPlain)

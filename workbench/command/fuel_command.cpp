@@ -279,9 +279,11 @@ private:
     {
         using Place = vlk::FuelCurve::Place;
         for (const TankSensor& tank : tanks_) {
+            if (!tank.curve)
+                continue;
             std::array<int, 4> counts{};
             for (const double level : vlk::sensorLevels(columns, *tank.sensor))
-                ++counts[tank.curve ? tank.curve->read(level).place : Place::NoLevel];
+                ++counts[tank.curve->read(level).place];
             const int beyond = counts[Place::Below] + counts[Place::Above];
             if (beyond > 0)
                 outcome_.complaints +=

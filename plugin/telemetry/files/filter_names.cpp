@@ -75,7 +75,7 @@ QString foldedForFilter(const QString& text)
 QString wordOfCode(ItemIndex item, quint32 code)
 {
     const Word* const word = wordOf(kItems[item].rule(), code);
-    return word != nullptr ? word->text() : QString();
+    return word ? word->text() : QString();
 }
 
 FilterNames::FilterNames()

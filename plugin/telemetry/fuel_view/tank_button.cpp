@@ -142,7 +142,7 @@ void TankButton::typeTable(const LevelSensor& sensor)
     FuelRows rows;
     const auto known =
         readCalibration(memory().table(vehicle_, QString::fromStdString(std::string(sensor.element()))));
-    if (const auto* const table = std::get_if<Calibration>(&known); table != nullptr && suits(*table, sensor))
+    if (const auto* const table = std::get_if<Calibration>(&known); table && suits(*table, sensor))
         rows = table->rows;
     TypedTable dialog(sensor, rows, vehicle_, this);
     if (dialog.exec() != QDialog::Accepted)
@@ -219,10 +219,10 @@ QString TankButton::news() const
 {
     if (!news_.key)
         return {};
-    if (news_.sensor != nullptr && news_.first.isEmpty())
-        return tr(news_.key).arg(levelSensorCaption(*news_.sensor));
-    return news_.sensor == nullptr ? QStringLiteral("%1: %2").arg(news_.first, tr(news_.key))
-                                   : tr(news_.key).arg(news_.first, levelSensorCaption(*news_.sensor));
+    if (!news_.sensor)
+        return QStringLiteral("%1: %2").arg(news_.first, tr(news_.key));
+    const QString caption = levelSensorCaption(*news_.sensor);
+    return news_.first.isEmpty() ? tr(news_.key).arg(caption) : tr(news_.key).arg(news_.first, caption);
 }
 
 void TankButton::resizeEvent(QResizeEvent* event)

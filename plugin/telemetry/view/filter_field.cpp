@@ -132,7 +132,7 @@ const FilterNames& FilterField::names()
     QStringList heads;
     for (int column = 0; column < model_->columnCount(); ++column) {
         const CsvColumn* const known = model_->columnAt(column);
-        if (known == nullptr)
+        if (!known)
             continue;
         heads << (model_->kind(column) == CellKind::time
                       ? headingText(*known)

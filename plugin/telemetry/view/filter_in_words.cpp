@@ -20,7 +20,7 @@ QString headingOf(const FilterColumn& column, const FilterNames& names, const Re
 {
     const auto* const item = std::get_if<ItemIndex>(&column);
     const auto isShown = [item](const CsvColumn& shown) {
-        return item != nullptr &&
+        return item &&
                (shown.item == *item || (*item == vlk::item("Time") && shown.item == vlk::item("Time.local")));
     };
     const auto known = std::ranges::find_if(csvColumns(), isShown);
@@ -42,7 +42,7 @@ QString valueOf(const FilterColumn& column, double number, const FilterNames& na
     if (holdsTimes(column))
         return momentText(static_cast<qint64>(number), utcOffset);
     const auto* const item = std::get_if<ItemIndex>(&column);
-    if (item != nullptr && number >= 0 && number <= kHighestCode && number == std::trunc(number)) {
+    if (item && number >= 0 && number <= kHighestCode && number == std::trunc(number)) {
         const QString word = *item == vlk::item("Code") ? requests::eventText(static_cast<int>(number))
                                                         : wordOfCode(*item, static_cast<quint32>(number));
         if (!word.isEmpty() && names.codesOf(column, word) == std::vector{CodeRange{number, number}})

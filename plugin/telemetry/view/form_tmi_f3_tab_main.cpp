@@ -121,58 +121,56 @@ constexpr ValueSeries kGeofences[] = {
     {"label_Geo_Value_%1", "tmizta_214", item("GeozoneInfo.0"), 10, Main::Geo},
 };
 
-// Stays open, and says why, when what was typed is not the mileage that would be sent.
+// Its only field leaves the keys that end typing to the dialog, which stays open, and says why, when what was
+// typed is not the mileage that would be sent.
 class MileageDialog : public QInputDialog
 {
 public:
     using QInputDialog::QInputDialog;
 
+    // The field, which there is once the dialog knows what it asks for.
+    void joinField()
+    {
+        box_ = findChild<QAbstractSpinBox*>();
+        // Both decimal signs.
+        vlk::joinFields(this);
+        box_->installEventFilter(this);
+    }
+
     void done(int result) override
     {
-        auto* box = findChild<QAbstractSpinBox*>();
-        auto* entry = vlk::TypedEntry::of(box);
-        if (result == Accepted && entry) {
+        if (result == Accepted) {
+            auto* entry = vlk::TypedEntry::of(box_);
             entry->finish();
             if (const QString news = entry->takeNews(); !news.isEmpty()) {
                 setLabelText(VLK_Form_Tmi_F3_Tab_Main::tr("tmift1_061") + QLatin1Char('\n') + news);
-                box->setFocus();
-                box->selectAll();
+                box_->setFocus();
+                box_->selectAll();
                 return;
             }
         }
         QInputDialog::done(result);
     }
-};
-
-// The only field of a dialog leaves the keys that end typing to the dialog.
-class OnlyField : public QObject
-{
-public:
-    explicit OnlyField(QInputDialog& dialog) : dialog_(dialog), box_(dialog.findChild<QAbstractSpinBox*>())
-    {
-        box_->installEventFilter(this);
-    }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::KeyPress)
-            return QObject::eventFilter(watched, event);
+        if (watched != box_ || event->type() != QEvent::KeyPress)
+            return QInputDialog::eventFilter(watched, event);
         switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            dialog_.accept();
+            accept();
             return true;
         case Qt::Key_Escape:
-            dialog_.reject();
+            reject();
             return true;
         default:
-            return QObject::eventFilter(watched, event);
+            return QInputDialog::eventFilter(watched, event);
         }
     }
 
 private:
-    QInputDialog& dialog_;
-    QAbstractSpinBox* box_;
+    QAbstractSpinBox* box_ = nullptr;
 };
 
 const QString kMileage = QStringLiteral("label_Navi_Way_Value");
@@ -292,9 +290,7 @@ void VLK_Form_Tmi_F3_Tab_Main::slot_pressed_Btn_SetRun()
     dialog.setDoubleDecimals(2);
     dialog.setDoubleValue(0);
     showMileageOnShow(dialog, findChild<QLabel*>(kMileage)->text());
-    // Both decimal signs.
-    vlk::joinFields(&dialog);
-    OnlyField keys(dialog);
+    dialog.joinField();
     if (dialog.exec() == QDialog::Accepted)
         Q_EMIT signal_Set_Run(static_cast<float>(dialog.doubleValue()));
 }
