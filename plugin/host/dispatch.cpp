@@ -274,6 +274,12 @@ constexpr Entry kTable[] = {
 
 static_assert(std::ranges::is_sorted(kTable, {}, &Entry::number));
 
+// A message without a row would never reach its window.
+static_assert(std::ranges::all_of(vlk::kMessages, [](const vlk::MessageInfo& info) {
+    return info.direction == vlk::Direction::ToHost ||
+           std::ranges::binary_search(kTable, info.number, {}, &Entry::number);
+}));
+
 } // namespace
 
 void VLK_Device_R7106::receive(std::uint32_t id, void* p1, void* p2)
