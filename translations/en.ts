@@ -1514,7 +1514,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_197"><translation>Apply chosen</translation></message>
     <message id="rev_198"><translation>%1 was not saved: %2. Choose another place or make room.</translation></message>
     <message id="rev_199"><translation>Save as preset</translation></message>
-    <message id="rev_200"><translation>Passwords or the object's name are among the chosen settings. A preset is for several trackers, so they are left out of it.</translation></message>
+    <message id="rev_200"><translation>Among the chosen settings are those of one tracker alone: passwords, the object's name, its ID or the addresses of Bluetooth sensors. A preset is for several trackers, so they are left out of it.</translation></message>
     <message id="rev_201"><translation>Include them: the file is then readable by you alone</translation></message>
     <message id="rev_202"><translation>Save…</translation></message>
     <message id="rev_203"><translation>Cancel</translation></message>

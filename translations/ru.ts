@@ -1514,7 +1514,7 @@
     <message id="rev_197"><translation>Применить отмеченные</translation></message>
     <message id="rev_198"><translation>Файл %1 не сохранён: %2. Выберите другое место или освободите диск.</translation></message>
     <message id="rev_199"><translation>Сохранение шаблона</translation></message>
-    <message id="rev_200"><translation>Среди отмеченных есть пароли или название объекта. Шаблон служит нескольким трекерам, поэтому они в него не входят.</translation></message>
+    <message id="rev_200"><translation>Среди отмеченных есть то, что принадлежит одному трекеру: пароли, название объекта, ID объекта или адреса датчиков Bluetooth. Шаблон служит нескольким трекерам, поэтому это в него не входит.</translation></message>
     <message id="rev_201"><translation>Включить их: такой файл сможете читать только вы</translation></message>
     <message id="rev_202"><translation>Сохранить…</translation></message>
     <message id="rev_203"><translation>Отмена</translation></message>

@@ -155,6 +155,13 @@ void EditHistory::settle()
     push(std::move(parts), words, isPlain);
 }
 
+void EditHistory::keepState()
+{
+    settle();
+    // The stack joins no step with one that ends at its clean state.
+    steps_.setClean();
+}
+
 void EditHistory::asOne(const Words& words, const std::function<void()>& change)
 {
     settle();

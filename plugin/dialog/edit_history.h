@@ -40,6 +40,9 @@ public:
     void begin();
     // What has been edited since the last step becomes one. Done by itself when an edit is over.
     void settle();
+    // What was written or saved is a state to come back to: an edit behind it is a step of its own, even
+    // where it changes the setting that was edited last.
+    void keepState();
     // Whatever it changes is one step.
     void asOne(const Words& words, const std::function<void()>& change);
 

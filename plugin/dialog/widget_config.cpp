@@ -50,12 +50,12 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
             &VLK_Widget_Config::writeQuickToDevice);
     connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, [this](const QString& path) {
         if (saveQuickToFile(path))
-            keeper_.saved();
+            fileSaved();
     });
     connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
     connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
     connect(fullWindow_, &VLK_Widget_Config_Full::quickRequested, this, &VLK_Widget_Config::switchToQuick);
-    connect(fullWindow_, &VLK_Widget_Config_Full::saved, &keeper_, &vlk::EditKeeper::saved);
+    connect(fullWindow_, &VLK_Widget_Config_Full::saved, this, &VLK_Widget_Config::fileSaved);
     connect(fullWindow_, &VLK_Widget_Config_Full::writeRequested, this, &VLK_Widget_Config::write);
     addReview();
     addDocuments();
@@ -331,10 +331,17 @@ void VLK_Widget_Config::write(const QString& path)
     file.open(QIODevice::ReadOnly);
     const QByteArray content = file.readAll();
     file.close();
+    history_.keepState();
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())
         keeper_.confirmed(content);
+}
+
+void VLK_Widget_Config::fileSaved()
+{
+    history_.keepState();
+    keeper_.saved();
 }
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)

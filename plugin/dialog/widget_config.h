@@ -79,6 +79,7 @@ private:
     void retranslateReview();
     void addKeeper();
     void write(const QString& path);
+    void fileSaved();
     // That F6 goes to.
     std::vector<QWidgetList> areas() const;
     void showPanel(vlk::ReviewBar::Panel panel);

@@ -9,6 +9,7 @@
 #include "xml/xml_document.h"
 #include "xml/xml_text.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -131,7 +132,9 @@ bool isPersonal(int key)
 {
     const FileKey& place = FileKeys::all()[key];
     const TableLayout& layout = FileKeys::all().layout(place.table);
-    return place.path == QLatin1String("TRANS/OBJECT/name") ||
+    static const QRegularExpression ownOfOne(
+        QStringLiteral("^(TRANS/OBJECT/name|TRANS/SRV\\d/objID|BLUETOOTH/SENS\\d/(macaddr|name))$"));
+    return ownOfOne.match(place.path).hasMatch() ||
            std::ranges::any_of(place.rows, [&](int row) { return layout.rows[row].base->secret; });
 }
 

@@ -11,7 +11,8 @@
 
 namespace vlk::review {
 
-// Secrets and the name of the object.
+// What belongs to one tracker or vehicle: secrets, the name of the object, its number on servers, and the
+// addresses of its wireless sensors.
 enum class Personal { leftOut, included };
 
 // Writes the keys as `from` has them into an empty document.

@@ -178,6 +178,18 @@ private Q_SLOTS:
         QVERIFY(child<QToolButton>("toolButton_Redo")->toolTip().endsWith("(Ctrl+Shift+Z, Ctrl+Y)"));
     }
 
+    // What was written is a state of its own, even if the edit behind it is of the same setting.
+    void undoStopsAtAWrite()
+    {
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        dialog_->deviceConnected();
+        type(port, "5555");
+        child<QPushButton>("pushButton_LoadToDevice")->click();
+        type(port, "6666");
+        child<QToolButton>("toolButton_Undo")->click();
+        QCOMPARE(port->value(), 5555);
+    }
+
     // In a line too: first what is being typed there, then the last step, wherever it was.
     void undoInALine()
     {

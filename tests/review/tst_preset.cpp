@@ -26,9 +26,11 @@ private Q_SLOTS:
                  "<TRANS page=\"TRANS\"><AP1 name=\"internet.mts.ru\"></AP1></TRANS>"
                  "<TRACK page=\"TRACK\"><POINTS angle=\"5\"></POINTS></TRACK>")
             .row("with what is personal", true,
-                 "<TRANS page=\"TRANS\"><OBJECT name=\"x\"></OBJECT><AP1 name=\"internet.mts.ru\" "
+                 "<TRANS page=\"TRANS\"><OBJECT name=\"x\"></OBJECT><SRV1 objID=\"17017\"></SRV1><AP1 "
+                 "name=\"internet.mts.ru\" "
                  "pass=\"mts\">"
-                 "</AP1></TRANS><TRACK page=\"TRACK\"><POINTS angle=\"5\"></POINTS></TRACK>");
+                 "</AP1></TRANS><TRACK page=\"TRACK\"><POINTS angle=\"5\"></POINTS></TRACK><BLUETOOTH "
+                 "page=\"BLUETOOTH\"><SENS1 macaddr=\"C4:64:E3:0B:52:10\"></SENS1></BLUETOOTH>");
     }
     void written()
     {
@@ -36,9 +38,11 @@ private Q_SLOTS:
         QFETCH(QByteArray, sections);
         vlk::Configuration configuration = factory();
         configuration.edit("TRANS/OBJECT/name", "x");
+        configuration.edit("TRANS/SRV1/objID", "17017");
         std::vector<int> keys;
-        for (const char* path : {"TRACK/POINTS/angle", "TRANS/AP1/name", "TRANS/AP1/pass",
-                                 "TRANS/OBJECT/name", "RS485/TPMS/type"})
+        for (const char* path :
+             {"TRACK/POINTS/angle", "TRANS/AP1/name", "TRANS/AP1/pass", "TRANS/OBJECT/name",
+              "RS485/TPMS/type", "TRANS/SRV1/objID", "BLUETOOTH/SENS1/macaddr"})
             keys.push_back(FileKeys::all().at(path));
         vlk::XmlDocument document(QString(), "DEVICE");
         writePreset(*document.root(), FileState::ofConfiguration(configuration), keys,
