@@ -276,6 +276,40 @@ private Q_SLOTS:
             QTRY_COMPARE(QApplication::focusWidget()->objectName(), focus);
     }
 
+    // The cell of a list of operators, so that typing over it changes what was looked for.
+    void findsACell_data()
+    {
+        DataTable<QString, bool, QString, int, int>({"path", "isQuick", "tree", "line", "column"})
+            .row("an operator in roaming", "TRANS/ROAMSIM1/opCode7", false, "treeWidget_List", 6, 1)
+            .row("a line below those in sight", "TRANS/AUTOAPN/name10", false, "treeWidget_ListApn", 9, 2)
+            .row("a login", "TRANS/AUTOAPN/login3", false, "treeWidget_ListApn", 2, 3)
+            .row("in quick setup", "TRANS/AUTOAPN/name2", true, "treeWidget_ListApn", 1, 2);
+    }
+    void findsACell()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isQuick);
+        QFETCH(QString, tree);
+        QFETCH(int, line);
+        QFETCH(int, column);
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", isQuick ? 0 : 1);
+        auto* window = child<QWidget>(isQuick ? "page_Light" : "page_Full");
+        auto* operators = window->findChild<QComboBox*>("Transfer_comboBox_GSM_Operator_1");
+        operators->setFocus();
+        QTest::keyClick(operators, Qt::Key_End);
+        QTest::keyClick(operators, Qt::Key_Up); // the automatic one
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), path);
+        QTest::keyClick(child<QLineEdit>("lineEdit_Find"), Qt::Key_Return);
+        const auto* found = window->findChild<QTreeWidget*>(tree);
+        QTRY_VERIFY(found->findChild<QWidget*>("frame_Found"));
+        QCOMPARE(found->currentIndex().row(), line);
+        QCOMPARE(found->currentIndex().column(), column);
+        const QRect cell = found->visualRect(found->currentIndex());
+        QVERIFY(found->viewport()->rect().contains(cell));
+        QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
+    }
+
     // Quick setup has fewer.
     void findsInQuickSetup()
     {
