@@ -1,8 +1,10 @@
 // Settings are found by words of either language.
 
 #include "document/configuration.h"
+#include "review/file_keys.h"
 #include "review/search.h"
 #include "review/search_words.h"
+#include "review/setting_words.h"
 #include "settings/all_settings.h"
 #include "support/data_table.h"
 
@@ -171,6 +173,26 @@ private Q_SLOTS:
             const vlk::TextsFrom texts(texts_[shown]);
             const std::vector<Hit> hits = Search(tables(), texts_[1 - shown]).find(query);
             QCOMPARE(hits.empty() ? QString() : told(hits.front()), first);
+        }
+    }
+
+    // Lists of settings show their words alone. Of the uses of a line or a sensor each has its own ones.
+    void noTwoAreCalledTheSame()
+    {
+        const auto& keys = vlk::review::FileKeys::all();
+        for (const vlk::TextSource& texts : texts_) {
+            const vlk::TextsFrom shown(texts);
+            QHash<QString, QString> paths;
+            QStringList same;
+            for (int key = 0; key < keys.count(); ++key) {
+                const vlk::TableLayout& layout = keys.layout(keys[key].table);
+                const auto words = vlk::review::wordsOf(layout, keys[key].rows.front());
+                const QString called = QStringList{words.page, words.group, words.caption}.join('|');
+                if (paths.contains(called))
+                    same << QString("%1 = %2: %3").arg(paths[called], keys[key].path, called);
+                paths[called] = keys[key].path;
+            }
+            QVERIFY2(same.isEmpty(), qPrintable(same.join('\n')));
         }
     }
 
