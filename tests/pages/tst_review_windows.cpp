@@ -240,6 +240,18 @@ private Q_SLOTS:
         QCOMPARE(find->text(), QString());
     }
 
+    // The keys of the window work in the field, too.
+    void windowsKeysWhileFinding()
+    {
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        QTest::keyClicks(find, "port");
+        QTest::keyClick(find, Qt::Key_D, Qt::ControlModifier);
+        QVERIFY(child<QWidget>("widget_Differences")->isVisible());
+        QTest::keyClick(find, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(find->text(), QString());
+    }
+
     // What is out of sight is led to as far as there is something to show, and told.
     void findsWhatIsNotOnShow_data()
     {
