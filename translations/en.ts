@@ -1261,7 +1261,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="find_008"><translation>ping, heartbeat, keep-alive</translation></message>
     <message id="find_009"><translation>sending interval, upload interval</translation></message>
     <message id="find_010"><translation>roaming</translation></message>
-    <message id="find_011"><translation>overspeed, speeding, speed limit</translation></message>
+    <message id="find_011"><translation>overspeed, speeding, speed limit, speed</translation></message>
     <message id="find_012"><translation>turn angle, cornering</translation></message>
     <message id="find_013"><translation>frequency of points, reporting interval</translation></message>
     <message id="find_014"><translation>parking period, parking interval</translation></message>

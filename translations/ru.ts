@@ -1261,7 +1261,7 @@
     <message id="find_008"><translation>пинг</translation></message>
     <message id="find_009"><translation>период отправки, интервал отправки, частота отправки</translation></message>
     <message id="find_010"><translation>роуминг</translation></message>
-    <message id="find_011"><translation>превышение скорости, ограничение скорости</translation></message>
+    <message id="find_011"><translation>превышение скорости, ограничение скорости, скорость</translation></message>
     <message id="find_012"><translation>угол поворота</translation></message>
     <message id="find_013"><translation>частота точек, частота записи, интервал</translation></message>
     <message id="find_014"><translation>интервал на стоянке, интервал стоянки</translation></message>

@@ -2,6 +2,7 @@
 
 #include "review/file_keys.h"
 #include "review/needed_setting.h"
+#include "review/setting_parts.h"
 #include "windows/way_to.h"
 
 #include <QCoreApplication>
@@ -116,7 +117,7 @@ PageSettings* SettingPlaces::pageOf(int table) const
     return found == pages.end() ? nullptr : *found;
 }
 
-// The quick window has some of the keys, in a table of its own.
+// The quick window has some of the keys, in a table of its own, and sets others that it does not show.
 std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
 {
     const review::FileKeys& keys = review::FileKeys::all();
@@ -127,7 +128,9 @@ std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
         if (keys.tableOf(page->values().table()) >= 0)
             continue;
         for (int quick = 0; key >= 0 && quick < page->values().count(); ++quick) {
-            if (page->values().row(quick).filePath == keys[key].path)
+            const Values& values = page->values();
+            if (values.row(quick).filePath == keys[key].path &&
+                review::canBeShown(values.setting(values.holder(quick))))
                 return {page, quick};
         }
     }

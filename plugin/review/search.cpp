@@ -64,13 +64,6 @@ Quality quality(const QString& text, const QString& word, int stem)
     return nowhere;
 }
 
-bool canBeShown(const Setting& setting)
-{
-    bool has = setting.shown() && setting.shown()->column > 0;
-    tables::eachWidget(setting, [&](auto...) { has = true; });
-    return has;
-}
-
 // What else the setting could be.
 QString choiceTexts(const Setting& setting)
 {
