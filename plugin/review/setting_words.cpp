@@ -41,9 +41,10 @@ bool isAlike(const TableLayout& layout, int row, int other)
 
 // Each use of a line and each type of sensor has an element of its own, with keys that others have too; one
 // heading stands above all. Which it is, "Frequency input"; the name of the element where no list has it.
+// Nothing for what all uses share.
 QString useText(const TableLayout& layout, int row)
 {
-    if (layout.rows[row].group < 0)
+    if (layout.rows[row].group < 0 || layout.rows[row].target != row)
         return {};
     const TableLayout::Element& element = layout.elements[layout.rows[row].group];
     const When& when = element.group->present;

@@ -188,7 +188,10 @@ private Q_SLOTS:
             QStringList same;
             for (int key = 0; key < keys.count(); ++key) {
                 const vlk::TableLayout& layout = keys.layout(keys[key].table);
-                const auto words = vlk::review::wordsOf(layout, keys[key].rows.front());
+                const int row = keys[key].rows.front();
+                if (layout.rows[row].target != row)
+                    continue; // a place of a value that has others
+                const auto words = vlk::review::wordsOf(layout, row);
                 const QString called = QStringList{words.page, words.group, words.caption}.join('|');
                 if (paths.contains(called))
                     same << QString("%1 = %2: %3").arg(paths[called], keys[key].path, called);
