@@ -9,6 +9,7 @@
 #include "settings/quick_settings.h"
 #include "windows/help_icon.h"
 #include "windows/server_test.h"
+#include "windows/way_to.h"
 
 #include <QEvent>
 
@@ -28,6 +29,7 @@ VLK_Form_Config_Light::VLK_Form_Config_Light(QWidget* parent)
 {
     ui_->setupUi(this);
     apnList_ = new VLK_FormAutoApnListNew(this);
+    vlk::leadsTo(apnList_, ui_->pushButton_AutoAPN_1);
     settings_.bind({this, apnList_});
     connectWidgets();
     showHelpIcons();

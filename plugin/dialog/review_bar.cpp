@@ -263,7 +263,8 @@ bool ReviewBar::eventFilter(QObject* watched, QEvent* event)
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool leaves = (key->matches(QKeySequence::Undo) && !find_->isUndoAvailable()) ||
                             (key->matches(QKeySequence::Redo) && !find_->isRedoAvailable());
-        event->setAccepted(!leaves);
+        if (leaves)
+            event->ignore();
         return leaves;
     }
     if (watched != find_ || event->type() != QEvent::KeyPress)

@@ -2,6 +2,7 @@
 
 #include "review/file_keys.h"
 #include "review/needed_setting.h"
+#include "review/setting_parts.h"
 #include "windows/way_to.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeWidget>
 
 #include <algorithm>
 
@@ -63,9 +65,22 @@ QString sentenceOf(const char* key)
     return QCoreApplication::translate("vlk", key);
 }
 
-void outline(QWidget* widget)
+// Makes the cell of a list that shows the setting the current one; null where it stands in none.
+QTreeWidget* chooseCell(QWidget* widget, const Setting& setting)
 {
-    auto* frame = new QFrame(widget->parentWidget());
+    auto* tree = qobject_cast<QTreeWidget*>(widget);
+    const Shown* shown = setting.shown();
+    if (!tree || !shown || shown->column <= 0)
+        return nullptr;
+    QTreeWidgetItem* line = tree->topLevelItem(shown->numbers.outer - 1);
+    tree->setCurrentItem(line, shown->column);
+    tree->scrollToItem(line);
+    return tree;
+}
+
+void outline(QWidget* parent, const QRect& place)
+{
+    auto* frame = new QFrame(parent);
     frame->setObjectName(QStringLiteral("frame_Found"));
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     frame->setFrameShape(QFrame::Box);
@@ -73,7 +88,8 @@ void outline(QWidget* widget)
     QPalette palette = frame->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Active, QPalette::Highlight));
     frame->setPalette(palette);
-    frame->setGeometry(widget->geometry().adjusted(-3, -3, 3, 3));
+    constexpr int margin = 3;
+    frame->setGeometry(place.adjusted(-margin, -margin, margin, margin));
     frame->show();
     frame->raise();
     QTimer::singleShot(kOutlineMs, frame, &QObject::deleteLater);
@@ -101,7 +117,7 @@ PageSettings* SettingPlaces::pageOf(int table) const
     return found == pages.end() ? nullptr : *found;
 }
 
-// The quick window has some of the keys, in a table of its own.
+// The quick window has some of the keys, in a table of its own, and sets others that it does not show.
 std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
 {
     const review::FileKeys& keys = review::FileKeys::all();
@@ -112,7 +128,9 @@ std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
         if (keys.tableOf(page->values().table()) >= 0)
             continue;
         for (int quick = 0; key >= 0 && quick < page->values().count(); ++quick) {
-            if (page->values().row(quick).filePath == keys[key].path)
+            const Values& values = page->values();
+            if (values.row(quick).filePath == keys[key].path &&
+                review::canBeShown(values.setting(values.holder(quick))))
                 return {page, quick};
         }
     }
@@ -164,12 +182,15 @@ void SettingPlaces::goTo(int table, int row, int part)
     scrollTo(widget, kMiddle);
     widget->setFocus(Qt::ShortcutFocusReason);
     // A page that is shown for the first time gets its layout behind this.
-    QTimer::singleShot(0, widget, [widget, told, binder = QPointer(&page->binder())] {
+    QTimer::singleShot(0, widget, [widget, told, own = own, binder = QPointer(&page->binder())] {
         if (!widget->isVisible() || !binder)
             return;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         scrollTo(widget, kMiddle);
-        outline(widget);
+        if (const QTreeWidget* list = chooseCell(widget, binder->values().setting(own)))
+            outline(list->viewport(), list->visualRect(list->currentIndex()));
+        else
+            outline(widget->parentWidget(), widget->geometry());
         if (!widget->isEnabled())
             leave(widget);
         const QString text = !told.isEmpty() || widget->isEnabled() ? told : binder->whyDisabled(widget);

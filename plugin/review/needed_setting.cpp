@@ -51,18 +51,6 @@ const When* unmetOf(const Values& values, int row)
     return nullptr;
 }
 
-// The codes "NS+|NB+" as a person reads them.
-QStringList textsOf(const Setting& setting, const char* codes)
-{
-    QStringList texts;
-    const auto* choice = setting.as<Choice>();
-    for (const Code& code : choice ? choice->codes : std::span<const Code>()) {
-        if (code.offered && isListed(codes, QLatin1String(code.code)))
-            texts << codeText(code);
-    }
-    return texts;
-}
-
 } // namespace
 
 std::optional<Needed> neededToShow(const Values& values, int row)
@@ -89,7 +77,7 @@ std::optional<Needed> neededToShow(const Values& values, int row)
     const bool isAnyOther = unmet->negated || unmet->same;
     const QStringList texts = isAnyOther           ? QStringList()
                               : setting.is<Flag>() ? QStringList(yesNo(true))
-                              : *codes             ? textsOf(setting, codes)
+                              : *codes             ? codeTexts(setting, codes)
                                                    : QStringList();
     if (!texts.isEmpty())
         text += QStringLiteral(": ") + texts.join(QStringLiteral(" / "));

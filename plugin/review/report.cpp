@@ -126,9 +126,25 @@ bool isWorkedOut(const Values& values, int row)
             std::ranges::any_of(rules, [row](const Sets* rule) { return rule->path.row == row; }));
 }
 
-// All lines of a title in the place of the first one. What is worked out is told beside others alone.
+// What has no title would seem to belong to the one above it: it goes below the title that repeats it, as
+// the check box of a group does.
+void nameUntitled(Lines& lines)
+{
+    for (Line& line : lines) {
+        const bool isTitle =
+            line.words.group.isEmpty() && std::ranges::any_of(lines, [&](const Line& other) {
+                return other.words.page == line.words.page && other.words.group == line.words.caption;
+            });
+        if (isTitle)
+            line.words.group = line.words.caption;
+    }
+}
+
+// All lines of a title in the place of the first one, those without a title first on their page. What is
+// worked out is told beside others alone.
 Lines byTitle(Lines lines)
 {
+    nameUntitled(lines);
     struct Title
     {
         int place;
@@ -136,8 +152,12 @@ Lines byTitle(Lines lines)
     };
     std::map<std::pair<QString, QString>, Title> titles;
     const auto titleOf = [&](const Line& line) -> Title& {
-        const int next = static_cast<int>(titles.size());
-        return titles.try_emplace({line.words.page, line.words.group}, Title{next}).first->second;
+        const auto known = [&](const QString& group) -> Title& {
+            const int next = static_cast<int>(titles.size());
+            return titles.try_emplace({line.words.page, group}, Title{next}).first->second;
+        };
+        known(QString());
+        return known(line.words.group);
     };
     for (const Line& line : lines)
         titleOf(line).isInFile |= !line.isWorkedOut;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 
 namespace vlk::review {
@@ -63,13 +64,6 @@ Quality quality(const QString& text, const QString& word, int stem)
     return nowhere;
 }
 
-bool canBeShown(const Setting& setting)
-{
-    bool has = setting.shown() && setting.shown()->column > 0;
-    tables::eachWidget(setting, [&](auto...) { has = true; });
-    return has;
-}
-
 // What else the setting could be.
 QString choiceTexts(const Setting& setting)
 {
@@ -86,6 +80,12 @@ QString choiceTexts(const Setting& setting)
 bool isSwitch(const Setting& setting)
 {
     return setting.is<Flag>() || partCount(setting) > 0;
+}
+
+// The names of a setting stand between commas.
+bool isOneOf(const QString& names, const QString& name)
+{
+    return names.splitRef(QLatin1String(", ")).contains(QStringRef(&name));
 }
 
 QString otherNames(QString path)
@@ -181,7 +181,7 @@ int Search::score(const Entry& entry, const Query& query) const
     constexpr int switchCaption = 25;
     constexpr int keyWeight = 10;
     constexpr int perQuality = 10;
-    constexpr int wholeCaption = 100;
+    constexpr int wholeName = 100;
     const Values& values = *tables_[entry.hit.table];
     const bool isSwitch = review::isSwitch(values.setting(entry.hit.row));
     int sum = 0;
@@ -204,8 +204,12 @@ int Search::score(const Entry& entry, const Query& query) const
             return 0;
         sum += best;
     }
-    for (int language = 0; query.words.size() > 1 && language < languages(); ++language)
-        sum += entry.words[language][caption] == query.text ? wholeCaption : 0;
+    const bool isOneWord = query.words.size() == 1; // a caption of one word has counted as a whole
+    const bool isCalledSo =
+        std::ranges::any_of(std::span(entry.words).first(languages()), [&](const Words& words) {
+            return (!isOneWord && words[caption] == query.text) || isOneOf(words[names], query.text);
+        });
+    sum += isCalledSo ? wholeName : 0;
     // What the file does not have as things stand comes behind its like.
     constexpr int absence = 15;
     const bool isThere = !values.row(entry.hit.row).base->stored || values.isWritten(entry.hit.row);

@@ -8,19 +8,44 @@ namespace vlk::review {
 struct SearchWords
 {
     const char* path; // in the file, without all digits: of all lines, sensors and servers alike
-    const char* text; // translation key
+    const char* text; // translation key of what it is called, by commas
 };
 
 inline constexpr SearchWords kSearchWords[] = {
-    {"TEMPSENS/SENS/min", "rev_230"},       {"TEMPSENS/SENS/max", "rev_239"},
-    {"SYSTEM/PWRSENS/alarmLvl", "rev_231"}, {"SYSTEM/PWRSENS/restoreLvl", "rev_231"},
-    {"SENSORS/IN/normState", "rev_232"},    {"OUTPUTS/LINE/mode", "rev_233"},
-    {"TRANS/AP/name", "rev_234"},           {"TRANS/SRV/addr", "rev_235"},
-    {"TRACK/POINTS/maxSpeed", "rev_236"},   {"BLUETOOTH/GLOBAL/use", "rev_237"},
-    {"BLUETOOTH/SENS/type", "rev_238"},     {"RS/OPTIONS/owner", "rev_302"},
-    {"TRACK/POINTS/moveTimer", "rev_301"},  {"SYSTEM/TIME/zone", "rev_303"},
-    {"TRANS/SRV/objID", "rev_304"},         {"OUTPUTS/LINE/safeBlock", "rev_233"},
-    {"TRANS/AP/operator", "rev_234"},
+    {"TRANS/OBJECT/name", "find_001"},
+    {"TRANS/SRV/addr", "find_002"},
+    {"TRANS/SRV/protocol", "find_003"},
+    {"TRANS/SRV/objID", "find_004"},
+    {"TRANS/AP/operator", "find_005"},
+    {"TRANS/AP/name", "find_006"},
+    {"TRANS/AP/pin", "find_007"},
+    {"TRANS/RULES/pingTimer", "find_008"},
+    {"TRANS/RULES/cnctTimer", "find_009"},
+    {"TRANS/ROAMSIM/mode", "find_010"},
+    {"TRACK/POINTS/maxSpeed", "find_011"},
+    {"TRACK/POINTS/angle", "find_012"},
+    {"TRACK/POINTS/moveTimer", "find_013"},
+    {"TRACK/POINTS/stopTimer", "find_014"},
+    {"TRACK/COORDAVER/mode", "find_015"},
+    {"SYSTEM/PASS/SMS", "find_016"},
+    {"SYSTEM/TIME/zone", "find_017"},
+    {"SYSTEM/TIME/DST", "find_018"},
+    {"SYSTEM/PWRSENS/alarmLvl", "find_019"},
+    {"SYSTEM/PWRSENS/restoreLvl", "find_020"},
+    {"RS/OPTIONS/owner", "find_021"},
+    {"RS/OPTIONS/boudrate", "find_022"},
+    {"RS/RFID/type", "find_023"},
+    {"RS/FS/address", "find_024"},
+    {"RS/FS/filterMode", "find_025"},
+    {"TEMPSENS/SENS/min", "find_026"},
+    {"TEMPSENS/SENS/max", "find_027"},
+    {"SENSORS/IN/normState", "find_028"},
+    {"SENSORS/IN/ign", "find_029"},
+    {"OUTPUTS/LINE/mode", "find_030"},
+    {"OUTPUTS/LINE/safeBlock", "find_030"},
+    {"BLUETOOTH/GLOBAL/use", "find_031"},
+    {"BLUETOOTH/SENS/type", "find_032"},
+    {"BLUETOOTH/SENS/macaddr", "find_033"},
 };
 
 } // namespace vlk::review

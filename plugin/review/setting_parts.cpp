@@ -11,6 +11,13 @@
 
 namespace vlk::review {
 
+bool canBeShown(const Setting& setting)
+{
+    bool has = setting.shown() && setting.shown()->column > 0;
+    tables::eachWidget(setting, [&](auto...) { has = true; });
+    return has;
+}
+
 int partCount(const Setting& setting)
 {
     if (const auto* mask = setting.as<Mask>())

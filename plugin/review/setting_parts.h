@@ -9,6 +9,8 @@
 
 namespace vlk::review {
 
+// Whether windows have a place for it: some settings are in the file alone.
+bool canBeShown(const Setting& setting);
 // 0 for a setting that is one whole.
 int partCount(const Setting& setting);
 // Whether windows show it.

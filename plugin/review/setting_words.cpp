@@ -29,6 +29,36 @@ QString captionOfUnshown(const TableLayout::Row& row)
     return found == std::end(kUnshown) ? row.key : inOneLine(translated(found->caption));
 }
 
+bool isAlike(const TableLayout& layout, int row, int other)
+{
+    const TableLayout::Row& own = layout.rows[row];
+    const TableLayout::Row& beside = layout.rows[other];
+    const RowBase& base = own.setting->base();
+    const RowBase& besideBase = beside.setting->base();
+    return beside.group != own.group && beside.key == own.key && besideBase.heading == base.heading &&
+           besideBase.numbers.outer == base.numbers.outer && besideBase.numbers.inner == base.numbers.inner;
+}
+
+// Each use of a line and each type of sensor has an element of its own, with keys that others have too; one
+// heading stands above all. Which it is, "Frequency input"; the name of the element where no list has it.
+// Nothing for what all uses share.
+QString useText(const TableLayout& layout, int row)
+{
+    if (layout.rows[row].group < 0 || layout.rows[row].target != row)
+        return {};
+    const TableLayout::Element& element = layout.elements[layout.rows[row].group];
+    const When& when = element.group->present;
+    if (when.row < 0 || when.negated || when.same)
+        return {};
+    for (int other = 0; other < static_cast<int>(layout.rows.size()); ++other) {
+        if (!isAlike(layout, row, other))
+            continue;
+        const QStringList uses = codeTexts(*layout.rows[when.row].setting, when.codes);
+        return uses.isEmpty() ? element.path.last() : uses.join(QStringLiteral(" / "));
+    }
+    return {};
+}
+
 } // namespace
 
 SettingWords wordsOf(const TableLayout& layout, int row)
@@ -41,6 +71,8 @@ SettingWords wordsOf(const TableLayout& layout, int row)
         words.caption = holder.shown() && (holder.shown()->widget || holder.is<Digits>())
                             ? words.group.section(QStringLiteral(" / "), -1)
                             : captionOfUnshown(place);
+    if (const QString use = useText(layout, row); !use.isEmpty())
+        words.caption += QStringLiteral(" (%1)").arg(use);
     return words;
 }
 

@@ -125,6 +125,17 @@ QString codeText(const Code& code)
     return code.second ? text.arg(translated(code.second)) : text;
 }
 
+QStringList codeTexts(const Setting& setting, const char* codes)
+{
+    QStringList texts;
+    const auto* choice = setting.as<Choice>();
+    for (const Code& code : choice ? choice->codes : std::span<const Code>()) {
+        if (code.offered && isListed(codes, QLatin1String(code.code)))
+            texts << codeText(code);
+    }
+    return texts;
+}
+
 QString valueText(const Setting& setting, const QString& value, const char* unit)
 {
     return std::visit([&](const auto& row) { return told(row, value, unit); }, setting.kind);

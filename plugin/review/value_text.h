@@ -14,6 +14,8 @@ QString captionText(const Setting& setting);
 QString headingText(const Setting& setting);
 // The text of an item in a list.
 QString codeText(const Code& code);
+// Of the codes "NS+|NB+" those that are offered.
+QStringList codeTexts(const Setting& setting, const char* codes);
 
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);

@@ -240,6 +240,18 @@ private Q_SLOTS:
         QCOMPARE(find->text(), QString());
     }
 
+    // The keys of the window work in the field, too.
+    void windowsKeysWhileFinding()
+    {
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        QTest::keyClicks(find, "port");
+        QTest::keyClick(find, Qt::Key_D, Qt::ControlModifier);
+        QVERIFY(child<QWidget>("widget_Differences")->isVisible());
+        QTest::keyClick(find, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(find->text(), QString());
+    }
+
     // What is out of sight is led to as far as there is something to show, and told.
     void findsWhatIsNotOnShow_data()
     {
@@ -276,16 +288,53 @@ private Q_SLOTS:
             QTRY_COMPARE(QApplication::focusWidget()->objectName(), focus);
     }
 
-    // Quick setup has fewer.
+    // The cell of a list of operators, so that typing over it changes what was looked for.
+    void findsACell_data()
+    {
+        DataTable<QString, bool, QString, int, int>({"path", "isQuick", "tree", "line", "column"})
+            .row("an operator in roaming", "TRANS/ROAMSIM1/opCode7", false, "treeWidget_List", 6, 1)
+            .row("a line below those in sight", "TRANS/AUTOAPN/name10", false, "treeWidget_ListApn", 9, 2)
+            .row("a login", "TRANS/AUTOAPN/login3", false, "treeWidget_ListApn", 2, 3)
+            .row("in quick setup", "TRANS/AUTOAPN/name2", true, "treeWidget_ListApn", 1, 2);
+    }
+    void findsACell()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, isQuick);
+        QFETCH(QString, tree);
+        QFETCH(int, line);
+        QFETCH(int, column);
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", isQuick ? 0 : 1);
+        auto* window = child<QWidget>(isQuick ? "page_Light" : "page_Full");
+        auto* operators = window->findChild<QComboBox*>("Transfer_comboBox_GSM_Operator_1");
+        operators->setFocus();
+        QTest::keyClick(operators, Qt::Key_End);
+        QTest::keyClick(operators, Qt::Key_Up); // the automatic one
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), path);
+        QTest::keyClick(child<QLineEdit>("lineEdit_Find"), Qt::Key_Return);
+        const auto* found = window->findChild<QTreeWidget*>(tree);
+        QTRY_VERIFY(found->findChild<QWidget*>("frame_Found"));
+        QCOMPARE(found->currentIndex().row(), line);
+        QCOMPARE(found->currentIndex().column(), column);
+        const QRect cell = found->visualRect(found->currentIndex());
+        QVERIFY(found->viewport()->rect().contains(cell));
+        QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
+    }
+
+    // Quick setup has fewer, and sets some without showing them.
     void findsInQuickSetup()
     {
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
-        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
-        auto* find = child<QLineEdit>("lineEdit_Find");
-        QTest::keyClicks(find, "TRACK/COORDFLT/maxHDOP");
-        QVERIFY(child<QListWidget>("listWidget_Found")->item(0)->text().endsWith("(rev_259)"));
-        QTest::keyClick(find, Qt::Key_Return);
-        QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
+        for (const char* path : {"TRACK/COORDFLT/maxHDOP", "RS485/OPTIONS/boudrate"}) {
+            QToolTip::hideText();
+            QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+            auto* find = child<QLineEdit>("lineEdit_Find");
+            QTest::keyClicks(find, path);
+            QVERIFY2(child<QListWidget>("listWidget_Found")->item(0)->text().endsWith("(rev_259)"), path);
+            QTest::keyClick(find, Qt::Key_Return);
+            QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
+        }
     }
 
     // What the panels list is what the command line tells of the same files.

@@ -49,6 +49,12 @@ private Q_SLOTS:
         const int backup = html.indexOf("<h3>cfgt1_061 / cfgt1_011 2</h3>");
         QVERIFY(html.indexOf("cfgt1_023</td><td>wrd_002", backup) - backup < 120);
         QVERIFY(!html.contains("cfgt6_075")); // which no file knows
+        // No setting without a title stands below that of others: what a title repeats is its first line, the
+        // rest comes first on the page.
+        QVERIFY(html.contains(
+            QRegularExpression("<h3>cfgt1_059</h3>\\s*<table[^>]*>\\s*<tr><td[^>]*>cfgt1_059<")));
+        const QString track = html.mid(html.indexOf("<h2>cfgt3_001</h2>"));
+        QVERIFY(track.indexOf("cfgt3_025</td>") < track.indexOf("<h3>"));
         // Places of a list that hold nothing are named once.
         QCOMPARE(titles.count("rev_296"), 1);
         QVERIFY(html.contains("cfgt1_122: 9; cfgt1_122: 10") && !html.contains("/ cfgt1_122: 9<"));

@@ -1,8 +1,10 @@
 // Settings are found by words of either language.
 
 #include "document/configuration.h"
+#include "review/file_keys.h"
 #include "review/search.h"
 #include "review/search_words.h"
+#include "review/setting_words.h"
 #include "settings/all_settings.h"
 #include "support/data_table.h"
 
@@ -111,6 +113,92 @@ private Q_SLOTS:
         search.retranslate();
         QVERIFY(search.find("порт").empty());
         QVERIFY(!search.find("Main port").empty());
+    }
+
+    // What installers ask for in their own words, and the setting that they mean.
+    void inWordsOfInstallers_data()
+    {
+        DataTable<QString>({"first"})
+            .row("485 адрес", "RS485/FS1/address")
+            .row("адрес дут", "RS485/FS1/address")
+            .row("датчик топлива", "RS485/OPTIONS/owner1")
+            .row("скорость порта", "RS485/OPTIONS/boudrate")
+            .row("апн", "TRANS/AP1/name")
+            .row("пин код", "TRANS/AP1/pin")
+            .row("егтс", "TRANS/SRV1/protocol")
+            .row("порт сервера", "TRANS/SRV1/port")
+            .row("резервный сервер", "TRANS/SRV2/addr")
+            .row("период отправки", "TRANS/RULES/cnctTimer")
+            .row("пинг", "TRANS/RULES/pingTimer")
+            .row("роуминг", "TRANS/ROAMSIM1/mode")
+            .row("скорость", "TRACK/POINTS/maxSpeed")
+            .row("угол поворота", "TRACK/POINTS/angle")
+            .row("ГОСНОМЕР", "TRANS/OBJECT/name")
+            .row("зажигание", "SENSORS/IN1/ign")
+            .row("датчик удара", "ACCEL/SENSORS/sh1")
+            .row("пароль смс", "SYSTEM/PASS/SMS")
+            .row("мак адрес", "BLUETOOTH/SENS1/macaddr")
+            .row("низкое напряжение", "SYSTEM/PWRSENS/alarmLvl")
+            .row("рфид", "RS485/RFID/type")
+            .row("сглаживание топлива", "RS485/FS1/filterMode")
+            .row("глушение", "OUTPUTS/LINE1/mode")
+            .row("485 address", "RS485/FS1/address")
+            .row("fuel sensor address", "RS485/FS1/address")
+            .row("fuel sensor", "RS485/OPTIONS/owner1")
+            .row("port speed", "RS485/OPTIONS/boudrate")
+            .row("apn", "TRANS/AP1/name")
+            .row("pin code", "TRANS/AP1/pin")
+            .row("server ip", "TRANS/SRV1/addr")
+            .row("backup server", "TRANS/SRV2/addr")
+            .row("heartbeat", "TRANS/RULES/pingTimer")
+            .row("upload interval", "TRANS/RULES/cnctTimer")
+            .row("roaming", "TRANS/ROAMSIM1/mode")
+            .row("speeding", "TRACK/POINTS/maxSpeed")
+            .row("speed", "TRACK/POINTS/maxSpeed")
+            .row("turn angle", "TRACK/POINTS/angle")
+            .row("parking interval", "TRACK/POINTS/stopTimer")
+            .row("Number Plate", "TRANS/OBJECT/name")
+            .row("ignition", "SENSORS/IN1/ign")
+            .row("panic button", "SENSORS/IN1/normState")
+            .row("tilt sensor", "ACCEL/SENSORS/sh4")
+            .row("sms password", "SYSTEM/PASS/SMS")
+            .row("daylight saving", "SYSTEM/TIME/DST")
+            .row("low voltage", "SYSTEM/PWRSENS/alarmLvl")
+            .row("card reader", "RS485/RFID/type");
+    }
+    void inWordsOfInstallers()
+    {
+        QFETCH(QString, first);
+        const QString query = QString::fromUtf8(QTest::currentDataTag());
+        // The language on show does not count.
+        for (const std::size_t shown : {0, 1}) {
+            const vlk::TextsFrom texts(texts_[shown]);
+            const std::vector<Hit> hits = Search(tables(), texts_[1 - shown]).find(query);
+            QCOMPARE(hits.empty() ? QString() : told(hits.front()), first);
+        }
+    }
+
+    // Lists of settings show their words alone. Of the uses of a line or a sensor each has its own ones.
+    void noTwoAreCalledTheSame()
+    {
+        const auto& keys = vlk::review::FileKeys::all();
+        for (const vlk::TextSource& texts : texts_) {
+            const vlk::TextsFrom shown(texts);
+            QHash<QString, QString> paths;
+            QStringList same;
+            for (int key = 0; key < keys.count(); ++key) {
+                const vlk::TableLayout& layout = keys.layout(keys[key].table);
+                const int row = keys[key].rows.front();
+                if (layout.rows[row].target != row)
+                    continue; // a place of a value that has others
+                const auto words = vlk::review::wordsOf(layout, row);
+                const QString called = QStringList{words.page, words.group, words.caption}.join('|');
+                if (paths.contains(called))
+                    same << QString("%1 = %2: %3").arg(paths[called], keys[key].path, called);
+                paths[called] = keys[key].path;
+            }
+            QVERIFY2(same.isEmpty(), qPrintable(same.join('\n')));
+        }
     }
 
     // All of them where nothing is asked, and each once.

@@ -40,8 +40,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         static const QRegularExpression key(QStringLiteral(
-            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rec|rev|adv|cli|wb)_["
-            "a-z0-9_]+)[\"<]"));
+            "[\">]((?:cfgt\\d+f?|cfgwl|cfgwnd|tmizta|tmiw|tmiex|tmift\\d|wrd|abbr|typed|rec|rev|adv|"
+            "find|cli|wb)_[a-z0-9_]+)[\"<]"));
         for (const char* folder : {"/plugin", "/typing", "/workbench"}) {
             QDirIterator files(QStringLiteral(VLK_SOURCE) + QLatin1String(folder), {"*.cpp", "*.h", "*.ui"},
                                QDir::Files, QDirIterator::Subdirectories);

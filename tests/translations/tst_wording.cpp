@@ -161,8 +161,7 @@ private Q_SLOTS:
         const Texts& texts = all_[language];
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
             // By what people call a setting it is found; no window shows those words.
-            const bool isSearchWord = text.key().startsWith(QLatin1String("rev_23")) ||
-                                      text.key().startsWith(QLatin1String("rev_30"));
+            const bool isSearchWord = text.key().startsWith(QLatin1String("find_"));
             const bool excepted =
                 isSearchWord || (!exceptKeys.isEmpty() && text.key().startsWith(exceptKeys));
             const QRegularExpressionMatch match = rule.match(*text);
