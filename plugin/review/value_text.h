@@ -15,6 +15,9 @@ QString headingText(const Setting& setting);
 // The text of an item in a list.
 QString codeText(const Code& code);
 
+// In place of a secret.
+inline constexpr const char* kSecretDots = "•••";
+
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);
 // The text of another value of that setting, as a file holds it.
