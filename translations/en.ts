@@ -25,7 +25,7 @@
     <message id="abbr_048"><translation>OR</translation></message>
     <message id="abbr_049"><translation>AND</translation></message>
     <message id="abbr_050"><translation>dBm</translation></message>
-    <message id="adv_001"><translation>Server %1 is in use, but its address and port are not filled in yet.</translation></message>
+    <message id="adv_001"><translation>Server %1 has no address and no port yet: nothing is sent to it.</translation></message>
     <message id="adv_002"><translation>Server %1 is in use, but has no address.</translation></message>
     <message id="adv_003"><translation>Server %1 is in use, but its port is 0.</translation></message>
     <message id="adv_004"><translation>Server %1 cannot be reached: %2 is neither an IP address nor a host name.</translation></message>

@@ -25,7 +25,7 @@
     <message id="abbr_048"><translation>ИЛИ</translation></message>
     <message id="abbr_049"><translation>И</translation></message>
     <message id="abbr_050"><translation>дБм</translation></message>
-    <message id="adv_001"><translation>Сервер %1 используется, но его адрес и порт ещё не указаны.</translation></message>
+    <message id="adv_001"><translation>У сервера %1 ещё нет ни адреса, ни порта: данные ему не передаются.</translation></message>
     <message id="adv_002"><translation>Сервер %1 используется, но его адрес не указан.</translation></message>
     <message id="adv_003"><translation>Сервер %1 используется, но его порт равен 0.</translation></message>
     <message id="adv_004"><translation>Связи с сервером %1 не будет: %2 — не IP-адрес и не имя узла.</translation></message>

@@ -372,6 +372,8 @@ private Q_SLOTS:
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",
                  "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 set --help\n", a)
+            .row("no setting in front of dashes", "set -- TRACK/POINTS/maxSpeed=80 a.xml", 2, "",
+                 "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 set --help\n", a)
             .row("two values", "set TRACK/POINTS/maxSpeed=80 TRACK/POINTS/maxSpeed=81 a.xml", 2, "",
                  "r7106: TRACK/POINTS/maxSpeed stands twice\nHelp: r7106 set --help\n", a)
             .row("a preset", "apply good.xml a.xml fleet/1.xml", 0,

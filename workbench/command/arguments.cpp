@@ -219,7 +219,7 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         files = files.mid(static_cast<int>(settings));
         if (!plain && !fileTaken.isNull())
             return text("cli_301").arg(fileTaken);
-        if (call->settings.isEmpty() && files.size() > 1)
+        if (!plain && call->settings.isEmpty() && files.size() > 1)
             return text("cli_300").arg(inOneLine(files.front()));
         if (call->settings.isEmpty() || files.isEmpty())
             return text("cli_021");
