@@ -2694,6 +2694,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_do"><translation>Try again, or bring the backup back.</translation></message>
     <message id="wb_report_earlier"><translation>An earlier write was not confirmed and may have been taken. Try again, or bring back No.&#160;%1.</translation></message>
+    <message id="wb_report_else"><translation>If that does not help, bring the backup back.</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>

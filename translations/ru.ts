@@ -2694,6 +2694,7 @@
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_do"><translation>Повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_earlier"><translation>Прежняя запись не подтверждена и могла быть принята. Повторите запись или верните №&#160;%1.</translation></message>
+    <message id="wb_report_else"><translation>Если не поможет, верните резервную копию.</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>

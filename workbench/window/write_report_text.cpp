@@ -98,7 +98,7 @@ QString summary(const RoadReport& report, const QString& typed)
     if (report.outcome != Outcome::confirmed && report.request.origin == WriteRequest::Origin::backup)
         lines.append(text("wb_report_of_backup").arg(report.request.name));
     if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
-        lines.append(text("wb_report_do"));
+        lines.append(text(lines.first().endsWith(text("wb_do_cable")) ? "wb_report_else" : "wb_report_do"));
     if (report.earlier > 0)
         lines.append(text("wb_report_earlier").arg(number(report.earlier)));
     if (report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken) {
