@@ -543,10 +543,11 @@ private Q_SLOTS:
             QCOMPARE(QProcess::execute("sh", {"-c", QString(VLK_COMMAND " %1 >/dev/full 2>&1").arg(call)}),
                      2);
         QProcess shell;
-        shell.start("sh", {"-c", VLK_COMMAND " --language en --help 2>&1 >&-"});
+        shell.start("sh", {"-c", VLK_COMMAND " --language ru --help 2>&1 >&-; " VLK_COMMAND
+                                             " --language ru info - 2>&1 <&-"});
         QVERIFY(shell.waitForFinished());
         QCOMPARE(shell.readAllStandardOutput(),
-                 QByteArray("standard output: cannot be written: it is closed\n"));
+                 QByteArray("стандартный вывод: не записывается: закрыт\n-: не читается: закрыт\n"));
     }
 
     // What the shell and `man` are told of it.

@@ -95,7 +95,10 @@ bool Output::close()
     }
     if (fault_.isEmpty())
         return true;
-    writeError(complaint(isFile() ? name_ : text("cli_320"), complaint_.arg(systemReason(fault_))));
+    // The name of a file is bytes, that of standard output is a text.
+    const QString name = isFile() ? inOneLine(name_) : text("cli_320");
+    const QString reason = complaint_.arg(systemReason(fault_));
+    writeError((name + QStringLiteral(": ") + reason + QLatin1Char('\n')).toUtf8());
     return false;
 }
 
