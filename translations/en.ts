@@ -25,7 +25,7 @@
     <message id="abbr_048"><translation>OR</translation></message>
     <message id="abbr_049"><translation>AND</translation></message>
     <message id="abbr_050"><translation>dBm</translation></message>
-    <message id="adv_001"><translation>Server %1 is in use, but its address and port are not filled in yet.</translation></message>
+    <message id="adv_001"><translation>Server %1 has no address and no port yet: nothing is sent to it.</translation></message>
     <message id="adv_002"><translation>Server %1 is in use, but has no address.</translation></message>
     <message id="adv_003"><translation>Server %1 is in use, but its port is 0.</translation></message>
     <message id="adv_004"><translation>Server %1 cannot be reached: %2 is neither an IP address nor a host name.</translation></message>
@@ -1148,7 +1148,7 @@
     <message id="cli_020"><translation>%1 is not PATH=VALUE</translation></message>
     <message id="cli_021"><translation>settings and files are needed: PATH=VALUE… FILE…</translation></message>
     <message id="cli_022"><translation>two files are needed, or --defaults and one file</translation></message>
-    <message id="cli_023"><translation>Help: r7106 --help
+    <message id="cli_023"><translation>Help: %1 --help
 </translation></message>
     <message id="cli_024"><translation>a report ends in .pdf or .html</translation></message>
     <message id="cli_025"><translation>what makes PDF could not be loaded</translation></message>
@@ -1466,6 +1466,24 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
     <message id="cli_311"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken</translation></message>
     <message id="cli_312"><translation>no reading of %1 is a level by its calibration table, all are above its scale: are volumes and readings interchanged?</translation></message>
+    <message id="cli_313"><translation>this form has no place for: %1</translation></message>
+    <message id="cli_314"><translation>left out, the heading is that of another file: %1</translation></message>
+    <message id="cli_315"><translation>manufacturer</translation></message>
+    <message id="cli_316"><translation>time zone</translation></message>
+    <message id="cli_317"><translation>names of lines and sensors</translation></message>
+    <message id="cli_318"><translation>types of user parameters</translation></message>
+    <message id="cli_319"><translation>number of the tracker</translation></message>
+    <message id="cli_320"><translation>standard output</translation></message>
+    <message id="cli_321"><translation>Latin and Cyrillic letters, digits and usual signs, in one line</translation></message>
+    <message id="cli_322"><translation>no code of a sign, such as &amp;lt; or _33_, which a load replaces by the sign</translation></message>
+    <message id="cli_323"><translation>up to 6 characters, none of them a blank</translation></message>
+    <message id="cli_324"><translation>digits, + in front of them if need be, 16 characters at most</translation></message>
+    <message id="cli_325"><translation>- stands twice: standard input is read only once</translation></message>
+    <message id="cli_326"><translation>••• is in place of a password, a PIN code or a key: --secrets shows it</translation></message>
+    <message id="cli_327"><translation>up to 8 digits</translation></message>
+    <message id="cli_328"><translation>model</translation></message>
+    <message id="cli_329"><translation>left out unless --tracker names it: %1</translation></message>
+    <message id="cli_330"><translation>it is closed</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -2695,6 +2713,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_do"><translation>Try again, or bring the backup back.</translation></message>
     <message id="wb_report_earlier"><translation>An earlier write was not confirmed and may have been taken. Try again, or bring back No.&#160;%1.</translation></message>
+    <message id="wb_report_else"><translation>If that does not help, bring the backup back.</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>

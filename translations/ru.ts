@@ -25,7 +25,7 @@
     <message id="abbr_048"><translation>ИЛИ</translation></message>
     <message id="abbr_049"><translation>И</translation></message>
     <message id="abbr_050"><translation>дБм</translation></message>
-    <message id="adv_001"><translation>Сервер %1 используется, но его адрес и порт ещё не указаны.</translation></message>
+    <message id="adv_001"><translation>У сервера %1 ещё нет ни адреса, ни порта: данные ему не передаются.</translation></message>
     <message id="adv_002"><translation>Сервер %1 используется, но его адрес не указан.</translation></message>
     <message id="adv_003"><translation>Сервер %1 используется, но его порт равен 0.</translation></message>
     <message id="adv_004"><translation>Связи с сервером %1 не будет: %2 — не IP-адрес и не имя узла.</translation></message>
@@ -1148,7 +1148,7 @@
     <message id="cli_020"><translation>%1 не имеет вида ПУТЬ=ЗНАЧЕНИЕ</translation></message>
     <message id="cli_021"><translation>нужны параметры и файлы: ПУТЬ=ЗНАЧЕНИЕ… ФАЙЛ…</translation></message>
     <message id="cli_022"><translation>нужны два файла или --defaults и один файл</translation></message>
-    <message id="cli_023"><translation>Справка: r7106 --help
+    <message id="cli_023"><translation>Справка: %1 --help
 </translation></message>
     <message id="cli_024"><translation>отчёт оканчивается на .pdf или .html</translation></message>
     <message id="cli_025"><translation>не загрузилось то, что делает PDF</translation></message>
@@ -1466,6 +1466,24 @@
     <message id="cli_310"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные</translation></message>
     <message id="cli_311"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края</translation></message>
     <message id="cli_312"><translation>ни одно показание %1 не является уровнем по тарировочной таблице, все выше её шкалы: не перепутаны ли объёмы и показания?</translation></message>
+    <message id="cli_313"><translation>эта форма не вмещает: %1</translation></message>
+    <message id="cli_314"><translation>не попало в файл, заголовок взят из другого: %1</translation></message>
+    <message id="cli_315"><translation>производитель</translation></message>
+    <message id="cli_316"><translation>часовой пояс</translation></message>
+    <message id="cli_317"><translation>названия линий и датчиков</translation></message>
+    <message id="cli_318"><translation>типы параметров пользователя</translation></message>
+    <message id="cli_319"><translation>номер трекера</translation></message>
+    <message id="cli_320"><translation>стандартный вывод</translation></message>
+    <message id="cli_321"><translation>латинские и русские буквы, цифры и обычные знаки в одну строку</translation></message>
+    <message id="cli_322"><translation>без кодов знаков, таких как &amp;lt; или _33_: при загрузке вместо них встанут сами знаки</translation></message>
+    <message id="cli_323"><translation>не больше 6 знаков, без пробелов</translation></message>
+    <message id="cli_324"><translation>цифры, перед ними может стоять +, всего не больше 16 знаков</translation></message>
+    <message id="cli_325"><translation>- стоит дважды: стандартный ввод читается один раз</translation></message>
+    <message id="cli_326"><translation>••• стоит вместо пароля, PIN-кода или ключа: --secrets покажет его</translation></message>
+    <message id="cli_327"><translation>не больше 8 цифр</translation></message>
+    <message id="cli_328"><translation>модель</translation></message>
+    <message id="cli_329"><translation>не попало в файл, без --tracker туда не попадёт: %1</translation></message>
+    <message id="cli_330"><translation>закрыт</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -2695,6 +2713,7 @@
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_do"><translation>Повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_earlier"><translation>Прежняя запись не подтверждена и могла быть принята. Повторите запись или верните №&#160;%1.</translation></message>
+    <message id="wb_report_else"><translation>Если не поможет, верните резервную копию.</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>

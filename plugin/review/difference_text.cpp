@@ -12,8 +12,6 @@ namespace vlk::review {
 
 namespace {
 
-constexpr const char* kMask = "•••";
-
 const char* noteKey(const Difference& difference)
 {
     if (difference.before.isNull())
@@ -101,7 +99,7 @@ void mask(DifferenceText* text)
 {
     for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
         if (!shown->isEmpty())
-            *shown = QString::fromUtf8(kMask);
+            *shown = QString::fromUtf8(kSecretDots);
     }
 }
 

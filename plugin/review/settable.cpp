@@ -74,6 +74,14 @@ bool isTakenWhole(const char* mask, const QString& text)
     return places(maskedText(form, text)) == places(text);
 }
 
+// No field of a window holds a line break or another control character, and no file brings one back.
+bool isOneLine(const QString& text)
+{
+    return std::ranges::none_of(text, [](QChar sign) {
+        return sign.category() == QChar::Other_Control && sign != QLatin1Char('\t');
+    });
+}
+
 bool isProper(const Text& row, const QString& text)
 {
     if (text.isEmpty())
@@ -94,7 +102,7 @@ bool isProper(const Text& row, const QString& text)
 bool isSettable(const Setting& setting, const QString& text)
 {
     // What a file would not bring back is none either.
-    return sectionText(text) == text && decodeValue(text) == text &&
+    return isOneLine(text) && sectionText(text) == text && decodeValue(text) == text &&
            std::visit([&](const auto& row) { return isProper(row, text); }, setting.kind);
 }
 

@@ -149,7 +149,7 @@ QString valueText(const Values& values, int row)
 QString valueText(const Values& values, int row, const QString& value)
 {
     if (values.row(row).base->secret && !value.isEmpty())
-        return QStringLiteral("•••");
+        return QString::fromUtf8(kSecretDots);
     return valueText(values.setting(values.holder(row)), value, values.unitKey(row));
 }
 

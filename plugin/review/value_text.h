@@ -17,6 +17,9 @@ QString codeText(const Code& code);
 // Of the codes "NS+|NB+" those that are offered.
 QStringList codeTexts(const Setting& setting, const char* codes);
 
+// In place of a secret.
+inline constexpr const char* kSecretDots = "•••";
+
 // The value with its unit: "100 km/h", "on", "1 d 2 h", "NB+" as its label. A secret is told by dots.
 QString valueText(const Values& values, int row);
 // The text of another value of that setting, as a file holds it.

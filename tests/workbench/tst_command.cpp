@@ -99,20 +99,23 @@ private Q_SLOTS:
             R"("path":"TRACK/POINTS/maxSpeed","page":"Track","group":"Always record a track point",)"
             R"("caption":"Speed threshold",)";
         const QByteArray commands = ": check, diff, compare, get, set, apply, report, info, convert, fuel\n";
-        const QByteArray help = "Help: r7106 --help\n";
+        const auto help = [](const QByteArray& command) { return "Help: r7106 " + command + " --help\n"; };
+        const QByteArray masked =
+            "r7106: ••• is in place of a password, a PIN code or a key: --secrets shows it\n";
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
         table.row("version", "--version", 0, "r7106 3.3.0\n", "")
-            .row("no command", "", 2, "", "r7106: a command is needed" + commands + help)
+            .row("no command", "", 2, "", "r7106: a command is needed" + commands + "Help: r7106 --help\n")
             .row("another command", "chek x", 2, "",
-                 "r7106: there is no command chek. Commands" + commands + help)
+                 "r7106: there is no command chek. Commands" + commands + "Help: r7106 --help\n")
             .row("in Russian", "--language ru chek x", 2, "",
                  "r7106: команды chek нет. Команды" + commands + "Справка: r7106 --help\n")
-            .row("more than is taken", "report a.xml -x", 2, "", "r7106: not expected: -x\n" + help)
-            .row("no path", "get", 2, "", "r7106: PATH is missing\n" + help)
-            .row("no value", "check a.xml -o", 2, "", "r7106: --output needs a value\n" + help)
-            .row("two of a kind", "check a.xml -o b -o c", 2, "", "r7106: --output stands twice\n" + help)
+            .row("more than is taken", "report a.xml -x", 2, "", "r7106: not expected: -x\n" + help("report"))
+            .row("no path", "get", 2, "", "r7106: PATH is missing\n" + help("get"))
+            .row("no value", "check a.xml -o", 2, "", "r7106: --output needs a value\n" + help("check"))
+            .row("two of a kind", "check a.xml -o b -o c", 2, "",
+                 "r7106: --output stands twice\n" + help("check"))
             .row("another language", "--language de check a.xml", 2, "",
-                 "r7106: --language takes one of these: ru, en\n" + help)
+                 "r7106: --language takes one of these: ru, en\n" + help("check"))
             .row("what was cut", "info cut.xml", 2, "", "cut.xml: is cut short in line 1\n")
             .row("nowhere to write", "report a.xml -o none/x.pdf", 2, "",
                  "none/x.pdf: cannot be written: no such file or folder\n")
@@ -127,7 +130,7 @@ private Q_SLOTS:
                  R"("text":"100 km/h","lacking":true})"
                  "\n",
                  "")
-            .row("a secret", "get TRANS/AP1/pass secret.xml", 0, "•••\n", "")
+            .row("a secret", "get TRANS/AP1/pass secret.xml", 0, "•••\n", masked)
             .row("a secret on demand", "get --secrets TRANS/AP1/pass secret.xml", 0, "geheim\n", "")
             .row("no such path", "get TRACK/POINTS/bend a.xml", 2, "",
                  "r7106: there is no setting TRACK/POINTS/bend\n")
@@ -202,7 +205,7 @@ private Q_SLOTS:
                 "scale: are volumes and readings interchanged?\n")
             .row("a threshold above it", "fuel --fall 8 --table tank.xml noisy.xml", 0, "", "")
             .row("no litres", "fuel --fall -1 --table tank.xml week.xml", 2, "",
-                 "r7106: --fall takes a number of litres above 0\n" + help)
+                 "r7106: --fall takes a number of litres above 0\n" + help("fuel"))
             .row("a decimal comma", "fuel --fall 61,5 --table tank.xml week.xml", 0, "", "")
             .row("a sensor twice", "fuel --table tank.xml --table ./tank.xml week.xml", 2, "",
                  "./tank.xml: LevelRS485_1 stands twice\n")
@@ -214,9 +217,9 @@ private Q_SLOTS:
                 "telemetry.xml: holds telemetry, and several files are named: -o would replace it. Remove it "
                 "first, or name another file\n")
             .row("a value that is none", "--language ru check --json=x a.xml", 2, "",
-                 "r7106: --json не принимает значения\nСправка: r7106 --help\n")
+                 "r7106: --json не принимает значения\nСправка: r7106 check --help\n")
             .row("a number is none either", "convert --merge=2 --to csv week.xml", 2, "",
-                 "r7106: --merge takes no value\n" + help)
+                 "r7106: --merge takes no value\n" + help("convert"))
             .row("a value that a load limits", "diff --defaults fleet/2.xml", 1,
                  "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold: 100 km/h → "
                  "180 km/h (in the file: 500 km/h. Out of range, limited)\n",
@@ -235,8 +238,17 @@ private Q_SLOTS:
                  "TRANS/AP1/pass: Data transfer / GPRS access point / Password\n"
                  "    ••• 1: most files, 2\n    –: lines.xml\n"
                  "X/y\n    a%0Ab: lines.xml\n    –: most files, 2\n",
+                 masked)
+            .row("nothing at all", "info empty.xml a.xml", 2, "a.xml: configuration, R-7106\n",
+                 "empty.xml: is empty\n")
+            .row("nothing at all, for a program", "info --json empty.xml", 2,
+                 R"({"file":"empty.xml","kind":"error","text":"is empty"})"
+                 "\n",
                  "")
-            .row("nothing at all", "info empty.xml", 0, "empty.xml: is empty\n", "")
+            .row("standard input twice", "check - a.xml -", 2, "",
+                 "r7106: - stands twice: standard input is read only once\n" + help("check"))
+            .row("a table and its files at once", "fuel --table - -", 2, "",
+                 "r7106: - stands twice: standard input is read only once\n" + help("fuel"))
             .row("no table", "fuel week.xml", 2, "", "--table: a calibration table is needed: --table FILE\n")
             .row("a table that is not there", "fuel --table none.xml week.xml", 2, "",
                  "none.xml: cannot be read: no such file or folder\n")
@@ -258,6 +270,13 @@ private Q_SLOTS:
                  "km/h\r\n"
                  "TRACK/POINTS/maxSpeed;Track / Always record a track point / Speed threshold;b.xml;100;"
                  "100 km/h\r\nX/y;X/y;a.xml;1;\r\nX/y;X/y;b.xml;2;\r\n",
+                 "")
+            .row("a key that a file of the fleet lacks", "compare --csv fleet/1.xml fleet/sub", 1,
+                 "Path;Setting;File;Value;In words\r\n"
+                 "TRACK/POINTS/maxSpeed;Track / Always record a track point / Speed threshold;fleet/1.xml;90;"
+                 "90 km/h\r\n"
+                 "TRACK/POINTS/maxSpeed;Track / Always record a track point / Speed threshold;"
+                 "fleet/sub/4.xml;;–\r\n",
                  "")
             .row("what standard input is", "info -", 0, "-: configuration, R-7106\n", "")
             .row("whose configuration it is", "info named.xml", 0,
@@ -331,13 +350,13 @@ private Q_SLOTS:
                  a)
             .row("a file instead of its copy", "set TRACK/POINTS/maxSpeed=80 a.xml -o new.xml", 2, "",
                  "r7106: files are changed in place and -o gets what is told: a changed copy comes from "
-                 "standard input (FILE -)\nHelp: r7106 --help\n",
+                 "standard input (FILE -)\nHelp: r7106 set --help\n",
                  a)
             .row("what is told, in a file", "set TRACK/POINTS/maxSpeed=80 a.xml -o told.txt", 0, "", "",
                  changed)
             .row("a file of nothing", "apply --dry-run good.xml - -o new.xml", 2, "",
                  "r7106: files are changed in place and -o gets what is told: a changed copy comes from "
-                 "standard input (FILE -)\nHelp: r7106 --help\n",
+                 "standard input (FILE -)\nHelp: r7106 apply --help\n",
                  a)
             .row("what it reads", "check a.xml b.xml -o ./a.xml", 2, "",
                  "./a.xml: is read by the same call: -o would replace it\n", a)
@@ -352,9 +371,11 @@ private Q_SLOTS:
             .row("behind dashes", "set TRACK/POINTS/maxSpeed=80 -- a.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no setting", "set a.xml", 2, "",
-                 "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 --help\n", a)
+                 "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 set --help\n", a)
+            .row("no setting in front of dashes", "set -- TRACK/POINTS/maxSpeed=80 a.xml", 2, "",
+                 "r7106: settings and files are needed: PATH=VALUE… FILE…\nHelp: r7106 set --help\n", a)
             .row("two values", "set TRACK/POINTS/maxSpeed=80 TRACK/POINTS/maxSpeed=81 a.xml", 2, "",
-                 "r7106: TRACK/POINTS/maxSpeed stands twice\nHelp: r7106 --help\n", a)
+                 "r7106: TRACK/POINTS/maxSpeed stands twice\nHelp: r7106 set --help\n", a)
             .row("a preset", "apply good.xml a.xml fleet/1.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\nfleet/1.xml: " + words + "90 km/h → 80 km/h\n", "",
                  changed)
@@ -375,17 +396,37 @@ private Q_SLOTS:
             .row("a line break", "set TRACK/POINTS/maxSpeed=8\n0 a.xml", 2, "",
                  "a.xml: TRACK/POINTS/maxSpeed: 8%0A0 is not a number; expected: a whole number, 1 to 180\n",
                  a)
-            .row("in another order", "set a.xml TRACK/POINTS/maxSpeed=80", 2, "",
-                 "r7106: a.xml stands where PATH=VALUE is needed: settings first, then files\nHelp: r7106 "
-                 "--help\n",
+            .row("names and secrets that cannot be",
+                 "set TRANS/OBJECT/name=a☃ SENSORS/IN1/name=&lt; SYSTEM/PASS/SMS=1234567 "
+                 "SYSTEM/PASS/number=12a TRANS/AP1/pin=12a a.xml",
+                 2, "",
+                 "a.xml: TRANS/OBJECT/name cannot be a☃; expected: Latin and Cyrillic letters, digits and "
+                 "usual "
+                 "signs, in one line; SENSORS/IN1/name cannot be &lt;; expected: no code of a sign, such as "
+                 "&lt; or _33_, which a load replaces by the sign; SYSTEM/PASS/SMS cannot be •••; expected: "
+                 "up "
+                 "to 6 characters, none of them a blank; SYSTEM/PASS/number cannot be •••; expected: digits, "
+                 "+ "
+                 "in front of them if need be, 16 characters at most; TRANS/AP1/pin cannot be •••; expected: "
+                 "up "
+                 "to 8 digits\n",
                  a)
+            .row("a name of two lines", "set BLUETOOTH/SENS1/name=a\nb factory.xml", 2, "",
+                 "factory.xml: BLUETOOTH/SENS1/name cannot be a%0Ab; expected: Latin and Cyrillic letters, "
+                 "digits and usual signs, in one line\n",
+                 a)
+            .row(
+                "in another order", "set a.xml TRACK/POINTS/maxSpeed=80", 2, "",
+                "r7106: a.xml stands where PATH=VALUE is needed: settings first, then files\nHelp: r7106 set "
+                "--help\n",
+                a)
             .row("a file that reads as a setting", "set TRACK/POINTS/maxSpeed=80 a=1.xml a.xml", 2, "",
                  "r7106: a=1.xml is a file, and its name reads as PATH=VALUE: put -- in front of the "
                  "files\nHelp: "
-                 "r7106 --help\n",
+                 "r7106 set --help\n",
                  a)
             .row("nothing for an option", "check a.xml -o ", 2, "",
-                 "r7106: --output is empty\nHelp: r7106 --help\n", a)
+                 "r7106: --output is empty\nHelp: r7106 check --help\n", a)
             .row("a preset without the mark", "apply unmarked.xml a.xml", 0,
                  "a.xml: " + words + "90 km/h → 80 km/h\n", "", changed)
             .row("no preset", "apply factory.xml a.xml", 2, "",
@@ -501,6 +542,12 @@ private Q_SLOTS:
         for (const char* call : {"--version", "--help", "set --help"})
             QCOMPARE(QProcess::execute("sh", {"-c", QString(VLK_COMMAND " %1 >/dev/full 2>&1").arg(call)}),
                      2);
+        QProcess shell;
+        shell.start("sh", {"-c", VLK_COMMAND " --language ru --help 2>&1 >&-; " VLK_COMMAND
+                                             " --language ru info - 2>&1 <&-"});
+        QVERIFY(shell.waitForFinished());
+        QCOMPARE(shell.readAllStandardOutput(),
+                 QByteArray("стандартный вывод: не записывается: закрыт\n-: не читается: закрыт\n"));
     }
 
     // What the shell and `man` are told of it.

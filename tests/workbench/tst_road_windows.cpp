@@ -336,6 +336,20 @@ private Q_SLOTS:
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("No.\u00A02 of this tracker"));
         Bench::press("pushButton_Write");
         QTRY_COMPARE(bench.nameInTracker(), before);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        Bench::press("pushButton_Close");
+
+        // What to do is told once.
+        connect(&bench.session().road(), &workbench::WriteRoad::taken, &bench.window,
+                [&bench] { bench.session().tracker().setFaults({.garbledAnswers = true}); });
+        QVERIFY(!bench.session().bringBack(2));
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        const QString told = Bench::find<QLabel>("label_Report")->text();
+        QVERIFY2(told.count("ry again") == 1 &&
+                     told.contains("\nIf that does not help, bring the backup back."),
+                 qPrintable(told));
     }
 
     void looksThroughTheHistory()
@@ -409,6 +423,19 @@ private Q_SLOTS:
         list->window()->close();
         bench.action("action_History")->trigger();
         QCOMPARE(Bench::find<QComboBox>("comboBox_Backup")->currentText(), QString("No.\u00A03"));
+        // With a file, which does not enter the history by that.
+        const QString van = writeFile(bench.root.filePath("van.xml"),
+                                      "<DEVICE><TRANS><OBJECT name='Van 9'/></TRANS></DEVICE>");
+        QTimer::singleShot(50, [&van] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+            name->setText(van);
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        QTest::keyClick(against, Qt::Key_End);
+        QVERIFY2(against->currentText().contains("van.xml"), qPrintable(against->currentText()));
+        QCOMPARE(values(), QString("Van 9>Van 2"));
+        QCOMPARE(bench.session().backups().all().size(), 3);
         // Why there is nothing to compare with.
         bench.session().tracker().setFaults({.silence = true});
         QTest::keyClick(against, Qt::Key_I);

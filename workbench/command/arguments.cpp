@@ -219,7 +219,7 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         files = files.mid(static_cast<int>(settings));
         if (!plain && !fileTaken.isNull())
             return text("cli_301").arg(fileTaken);
-        if (call->settings.isEmpty() && files.size() > 1)
+        if (!plain && call->settings.isEmpty() && files.size() > 1)
             return text("cli_300").arg(inOneLine(files.front()));
         if (call->settings.isEmpty() || files.isEmpty())
             return text("cli_021");
@@ -253,9 +253,15 @@ QString emptyOption(const CLI::App& command)
     return {};
 }
 
-Arguments refused(const QString& reason)
+// Where there is a command, its own help is the one to read.
+Arguments refused(const CLI::App& app, const QString& reason)
 {
-    return {{}, failed, (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023")).toUtf8()};
+    QString program = QStringLiteral("r7106");
+    for (const CLI::App* chosen : app.get_subcommands())
+        program += QLatin1Char(' ') + QString::fromStdString(chosen->get_name());
+    return {{},
+            failed,
+            (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023").arg(program)).toUtf8()};
 }
 
 QString whyNoCommand(const QStringList& arguments)
@@ -390,10 +396,10 @@ Arguments readArguments(const QByteArrayList& arguments)
     } catch (const CLI::CallForVersion& printed) {
         return {{}, nothing, printed.what()};
     } catch (const CLI::ParseError& error) {
-        return refused(whyNotParsed(app, error));
+        return refused(app, whyNotParsed(app, error));
     }
     if (const QString empty = emptyOption(*app.get_subcommands().front()); !empty.isNull())
-        return refused(text("cli_299").arg(empty));
+        return refused(app, text("cli_299").arg(empty));
     const std::string name = app.get_subcommands().front()->get_name();
     const auto* row = std::ranges::find(kCommands, name, &CommandRow::name);
     Arguments result{read.call, {}, {}};
@@ -404,7 +410,12 @@ Arguments readArguments(const QByteArrayList& arguments)
     for (const std::string& sensor : read.sensors)
         result.call.sensors << QString::fromUtf8(sensor.c_str());
     const QString reason = splitFiles(*row, read, plain, &result.call);
-    return reason.isEmpty() ? result : refused(reason);
+    if (!reason.isEmpty())
+        return refused(app, reason);
+    const Call& call = result.call;
+    const bool isReadTwice =
+        (call.files + call.tables + QStringList(call.preset)).count(QStringLiteral("-")) > 1;
+    return isReadTwice ? refused(app, text("cli_325")) : result;
 }
 
 } // namespace workbench::command

@@ -9,6 +9,7 @@
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "review/difference_text.h"
+#include "review/value_text.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
 #include "xml/xml_document.h"
@@ -67,6 +68,9 @@ private:
     QHash<QString, int> numbers_;
     std::vector<int> held_;
 };
+
+// In place of a value that a file lacks.
+const QString kLacking = QStringLiteral("–");
 
 struct Names
 {
@@ -206,7 +210,10 @@ private:
         const bool isMasked = names.isSecret && !call.secrets;
         for (std::size_t i = 0; i < values.size(); ++i) {
             const QString& value = column.values()[i].meaning;
-            values[i].value = !isMasked || value.isEmpty() ? value : QStringLiteral("••• %1").arg(i + 1);
+            values[i].value =
+                !isMasked || value.isEmpty()
+                    ? value
+                    : QStringLiteral("%1 %2").arg(QString::fromUtf8(vlk::kSecretDots)).arg(i + 1);
             if (!call.json && !isMasked)
                 values[i].words = wordsAt(place, column.values(), i, most - values.begin());
         }
@@ -265,7 +272,7 @@ private:
                 add(file, told.value, told.words);
         }
         for (const QString& file : lacking)
-            add(file, {}, {});
+            add(file, {}, kLacking);
         return lines.toUtf8();
     }
 
@@ -273,7 +280,7 @@ private:
     static QByteArray tableOf(const Names& names, std::vector<Told> values, const QStringList& lacking)
     {
         if (!lacking.isEmpty())
-            values.push_back({QStringLiteral("–"), {}, lacking});
+            values.push_back({kLacking, {}, lacking});
         qsizetype most = 1;
         int havingMost = 0;
         for (const Told& told : values) {

@@ -47,9 +47,11 @@ QString whyUnreadable(const QFile& file)
     const QFileInfo name(file.fileName());
     if (name.isDir() && name.isReadable())
         return text("cli_143");
-    const QString reason = name.isDir()                ? qt_error_string(EACCES)
-                           : file.fileName().isEmpty() ? qt_error_string(ENOENT)
-                                                       : file.errorString();
+    // Standard input has no name either.
+    const bool isUnnamed = file.fileName().isEmpty() && !file.isOpen();
+    const QString reason = name.isDir() ? qt_error_string(EACCES)
+                           : isUnnamed  ? qt_error_string(ENOENT)
+                                        : file.errorString();
     return text("cli_002").arg(systemReason(reason));
 }
 

@@ -8,6 +8,7 @@
 #include "command/damage_lines.h"
 #include "command/file_names.h"
 #include "command/in_order.h"
+#include "command/origin_losses.h"
 #include "command/output.h"
 #include "command/progress.h"
 #include "telemetry/files/export_form.h"
@@ -172,30 +173,32 @@ public:
     void write()
     {
         const auto format = [this](Part part) { return written(std::move(part)); };
-        const auto put = [this](Part part) {
+        const auto putReady = [this](Part part) {
             written_ += part.records->size();
             begin(part.batch);
-            output_.write(part.bytes);
+            put(part.bytes);
         };
         const auto choose = [this](Part part) { return chosen(std::move(part)); };
         const auto putInTurn = [this](Part part) {
             written_ += part.records->size();
             begin(part.batch);
-            output_.write(bytesOf(
+            put(bytesOf(
                 [&](vlk::OutputBuffer& out) { writer_->add(out, part.batch.records, *part.records); }));
         };
         if (form_.isIndependent)
-            walk(format, put);
+            walk(format, putReady);
         else
             walk(choose, putInTurn);
         begin({});
-        output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->finish(out); }));
+        put(bytesOf([this](vlk::OutputBuffer& out) { writer_->finish(out); }));
     }
 
     // No record was wanted, or there was none.
     bool isEmpty() const { return written_ == 0; }
     // There is none that the form has a place for.
-    bool lacksContent() const { return !writer_->hasContent(); }
+    bool lacksContent() const { return !writer_ || !writer_->hasContent(); }
+    // Of the file that the heading tells of.
+    vlk::TelemetryOrigin origin() const { return first_ ? *first_ : vlk::TelemetryOrigin(); }
 
 private:
     static constexpr qint64 mostHeldBytes = 32 << 20;
@@ -323,9 +326,19 @@ private:
             return;
         setOrigin(batch);
         if (isMarked_)
-            output_.write("\xEF\xBB\xBF");
+            put("\xEF\xBB\xBF");
         writer_ = exportWriter(form_.form, ahead_, first_ ? optionsFor(*first_) : options_);
-        output_.write(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
+        put(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
+    }
+
+    // What stands in front waits for the first record: where none comes, nothing is written.
+    void put(const QByteArray& bytes)
+    {
+        front_ += bytes;
+        if (isEmpty() || lacksContent())
+            return;
+        output_.write(front_);
+        front_.clear();
     }
 
     const vlk::ExportFormRow& form_;
@@ -347,6 +360,7 @@ private:
     bool isAhead_ = false; // all of it was looked at
     std::shared_ptr<const vlk::TelemetryOrigin> first_;
     std::unique_ptr<ExportWriter> writer_;
+    QByteArray front_;
     std::mutex mutex_;
     std::vector<Kept> idle_;
 };
@@ -371,6 +385,10 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
     listener.fault = [&](const File& file, const QString& reason) {
         progress.writeError(complaint(file.name, text("cli_002").arg(reason)));
         status = failed;
+    };
+    OriginLosses losses(asked);
+    listener.origin = [&](const File& file, const vlk::TelemetryOrigin& origin, const QString& tracker) {
+        losses.add(file, origin, tracker);
     };
     listener.complete = [&](const File& file, vlk::TelemetryOrigin& origin) {
         if (!asked.tracker.isEmpty() || options.archive)
@@ -407,8 +425,9 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
         output.drop();
         const char* reason = !conversions.isEmpty() ? "cli_303" : filter.root ? "cli_292" : "cli_293";
         writeError(complaint(QStringLiteral("r7106"), text(reason)));
-        status = std::max<int>(status, found);
+        return std::max<int>(status, found);
     }
+    writeError(losses.lines(conversions.origin()));
     return status;
 }
 

@@ -92,6 +92,8 @@ private:
             return std::nullopt;
         if (!origin_) {
             vlk::TelemetryOrigin origin = contents.origin;
+            if (!isSilent_)
+                listener_.origin(input.file, origin, tracker_);
             listener_.complete(input.file, origin);
             origin_ = std::make_shared<const vlk::TelemetryOrigin>(std::move(origin));
         }

@@ -27,7 +27,9 @@ struct SourceListener
     std::function<void(const File& file, const vlk::FileDamage& damage, qint64 size)> damage;
     // A file could not be opened, or not read to its end.
     std::function<void(const File& file, const QString& reason)> fault;
-    // Finishes what a file tells of its tracker.
+    // What a file tells of its tracker, and that tracker's number.
+    std::function<void(const File& file, const vlk::TelemetryOrigin& origin, const QString& tracker)> origin;
+    // Finishes it for what is written; asked whenever a file is read.
     std::function<void(const File& file, vlk::TelemetryOrigin& origin)> complete;
 };
 

@@ -12,6 +12,7 @@
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
 #include "review/edit_file.h"
+#include "review/value_text.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
 #include "xml/xml_document.h"
@@ -87,7 +88,8 @@ QString sentence(const PresetProblem& problem)
         return withExpected(text("cli_028").arg(path), problem);
     const bool isSecret = FileKeys::all().looksSecret(problem.path);
     return withExpected(
-        text(reasonKey(problem)).arg(path, isSecret ? QStringLiteral("•••") : valueInOneLine(problem.text)),
+        text(reasonKey(problem))
+            .arg(path, isSecret ? QString::fromUtf8(vlk::kSecretDots) : valueInOneLine(problem.text)),
         problem);
 }
 

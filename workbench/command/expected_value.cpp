@@ -1,7 +1,9 @@
 #include "command/expected_value.h"
 
 #include "review/settable.h"
+#include "settings/shared_rows.h"
 #include "window/languages.h"
+#include "xml/xml_text.h"
 
 #include <algorithm>
 
@@ -67,6 +69,28 @@ QString expected(const vlk::Choice& row, const Limits& limits)
     return codes.isEmpty() ? QString() : text("cli_260").arg(codes.join(QStringLiteral(", ")));
 }
 
+// What can be typed, in words.
+struct TypedRow
+{
+    const char* pattern;
+    const char* key;
+};
+
+constexpr TypedRow kTyped[] = {{vlk::shared::kPasswordPattern, "cli_323"},
+                               {vlk::shared::kPhonePattern, "cli_324"},
+                               {R"(^\d{0,8}$)", "cli_327"}};
+
+// Of a text that is not too long.
+QString expectedSigns(const vlk::Text& row, const QString& refused)
+{
+    if (vlk::sectionText(refused) == refused && vlk::decodeValue(refused) != refused)
+        return text("cli_322");
+    const auto* typed = std::ranges::find_if(kTyped, [&](const TypedRow& known) {
+        return row.pattern && QLatin1String(known.pattern) == QLatin1String(row.pattern);
+    });
+    return text(typed == std::end(kTyped) ? "cli_321" : typed->key);
+}
+
 QString expected(const vlk::Text& row, const Limits&)
 {
     return row.maxLength > 0 ? text("cli_261").arg(row.maxLength) : QString();
@@ -79,9 +103,10 @@ QString withExpected(const QString& sentence, const vlk::review::PresetProblem& 
     if (!problem.setting || problem.change == Change::byRule)
         return sentence;
     const auto* line = problem.setting->as<vlk::Text>();
+    if (line && line->unexpectedKey && problem.change != Change::tooLong)
+        return QStringLiteral("%1: %2").arg(sentence, text(line->unexpectedKey));
     if (line && problem.change != Change::tooLong)
-        return line->unexpectedKey ? QStringLiteral("%1: %2").arg(sentence, text(line->unexpectedKey))
-                                   : sentence;
+        return text("cli_253").arg(sentence, expectedSigns(*line, problem.text));
     const QString said =
         std::visit([&](const auto& row) { return expected(row, problem.limits); }, problem.setting->kind);
     return said.isEmpty() ? sentence : text("cli_253").arg(sentence, said);

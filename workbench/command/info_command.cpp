@@ -140,8 +140,8 @@ Outcome factsOf(const Call& call, const File& file)
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
         return telemetryFacts(call, file, device);
-    if (start.isEmpty() && !call.json)
-        return {complaint(file.name, text("cli_004"))};
+    if (start.isEmpty())
+        return refusal(call, file.name, text("cli_004"));
     if (kind == FileKind::tachograph || kind == FileKind::unknown)
         return {lineOf(call, file, {.kind = kind})};
     const QByteArray content = device.read(CSerialize::kMaxFileSize + 1);

@@ -17,6 +17,8 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -54,6 +56,8 @@ int run(const Call& call)
         // What came to nothing is no reason to empty a file that was there.
         if (status == failed && output.isEmptyFile())
             output.drop();
+        if (output.hasMask() && !call.secrets && !call.json)
+            writeError(complaint(QStringLiteral("r7106"), text("cli_326")));
         return output.close() ? status : failed;
     }
     return failed;
@@ -93,6 +97,16 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
     }
     Output output(pdf.call.output, readersOf(pdf.call), pdf.notWritten);
     return writeReport(output, made);
+}
+
+// Standard input and output that are closed stay so: else a file that is opened would take their place, and
+// get what is meant for them.
+void holdClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", (stream == STDIN_FILENO ? O_WRONLY : O_RDONLY) | O_CLOEXEC);
+    }
 }
 
 int report(const Call& call, Pdf* pdf)
@@ -147,6 +161,7 @@ int runWithTexts(int& argc, char** argv, Pdf* pdf)
 
 int main(int argc, char* argv[])
 {
+    holdClosedStreams();
     // Who has read enough of the output ends the program.
     std::signal(SIGPIPE, SIG_DFL);
     for (int i = 1; i < argc; ++i) {

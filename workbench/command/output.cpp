@@ -4,6 +4,7 @@
 #include "command/json_line.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
+#include "review/value_text.h"
 #include "window/languages.h"
 
 #include <QFileInfo>
@@ -39,6 +40,7 @@ void Output::write(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || isDropped_ || !fault_.isEmpty())
         return;
+    hasMask_ = hasMask_ || bytes.contains(vlk::kSecretDots);
     if (isFile()) {
         if (kept_.write(bytes) != bytes.size())
             fault_ = kept_.errorString();
@@ -93,7 +95,10 @@ bool Output::close()
     }
     if (fault_.isEmpty())
         return true;
-    writeError(complaint(isFile() ? name_ : QStringLiteral("-"), complaint_.arg(systemReason(fault_))));
+    // The name of a file is bytes, that of standard output is a text.
+    const QString name = isFile() ? inOneLine(name_) : text("cli_320");
+    const QString reason = complaint_.arg(systemReason(fault_));
+    writeError((name + QStringLiteral(": ") + reason + QLatin1Char('\n')).toUtf8());
     return false;
 }
 

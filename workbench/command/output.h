@@ -31,6 +31,8 @@ public:
     bool isSpreadsheet() const { return name_.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive); }
     // A file that could be written, and nothing is in it.
     bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_.size() == 0; }
+    // Something that is masked was written.
+    bool hasMask() const { return hasMask_; }
 
 private:
     void takeError();
@@ -41,6 +43,7 @@ private:
     QTemporaryFile kept_;
     QString fault_;
     bool isDropped_ = false;
+    bool hasMask_ = false;
 };
 
 // A line on standard error, or on standard output for a program that reads: "NAME: TEXT".

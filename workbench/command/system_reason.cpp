@@ -23,7 +23,7 @@ constexpr ReasonRow kReasons[] = {
     {ENOENT, "cli_150"}, {EACCES, "cli_151"},  {EPERM, "cli_151"},        {ENOSPC, "cli_152"},
     {EDQUOT, "cli_152"}, {EROFS, "cli_153"},   {EISDIR, "cli_154"},       {ENOTDIR, "cli_155"},
     {ELOOP, "cli_156"},  {EIO, "cli_157"},     {ENAMETOOLONG, "cli_158"}, {EMFILE, "cli_159"},
-    {EFBIG, "cli_160"},  {ETXTBSY, "cli_161"},
+    {EFBIG, "cli_160"},  {ETXTBSY, "cli_161"}, {EBADF, "cli_330"},
 };
 
 const QHash<QString, QString>& texts()

@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace workbench {
@@ -70,6 +71,12 @@ QString reasonFor(const RoadReport& report)
     return reason;
 }
 
+bool saysTryAgain(const QString& line)
+{
+    return std::ranges::any_of(std::array{"wb_do_cable", "wb_do_attach", "wb_do_disk"},
+                               [&](const char* advice) { return line.endsWith(text(advice)); });
+}
+
 QString firstLine(const RoadReport& report)
 {
     const int all = int(report.settings.size());
@@ -98,7 +105,7 @@ QString summary(const RoadReport& report, const QString& typed)
     if (report.outcome != Outcome::confirmed && report.request.origin == WriteRequest::Origin::backup)
         lines.append(text("wb_report_of_backup").arg(report.request.name));
     if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
-        lines.append(text("wb_report_do"));
+        lines.append(text(saysTryAgain(lines.first()) ? "wb_report_else" : "wb_report_do"));
     if (report.earlier > 0)
         lines.append(text("wb_report_earlier").arg(number(report.earlier)));
     if (report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken) {
