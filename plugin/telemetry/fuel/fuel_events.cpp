@@ -256,13 +256,14 @@ private:
     }
 
     // What of a refuelling was burnt again before a level told it: where the engine runs behind a pause it
-    // ran in it, at least while the sensors woke.
+    // ran in it, at least while the sensors woke, which they do once.
     double burntUnseen(const Step& step) const
     {
         double burnt = 0;
         for (int i = step.from; i < step.to; ++i) {
             const LevelMedian& next = medians_[i + 1];
-            burnt += burning(next) * std::min<double>(next.from - medians_[i].until, kWakeTime);
+            burnt =
+                std::max(burnt, burning(next) * std::min<double>(next.from - medians_[i].until, kWakeTime));
         }
         return burnt;
     }
