@@ -1638,6 +1638,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_417"><translation>The table cannot be saved as %1.</translation></message>
     <message id="rec_424"><translation>not</translation></message>
     <message id="rec_425"><translation>The hour around this record</translation></message>
+    <message id="rec_450"><translation>No records from %1 to %2.</translation></message>
     <message id="rev_230"><translation>alarm, alarm zone, temperature threshold, minimum, cold</translation></message>
     <message id="rev_231"><translation>alarm, power failure, power cut, vehicle battery</translation></message>
     <message id="rev_232"><translation>ignition, alarm button, SOS button, door sensor</translation></message>

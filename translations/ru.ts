@@ -1638,6 +1638,7 @@
     <message id="rec_417"><translation>Таблицу не удалось сохранить как %1.</translation></message>
     <message id="rec_424"><translation>не</translation></message>
     <message id="rec_425"><translation>Час вокруг этой записи</translation></message>
+    <message id="rec_450"><translation>С %1 по %2 записей нет.</translation></message>
     <message id="rev_230"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум</translation></message>
     <message id="rev_231"><translation>тревога, пропадание питания, отключение питания, аккумулятор, АКБ</translation></message>
     <message id="rev_232"><translation>зажигание, тревожная кнопка, кнопка SOS, датчик двери</translation></message>
