@@ -1689,6 +1689,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_417"><translation>The table cannot be saved as %1.</translation></message>
     <message id="rec_424"><translation>not</translation></message>
     <message id="rec_425"><translation>The hour around this record</translation></message>
+    <message id="rec_450"><translation>No records from %1 to %2.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

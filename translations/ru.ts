@@ -1689,6 +1689,7 @@
     <message id="rec_417"><translation>Таблицу не удалось сохранить как %1.</translation></message>
     <message id="rec_424"><translation>не</translation></message>
     <message id="rec_425"><translation>Час вокруг этой записи</translation></message>
+    <message id="rec_450"><translation>С %1 по %2 записей нет.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -210,8 +210,16 @@ void VLK_Device_R7106::showStoredFile(const QString& path, std::int32_t kind)
 
 VLK_Widget_Tmi_Page* VLK_Device_R7106::browser()
 {
-    if (!tmiPage_)
+    if (!tmiPage_) {
         tmiPage_ = new VLK_Widget_Tmi_Page;
+        connect(tmiPage_, &VLK_Widget_Tmi_Page::tableWanted, this, [this](const QString& path) {
+            if (!path.isEmpty())
+                return showIn(recordsWindow(), path);
+            recordsWindow()->show();
+            recordsWindow()->raise();
+            recordsWindow()->activateWindow();
+        });
+    }
     return tmiPage_;
 }
 

@@ -56,6 +56,17 @@ private Q_SLOTS:
                 !ScriptedHost::window("VLK_Widget_Tmi_Table"));
     }
 
+    void tableByKey()
+    {
+        showPages(numbered({4, 5, 6}));
+        QApplication::setActiveWindow(window);
+        QTest::keyClick(window, Qt::Key_L, Qt::ControlModifier);
+        QWidget* const table = ScriptedHost::window("VLK_Widget_Tmi_Table");
+        QVERIFY(table && table->isVisible());
+        QTRY_COMPARE(ScriptedHost::child<QTableView>(table, "tableWidget")->model()->rowCount(), 3);
+        table->close();
+    }
+
     void positions_data()
     {
         DataTable<QVector<int>, int, QStringList>({"numbers", "last", "shown"})

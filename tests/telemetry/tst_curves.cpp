@@ -85,6 +85,7 @@ private Q_SLOTS:
     void tellsTimes();
     void movesByKeys();
     void movesByMouse();
+    void staysInSightByMouse();
     void comparesTwoMoments();
     void marksWhatWasFound();
     void showsWhatThereIs();
@@ -269,6 +270,33 @@ void TestCurves::movesByMouse()
     QVERIFY2(qAbs(records_->inSight().from - from) < length() / 100, "it did not zoom at the pointer");
     turn(Qt::ControlModifier);
     QVERIFY(records_->inSight().from < from - length() / 20);
+}
+
+// A press in a gap goes to what is in sight, be it further away than what is not; where nothing is, it goes
+// nowhere and tells the gap.
+void TestCurves::staysInSightByMouse()
+{
+    constexpr quint32 gap = 10 * 86'400;
+    RecordStore store = truckRecords(3);
+    const RecordParts parts{{"Time", kTruckStart + 60 + gap}};
+    store.add(30, parts.mask, parts.block);
+    open(std::move(store));
+    const auto press = [&](double from, double to, double moment) {
+        const TimeSpan span{kTruckStart + from, kTruckStart + to};
+        records_->setInSight(span);
+        const int x = qRound((moment - from) / (to - from) * canvas()->width());
+        QTest::mouseClick(canvas(), Qt::LeftButton, {}, {x, 20});
+        QCOMPARE(records_->inSight(), span);
+    };
+    press(30, gap * 0.9, gap * 0.8);
+    QCOMPARE(records_->current(), 2);
+    press(gap * 0.1, gap + 60, gap * 0.2);
+    QCOMPARE(records_->current(), 3);
+    QVERIFY(!QToolTip::isVisible());
+    press(gap * 0.7, gap * 0.9, gap * 0.8);
+    QCOMPARE(records_->current(), 3);
+    QCOMPARE(QToolTip::text(), QStringLiteral("rec_450"));
+    QToolTip::hideText();
 }
 
 void TestCurves::comparesTwoMoments()

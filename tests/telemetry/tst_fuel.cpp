@@ -226,6 +226,11 @@ private Q_SLOTS:
         QTest::newRow("at the end, once") << standing(times(20, 300) + times(1, 250)) << "";
         QTest::newRow("behind a gap") << high + standing(times(20, 250), 40'000) << "-50@1140";
         QTest::newRow("once behind a gap") << high + standing(times(1, 250) + times(20, 300), 40'000) << "";
+        // Each tooth is below the threshold, and an engine that burns that much is no reason to add them up.
+        std::vector<double> teeth;
+        for (int i = 0; i < 120; ++i)
+            teeth.push_back(113.5 - i % 10 * 1.5);
+        QTest::newRow("saw teeth") << standing(teeth) << "";
         auto burnt = high;
         for (Told& told : burnt)
             told.speed = 60;

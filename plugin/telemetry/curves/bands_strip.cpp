@@ -226,9 +226,11 @@ void BandsStrip::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton || event->x() < plot_->canvasPlace().left())
         return QWidget::mousePressEvent(event);
-    ShownRecords& records = model_->records();
     const int mark = markAt(event->pos());
-    records.setCurrent(mark >= 0 ? mark : records.nearestTo(plot_->timeAtPixel(event->x())));
+    if (mark >= 0)
+        model_->records().setCurrent(mark);
+    else
+        plot_->goToPixel(event->x());
     plot_->setFocus(Qt::MouseFocusReason);
 }
 

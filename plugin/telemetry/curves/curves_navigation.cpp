@@ -182,7 +182,7 @@ bool CurvesNavigation::release(const QMouseEvent& event)
         if (std::abs(event.x() - dragFrom_.x()) >= QApplication::startDragDistance())
             records_.setInSight(zoomed({from, to}, 1, (from + to) / 2, records_.wholeTime()));
     } else if (ended == Drag::zoom) {
-        records_.setCurrent(records_.nearestTo(timeAt(event.x())));
+        plot_->goToPixel(event.x() + plot_->canvas()->x());
     }
     return ended != Drag::none;
 }

@@ -5,7 +5,9 @@
 #include "telemetry/curves/time_scale.h"
 #include "typing/kept_palette.h"
 
+#include <QCursor>
 #include <QEvent>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -103,6 +105,24 @@ double CurvesPlot::xOf(double time) const
 double CurvesPlot::timeAtPixel(double x) const
 {
     return canvasMap(xBottom).invTransform(x - canvas()->x());
+}
+
+void CurvesPlot::goToPixel(double x)
+{
+    ShownRecords& records = model_->records();
+    const int record = records.nearestInSight(timeAtPixel(x));
+    if (record >= 0)
+        return records.setCurrent(record);
+    const std::vector<int>& byTime = records.byTime();
+    const auto timeOf = [&](int each) { return double(records.columns().times()[each]); };
+    const auto behind = std::ranges::lower_bound(byTime, span().from, {}, timeOf);
+    if (behind == byTime.begin() || behind == byTime.end())
+        return;
+    const double from = timeOf(behind[-1]);
+    const qint32 offset = records.utcOffset();
+    QToolTip::showText(QCursor::pos(),
+                       tr("rec_450").arg(momentText(from, offset), momentText(timeOf(*behind), from, offset)),
+                       this);
 }
 
 void CurvesPlot::setLeftWidth(int width)

@@ -30,6 +30,9 @@ public:
     QRect canvasPlace() const;
     double xOf(double time) const;
     double timeAtPixel(double x) const;
+    // Takes the cursor to the record in sight that is next to this pixel; where a gap is all that is in
+    // sight, it stays and a tip tells.
+    void goToPixel(double x);
     // How wide what stands left of the canvas is at least.
     void setLeftWidth(int width);
 

@@ -1,6 +1,7 @@
 #include "telemetry/fuel/fuel_events.h"
 
 #include "telemetry/files/track_points.h"
+#include "telemetry/fuel/level_noise.h"
 
 #include <algorithm>
 #include <array>
@@ -34,6 +35,8 @@ constexpr int kLeastLevels = 2;
 constexpr double kHeld = 0.6;
 // A step of this share of the lesser threshold ends averages.
 constexpr double kBarrier = 0.3;
+// Seconds, in which nobody stops, pours and drives off.
+constexpr double kShortestStop = 120;
 // From here on a pause between records may hide a drive. Seconds, degrees.
 constexpr double kLongPause = 900;
 constexpr double kSamePlace = 0.005;
@@ -230,13 +233,29 @@ private:
         });
     }
 
-    std::optional<FuelEvent> event(const Step& step) const
+    // Nobody pours while the vehicle moves, though the fuel swings: a step has to be clear of that then.
+    double swing(const Step& step)
+    {
+        for (int i = step.from; i < step.to; ++i) {
+            if (!medians_[i].moves || !medians_[i + 1].moves ||
+                medians_[i + 1].from - medians_[i].until > kShortestStop)
+                return 0;
+        }
+        if (!noise_)
+            noise_ = levelNoise(medians_);
+        return *noise_;
+    }
+
+    std::optional<FuelEvent> event(const Step& step)
     {
         const double before = nearLevel(step.from, kBackwards).litres;
         const double after = nearLevel(step.to, kForwards).litres;
         const double litres = after - before;
-        if (litres + burntUnseen(step) < thresholds_.rise &&
-            -litres < thresholds_.fall + (1 + kBurnSpread) * longBurnt(step))
+        const auto exceeds = [&](double more) {
+            return litres + burntUnseen(step) >= thresholds_.rise + more ||
+                   -litres >= thresholds_.fall + (1 + kBurnSpread) * longBurnt(step) + more;
+        };
+        if (!exceeds(0) || !exceeds(swing(step)))
             return {};
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
@@ -256,13 +275,14 @@ private:
     }
 
     // What of a refuelling was burnt again before a level told it: where the engine runs behind a pause it
-    // ran in it, at least while the sensors woke.
+    // ran in it, at least while the sensors woke, which they do once.
     double burntUnseen(const Step& step) const
     {
         double burnt = 0;
         for (int i = step.from; i < step.to; ++i) {
             const LevelMedian& next = medians_[i + 1];
-            burnt += burning(next) * std::min<double>(next.from - medians_[i].until, kWakeTime);
+            burnt =
+                std::max(burnt, burning(next) * std::min<double>(next.from - medians_[i].until, kWakeTime));
         }
         return burnt;
     }
@@ -281,6 +301,7 @@ private:
     std::array<double, 2> burning_{}; // litres a second, standing and moving
     std::vector<double> burnt_;       // up to the middle of each
     std::vector<bool> walls_;         // between a median and the next: an event
+    std::optional<double> noise_;     // of the level, once it is asked for
 };
 
 void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)

@@ -5,8 +5,9 @@
 //
 // Levels are gathered into medians over a window of time, a wide one while the vehicle moves and the fuel
 // swings. A step between them counts if what was before and what comes after say the same for a while. The
-// first levels after the ignition went on count nothing, since sensors wake then. Across a gap the fall is
-// what the vehicle can not have burnt.
+// first levels after the ignition went on count nothing, since sensors wake then. While the vehicle moves, a
+// step counts that exceeds the threshold by more than the level swings. Across a gap the fall is what the
+// vehicle can not have burnt.
 
 #include "telemetry/fuel/level_medians.h"
 

@@ -97,17 +97,20 @@ void ShownRecords::setCurrent(int record)
     Q_EMIT currentChanged(record);
 }
 
-int ShownRecords::nearestTo(double time) const
+int ShownRecords::nearestInSight(double time) const
 {
-    if (byTime_.empty())
-        return current_;
     const std::vector<quint32>& times = columns_->times();
     const auto timeOfRecord = [&](int record) { return double(times[record]); };
-    const auto behind = std::ranges::lower_bound(byTime_, time, {}, timeOfRecord);
-    if (behind == byTime_.begin())
+    const auto inSight =
+        std::ranges::subrange(std::ranges::lower_bound(byTime_, inSight_.from, {}, timeOfRecord),
+                              std::ranges::upper_bound(byTime_, inSight_.to, {}, timeOfRecord));
+    if (inSight.empty())
+        return -1;
+    const auto behind = std::ranges::lower_bound(inSight, time, {}, timeOfRecord);
+    if (behind == inSight.begin())
         return *behind;
     const int before = *std::prev(behind);
-    return behind == byTime_.end() || time - timeOfRecord(before) <= timeOfRecord(*behind) - time ? before
+    return behind == inSight.end() || time - timeOfRecord(before) <= timeOfRecord(*behind) - time ? before
                                                                                                   : *behind;
 }
 

@@ -89,8 +89,8 @@ public:
     void setCurrent(int record);
     // Those that have a time, by it.
     const std::vector<int>& byTime() const { return byTime_; }
-    // The one whose time is next to this one.
-    int nearestTo(double time) const;
+    // The one in sight whose time is next to this one; -1 where none is in sight.
+    int nearestInSight(double time) const;
 
     TimeSpan inSight() const { return inSight_; }
     void setInSight(const TimeSpan& span);

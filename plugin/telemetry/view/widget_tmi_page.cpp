@@ -99,6 +99,9 @@ void VLK_Widget_Tmi_Page::connectControls()
                 (this->*slot)();
         });
     }
+    // By the key that opens a table in the main window.
+    connect(new QShortcut(QStringLiteral("Ctrl+L"), this), &QShortcut::activated, this,
+            [this] { Q_EMIT tableWanted(path_); });
     joinFields(this);
     connect(ui_->horizontalSlider, &QSlider::valueChanged, this, &Page::slot_valueChanged_horizontalSlider);
     connect(ui_->spinBox_Go, qOverload<int>(&QSpinBox::valueChanged), this,
@@ -121,6 +124,7 @@ void VLK_Widget_Tmi_Page::open(std::shared_ptr<const TelemetryContents> contents
 {
     opening_->stop();
     stack_.showNothing();
+    path_.clear();
     file_->setValue(name);
     file_->setToolTip(QString());
     takeContents(std::move(contents));

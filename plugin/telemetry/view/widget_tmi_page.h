@@ -37,6 +37,10 @@ public:
     void open(std::shared_ptr<const vlk::TelemetryContents> contents, const QString& name, int record);
     void retranslate();
 
+Q_SIGNALS:
+    // Of the file on show; empty where the records come from the table.
+    void tableWanted(const QString& path);
+
 private Q_SLOTS:
     void slot_valueChanged_horizontalSlider(int position);
     void slot_valueChanged_spinBox_Go(int position);
