@@ -2690,6 +2690,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
+    <message id="wb_report_other"><translation>Report of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>

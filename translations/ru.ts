@@ -2690,6 +2690,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_other"><translation>Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>

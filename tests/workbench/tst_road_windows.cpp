@@ -336,6 +336,17 @@ private Q_SLOTS:
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("No.\u00A02 of this tracker"));
         Bench::press("pushButton_Write");
         QTRY_COMPARE(bench.nameInTracker(), before);
+        QTRY_VERIFY(Bench::find("dialog_Report"));
+        // One that did not get there takes nothing away.
+        const QString written = bench.text("label_Report");
+        bench.session().tracker().detach();
+        Bench::press("pushButton_BringBack");
+        QTRY_VERIFY(bench.text("label_Report").contains("not written"));
+        const auto* view = bench.window.findChild<QWidget*>("pushButton_OtherReport")->parentWidget();
+        for (const bool isWritten : {true, false}) {
+            view->findChild<QPushButton*>("pushButton_OtherReport")->click();
+            QCOMPARE(bench.text("label_Report") == written, isWritten);
+        }
     }
 
     void looksThroughTheHistory()
