@@ -998,7 +998,7 @@
     <message id="cfgt6_414"><translation>Tracker</translation></message>
     <message id="cfgt6_415"><translation>Sensor</translation></message>
     <message id="cfgt6_416"><translation>Date</translation></message>
-    <message id="cfgt6_417"><translation>The table has these points already, they are not added a second time: %1</translation></message>
+    <message id="cfgt6_417"><translation>Points left out, since they would stand there twice: %1</translation></message>
     <message id="cfgt6_418"><translation>The table has another value at these volumes, l: %1</translation></message>
     <message id="cfgt6_419"><translation>Replace the points at these volumes</translation></message>
     <message id="cfgt6_420"><translation>The table has all these points already: %1. Nothing was added.</translation></message>

@@ -998,7 +998,7 @@
     <message id="cfgt6_414"><translation>Трекер</translation></message>
     <message id="cfgt6_415"><translation>Датчик</translation></message>
     <message id="cfgt6_416"><translation>Дата</translation></message>
-    <message id="cfgt6_417"><translation>Эти точки уже есть в таблице, второй раз они не добавляются: %1</translation></message>
+    <message id="cfgt6_417"><translation>Пропущено точек, которые стояли бы дважды: %1</translation></message>
     <message id="cfgt6_418"><translation>При этих объёмах в таблице другое показание, л: %1</translation></message>
     <message id="cfgt6_419"><translation>Заменить точки при этих объёмах</translation></message>
     <message id="cfgt6_420"><translation>Все эти точки уже есть в таблице: %1. Ничего не добавлено.</translation></message>
