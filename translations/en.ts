@@ -984,7 +984,7 @@
     <message id="cfgt6_250"><translation>after the ignition goes off</translation></message>
     <message id="cfgt6_401"><translation>Copy the table</translation></message>
     <message id="cfgt6_402"><translation>Paste points</translation></message>
-    <message id="cfgt6_403"><translation>The value falls while the volume rises. Check the points: %1&#160;l.</translation></message>
+    <message id="cfgt6_403"><translation>The value falls while the volume rises. One of the two points is wrong: %1&#160;l.</translation></message>
     <message id="cfgt6_404"><translation>Changed since it was saved</translation></message>
     <message id="cfgt6_405"><translation>The table of %1 (%2) was changed on %3 and not saved. Points: %4.</translation></message>
     <message id="cfgt6_406"><translation>Bring back</translation></message>
@@ -998,6 +998,13 @@
     <message id="cfgt6_414"><translation>Tracker</translation></message>
     <message id="cfgt6_415"><translation>Sensor</translation></message>
     <message id="cfgt6_416"><translation>Date</translation></message>
+    <message id="cfgt6_417"><translation>Points left out, since they would stand there twice: %1</translation></message>
+    <message id="cfgt6_418"><translation>The table has another value at these volumes, l: %1</translation></message>
+    <message id="cfgt6_419"><translation>Replace the points at these volumes</translation></message>
+    <message id="cfgt6_420"><translation>The table has all these points already: %1. Nothing was added.</translation></message>
+    <message id="cfgt6_421"><translation>Undo the paste</translation></message>
+    <message id="cfgt6_422"><translation>The reading still changes: from %1 to %2. Add the point when the level has settled.</translation></message>
+    <message id="cfgt6_423"><translation>Added while the reading still changed: from %1 to %2. Wait until the level settles, then measure again.</translation></message>
     <message id="cfgt6_450"><translation>No tracker is attached.</translation></message>
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
@@ -2722,6 +2729,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
+    <message id="wb_report_other"><translation>Report of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>

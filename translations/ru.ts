@@ -984,7 +984,7 @@
     <message id="cfgt6_250"><translation>после выключения зажигания</translation></message>
     <message id="cfgt6_401"><translation>Копировать таблицу</translation></message>
     <message id="cfgt6_402"><translation>Вставить точки</translation></message>
-    <message id="cfgt6_403"><translation>Показание падает с ростом объёма. Проверьте точки: %1&#160;л.</translation></message>
+    <message id="cfgt6_403"><translation>Показание падает с ростом объёма. Одна из двух точек неверна: %1&#160;л.</translation></message>
     <message id="cfgt6_404"><translation>Изменено после сохранения</translation></message>
     <message id="cfgt6_405"><translation>Таблицу %1 (%2) изменили %3 и не сохранили. Точек: %4.</translation></message>
     <message id="cfgt6_406"><translation>Вернуть</translation></message>
@@ -998,6 +998,13 @@
     <message id="cfgt6_414"><translation>Трекер</translation></message>
     <message id="cfgt6_415"><translation>Датчик</translation></message>
     <message id="cfgt6_416"><translation>Дата</translation></message>
+    <message id="cfgt6_417"><translation>Пропущено точек, которые стояли бы дважды: %1</translation></message>
+    <message id="cfgt6_418"><translation>При этих объёмах в таблице другое показание, л: %1</translation></message>
+    <message id="cfgt6_419"><translation>Заменить точки при этих объёмах</translation></message>
+    <message id="cfgt6_420"><translation>Все эти точки уже есть в таблице: %1. Ничего не добавлено.</translation></message>
+    <message id="cfgt6_421"><translation>Отменить вставку</translation></message>
+    <message id="cfgt6_422"><translation>Показание ещё меняется: с %1 на %2. Добавьте точку, когда уровень успокоится.</translation></message>
+    <message id="cfgt6_423"><translation>Добавлено, пока показание ещё менялось: с %1 на %2. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
@@ -2722,6 +2729,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_other"><translation>Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>

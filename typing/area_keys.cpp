@@ -64,7 +64,7 @@ std::vector<QWidgetList> AreaKeys::areasNow() const
     std::vector<QWidgetList> areas = areas_();
     QWidgetList bars;
     for (NoticeBar* bar : window_->findChildren<NoticeBar*>()) {
-        if (bar->window() == window_ && bar->isVisible())
+        if (bar->window() == window_ && bar->isVisible() && bar->isTelling())
             bars.append(bar);
     }
     areas.insert(areas.begin(), bars);

@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kHeight = 36;
 constexpr int kMargin = 9;
+constexpr int kEdge = 2;
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
 constexpr int kNewsMs = 8000;
@@ -42,7 +43,7 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     close_->setFocusPolicy(Qt::TabFocus);
     close_->installEventFilter(this);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(kMargin + kMarkSize + kGap, 2, 2, 2);
+    row->setContentsMargins(kMargin + kMarkSize + kGap, kEdge, kEdge, kEdge);
     row->setSpacing(kGap);
     row->addWidget(text_, 1);
     row->addLayout(buttons_);
@@ -64,8 +65,8 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
 void NoticeBar::keepPlace()
 {
     constexpr int kLines = 2;
-    const int margins = layout()->contentsMargins().top() + layout()->contentsMargins().bottom();
-    keptHeight_ = std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + margins);
+    constexpr int kFrame = 1; // the host's has one
+    keptHeight_ = std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + 2 * (kEdge + kFrame));
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
@@ -81,22 +82,30 @@ bool NoticeBar::hasHeightForWidth() const
 
 void NoticeBar::claimHeight()
 {
-    const bool isOnShow = worst() != nullptr;
-    roomBelow_ = isOnShow ? property(kRoomBelow).toInt() : 0;
+    const bool isOnShow = isTelling();
+    roomBelow_ = isOnShow || keptHeight_ == 0 ? property(kRoomBelow).toInt() : 0;
+    for (QWidget* part : {static_cast<QWidget*>(text_), static_cast<QWidget*>(close_)})
+        part->setVisible(isOnShow);
     QMargins margins = layout()->contentsMargins();
+    margins.setTop(isOnShow ? kEdge : 0);
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
     const int least = std::max(kHeight, keptHeight_) + roomBelow_;
     if (keptHeight_ == 0)
-        setMinimumHeight(least);
-    else
-        setFixedHeight(std::max(least, isOnShow ? layout()->heightForWidth(width()) : 0));
+        setMinimumHeight(isOnShow ? least : roomBelow_);
+    else if (isOnShow)
+        setFixedHeight(std::max(least, layout()->heightForWidth(width())));
+    else // the host's stands in the kept place
+        setFixedHeight(std::max(keptHeight_, property(kRoomBelow).toInt() - kRoomMargin));
 }
 
 bool NoticeBar::event(QEvent* event)
 {
-    if (event->type() == QEvent::DynamicPropertyChange)
+    if (event->type() == QEvent::DynamicPropertyChange) {
         claimHeight();
+        if (!isTelling())
+            setVisible(roomBelow_ > 0);
+    }
     return QFrame::event(event);
 }
 
@@ -233,8 +242,9 @@ void NoticeBar::refresh()
         if (hadFocus && before_)
             before_->setFocus();
         text_->clear();
-        hide();
+        place_->hide();
         claimHeight();
+        setVisible(roomBelow_ > 0);
         return;
     }
     for (const Notice::Action& action : shown->notice.actions) {

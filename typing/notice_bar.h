@@ -59,8 +59,11 @@ public:
     // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
     // and go while the user presses buttons, nothing may move under the mouse.
     void keepPlace();
-    // The property in which the host says how many pixels below what is on show its own notice wants.
+    bool isTelling() const { return worst() != nullptr; }
+    // The property in which the host says how many pixels its own notice wants below what is on show. Where
+    // nothing is, and no place is kept, the bar gives them alone.
     static constexpr const char* kRoomBelow = "roomBelow";
+    static constexpr int kRoomMargin = 6; // of these pixels, between the two
     void retranslate();
     // For its first button; where the bar goes, the focus goes back.
     void takeFocus();

@@ -14,6 +14,7 @@ namespace vlk {
 
 namespace {
 
+constexpr int kUnsteady = Qt::UserRole; // of a value: the readings between which it was taken
 constexpr int kColumnWidths[] = {95, 95, 20};
 
 // The columns have a width of their own, so captions may have to be written smaller.
@@ -88,7 +89,25 @@ void CalibrationTable::addRows(const vlk::FuelRows& rows)
     sortByVolume();
 }
 
-void CalibrationTable::markRepeats(const QString& ofVolume, const QString& ofValue)
+void CalibrationTable::setRows(const vlk::FuelRows& rows)
+{
+    setRowCount(0);
+    addRows(rows);
+}
+
+void CalibrationTable::noteUnsteady(const QString& from, const QString& to)
+{
+    const QSignalBlocker quiet(this);
+    added_->setData(kUnsteady, QStringList{from, to});
+}
+
+void CalibrationTable::forgetUnsteady(int row)
+{
+    const QSignalBlocker quiet(this);
+    item(row, Value)->setData(kUnsteady, {});
+}
+
+void CalibrationTable::markDoubtful(const QString& ofVolume, const QString& ofValue, const QString& unsteady)
 {
     const QSignalBlocker quiet(this);
     const auto repeats = [this](int row, Column column) {
@@ -99,7 +118,10 @@ void CalibrationTable::markRepeats(const QString& ofVolume, const QString& ofVal
     for (int row = 0; row < rowCount(); ++row) {
         const bool isOfVolume = repeats(row, Volume);
         markCell(cell(row, Volume), isOfVolume ? ofVolume : QString());
-        markCell(cell(row, Value), !isOfVolume && repeats(row, Value) ? ofValue : QString());
+        const QStringList change = cell(row, Value)->data(kUnsteady).toStringList();
+        markCell(cell(row, Value), !change.isEmpty()                    ? unsteady.arg(change[0], change[1])
+                                   : !isOfVolume && repeats(row, Value) ? ofValue
+                                                                        : QString());
     }
 }
 

@@ -27,11 +27,18 @@ public:
 
     // Sorts once for all of them. cellChanged tells of no new cell.
     void addRows(const vlk::FuelRows& rows);
+    // In the place of all that are there.
+    void setRows(const vlk::FuelRows& rows);
     void sortByVolume() { sortItems(Volume); }
     // Scrolls to the row that was added last.
     void showAdded() { scrollToItem(added_); }
-    // Marks a volume, or a value at another volume, that repeats the one above it, with a tool tip.
-    void markRepeats(const QString& ofVolume, const QString& ofValue);
+    // The value that was added last, while the reading went from one number to another.
+    void noteUnsteady(const QString& from, const QString& to);
+    // One that was typed since is no longer that reading.
+    void forgetUnsteady(int row);
+    // Marks a volume, or a value at another volume, that repeats the one above it, and a value that was taken
+    // while the reading changed (from %1 to %2), with a tool tip.
+    void markDoubtful(const QString& ofVolume, const QString& ofValue, const QString& unsteady);
     vlk::FuelRows rows() const;
     // The points of the rows with both texts.
     vlk::FuelPoints points() const;

@@ -16,6 +16,8 @@
 #include <QClipboard>
 #include <QKeyEvent>
 
+#include <cstdlib>
+
 namespace {
 
 constexpr double kTopAddedVolume = 3276.7;
@@ -27,7 +29,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
                                            QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Fuel_Sensor>()),
       graph_(new VLK_FuelSensor_Graph(this)), copy_(new QAction(this)), paste_(new QAction(this)),
-      kind_(kind), name_(name)
+      takeBack_(new QAction(this)), kind_(kind), name_(name)
 {
     ui_->setupUi(this);
     empty_ = new vlk::EmptyNote(ui_->tableWidget);
@@ -73,9 +75,12 @@ void VLK_Form_Fuel_Sensor::addClipboardActions()
 {
     copy_->setShortcut(QKeySequence::Copy);
     paste_->setShortcut(QKeySequence::Paste);
+    takeBack_->setShortcut(QKeySequence::Undo);
+    takeBack_->setEnabled(false);
     connect(copy_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::copyTable);
     connect(paste_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::pasteRows);
-    for (QAction* action : {copy_, paste_}) {
+    connect(takeBack_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::takePasteBack);
+    for (QAction* action : {copy_, paste_, takeBack_}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         ui_->tableWidget->addAction(action);
     }
@@ -117,9 +122,11 @@ void VLK_Form_Fuel_Sensor::retranslate()
     empty_->tell(tr("tmiw_291"));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
+    takeBack_->setText(tr("cfgt6_421"));
+    markLiveValue();
     offerName(offeredName_);
     showCaptions();
-    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
+    markDoubtful();
     showFallingPoints();
     if (report_)
         report_->retranslate();
@@ -155,13 +162,30 @@ void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)
 {
-    ui_->lineEdit_Param->setText(vlk::fuelKind(kind_).millivolts ? QString::number(raw / 1000.0, 'f', 2)
-                                                                 : QString::number(raw));
+    const bool isSteady = !live_ || std::abs(raw - *live_) <= vlk::fuelKind(kind_).steady;
+    liveBefore_ = isSteady ? std::nullopt : live_;
+    live_ = raw;
+    ui_->lineEdit_Param->setText(liveText(raw));
+    markLiveValue();
+}
+
+QString VLK_Form_Fuel_Sensor::liveText(int raw) const
+{
+    return vlk::fuelKind(kind_).millivolts ? QString::number(raw / 1000.0, 'f', 2) : QString::number(raw);
+}
+
+void VLK_Form_Fuel_Sensor::markLiveValue()
+{
+    vlk::markField(ui_->lineEdit_Param, vlk::MarkReason::value, vlk::Mark::advice,
+                   liveBefore_ ? tr("cfgt6_422").arg(liveText(*liveBefore_), liveText(*live_)) : QString());
 }
 
 void VLK_Form_Fuel_Sensor::clearLiveValue()
 {
+    live_.reset();
+    liveBefore_.reset();
     ui_->lineEdit_Param->clear();
+    markLiveValue();
 }
 
 void VLK_Form_Fuel_Sensor::clearAll()
@@ -229,6 +253,11 @@ bool VLK_Form_Fuel_Sensor::takesKey(const QLineEdit& number, QKeyEvent& key)
         key.ignore();
         return true;
     }
+    // As soon as a paste into the field is done, this is how it is taken back.
+    if (key.matches(QKeySequence::Undo) && number.text().isEmpty() && beforePaste_) {
+        takePasteBack();
+        return true;
+    }
     // Several lines are points, not a number.
     if (key.matches(QKeySequence::Paste) &&
         QGuiApplication::clipboard()->text().trimmed().contains(QLatin1Char('\n'))) {
@@ -257,11 +286,26 @@ void VLK_Form_Fuel_Sensor::tableToMap(QMap<double, int>& map) const
         map[vlk::withDecimalPoint(row.volume).toDouble()] = vlk::withDecimalPoint(row.value).toInt();
 }
 
+void VLK_Form_Fuel_Sensor::showRows(const vlk::FuelRows& rows)
+{
+    ui_->tableWidget->setRows(rows);
+    ui_->pushButton_Del->setEnabled(false);
+    ui_->pushButton_Clear->setEnabled(!rows.empty());
+    rebuildPoints();
+}
+
+void VLK_Form_Fuel_Sensor::markDoubtful()
+{
+    ui_->tableWidget->markDoubtful(tr("tmiw_269"), tr("tmiw_270"), tr("cfgt6_423"));
+}
+
+// A paste can be taken back until something else happens to the table.
 void VLK_Form_Fuel_Sensor::rebuildPoints()
 {
+    forgetPaste();
     points_ = ui_->tableWidget->points();
     graph_->setPoints(points_);
-    ui_->tableWidget->markRepeats(tr("tmiw_269"), tr("tmiw_270"));
+    markDoubtful();
     showFallingPoints();
     Q_EMIT signal_Changed();
 }
@@ -272,7 +316,9 @@ void VLK_Form_Fuel_Sensor::showFallingPoints()
     const auto falling = vlk::fallingPoints(points_);
     QStringList volumes;
     for (std::size_t i = 0; i < std::min(falling.size(), kNamed); ++i)
-        volumes << QString::number(static_cast<double>(points_[falling[i]].volume));
+        volumes << QStringLiteral("%1 → %2")
+                       .arg(static_cast<double>(points_[falling[i] - 1].volume))
+                       .arg(static_cast<double>(points_[falling[i]].volume));
     if (falling.size() > kNamed)
         volumes << QStringLiteral("…");
     const QString names = volumes.join(QStringLiteral("; "));
@@ -302,12 +348,14 @@ void VLK_Form_Fuel_Sensor::printReport()
     report_->showReport(name_, ui_->lineEdit_Name->text(), points_);
 }
 
-void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int /*row*/, int column)
+void VLK_Form_Fuel_Sensor::slot_CellChanged_Table(int row, int column)
 {
     if (column == vlk::CalibrationTable::Marked) {
         ui_->pushButton_Del->setEnabled(ui_->tableWidget->anyMarked());
         return;
     }
+    if (column == vlk::CalibrationTable::Value)
+        ui_->tableWidget->forgetUnsteady(row);
     ui_->tableWidget->sortByVolume();
     rebuildPoints();
     setEdited(true);
@@ -329,6 +377,10 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     addRows({row});
+    if (liveBefore_) {
+        ui_->tableWidget->noteUnsteady(liveText(*liveBefore_), liveText(*live_));
+        markDoubtful();
+    }
     ui_->tableWidget->showAdded();
     askForVolume();
     setDirty(true);

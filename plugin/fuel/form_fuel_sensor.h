@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 struct CXmlSection;
 
@@ -54,7 +55,8 @@ public:
     bool isEdited() const { return edited_ && !dirty_; }
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
-    // What the sensor says now, in millivolts or as a code.
+    // What the sensor says now, in millivolts or as a code. While it still changes the field is marked, and
+    // so is a point that is added.
     void setLiveValue(int raw);
     // Until the next live value nothing can be added.
     void clearLiveValue();
@@ -108,6 +110,13 @@ private:
     void showCaptions();
     void copyTable() const;
     void pasteRows();
+    void takePasteBack();
+    void forgetPaste();
+    // In the place of those that are there.
+    void showRows(const vlk::FuelRows& rows);
+    QString liveText(int raw) const;
+    void markLiveValue();
+    void markDoubtful();
     void clearRows();
     void askForVolume();
     void typeName(const QString& name);
@@ -125,6 +134,17 @@ private:
     VLK_FormReportFuel* report_ = nullptr;
     QAction* copy_;
     QAction* paste_;
+    QAction* takeBack_;
+    // The table before the last change, if that was a paste.
+    struct BeforePaste
+    {
+        vlk::FuelRows rows;
+        bool isDirty;
+        bool isEdited;
+    };
+    std::optional<BeforePaste> beforePaste_;
+    std::optional<int> live_;
+    std::optional<int> liveBefore_; // while it differs from the one after it
     int kind_;
     QString name_;
     QString offeredName_;

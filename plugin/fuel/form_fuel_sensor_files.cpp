@@ -14,7 +14,10 @@
 #include "fuel/table/kept_tables.h"
 #include "xml/xml_section.h"
 
+#include <QAction>
 #include <QClipboard>
+
+#include <algorithm>
 
 bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
@@ -45,6 +48,7 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
     vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
     isNameTyped_ = false;
+    forgetPaste();
     setDirty(false);
     setEdited(false);
 }
@@ -87,9 +91,42 @@ void VLK_Form_Fuel_Sensor::pasteRows()
         vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut.size()));
         return;
     }
-    if (PastePreview(pasted, texts, this).exec() != QDialog::Accepted)
+    const vlk::FuelRows there = rows();
+    const auto joining = vlk::joining(pasted.rows, there);
+    if (joining.rows.empty()) {
+        vlk::warn(this, tr("cfgt6_420").arg(joining.known));
         return;
-    addRows(pasted.rows);
+    }
+    PastePreview preview(joining, pasted.leftOut, texts, this);
+    if (preview.exec() != QDialog::Accepted)
+        return;
+    BeforePaste before{there, dirty_, edited_};
+    if (preview.isToReplace()) {
+        vlk::FuelRows kept;
+        std::copy_if(there.begin(), there.end(), std::back_inserter(kept), [&](const vlk::FuelRow& row) {
+            return std::find(joining.others.begin(), joining.others.end(), row) == joining.others.end();
+        });
+        ui_->tableWidget->setRows(kept);
+    }
+    addRows(joining.rows);
     ui_->tableWidget->showAdded();
     setDirty(true);
+    beforePaste_ = std::move(before);
+    takeBack_->setEnabled(true);
+}
+
+void VLK_Form_Fuel_Sensor::takePasteBack()
+{
+    if (!beforePaste_)
+        return;
+    const BeforePaste before = *beforePaste_;
+    showRows(before.rows);
+    setDirty(before.isDirty);
+    setEdited(before.isEdited);
+}
+
+void VLK_Form_Fuel_Sensor::forgetPaste()
+{
+    beforePaste_.reset();
+    takeBack_->setEnabled(false);
 }

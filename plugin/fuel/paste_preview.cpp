@@ -2,6 +2,7 @@
 
 #include "typing/table_look.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -13,27 +14,37 @@
 
 namespace {
 
-// The numbers of the first lines.
-QString named(const std::vector<int>& lines)
+// The first ones.
+template <class All, class Name>
+QString named(const All& all, Name name)
 {
     constexpr std::size_t kNamed = 8;
-    QStringList numbers;
-    for (std::size_t i = 0; i < std::min(lines.size(), kNamed); ++i)
-        numbers << QString::number(lines[i]);
-    if (lines.size() > kNamed)
-        numbers << QStringLiteral("…");
-    return numbers.join(QStringLiteral(", "));
+    QStringList names;
+    for (std::size_t i = 0; i < std::min(all.size(), kNamed); ++i)
+        names << name(all[i]);
+    if (all.size() > kNamed)
+        names << QStringLiteral("…");
+    return names.join(QStringLiteral("; "));
+}
+
+void addSentence(QVBoxLayout* column, const char* name, const QString& text)
+{
+    auto* sentence = new QLabel(text);
+    sentence->setObjectName(QLatin1String(name));
+    sentence->setWordWrap(true);
+    column->addWidget(sentence);
 }
 
 } // namespace
 
-PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaptions& captions, QWidget* parent)
+PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<int>& leftOut,
+                           const vlk::FuelCaptions& captions, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
 {
     setObjectName(QStringLiteral("dialog_Paste"));
     setWindowTitle(tr("cfgt6_402"));
     auto* column = new QVBoxLayout(this);
-    const auto count = static_cast<int>(pasted.rows.size());
+    const auto count = static_cast<int>(joining.rows.size());
     column->addWidget(new QLabel(tr("cfgt6_409").arg(count)));
 
     auto* table = new QTableWidget(count, 2);
@@ -46,7 +57,7 @@ PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaption
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     for (int row = 0; row < count; ++row) {
-        const vlk::FuelRow& texts = pasted.rows[static_cast<std::size_t>(row)];
+        const vlk::FuelRow& texts = joining.rows[static_cast<std::size_t>(row)];
         for (const auto& [at, text] : {std::pair(0, texts.volume), std::pair(1, texts.value)}) {
             auto* item = new QTableWidgetItem(text);
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -55,12 +66,20 @@ PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaption
     }
     column->addWidget(table);
 
-    if (!pasted.leftOut.empty()) {
-        auto* leftOut =
-            new QLabel(tr("cfgt6_410").arg(QString::number(pasted.leftOut.size()), named(pasted.leftOut)));
-        leftOut->setObjectName(QStringLiteral("label_LeftOut"));
-        leftOut->setWordWrap(true);
-        column->addWidget(leftOut);
+    if (!leftOut.empty())
+        addSentence(column, "label_LeftOut",
+                    tr("cfgt6_410").arg(QString::number(leftOut.size()), named(leftOut, [](int line) {
+                                            return QString::number(line);
+                                        })));
+    if (joining.known > 0)
+        addSentence(column, "label_Known", tr("cfgt6_417").arg(joining.known));
+    if (!joining.others.empty()) {
+        const auto volume = [](const vlk::FuelRow& row) { return row.volume; };
+        addSentence(column, "label_Others", tr("cfgt6_418").arg(named(joining.others, volume)));
+        replace_ = new QCheckBox(tr("cfgt6_419"));
+        replace_->setObjectName(QStringLiteral("checkBox_Replace"));
+        replace_->setChecked(true);
+        column->addWidget(replace_);
     }
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(tr("wrd_034"), QDialogButtonBox::AcceptRole)->setDefault(true);
@@ -69,4 +88,9 @@ PastePreview::PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaption
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     column->addWidget(buttons);
     resize(320, 360);
+}
+
+bool PastePreview::isToReplace() const
+{
+    return replace_ && replace_->isChecked();
 }

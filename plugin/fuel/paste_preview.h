@@ -1,15 +1,25 @@
 #pragma once
 
-// What a paste would add to a calibration table, and how many lines it leaves out, for the user to agree to.
+// What a paste would add to a calibration table, what becomes of the points that are there, and which lines
+// it leaves out, for the user to agree to.
 
 #include "fuel/table/fuel_text.h"
 
 #include <QDialog>
+
+class QCheckBox;
 
 class PastePreview : public QDialog
 {
     Q_OBJECT
 
 public:
-    PastePreview(const vlk::PastedRows& pasted, const vlk::FuelCaptions& captions, QWidget* parent);
+    PastePreview(const vlk::JoiningRows& joining, const std::vector<int>& leftOut,
+                 const vlk::FuelCaptions& captions, QWidget* parent);
+
+    // Whether the rows come in the place of those at the same volume.
+    bool isToReplace() const;
+
+private:
+    QCheckBox* replace_ = nullptr;
 };

@@ -70,13 +70,14 @@ protected:
         auto* group = qobject_cast<QTabWidget*>(groups->currentWidget());
         group->setCurrentIndex(analogue ? 0 : sensor.midRef(1).toInt() - 1);
     }
-    // Pours, waits for the live value and adds the point.
-    void add(const QString& sensor, const QString& volume, quint16 millivolts)
+    // Pours, waits until the live value stands, or not, and adds the point.
+    void add(const QString& sensor, const QString& volume, quint16 millivolts, int readings = 2)
     {
         show(sensor);
         QByteArray record = liveRecord();
         qToLittleEndian(millivolts, record.data() + 19);
-        host.send(Message::AnalogRecord, record.constData());
+        for (int i = 0; i < readings; ++i)
+            host.send(Message::AnalogRecord, record.constData());
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
     }

@@ -151,6 +151,45 @@ private Q_SLOTS:
         QVERIFY(form()->isDirty());
     }
 
+    // What is there already is not added again; another value at a volume takes the place of the first, or
+    // stands beside it; and all of it can be taken back until something else happens.
+    void pastesOverPoints_data()
+    {
+        DataTable<QString, bool, QString>({"text", "replaces", "after"})
+            .row("the same", "10\t100\n20\t200\n", true, "10=100 20=200")
+            .row("another value", "10,0\t150\n20\t200\n30\t300\n30.0\t300\n", true, "10.0=150 20=200 30=300")
+            .row("beside it", "10\t150\n30\t300\n", false, "10=100 10=150 20=200 30=300");
+    }
+    void pastesOverPoints()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, replaces);
+        QFETCH(QString, after);
+        const QString before = "10=100 20=200";
+        dialog_->setData("t", {{10, 100}, {20, 200}});
+        QApplication::setActiveWindow(window);
+        QGuiApplication::clipboard()->setText(text);
+        QStringList told;
+        whenOpen<QDialog>([&](QDialog& preview) {
+            for (const auto* label : preview.findChildren<QLabel*>())
+                told << label->text();
+            if (auto* replace = preview.findChild<QCheckBox*>("checkBox_Replace"); replace && !replaces)
+                QTest::keyClick(replace, Qt::Key_Space);
+            QTest::keyClick(&preview, Qt::Key_Return);
+        });
+        auto* volume = child<QLineEdit>("lineEdit_Volume");
+        volume->setFocus();
+        QTest::keyClick(volume, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(rows(), after);
+        QVERIFY(told.contains(after == before ? "cfgt6_420" : "cfgt6_418"));
+        QCOMPARE(form()->isDirty(), after != before);
+        QTest::keyClick(volume, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(rows(), before);
+        QVERIFY(!form()->isDirty());
+        QTest::keyClick(volume, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(rows(), before);
+    }
+
     void givesTheTableToItsOwner_data()
     {
         DataTable<QString, QString, QString, int>({"change", "leave", "answer", "told"})

@@ -84,6 +84,16 @@ private Q_SLOTS:
         QCOMPARE(shown->item(3, 0)->toolTip() + shown->item(4, 1)->toolTip(), QString());
         editCell("A3", "0.21", 2, 1);
         QCOMPARE(shown->item(2, 1)->toolTip(), QString());
+        // Neither is a reading that still changes.
+        QCOMPARE(field("A3", "lineEdit_Param")->toolTip(), QString());
+        add("A3", "40", 5000, 1);
+        QCOMPARE(field("A3", "lineEdit_Param")->toolTip(), QString("cfgt6_422"));
+        const int last = shown->rowCount() - 1;
+        QCOMPARE(shown->item(last, 1)->toolTip(), QString("cfgt6_423"));
+        add("A3", "50", 5015, 1);
+        QCOMPARE(field("A3", "lineEdit_Param")->toolTip() + shown->item(last + 1, 1)->toolTip(), QString());
+        editCell("A3", "4.9", last, 1);
+        QCOMPARE(shown->item(last, 1)->toolTip(), QString());
     }
 
     // Each opening begins anew, save when rows would be lost; and tabs know what is unsaved.

@@ -305,6 +305,7 @@ private Q_SLOTS:
             for (Edited& edited : all) {
                 QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
                 environment.insert(kFolder, edited.folder.path());
+                environment.insert("TMPDIR", folder_.path()); // what it leaves behind goes with this test
                 edited.process.setProcessEnvironment(environment);
                 edited.process.start(QCoreApplication::applicationFilePath(), QStringList());
             }

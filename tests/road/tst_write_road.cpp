@@ -408,6 +408,9 @@ private Q_SLOTS:
         for (int kill = 0; kill < kills; ++kill) {
             QProcess child;
             child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert("TMPDIR", root.path()); // what it leaves behind goes with this test
+            child.setProcessEnvironment(environment);
             child.start(QCoreApplication::applicationFilePath(), {"--road", root.path()});
             QVERIFY(child.waitForReadyRead(10'000));
             QTest::qSleep(1 + QRandomGenerator::global()->bounded(700));

@@ -339,6 +339,8 @@ private Q_SLOTS:
         QCOMPARE(number(table->currentIndex().row()), QString("11"));
         host.send(Message::TrackerDetached);
         open();
+        // Nor are they told as those of the tracker that comes next.
+        QCOMPARE(text("label_SavedInPart"), QString());
         send(Message::RecordByNumber, 17);
         QCOMPARE(rows(), 7);
         // It ended before what is already known.

@@ -320,6 +320,37 @@ private Q_SLOTS:
         menu->close();
     }
 
+    // As the first record of a tracker has them; those that follow move no tab under the mouse.
+    void tabsWithoutValues()
+    {
+        const auto* tabs = child<QTabWidget>("tabWidget");
+        const auto titles = [tabs] {
+            QStringList found;
+            for (int i = 0; i < tabs->count(); ++i)
+                found << tabs->tabText(i);
+            return found;
+        };
+        const QString chosen = tabs->tabText(tabs->currentIndex());
+        openAgain();
+        show(randomRecord(7));
+        const QStringList all = titles();
+        const QStringList fuelInFront{all[3], all[0], all[1], all[2]};
+        openAgain();
+        show(Record{{"LevelRS485_1", 0}}); // an empty tank is a value
+        QCOMPARE(titles(), fuelInFront);
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), chosen);
+        for (const Record& record : {randomRecord(7), Record()}) {
+            show(record);
+            QCOMPARE(titles(), fuelInFront);
+        }
+        window->findChild<QMenu*>()->actions().at(1)->trigger();
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), all[1]);
+        openAgain();
+        show(randomRecord(7));
+        QCOMPARE(titles(), all);
+        QCOMPARE(tabs->tabText(tabs->currentIndex()), all[1]);
+    }
+
     void language()
     {
         show(Record{{"Module1", 0x80}});

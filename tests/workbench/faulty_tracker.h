@@ -10,8 +10,26 @@
 #include <QtWidgets>
 
 // Write: what goes wrong is there before the button is pressed; Send: from the review on; Back: when the
-// tracker has the file.
-enum Step { Read, Write, Send, Back, Live, Period, Search, Clear, Mileage, Output };
+// tracker has the file. Last come the closings with work undone: of the main window during a save, during a
+// write and over a calibration table, and of the windows with a save, a table and edits themselves.
+enum Step {
+    Read,
+    Write,
+    Send,
+    Back,
+    Live,
+    Period,
+    Search,
+    Clear,
+    Mileage,
+    Output,
+    CloseOverSave,
+    CloseOverWrite,
+    CloseOverTable,
+    CloseSave,
+    CloseTable,
+    CloseEdits
+};
 
 struct Bench : OpenedWorkbench
 {
@@ -65,6 +83,7 @@ struct Bench : OpenedWorkbench
     }
     static QWidget* configuration() { return pluginWindow("VLK_Widget_Config"); }
     static QWidget* telemetry() { return pluginWindow("VLK_Widget_Tmi_View"); }
+    static QWidget* calibration() { return pluginWindow("VLK_Form_TMI_Fuel_Sensors"); }
 
     static void press(QWidget* in, const char* button)
     {
@@ -74,8 +93,8 @@ struct Bench : OpenedWorkbench
         found->click();
     }
 
-    // What stands on the window that is looked at, at its upper inner edge, in the room that a bar of its own
-    // makes below itself.
+    // What stands on the window that is looked at, in the room that the bar of the window gives it: over
+    // nothing else.
     static QString notice()
     {
         QWidget* window = configuration() ? configuration() : telemetry();
@@ -83,14 +102,18 @@ struct Bench : OpenedWorkbench
         if (!bar || !bar->isVisible())
             return {};
         const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
-        const int end = own && own->isVisible() ? own->mapTo(window, own->rect().bottomLeft()).y() + 1 : 0;
-        const int top = end > 0 ? end - 6 - bar->height() : 0;
-        const QPoint corner = window->geometry().topLeft() + QPoint(6, top + 6);
-        return bar->pos() == corner ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
-                                    : QStringLiteral("out of place");
+        const QRect room(own->mapToGlobal(QPoint()), own->size());
+        return room.contains(bar->geometry())
+                   ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
+                   : QStringLiteral("out of place");
     }
 
-    static bool isWrite(Step step) { return step == Write || step == Send || step == Back; }
+    static bool isWrite(Step step)
+    {
+        return step == Write || step == Send || step == Back || step == CloseOverWrite || step == CloseEdits;
+    }
+    // In this one, or over what is left of it.
+    static bool isOfConfiguration(Step step) { return step < Live || step == Search || isWrite(step); }
 
     // What comes before the step, with a sound tracker.
     void prepare(Step step)
@@ -99,11 +122,15 @@ struct Bench : OpenedWorkbench
             action("action_Read")->trigger();
         if (isWrite(step))
             configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
-        if (step < Live || step == Search)
+        if (isOfConfiguration(step))
             return;
         action("action_Telemetry")->trigger();
         auto* number = telemetry()->findChild<QLabel*>(QStringLiteral("label_Event_NumPage_Value"));
         QTRY_VERIFY(!number->text().isEmpty() && number->isVisible());
+        if (step == CloseOverSave || step == CloseSave)
+            collect();
+        else if (step == CloseOverTable || step == CloseTable)
+            addPoint();
     }
 
     void take(Step step)
@@ -129,6 +156,22 @@ struct Bench : OpenedWorkbench
             return press(telemetry(), "pushButton_Run");
         case Output:
             return press(telemetry(), "pushButton_Out_On");
+        case CloseOverWrite:
+            take(Write);
+            configuration()->close();
+            QTRY_VERIFY(window.session().road().isBusy());
+            [[fallthrough]];
+        case CloseOverSave:
+        case CloseOverTable:
+            QVERIFY(!window.close() && window.isVisible());
+            return;
+        case CloseSave:
+            return void(telemetry()->close());
+        case CloseTable:
+            QVERIFY(!calibration()->close());
+            return;
+        case CloseEdits:
+            configuration()->close();
         }
     }
 
@@ -136,10 +179,25 @@ struct Bench : OpenedWorkbench
     void beginSave()
     {
         prepare(Period);
+        collect();
+    }
+    void collect()
+    {
         tracker().setFaults({.delayMs = 20});
         take(Period);
         const auto* bar = telemetry()->findChild<QProgressBar*>(QStringLiteral("progressBar_Time"));
         QTRY_VERIFY(bar->value() > 2);
+    }
+    // To a table that is in no file.
+    void addPoint()
+    {
+        press(telemetry(), "pushButton_FuelSensor");
+        QVERIFY(calibration());
+        const auto* sensor = calibration()->findChild<QWidget*>(QStringLiteral("A3"));
+        QTRY_VERIFY(!sensor->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"))->text().isEmpty());
+        auto* volume = sensor->findChild<QLineEdit*>(QStringLiteral("lineEdit_Volume"));
+        QTest::keyClicks(volume, "10");
+        QTest::keyClick(volume, Qt::Key_Return);
     }
     // By the offer of the notice, which comes with silence.
     void endSave()

@@ -1,5 +1,5 @@
-// Each fault of the tracker at each step of the work: whatever goes wrong ends in a true sentence, and what
-// went well is not doubted.
+// Each fault of the tracker at each step of the work, and each closing with work undone: whatever goes wrong
+// ends in a true sentence in the right window, and what went well is not doubted.
 
 #include "faulty_tracker.h"
 #include "support/data_table.h"
@@ -70,6 +70,8 @@ private Q_SLOTS:
         const QString silent = QStringLiteral("No answer from the tracker since ");
         const QString unknown =
             silent + QStringLiteral("[\\d:]+\\. Whether it has done what was asked is not known");
+        const QString tableAsked = QStringLiteral("Calibration tables have rows that are not saved");
+        const QString inPart = QStringLiteral("Saved in part: .*/period\\.xml.* \\d+ of [\\d,]+ records");
         const QString notConfirmed = QStringLiteral("but the tracker did not confirm it");
         // What is said is a regular expression.
         DataTable<int, Faults, QString, bool, bool>({"step", "faults", "said", "open", "diskIsFull"})
@@ -151,6 +153,12 @@ private Q_SLOTS:
             .row("output, unplugged", Output, unplug, closed, false, false)
             .row("output, delay", Output, delay, "Output 1 is switched on", true, false)
             .row("period, full disk", Period, none, "period.xml was not saved: ", true, true)
+            .row("close over a save", CloseOverSave, delay, "Closing ends the save", true, false)
+            .row("close over a write", CloseOverWrite, silence, "is on its way to the tracker", false, false)
+            .row("close over a table", CloseOverTable, none, tableAsked, true, false)
+            .row("close a save", CloseSave, delay, inPart, false, false)
+            .row("close a table", CloseTable, none, tableAsked, true, false)
+            .row("close edits", CloseEdits, none, "Unsaved changes: 1. They are offered", false, false)
             // To whom reads Russian it is told in Russian from the beginning.
             .row("Russian read, silence", Read, silence,
                  "Конфигурация из трекера не прочитана. Трекер не отвечает", false, false)
@@ -171,7 +179,17 @@ private Q_SLOTS:
                  true, false)
             .row("Russian period, unplugged", Period, unplug, "поэтому окно его телеметрии закрыто", false,
                  false)
-            .row("Russian period, full disk", Period, none, "period.xml не сохранён: ", true, true);
+            .row("Russian period, full disk", Period, none, "period.xml не сохранён: ", true, true)
+            .row("Russian close over a save", CloseOverSave, delay, "Если закрыть программу, в файле", true,
+                 false)
+            .row("Russian close over a write", CloseOverWrite, silence, "Конфигурация на пути в трекер",
+                 false, false)
+            .row("Russian close over a table", CloseOverTable, none, "есть несохранённые строки", true, false)
+            .row("Russian close a save", CloseSave, delay, "Сохранено не целиком: .*/period\\.xml.* \\d+ из ",
+                 false, false)
+            .row("Russian close a table", CloseTable, none, "есть несохранённые строки", true, false)
+            .row("Russian close edits", CloseEdits, none, "Несохранённые изменения: 1. Их предложат", false,
+                 false);
     }
     void everyFaultEndsInATrueSentence()
     {
@@ -203,6 +221,8 @@ private Q_SLOTS:
             connect(road, &workbench::WriteRoad::taken, &context, spoil);
         else
             spoil();
+        const bool isRefused = step >= CloseOverSave && step != CloseSave && step != CloseEdits;
+        bench.agrees = !isRefused;
         bench.take(Step(step));
         // A line that was there before says nothing until an answer has come.
         const auto isSaid = [&] {
@@ -210,10 +230,9 @@ private Q_SLOTS:
                    (answered || said != QLatin1String("Ready"));
         };
         QTRY_VERIFY2_WITH_TIMEOUT(isSaid(), qPrintable(bench.everything()), 20'000);
-        const bool ofConfiguration = step < Live || step == Search;
-        QWidget* window = ofConfiguration ? Bench::configuration() : Bench::telemetry();
+        QWidget* window = Bench::isOfConfiguration(Step(step)) ? Bench::configuration() : Bench::telemetry();
         QCOMPARE(window != nullptr, open);
-        const bool hasNotice = open && step >= Live && step != Period;
+        const bool hasNotice = open && step >= Live && step != Period && step < CloseOverSave;
         if (hasNotice)
             window->move(30, 20);
         const bool isInBox = bench.boxes.contains(bench.status());
@@ -267,6 +286,21 @@ private Q_SLOTS:
         const QString notPassedOn =
             isRussian ? QStringLiteral("Оно не передано") : QStringLiteral("It was not passed on");
         QCOMPARE(bench.logged(notPassedOn) > 0, (step == Live || step == Period) && isDamaged);
+
+        if (isRefused) {
+            // Over the window that was worked in, which stays.
+            if (step != CloseOverWrite)
+                QCOMPARE(bench.over, step == CloseOverSave ? Bench::telemetry() : Bench::calibration());
+            if (step == CloseOverWrite)
+                QTRY_VERIFY_WITH_TIMEOUT(bench.status().contains(QLatin1String("not written. The tracker")),
+                                         20'000);
+            bench.agrees = true;
+            QVERIFY(bench.window.close() && !Bench::telemetry() && !Bench::calibration());
+        }
+        if (step >= CloseOverSave) {
+            QCOMPARE(QFile::exists(bench.file()), step == CloseOverSave || step == CloseSave);
+            return;
+        }
 
         disk.reset();
         // With the cause goes what was said of it, at the latest with the next answer.

@@ -86,12 +86,19 @@ private Q_SLOTS:
         QTRY_VERIFY(bench.window.isActiveWindow());
         QTest::keyClick(&bench.window, Qt::Key_F9);
         QVERIFY(visibleFaults());
+        // Where the user has put them, and as large.
+        visibleFaults()->resize(visibleFaults()->size() + QSize(20, 10));
+        visibleFaults()->move(3, 5);
+        const QRect place = visibleFaults()->geometry();
         QDialog report;
         report.setModal(true);
         report.show();
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &report);
+        QCOMPARE(visibleFaults()->geometry(), place);
+        bench.window.move(600, 300);
         report.hide();
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
+        QCOMPARE(visibleFaults()->geometry(), place);
     }
 
     // Where there is no room beside a window its buttons stay free.

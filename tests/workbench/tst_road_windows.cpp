@@ -337,7 +337,18 @@ private Q_SLOTS:
         Bench::press("pushButton_Write");
         QTRY_COMPARE(bench.nameInTracker(), before);
         QTRY_VERIFY(Bench::find("dialog_Report"));
+        // One that did not get there takes nothing away.
+        const QString written = bench.text("label_Report");
+        bench.session().tracker().detach();
+        Bench::press("pushButton_BringBack");
+        QTRY_VERIFY(bench.text("label_Report").contains("not written"));
+        const auto* view = bench.window.findChild<QWidget*>("pushButton_OtherReport")->parentWidget();
+        for (const bool isWritten : {true, false}) {
+            view->findChild<QPushButton*>("pushButton_OtherReport")->click();
+            QCOMPARE(bench.text("label_Report") == written, isWritten);
+        }
         Bench::press("pushButton_Close");
+        bench.session().tracker().attach();
 
         // What to do is told once.
         connect(&bench.session().road(), &workbench::WriteRoad::taken, &bench.window,

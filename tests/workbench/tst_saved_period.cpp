@@ -15,7 +15,7 @@ private Q_SLOTS:
     void savedInPart_data()
     {
         DataTable<QString> table({"by"});
-        for (const char* by : {"unplugged", "cancelled", "closed", "ended"})
+        for (const char* by : {"unplugged", "cancelled", "ended"})
             table.row(by, QLatin1String(by));
     }
     void savedInPart()
@@ -28,8 +28,6 @@ private Q_SLOTS:
             bench.tracker().setFaults({.unplug = true});
         else if (by == QLatin1String("cancelled"))
             Bench::press(view, "pushButton_Save_Cancel");
-        else if (by == QLatin1String("closed"))
-            view->close();
         else
             bench.endSave();
         static const QRegularExpression held(

@@ -31,7 +31,7 @@ private Q_SLOTS:
         bench.prepare(Live);
         bench.tracker().setFaults({.garbledAnswers = true});
         Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
-        QWidget* calibration = Bench::pluginWindow("VLK_Form_TMI_Fuel_Sensors");
+        QWidget* calibration = Bench::calibration();
         QVERIFY(calibration);
         const auto noticeOn = [](const QWidget* window) -> QWidget* {
             auto* bar =
@@ -114,37 +114,18 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(silent), 12'000);
     }
 
-    // The main window, with work undone.
-    void closesOverNoWork_data()
+    // A reading that failed is asked for again, and an old one is not on show meanwhile.
+    void asksForReadingsAnew()
     {
-        DataTable<int, QString>({"work", "said"})
-            .row("a save", Period, "Closing ends the save")
-            .row("a write", Write, "A configuration is on its way to the tracker");
-    }
-    void closesOverNoWork()
-    {
-        QFETCH(int, work);
-        QFETCH(QString, said);
         Bench bench;
-        bench.agrees = false;
-        if (work == Period) {
-            bench.beginSave();
-        } else {
-            bench.prepare(Write);
-            bench.tracker().setFaults({.silence = true});
-            bench.take(Write);
-            Bench::configuration()->close();
-            QTRY_VERIFY(bench.window.session().road().isBusy());
+        bench.prepare(Live);
+        Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
+        const auto* sensor = Bench::calibration()->findChild<QWidget*>(QStringLiteral("A3"));
+        const auto* value = sensor->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"));
+        for (const bool isSilent : {false, true, false}) {
+            bench.tracker().setFaults({.silence = isSilent});
+            QTRY_VERIFY_WITH_TIMEOUT(value->text().isEmpty() == isSilent, 6000);
         }
-        QVERIFY(!bench.window.close() && bench.window.isVisible());
-        QVERIFY2(bench.everything().contains(said), qPrintable(bench.everything()));
-        QVERIFY(work != Period || Bench::telemetry());
-        if (work == Write)
-            QTRY_VERIFY_WITH_TIMEOUT(
-                bench.status().contains(QLatin1String("not written. The tracker does not")), 20'000);
-        bench.agrees = true;
-        QVERIFY(bench.window.close() && !Bench::telemetry());
-        QCOMPARE(QFile::exists(bench.file()), work == Period);
     }
 
     void detachedByTheUser()

@@ -1,7 +1,6 @@
 // The main window: what it says and allows, how it looks, how it closes.
 
 #include "echo_bench.h"
-#include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "window/folders_dialog.h"
@@ -173,42 +172,6 @@ private Q_SLOTS:
                 QVERIFY2(letters.removeDuplicates() == 0, qPrintable(all.join(QLatin1Char(' '))));
             }
         }
-    }
-
-    // Cancel over a table with rows that are not saved means that nothing closes.
-    void closesNotOverACalibration()
-    {
-        Bench bench;
-        QVERIFY(bench.OpenedWorkbench::start(VLK_PLUGIN));
-        bench.action("action_Telemetry")->trigger();
-        const auto find = [](const char* name) {
-            for (QWidget* window : QApplication::topLevelWidgets())
-                if (window->isVisible() && window->inherits(name))
-                    return window;
-            return static_cast<QWidget*>(nullptr);
-        };
-        find("VLK_Widget_Tmi_View")
-            ->findChild<QPushButton*>(QStringLiteral("pushButton_FuelSensor"))
-            ->click();
-        QWidget* const calibration = find("VLK_Form_TMI_Fuel_Sensors");
-        auto* sensor = calibration->findChild<QWidget*>(QStringLiteral("A3"));
-        auto* volume = sensor->findChild<QLineEdit*>(QStringLiteral("lineEdit_Volume"));
-        const auto* value = sensor->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"));
-        QTRY_VERIFY(!value->text().isEmpty());
-        // A reading that failed is asked for again.
-        tracker::SimulatedTracker& tracker = bench.window.session().tracker();
-        tracker.setFaults({.silence = true});
-        QTRY_VERIFY_WITH_TIMEOUT(value->text().isEmpty(), 6000);
-        tracker.setFaults({});
-        QTRY_VERIFY_WITH_TIMEOUT(!value->text().isEmpty(), 6000);
-        QTest::keyClicks(volume, "10");
-        QTest::keyClick(volume, Qt::Key_Return);
-        const QString asked = messageDuring([&bench] { bench.window.close(); });
-        QVERIFY2(asked.contains("not saved"), qPrintable(asked));
-        QVERIFY(bench.window.isVisible() && calibration->isVisible() && find("VLK_Widget_Tmi_View"));
-        answerBox(QStringLiteral("Yes"));
-        bench.window.close();
-        QVERIFY(!bench.window.isVisible() && !calibration->isVisible() && !find("VLK_Widget_Tmi_View"));
     }
 
     // A window that stays would keep the program without one to work in.

@@ -88,12 +88,14 @@ FaultsWindow* FaultsAtHand::windowOf(QWidget* owner)
 {
     if (window_ && window_->parentWidget() == owner)
         return window_;
+    // One that changes its owner loses its place with some window managers.
+    auto* window = new FaultsWindow(tracker_, owner);
     if (window_) {
+        window->follow(*window_);
         window_->hide();
         window_->deleteLater();
     }
-    // One that changes its owner loses its place with some window managers.
-    window_ = new FaultsWindow(tracker_, owner);
+    window_ = window;
     window_->setTrouble(trouble_);
     connect(window_, &QDialog::rejected, this, [this] { wanted_ = false; });
     return window_;

@@ -13,7 +13,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <vector>
 
 namespace workbench {
 
@@ -109,25 +108,35 @@ void FaultsWindow::place()
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
     resizeWithin(this, size());
+    if (wanted_ && covered(*wanted_) == 0) {
+        moveWithin(this, *wanted_);
+        return;
+    }
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
     moveWithin(this, fitsBeside(owner) ? beside : freeCorner(room));
 }
 
+void FaultsWindow::follow(const FaultsWindow& other)
+{
+    wanted_ = other.pos();
+    resize(other.size());
+}
+
+std::ptrdiff_t FaultsWindow::covered(const QPoint& place) const
+{
+    const auto buttons = parentWidget()->findChildren<QPushButton*>();
+    return std::ranges::count_if(buttons, [&](const QPushButton* button) {
+        return button->isVisible() && button->window() == parentWidget() &&
+               QRect(place, size()).intersects({button->mapToGlobal(QPoint()), button->size()});
+    });
+}
+
 QPoint FaultsWindow::freeCorner(const QRect& room) const
 {
-    std::vector<QRect> buttons;
-    for (const QPushButton* button : parentWidget()->findChildren<QPushButton*>()) {
-        if (button->isVisible() && button->window() == parentWidget())
-            buttons.emplace_back(button->mapToGlobal(QPoint()), button->size());
-    }
     const int right = room.right() + 1 - width();
     const int bottom = room.bottom() + 1 - height();
     const QPoint corners[] = {{right, bottom}, {room.left(), bottom}, {right, room.top()}, room.topLeft()};
-    return *std::ranges::min_element(corners, {}, [&](const QPoint& corner) {
-        return std::ranges::count_if(buttons, [place = QRect(corner, size())](const QRect& button) {
-            return place.intersects(button);
-        });
-    });
+    return *std::ranges::min_element(corners, {}, [this](const QPoint& corner) { return covered(corner); });
 }
 
 } // namespace workbench

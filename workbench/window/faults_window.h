@@ -7,6 +7,9 @@
 
 #include <QDialog>
 
+#include <cstddef>
+#include <optional>
+
 class QLabel;
 
 namespace tracker {
@@ -30,6 +33,8 @@ public:
     // Shows it beside the owner, or where there is no room in the corner of the screen in which it covers the
     // fewest buttons of the owner; with the keyboard, or leaving it where it is until the user clicks here.
     void comeUp(bool withKeyboard);
+    // Where the one of another owner stood, and as large: it comes up there, unless it would cover buttons.
+    void follow(const FaultsWindow& other);
     // Whether there is room for it beside a window.
     bool fitsBeside(const QWidget& window) const;
 
@@ -41,9 +46,12 @@ private:
     void grow();
     void place();
     QPoint freeCorner(const QRect& room) const;
+    // How many buttons of the owner it would cover there.
+    std::ptrdiff_t covered(const QPoint& place) const;
 
     FaultsPanel* panel_;
     QLabel* trouble_;
+    std::optional<QPoint> wanted_; // its place, where another one has stood
     KeyTexts texts_;
 };
 

@@ -129,7 +129,7 @@ void WindowNotice::place()
         if (bar->isVisible() || bar->sizePolicy().retainSizeWhenHidden())
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
         if (bar->isVisible())
-            inside.setTop(qMax(inside.top(), place.bottom() + 1 + kMargin));
+            inside.setTop(qMax(inside.top(), place.bottom() + 1 + kRoomMargin));
     }
     resize(inside.width(), heightForWidth(inside.width()));
     const QWidget* typed = parentWidget()->focusWidget();
@@ -139,7 +139,7 @@ void WindowNotice::place()
             inside.setTop(field.bottom() + 1 + kMargin);
     }
     move(inside.topLeft());
-    askForRoom(isHidden() ? 0 : height() + kMargin);
+    askForRoom(isHidden() ? 0 : height() + kRoomMargin);
 }
 
 void WindowNotice::askForRoom(int pixels)

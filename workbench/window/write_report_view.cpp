@@ -57,6 +57,7 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     backup_->setObjectName(QStringLiteral("label_Backup"));
     buttons_->addWidget(backup_);
     buttons_->addStretch(1);
+    otherReport_ = addButton("pushButton_OtherReport", &WriteReportView::showOther);
     again_ = addButton("pushButton_Again", &WriteReportView::tryAgain);
     back_ = addButton("pushButton_BringBack", &WriteReportView::bringBack);
 
@@ -126,6 +127,26 @@ Sentence WriteReportView::bringBack()
 
 void WriteReportView::setReport(const RoadReport& report, const QString& typed)
 {
+    const auto isOfWrite = [](const RoadReport& each) {
+        return each.time.isValid() && each.outcome != RoadReport::Outcome::notWritten;
+    };
+    if (isOfWrite(report))
+        other_.reset();
+    else if (isOfWrite(report_))
+        other_ = {report_, typed_};
+    show(report, typed);
+}
+
+Sentence WriteReportView::showOther()
+{
+    const auto other = *other_;
+    other_ = {report_, typed_};
+    show(other.first, other.second);
+    return {};
+}
+
+void WriteReportView::show(const RoadReport& report, const QString& typed)
+{
     report_ = report;
     typed_ = typed;
     model_.setReport(report);
@@ -149,6 +170,9 @@ void WriteReportView::showSummary()
                        report_.fault != RoadReport::Fault::unsaved &&
                        report_.fault != RoadReport::Fault::badRequest);
     again_->setText(text("wb_report_again"));
+    otherReport_->setVisible(other_.has_value());
+    if (other_)
+        otherReport_->setText(text("wb_report_other").arg(timeOfDay(other_->first.time)));
     back_->setVisible(any && report_.toBringBack() > 0);
     back_->setText(text("wb_report_bring_back").arg(number(report_.toBringBack())));
     if (!any)

@@ -11,6 +11,9 @@
 
 #include <QWidget>
 
+#include <optional>
+#include <utility>
+
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -29,7 +32,8 @@ class WriteReportView : public QWidget
 public:
     explicit WriteReportView(HostSession& session, QWidget* parent = nullptr);
 
-    // With what became of numbers that were still being typed, or nothing.
+    // With what became of numbers that were still being typed, or nothing. The report of the last write that
+    // got to the tracker can be called back as long as the ones after it did not.
     void setReport(const RoadReport& report, const QString& typed);
     void retranslate();
 
@@ -45,6 +49,8 @@ private:
     QPushButton* addButton(const char* name, Sentence (WriteReportView::*act)());
     Sentence tryAgain();
     Sentence bringBack();
+    Sentence showOther();
+    void show(const RoadReport& report, const QString& typed);
     void buildTable();
     void showSummary();
 
@@ -53,6 +59,8 @@ private:
     KeyTexts texts_;
     RoadReport report_;
     QString typed_;
+    // The last report of a write, while one of none is on show; or the other way round.
+    std::optional<std::pair<RoadReport, QString>> other_;
     QLabel* symbol_;
     QLabel* summary_;
     QLabel* time_;
@@ -63,6 +71,7 @@ private:
     QHBoxLayout* buttons_;
     QPushButton* again_;
     QPushButton* back_;
+    QPushButton* otherReport_;
 };
 
 } // namespace workbench

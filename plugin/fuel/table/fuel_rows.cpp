@@ -1,6 +1,7 @@
 #include "fuel/table/fuel_rows.h"
 
 #include <cmath>
+#include <set>
 
 namespace vlk {
 
@@ -39,6 +40,31 @@ std::optional<FuelFlaw> firstFlaw(const FuelRows& rows)
         }
     }
     return {};
+}
+
+JoiningRows joining(const FuelRows& coming, const FuelRows& table)
+{
+    const auto point = [](const FuelRow& row) {
+        return std::pair(fuelNumber(row.volume), fuelNumber(row.value));
+    };
+    std::set<std::pair<float, float>> known;
+    for (const FuelRow& row : table)
+        known.insert(point(row));
+    JoiningRows found;
+    std::set<float> volumes;
+    for (const FuelRow& row : coming) {
+        if (!known.insert(point(row)).second) {
+            ++found.known;
+            continue;
+        }
+        found.rows.push_back(row);
+        volumes.insert(point(row).first);
+    }
+    for (const FuelRow& row : table) {
+        if (volumes.count(point(row).first) > 0)
+            found.others.push_back(row);
+    }
+    return found;
 }
 
 std::vector<std::size_t> fallingPoints(const FuelPoints& points)

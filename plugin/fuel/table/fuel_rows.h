@@ -51,6 +51,15 @@ struct FuelFlaw
 // The first one of a table.
 std::optional<FuelFlaw> firstFlaw(const FuelRows& rows);
 
+// Rows that come to a table which has some: what it has already is left out, whatever way it is written.
+struct JoiningRows
+{
+    FuelRows rows;   // to be added
+    int known = 0;   // left out
+    FuelRows others; // rows of the table at a volume of those, where it has another value
+};
+JoiningRows joining(const FuelRows& coming, const FuelRows& table);
+
 // The points that fall back: their value is lower than that of the point before them, though the volume is
 // higher. Indices in rising order.
 std::vector<std::size_t> fallingPoints(const FuelPoints& points);

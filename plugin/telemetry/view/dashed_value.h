@@ -15,6 +15,7 @@ public:
     explicit DashedValue(QWidget* value);
 
     void setAbsent(bool absent);
+    bool isAbsent() const { return currentIndex() == Dash; }
 
 private:
     enum Page { Value, Dash };

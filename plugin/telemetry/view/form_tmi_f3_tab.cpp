@@ -110,6 +110,11 @@ void VLK_Form_Tmi_F3_Tab::fill(const TmiPage_Zeta3& page)
         group->fill(page);
 }
 
+bool VLK_Form_Tmi_F3_Tab::hasValues() const
+{
+    return std::ranges::any_of(boxes_, &vlk::RecordGroup::hasValues);
+}
+
 void VLK_Form_Tmi_F3_Tab::retranslate()
 {
     for (vlk::RecordGroup* group : boxes_)

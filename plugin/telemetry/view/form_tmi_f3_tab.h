@@ -21,6 +21,8 @@ public:
 
     virtual void fill(const TmiPage_Zeta3& page);
     virtual void retranslate();
+    // Whether the record that was shown last has any of the tab.
+    bool hasValues() const;
 
     // In this many pixels.
     void arrange(int width);

@@ -14,7 +14,10 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace vlk;
 
@@ -81,9 +84,10 @@ VLK_Form_TMI_Zeta3::VLK_Form_TMI_Zeta3(vlk::EventPanel* panel, QWidget* parent)
 
 void VLK_Form_TMI_Zeta3::addTab(VLK_Form_Tmi_F3_Tab* tab)
 {
-    const int index = tabWidget_->addTab(new TabArea(tab), {});
+    auto* area = new TabArea(tab);
+    const int index = tabWidget_->addTab(area, {});
     menu_->addAction(new VLK_MenuAction({}, index, menu_));
-    tabs_.push_back(tab);
+    tabs_.push_back({tab, area});
     guardInputs(tab);
 }
 
@@ -119,27 +123,46 @@ void VLK_Form_TMI_Zeta3::setLive(bool live)
     sensors_->commands()->setVisible(live);
 }
 
+void VLK_Form_TMI_Zeta3::show(const TmiPage_Zeta3& page)
+{
+    for (const Tab& tab : tabs_)
+        tab.form->fill(page);
+}
+
 void VLK_Form_TMI_Zeta3::fill(const TmiPage_Zeta3& page)
 {
-    for (VLK_Form_Tmi_F3_Tab* tab : tabs_)
-        tab->fill(page);
+    show(page);
+    if (!std::exchange(isOrdered_, true))
+        orderTabs();
+}
+
+void VLK_Form_TMI_Zeta3::orderTabs()
+{
+    int place = 0;
+    for (const bool hasValues : {true, false}) {
+        for (const Tab& tab : tabs_) {
+            if (tab.form->hasValues() == hasValues)
+                tabWidget_->tabBar()->moveTab(tabWidget_->indexOf(tab.area), place++);
+        }
+    }
 }
 
 void VLK_Form_TMI_Zeta3::setUtcOffset(int seconds)
 {
     if (record_.setUtcOffset(seconds))
-        fill(*record_.page());
+        show(*record_.page());
 }
 
 void VLK_Form_TMI_Zeta3::retranslate()
 {
     for (int i = 0; i < tabWidget_->count(); ++i) {
-        tabs_[i]->retranslate();
-        tabWidget_->setTabText(i, tabs_[i]->title());
-        menu_->actions().at(i)->setText(tabs_[i]->title());
+        const Tab& tab = tabs_[i];
+        tab.form->retranslate();
+        tabWidget_->setTabText(tabWidget_->indexOf(tab.area), tab.form->title());
+        menu_->actions().at(i)->setText(tab.form->title());
     }
     if (record_.page())
-        fill(*record_.page());
+        show(*record_.page());
 }
 
 void VLK_Form_TMI_Zeta3::mousePressEvent(QMouseEvent* event)
@@ -169,5 +192,5 @@ void VLK_Form_TMI_Zeta3::slot_Set_Run(float kilometres)
 void VLK_Form_TMI_Zeta3::slot_triggered_Menu(QAction* action)
 {
     if (const auto* entry = qobject_cast<VLK_MenuAction*>(action))
-        tabWidget_->setCurrentIndex(entry->tabIndex());
+        tabWidget_->setCurrentWidget(tabs_[entry->tabIndex()].area);
 }

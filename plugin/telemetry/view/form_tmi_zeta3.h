@@ -38,6 +38,10 @@ public:
     // A record that somebody else owns and shows in the event panel.
     void fill(const TmiPage_Zeta3& page);
 
+    // The next record is one of another tracker or file: tabs of which it has nothing go behind the others.
+    // With the records that follow the order stays, so that no tab moves under the mouse.
+    void begin() { isOrdered_ = false; }
+
     // Seconds east of UTC.
     void setUtcOffset(int seconds);
     // The number of the last record that the form took; -1 before the first one.
@@ -57,11 +61,19 @@ private Q_SLOTS:
 private:
     void addTab(VLK_Form_Tmi_F3_Tab* tab);
     void hideAbsentParts();
+    void show(const TmiPage_Zeta3& page);
+    void orderTabs();
 
     vlk::RecordOnShow record_;
     VLK_TabWidget* tabWidget_;
     QMenu* menu_;
     VLK_Form_Tmi_F3_Tab_Main* main_;
     VLK_Form_Tmi_F3_Tab_Sensors* sensors_;
-    std::vector<VLK_Form_Tmi_F3_Tab*> tabs_;
+    struct Tab
+    {
+        VLK_Form_Tmi_F3_Tab* form;
+        QWidget* area; // in the tab widget
+    };
+    std::vector<Tab> tabs_; // in the order of the menu
+    bool isOrdered_ = false;
 };

@@ -246,6 +246,20 @@ void RecordGroup::fill(const TmiPage_Zeta3& page)
         showItem(*value.label, page, value.item);
 }
 
+bool RecordGroup::hasValues() const
+{
+    if (isHidden())
+        return false;
+    // What has a text whatever the record holds tells nothing of it.
+    const auto isOnShow = [this](const Value& value) {
+        return value.label->isVisibleTo(this) && !value.label->isAbsent() &&
+               !kItems[value.item].rule().always;
+    };
+    const auto dashed = findChildren<DashedValue*>();
+    return std::ranges::any_of(values_, isOnShow) ||
+           std::ranges::any_of(dashed, [](const DashedValue* value) { return !value->isAbsent(); });
+}
+
 void RecordGroup::retranslate()
 {
     setTitle(translated(titleKey_));

@@ -95,6 +95,8 @@ public:
     void setListWidths(const Widths& widths);
 
     void fill(const TmiPage_Zeta3& page);
+    // Whether a value is on show that is no dash.
+    bool hasValues() const;
     void retranslate();
 
 private:

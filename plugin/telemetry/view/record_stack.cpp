@@ -21,6 +21,8 @@ RecordStack::RecordStack(QStackedWidget* stack, EventPanel* panel, bool live)
 void RecordStack::showNothing()
 {
     stack_->setCurrentIndex(Empty);
+    if (zeta3_)
+        zeta3_->begin();
     panel_->clear();
     panel_->setModesVisible(true);
     panel_->hide();

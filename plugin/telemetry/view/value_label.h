@@ -26,6 +26,7 @@ public:
     void setValue(const QString& value);
     // A dash in the place of the value, with a tool tip.
     void setAbsent(const char* tipKey = kNotInRecord);
+    bool isAbsent() const { return absentTip_ != nullptr; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,8 +43,6 @@ private:
     QString tip() const;
     bool fits() const;
     QSize withDash(const QSize& size) const;
-
-    bool isAbsent() const { return absentTip_ != nullptr; }
 
     const char* absentTip_ = nullptr; // key
 };

@@ -215,6 +215,8 @@ void VLK_Widget_Tmi_View::deviceDisconnected()
 {
     const QScopedValueRollback going(isDetached_, true);
     close();
+    // The next tracker may be another one. What was saved in part is told until it is closed.
+    notices_->end(kSaved);
 }
 
 void VLK_Widget_Tmi_View::keyPressEvent(QKeyEvent* event)
