@@ -2,10 +2,10 @@
 // std::to_chars of the same cells into a buffer and to a file, by the time that a core works on either; the
 // same on all cores beside one; a filter within 100 ms.
 
+#include "bench/drive.h"
 #include "bench/side_by_side.h"
 #include "telemetry/files/export_form.h"
 #include "telemetry/files/filter_parser.h"
-#include "tests/support/records.h"
 
 #include <QFile>
 #include <QProcess>
@@ -13,32 +13,10 @@
 
 #include <sys/resource.h>
 
+using bench::drive;
 using namespace vlk;
 
 namespace {
-
-// With the fields of the default mask, 10 s apart, along a road.
-RecordStore drive(int count)
-{
-    std::mt19937 random(7106);
-    const FieldMask mask = FieldMask::fromText(kDefaultMaskText);
-    RecordStore records;
-    RecordParts record;
-    record.mask = mask;
-    for (int i = 0; i < count; ++i) {
-        if (i % 16 == 0)
-            record.block = plausibleBlock(random);
-        const auto number = static_cast<quint64>(i);
-        record.put(element("NumPage"), number);
-        record.put(element("Time"), 1700000000 + 10 * number);
-        record.put(element("LastTime"), 1700000000 + 10 * number);
-        record.put(element("Latitude"), 33450000 + 17 * number % 600000);
-        record.put(element("Longitude"), 22560000 + 31 * number % 600000);
-        record.put(element("Speed"), std::bit_cast<quint32>(static_cast<float>(random() % 9000) / 100));
-        records.add(30, mask, record.block);
-    }
-    return records;
-}
 
 // The cells of one record, as numbers.
 struct Cell

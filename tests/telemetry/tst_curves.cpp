@@ -10,7 +10,9 @@
 #include "telemetry/curves/curves_view.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
+#include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/track/track_view.h"
 #include "typing/notice_bar.h"
 
 #include <QPrintDialog>
@@ -94,6 +96,7 @@ private Q_SLOTS:
     void handsOver();
     void printsAsItShows();
     void grows();
+    void leavesTurnsToOthers();
     void survivesOddRecords_data();
     void survivesOddRecords();
 
@@ -511,6 +514,52 @@ void TestCurves::grows()
     CurvesView anew(records_.get());
     const QSize size(600, 300);
     QCOMPARE(view_->picture(records_->wholeTime(), size), anew.picture(records_->wholeTime(), size));
+}
+
+// Of many records no view is made before the event loop had its turn; others, or one more, may come between.
+void TestCurves::leavesTurnsToOthers()
+{
+    TrackView track(records_.get());
+    SummaryView summary(records_.get());
+    track.show();
+    summary.show();
+    const auto* const legend = view_->findChild<QWidget*>(QStringLiteral("legend_Curves"));
+    const auto* const place = track.findChild<QLabel*>(QStringLiteral("label_TrackPlace"));
+    const auto* const figures = summary.findChild<QTableView*>(QStringLiteral("tableView_Summary"));
+    const auto made = [&] {
+        return int(!legend->accessibleDescription().isEmpty()) +
+               int(place->text().contains(QLatin1Char(','))) + int(figures->model()->rowCount() > 0);
+    };
+    const RecordStore many = truckRecords(ShownRecords::kMostAtOnce + 1);
+    const RecordStore few = truckRecords(3000);
+    open(few);
+    QCOMPARE(made(), 3);
+    open(many);
+    QCOMPARE(made(), 0);
+    int meanwhile = -1;
+    QMetaObject::invokeMethod(
+        this, [&] { meanwhile = made(); }, Qt::QueuedConnection);
+    QTRY_COMPARE(made(), 3);
+    QCOMPARE(meanwhile, 0);
+
+    open(many);
+    open(few);
+    QCOMPARE(made(), 3);
+    QVERIFY(!records_->isLeftToDo());
+
+    open(many);
+    records_->append(few.bytes(0));
+    QCOMPARE(made(), 3);
+    QVERIFY(!records_->isLeftToDo());
+
+    // Who chooses others meanwhile keeps them.
+    open(many);
+    auto* const presets = view_->findChild<QComboBox*>(QStringLiteral("comboBox_CurvePreset"));
+    QTest::keyClick(presets, Qt::Key_Down);
+    const QString chosen = legend->accessibleDescription();
+    QVERIFY(!chosen.isEmpty());
+    QTRY_VERIFY(!records_->isLeftToDo());
+    QCOMPARE(legend->accessibleDescription(), chosen);
 }
 
 void TestCurves::survivesOddRecords_data()

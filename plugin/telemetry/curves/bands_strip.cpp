@@ -121,7 +121,7 @@ void BandsStrip::paintEvent(QPaintEvent*)
 // A pixel is on where the state was on at some moment of it, so that no short one is lost.
 void BandsStrip::paintBand(QPainter& painter, const QRect& row, int band) const
 {
-    const StateRuns& runs = model_->bands()[band].runs;
+    const StateRuns& runs = *model_->bands()[band].runs;
     const QColor on = bandColor(palette());
     const QRect bar = row.adjusted(0, 3, 0, -3);
     const int middle = bar.center().y();
@@ -251,7 +251,7 @@ QString BandsStrip::tipAt(const QPoint& place) const
     if (band >= bandCount())
         return {};
     const double moment = plot_->timeAtPixel(place.x());
-    const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs.on;
+    const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs->on;
     const auto run = std::ranges::lower_bound(runs, moment, {},
                                               [](const StateRuns::Run& each) { return double(each.to); });
     if (run == runs.end() || run->from > moment)

@@ -42,7 +42,7 @@ void CurvesDrawing::draw(QPainter* painter, const QwtScaleMap& x, const QwtScale
     painter->setClipRect(canvas);
     if (model.curves().empty()) {
         painter->setPen(plot_.palette().color(QPalette::Disabled, QPalette::Text));
-        const char* const reason = model.records().isBeingRead()       ? "rec_371"
+        const char* const reason = model.isBeingMade()                 ? "rec_371"
                                    : model.records().records().empty() ? "rec_192"
                                                                        : "rec_191";
         painter->drawText(canvas, Qt::AlignCenter | Qt::TextWordWrap, translated(reason));

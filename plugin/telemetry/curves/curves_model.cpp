@@ -19,23 +19,12 @@ int bitOf(const Item& item)
     return item.rule().bits.count == 0 ? item.bit : item.rule().bits.first;
 }
 
-StateRuns runsOf(ShownRecords& records, ItemIndex item)
-{
-    const Item& row = kItems[item];
-    const int bit = bitOf(row);
-    const RawValues values(records.records(), row.element);
-    return StateRuns(records.byTime(), records.columns().times(), [&](int record) {
-        const std::optional<std::uint64_t> raw = values.at(record);
-        return raw ? static_cast<int>(*raw >> bit & 1) : -1;
-    });
-}
-
-StateRuns runsOf(ShownRecords& records, const std::vector<Stop>& stops)
+std::shared_ptr<const StateRuns> stopRuns(ShownRecords& records)
 {
     const std::vector<quint32>& times = records.columns().times();
-    StateRuns runs;
-    for (const Stop& stop : stops)
-        runs.on.push_back({times[stop.first], times[stop.last]});
+    const auto runs = std::make_shared<StateRuns>();
+    for (const Stop& stop : stopsOf(records.columns(), records.byTime()))
+        runs->on.push_back({times[stop.first], times[stop.last]});
     return runs;
 }
 
@@ -68,17 +57,28 @@ CurvesModel::CurvesModel(ShownRecords* records, QObject* parent) : QObject(paren
 void CurvesModel::restart()
 {
     series_.clear();
+    curves_.clear();
+    axes_.clear();
+    bands_.clear();
+    marks_.clear();
+    runs_.clear();
+    changingBits_.clear();
+    stops_.reset();
+    events_.clear();
+    focused_ = -1;
     cursors_ = {records_->current(), -1};
     moving_ = Cursor::a;
-    look();
-    rebuild();
+    Q_EMIT changed();
+    records_->later([this] { records_->columns().numbers(item("Speed")); });
+    records_->later([this] { look(); });
 }
 
 // At what does not depend on what is shown.
 void CurvesModel::look()
 {
+    runs_.clear();
     changingBits_.clear();
-    stops_ = runsOf(*records_, stopsOf(records_->columns(), records_->byTime()));
+    stops_ = stopRuns(*records_);
     events_ = rareEvents(records_->columns(), records_->byTime());
 }
 
@@ -108,7 +108,35 @@ void CurvesModel::show(const QStringList& items, Choice choice)
     items_ = items;
     choice_ = choice;
     focused_ = -1;
+    isBeingMade_ = false;
     rebuild();
+}
+
+// What takes a while of it is there when it is shown, unless others were asked for meanwhile.
+void CurvesModel::showLater(const QStringList& items, Choice choice)
+{
+    isBeingMade_ = true;
+    int curves = 0;
+    for (const CurveColumn& column : curveColumns(*records_)) {
+        if (!column.item || !items.contains(column.name) || ++curves > kMostCurves)
+            continue;
+        records_->later([this, column] { numbersOf(*records_, column); });
+        records_->later([this, column] { seriesOf(column); });
+    }
+    for (const CurveColumn& state : stateColumns(*records_)) {
+        if (!items.contains(state.name))
+            continue;
+        records_->later([this, state, choice] {
+            if (choice == Choice::chosen || changes(state))
+                runsOf(*state.item);
+        });
+    }
+    records_->later([this, items, choice] {
+        if (isBeingMade_)
+            show(items, choice);
+        else
+            rebuild();
+    });
 }
 
 QStringList CurvesModel::shownNames() const
@@ -146,7 +174,7 @@ void CurvesModel::rebuild()
         std::rotate(bands_.begin(), engine, engine + 1);
         ++behindEngine;
     }
-    if (!stops_.on.empty())
+    if (stops_ && !stops_->on.empty())
         bands_.insert(behindEngine, {QString(), translated("rec_165"), stops_});
     makeMarks();
     focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
@@ -200,7 +228,21 @@ void CurvesModel::addBand(const CurveColumn& column)
     if (static_cast<int>(bands_.size()) == kMostBands)
         return;
     if (choice_ == Choice::chosen || changes(column))
-        bands_.push_back({column.name, column.title, runsOf(*records_, *column.item)});
+        bands_.push_back({column.name, column.title, runsOf(*column.item)});
+}
+
+std::shared_ptr<const StateRuns> CurvesModel::runsOf(ItemIndex state)
+{
+    std::shared_ptr<const StateRuns>& runs = runs_[state];
+    if (!runs) {
+        const int bit = bitOf(kItems[state]);
+        const RawValues values(records_->records(), kItems[state].element);
+        runs = std::make_shared<StateRuns>(records_->byTime(), records_->columns().times(), [&](int record) {
+            const std::optional<std::uint64_t> raw = values.at(record);
+            return raw ? static_cast<int>(*raw >> bit & 1) : -1;
+        });
+    }
+    return runs;
 }
 
 void CurvesModel::makeMarks()

@@ -23,7 +23,7 @@ struct Band
 {
     QString name; // of the item; empty for stops
     QString title;
-    StateRuns runs;
+    std::shared_ptr<const StateRuns> runs;
 };
 
 // Records that are told by marks below the curves, by time.
@@ -44,6 +44,7 @@ public:
     static constexpr int kMostAxes = 4;
     static constexpr int kMostBands = 6;
 
+    // Of other records that come it shows nothing until it is asked to.
     CurvesModel(ShownRecords* records, QObject* parent);
 
     ShownRecords& records() const { return *records_; }
@@ -52,6 +53,10 @@ public:
     // offered, and show where they have values or change; those that were chosen are shown in any case.
     enum class Choice { offered, chosen };
     void show(const QStringList& items, Choice choice);
+    // Likewise, as steps of what is done later.
+    void showLater(const QStringList& items, Choice choice);
+    // There is no telling yet what the records have.
+    bool isBeingMade() const { return isBeingMade_ || records_->isBeingRead(); }
     const QStringList& items() const { return items_; }
     // The names of the curves and bands on show.
     QStringList shownNames() const;
@@ -96,6 +101,7 @@ private:
     void look();
     void makeMarks();
     std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
+    std::shared_ptr<const StateRuns> runsOf(ItemIndex state);
     void addTo(CurveSeries& series, const CurveColumn& column, std::span<const int> byTime) const;
     QString cursorText(Cursor which) const;
 
@@ -103,14 +109,16 @@ private:
     QStringList items_;
     Choice choice_ = Choice::offered;
     std::map<QString, std::shared_ptr<CurveSeries>> series_;
+    std::map<ItemIndex, std::shared_ptr<const StateRuns>> runs_;
     // The bits of elements that are now set, now clear.
     std::map<ElementIndex, std::uint64_t> changingBits_;
     std::vector<Curve> curves_;
     QStringList axes_;
     std::vector<Band> bands_;
     std::vector<MarkRow> marks_;
-    StateRuns stops_;
+    std::shared_ptr<const StateRuns> stops_;
     std::vector<int> events_;
+    bool isBeingMade_ = false;
     int focused_ = -1;
     std::array<int, 2> cursors_{-1, -1};
     Cursor moving_ = Cursor::a;

@@ -32,6 +32,14 @@ constexpr int kSideMargin = 6;
 constexpr QSize kCurvesSize(640, 240);
 constexpr int kStripShare = 4; // of the height, one in
 
+constexpr int kChosen = -1;
+
+CurvesModel::Choice choiceOf(int preset)
+{
+    return preset < static_cast<int>(builtInPresets().size()) ? CurvesModel::Choice::offered
+                                                              : CurvesModel::Choice::chosen;
+}
+
 } // namespace
 
 CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
@@ -103,12 +111,11 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     connect(model_, &CurvesModel::cursorsChanged, this, &CurvesView::refresh);
     connect(records, &ShownRecords::currentChanged, this, &CurvesView::keepInSight);
     connect(records, &ShownRecords::contentsChanged, this, [this] {
-        if (!records_->isBeingRead() && !showChosen())
-            showFirstUseful();
+        if (!records_->isBeingRead())
+            showUseful(kChosen);
     });
     retranslate();
-    if (!showChosen())
-        showFirstUseful();
+    showUseful(kChosen);
 }
 
 CurvesView::~CurvesView() = default;
@@ -196,21 +203,23 @@ void CurvesView::fillPresets()
 
 void CurvesView::showPreset(int index)
 {
-    const bool isBuiltIn = index < static_cast<int>(builtInPresets().size());
-    model_->show(presets_->itemData(index).toStringList(),
-                 isBuiltIn ? CurvesModel::Choice::offered : CurvesModel::Choice::chosen);
+    model_->show(presets_->itemData(index).toStringList(), choiceOf(index));
 }
 
-void CurvesView::showFirstUseful()
+// What the user chose or, where the records have no curve of it, the first preset of which they have one.
+void CurvesView::showUseful(int preset)
 {
-    for (int index = 0; index < static_cast<int>(builtInPresets().size()); ++index) {
-        presets_->setCurrentIndex(index);
-        showPreset(index);
-        if (!model_->curves().empty())
-            return;
-    }
-    presets_->setCurrentIndex(0);
-    showPreset(0);
+    const auto builtIn = static_cast<int>(builtInPresets().size());
+    const int index = preset == kChosen ? chosenPreset() : preset % builtIn;
+    presets_->setCurrentIndex(index);
+    if (index < 0)
+        model_->showLater(chosen_.items, CurvesModel::Choice::chosen);
+    else
+        model_->showLater(presets_->itemData(index).toStringList(), choiceOf(index));
+    records_->later([this, preset, index, builtIn] {
+        if (model_->curves().empty() && presets_->currentIndex() == index && preset < builtIn)
+            showUseful(preset + 1);
+    });
 }
 
 void CurvesView::keepChosen(int preset)
@@ -226,19 +235,15 @@ void CurvesView::keepChosen(int preset)
     keepChosenCurves(chosen_);
 }
 
-bool CurvesView::showChosen()
+// -1 if it is none.
+int CurvesView::chosenPreset() const
 {
     const auto builtIn = static_cast<int>(builtInPresets().size());
     int preset = presets_->count() - 1;
     while (preset >= 0 && chosen_.name != (preset < builtIn ? QLatin1String(builtInPresets()[preset].title)
                                                             : presets_->itemText(preset)))
         --preset;
-    presets_->setCurrentIndex(preset);
-    if (preset >= 0)
-        showPreset(preset);
-    else
-        model_->show(chosen_.items, CurvesModel::Choice::chosen);
-    return !model_->curves().empty();
+    return preset;
 }
 
 void CurvesView::choose()

@@ -49,11 +49,11 @@ protected:
 private:
     void fillPresets();
     void showPreset(int index);
-    void showFirstUseful();
+    void showUseful(int preset);
     // Keeps what is shown now as what the user chose: a preset, or -1.
     void keepChosen(int preset);
     // False where nothing of it can be shown.
-    bool showChosen();
+    int chosenPreset() const;
     void choose();
     void refresh();
     void fitStates();

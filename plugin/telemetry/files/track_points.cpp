@@ -52,7 +52,7 @@ private:
 
 } // namespace
 
-void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
+void forEachTrackPoint(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before,
                        const std::function<void(const TrackPoint&)>& visit)
 {
     struct Column
@@ -76,7 +76,7 @@ void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint
     std::optional<quint32> lastTime;
     if (before)
         lastTime = before->time;
-    for (int record = firstRecord; record < columns.store().size(); ++record) {
+    for (int record = firstRecord; record < behindRecord; ++record) {
         const double latitude = latitudes.at(record);
         const double longitude = longitudes.at(record);
         // What is absent is not in range; a validity that is absent calls nothing invalid.
@@ -92,7 +92,7 @@ void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint
 std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord, const TrackPoint* before)
 {
     std::vector<TrackPoint> points;
-    forEachTrackPoint(columns, firstRecord, before,
+    forEachTrackPoint(columns, firstRecord, columns.store().size(), before,
                       [&](const TrackPoint& point) { points.push_back(point); });
     return points;
 }

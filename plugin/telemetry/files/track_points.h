@@ -32,7 +32,7 @@ struct TrackPoint
 std::vector<TrackPoint> trackPoints(RecordColumns& columns, int firstRecord = 0,
                                     const TrackPoint* before = nullptr);
 // The points one by one, without the memory for all of them and their columns.
-void forEachTrackPoint(RecordColumns& columns, int firstRecord, const TrackPoint* before,
+void forEachTrackPoint(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before,
                        const std::function<void(const TrackPoint&)>& visit);
 
 // On the ellipsoid WGS 84. NaN where PROJ, which is loaded when it is asked for the first time, is not

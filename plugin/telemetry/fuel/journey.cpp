@@ -24,14 +24,65 @@ double JourneySummary::per100Km() const
     return metres >= kLeastWay ? fuelUsed() / metres * 100'000 : kNoNumber;
 }
 
-Journey::Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events)
-    : events_(std::move(events))
+struct Journey::Making
 {
-    const std::vector<int> records = recordsByTime(columns);
-    const NumberColumn speed = speeds(columns);
-    const std::vector<Ignition> ignition = ignitions(columns, records);
-    stretches_.reserve(records.size());
-    for (std::size_t i = 0; i < records.size(); ++i) {
+    RecordColumns& columns;
+    std::vector<int> records{}; // by time
+    NumberColumn speed{};
+    std::vector<Ignition> ignition{};
+    std::vector<TrackPoint> points{};
+    std::vector<int> pointOf{}; // of a record; -1 for none
+    int before = -1;            // the stretch of the last point
+};
+
+Journey::Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events)
+{
+    for (const auto& step : stepsToMake(columns, litres, std::move(events)))
+        step();
+}
+
+Journey::Steps Journey::stepsToMake(RecordColumns& columns, const NumberColumn& litres,
+                                    std::vector<FuelEvent> events)
+{
+    events_ = std::move(events);
+    const auto making = std::make_shared<Making>(Making{columns});
+    Steps steps;
+    steps.emplace_back([making] { making->columns.numbers(item("Speed")); });
+    steps.emplace_back([making] { making->records = recordsByTime(making->columns); });
+    steps.emplace_back([making] { making->speed = speeds(making->columns); });
+    steps.emplace_back([making] { making->ignition = ignitions(making->columns, making->records); });
+    steps.emplace_back([this, making] {
+        stretches_.reserve(making->records.size());
+        making->points.reserve(making->records.size());
+        making->pointOf.assign(making->columns.times().size(), -1);
+    });
+    const int all = columns.store().size();
+    const auto inPieces = [&](int size, auto work) {
+        for (int first = 0; first < all; first += size)
+            steps.emplace_back([this, making, work, first, behind = std::min(first + size, all)] {
+                (this->*work)(*making, first, behind);
+            });
+    };
+    inPieces(100'000, &Journey::takeStretches);
+    inPieces(100'000, &Journey::takePoints);
+    // Geodesics take their time.
+    inPieces(20'000, &Journey::measureWay);
+    steps.emplace_back([this, making, &litres] {
+        if (!litres.empty())
+            medians_ = levelMedians(making->columns, litres);
+    });
+    return steps;
+}
+
+// Of the records by time from `first` to before `behind`, as the others.
+void Journey::takeStretches(Making& making, int first, int behind)
+{
+    RecordColumns& columns = making.columns;
+    const std::vector<int>& records = making.records;
+    const NumberColumn& speed = making.speed;
+    const std::vector<Ignition>& ignition = making.ignition;
+    const std::size_t end = std::min(static_cast<std::size_t>(behind), records.size());
+    for (auto i = static_cast<std::size_t>(first); i < end; ++i) {
         const int record = records[i];
         const quint32 time = columns.times()[record];
         const bool isLast = i + 1 == records.size();
@@ -42,20 +93,27 @@ Journey::Journey(RecordColumns& columns, const NumberColumn& litres, std::vector
                               speed[record] >= kMovesFrom && !isGap, stands && (!isGap || standsNext),
                               ignition[record] == Ignition::On, true, !isGap});
     }
-    measureWay(columns, records);
-    if (!litres.empty())
-        medians_ = levelMedians(columns, litres);
 }
 
-void Journey::measureWay(RecordColumns& columns, const std::vector<int>& records)
+// Of the records in their order in the store.
+void Journey::takePoints(Making& making, int first, int behind)
 {
-    std::vector<TrackPoint> points = trackPoints(columns);
-    std::vector<int> pointOf(columns.times().size(), -1);
-    for (std::size_t i = 0; i < points.size(); ++i)
-        pointOf[points[i].record] = static_cast<int>(i);
-    const NumberColumn& latitudes = columns.numbers(item("Latitude"));
-    int before = -1;
-    for (std::size_t i = 0; i < records.size(); ++i) {
+    const TrackPoint* const before = making.points.empty() ? nullptr : &making.points.back();
+    forEachTrackPoint(making.columns, first, behind, before, [&making](const TrackPoint& point) {
+        making.pointOf[point.record] = static_cast<int>(making.points.size());
+        making.points.push_back(point);
+    });
+}
+
+void Journey::measureWay(Making& making, int first, int behind)
+{
+    const std::vector<int>& records = making.records;
+    const std::vector<TrackPoint>& points = making.points;
+    const std::vector<int>& pointOf = making.pointOf;
+    const NumberColumn& latitudes = making.columns.numbers(item("Latitude"));
+    int& before = making.before;
+    const std::size_t end = std::min(static_cast<std::size_t>(behind), records.size());
+    for (auto i = static_cast<std::size_t>(first); i < end; ++i) {
         const int point = pointOf[records[i]];
         stretches_[i].isWithoutFix = point < 0 && !std::isnan(latitudes[records[i]]);
         if (point < 0)

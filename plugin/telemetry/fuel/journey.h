@@ -5,6 +5,8 @@
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/level_medians.h"
 
+#include <functional>
+
 namespace vlk {
 
 struct JourneySummary
@@ -38,6 +40,11 @@ class Journey
 public:
     // Looks at all records once. `litres` may be empty: no fuel.
     Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
+    // Likewise, as steps in their order; it is to be used behind the last one, and what is given here is to
+    // be there until then.
+    using Steps = std::vector<std::function<void()>>;
+    Journey() = default;
+    Steps stepsToMake(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
 
     // Both ends in it. No records where there are none.
     JourneySummary summary(double from, double until) const;
@@ -59,7 +66,11 @@ private:
         bool isCounted; // the time to the next record
     };
 
-    void measureWay(RecordColumns& columns, const std::vector<int>& records);
+    struct Making;
+
+    void takeStretches(Making& making, int first, int behind);
+    void takePoints(Making& making, int first, int behind);
+    void measureWay(Making& making, int first, int behind);
 
     std::vector<Stretch> stretches_; // by time
     std::vector<LevelMedian> medians_;

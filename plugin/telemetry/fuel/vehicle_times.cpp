@@ -1,5 +1,7 @@
 #include "telemetry/fuel/vehicle_times.h"
 
+#include "telemetry/files/raw_values.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,10 +22,11 @@ bool isOfIgnition(quint32 code)
 // The input that is on in every record of the ignition going on, and off in every other; -1 for none.
 int ignitionInput(RecordColumns& columns, const std::vector<int>& events)
 {
+    const RawValues inputs(columns.store(), element("StateIn1"));
     for (int input = 0; input < kInputs; ++input) {
-        const NumberColumn& states = columns.numbers(item("StateIn1.0") + input);
         if (std::ranges::all_of(events, [&](int record) {
-                return states[record] == (columns.codes()[record] == kIgnitionOn ? 1 : 0);
+                const std::optional<std::uint64_t> states = inputs.at(record);
+                return states && (*states >> input & 1) == (columns.codes()[record] == kIgnitionOn);
             }))
             return input;
     }

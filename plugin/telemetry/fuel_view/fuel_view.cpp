@@ -102,7 +102,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
 
     connect(records, &ShownRecords::contentsChanged, this, [this] {
         table_->setCurrentIndex({});
-        refreshRecords();
+        refreshLater();
     });
     connect(records, &ShownRecords::recordsAdded, this,
             [this] { tanks_->hasSensors() ? computeLitres() : refreshRecords(); });
@@ -129,7 +129,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
 void FuelView::setVehicle(const QString& vehicle)
 {
     vehicle_->setText(vehicle);
-    refreshRecords();
+    refreshLater();
 }
 
 void FuelView::setTitle(const QString& title)
@@ -153,21 +153,49 @@ void FuelView::readVehicle()
 
 void FuelView::refreshRecords()
 {
+    takeSensors();
+    computeLitres();
+}
+
+// Nothing was found while it is not looked for.
+void FuelView::refreshLater()
+{
+    litres_.clear();
+    medians_.clear();
+    for (const LevelSensor& sensor : kLevelSensors)
+        records_.later([this, &sensor] { records_.columns().numbers(sensor.item); });
+    records_.later([this] { takeSensors(); });
+    records_.later([this] { takeLitres(); });
+    records_.later([this] { takeMedians(); });
+    records_.later([this] { find(); });
+}
+
+void FuelView::takeSensors()
+{
     isRefreshing_ = true;
     const FuelThresholds thresholds = tanks_->memory().choice(vehicle_->text()).thresholds;
     tanks_->setRecords(records_, vehicle_->text());
     rise_->setValue(thresholds.rise);
     fall_->setValue(thresholds.fall);
     isRefreshing_ = false;
-    computeLitres();
 }
 
 void FuelView::computeLitres()
 {
+    takeLitres();
+    takeMedians();
+    find();
+}
+
+void FuelView::takeLitres()
+{
     litres_ = tanks_->tanks().empty() ? NumberColumn() : tankLitres(records_.columns(), tanks_->tanks());
+}
+
+void FuelView::takeMedians()
+{
     medians_ = litres_.empty() ? std::vector<LevelMedian>() : levelMedians(records_.columns(), litres_);
     noise_ = levelNoise(medians_);
-    find();
 }
 
 void FuelView::find()

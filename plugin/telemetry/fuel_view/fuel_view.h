@@ -62,7 +62,11 @@ protected:
 private:
     void readVehicle();
     void refreshRecords();
+    void refreshLater();
+    void takeSensors();
     void computeLitres();
+    void takeLitres();
+    void takeMedians();
     void find();
     void setEvents(std::vector<FuelEvent> found);
     void look(int line);

@@ -72,6 +72,7 @@ void SummaryView::setFuel(const NumberColumn& litres, const std::vector<FuelEven
 void SummaryView::forget()
 {
     journey_.reset();
+    making_.reset();
     refresh();
 }
 
@@ -98,7 +99,28 @@ TimeSpan SummaryView::spanOf(const std::vector<int>& records) const
 void SummaryView::tellEmpty()
 {
     const bool isToBeChosen = over_->currentIndex() == Chosen && records_.chosen().empty();
-    empty_->tell(tr(records_.isBeingRead() ? "rec_371" : isToBeChosen ? "rec_411" : "rec_293"));
+    empty_->tell(tr(records_.isBeingRead() || making_ ? "rec_371" : isToBeChosen ? "rec_411" : "rec_293"));
+}
+
+// Shown once it is made, unless another one is asked for meanwhile.
+void SummaryView::makeJourney()
+{
+    if (making_)
+        return;
+    making_ = std::make_shared<Journey>();
+    model_->setSelection({}, records_.utcOffset());
+    tellEmpty();
+    for (auto& step : making_->stepsToMake(records_.columns(), litres_, events_))
+        records_.later([making = std::weak_ptr(making_), step = std::move(step)] {
+            if (const auto journey = making.lock())
+                step();
+        });
+    records_.later([this, making = std::weak_ptr(making_)] {
+        if (const auto journey = making.lock()) {
+            journey_ = std::exchange(making_, nullptr);
+            refresh();
+        }
+    });
 }
 
 void SummaryView::refresh()
@@ -107,7 +129,7 @@ void SummaryView::refresh()
         return;
     tellEmpty();
     if (!journey_)
-        journey_ = std::make_unique<Journey>(records_.columns(), litres_, events_);
+        return makeJourney();
     const int over = over_->currentIndex();
     if (over == Days) {
         model_->setDays(journey_->days(records_.utcOffset()), records_.utcOffset());

@@ -40,6 +40,7 @@ private:
     enum Over { InSight, Passing, Chosen, Days };
 
     void forget();
+    void makeJourney();
     void refresh();
     void tellEmpty();
     TimeSpan spanOf(const std::vector<int>& records) const;
@@ -47,7 +48,8 @@ private:
     ShownRecords& records_;
     NumberColumn litres_;
     std::vector<FuelEvent> events_;
-    std::unique_ptr<Journey> journey_; // made when it is looked at
+    std::shared_ptr<Journey> making_;
+    std::shared_ptr<const Journey> journey_; // made when it is looked at
     SummaryModel* model_;
     QLabel* overLabel_;
     QComboBox* over_;

@@ -15,7 +15,8 @@ TrackModel::TrackModel(ShownRecords* records, QObject* parent) : QObject(parent)
     connect(records, &ShownRecords::foundChanged, this, &TrackModel::changed);
     // What was computed anew may stand at another place, or be gone.
     connect(records, &ShownRecords::computedChanged, this, [this] {
-        describe();
+        chooseColumn();
+        classify();
         Q_EMIT changed();
     });
     connect(records, &ShownRecords::inSightChanged, this, [this] {
@@ -28,9 +29,21 @@ TrackModel::TrackModel(ShownRecords* records, QObject* parent) : QObject(parent)
 void TrackModel::restart()
 {
     path_ = TrackPath();
-    path_.add(records_->columns());
-    describe();
+    isBeingMade_ = true;
+    stops_.clear();
+    events_.clear();
+    chooseColumn();
     Q_EMIT restarted();
+    const auto path = std::make_shared<TrackPath>();
+    for (auto& step : path->stepsToAdd(records_->columns()))
+        records_->later(std::move(step));
+    records_->later([this] { findMarks(); });
+    records_->later([this, path] {
+        path_ = std::move(*path);
+        isBeingMade_ = false;
+        classify();
+        Q_EMIT restarted();
+    });
 }
 
 void TrackModel::grow(int first)
@@ -46,14 +59,24 @@ void TrackModel::grow(int first)
 
 void TrackModel::describe()
 {
+    chooseColumn();
+    findMarks();
+    classify();
+}
+
+void TrackModel::chooseColumn()
+{
     const QString wanted = column_ ? column_->name : itemName(item("Speed"));
     const std::vector<CurveColumn> columns = curveColumns(*records_);
     const auto found = std::ranges::find(columns, wanted, &CurveColumn::name);
     column_ = found != columns.end() ? std::optional(*found) : std::nullopt;
+}
+
+void TrackModel::findMarks()
+{
     stops_ = stopsOf(records_->columns(), records_->byTime());
     events_ = rareEvents(records_->columns(), records_->byTime());
     std::ranges::sort(events_);
-    classify();
 }
 
 void TrackModel::classify()

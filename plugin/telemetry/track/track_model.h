@@ -18,7 +18,9 @@ public:
     TrackModel(ShownRecords* records, QObject* parent);
 
     ShownRecords& records() const { return *records_; }
+    // Empty while it is being made.
     const TrackPath& path() const { return path_; }
+    bool isBeingMade() const { return isBeingMade_ || records_->isBeingRead(); }
 
     // The value that colours the path; speed at first, none where the records have no numbers.
     const std::optional<CurveColumn>& column() const { return column_; }
@@ -50,6 +52,8 @@ private:
     void restart();
     void grow(int first);
     void describe();
+    void chooseColumn();
+    void findMarks();
     void classify();
 
     ShownRecords* records_;
@@ -59,6 +63,7 @@ private:
     std::vector<Stop> stops_;
     std::vector<int> events_;
     bool isSpanOnly_ = false;
+    bool isBeingMade_ = false;
 };
 
 } // namespace vlk

@@ -142,7 +142,7 @@ public:
         if (model_.path().isEmpty()) {
             painter_.setPen(palette_.color(QPalette::Disabled, QPalette::Text));
             painter_.drawText(QRectF(QPointF(), size_), Qt::AlignCenter | Qt::TextWordWrap,
-                              translated(model_.records().isBeingRead() ? "rec_371" : "rec_193"));
+                              translated(model_.isBeingMade() ? "rec_371" : "rec_193"));
             return;
         }
         drawPath();

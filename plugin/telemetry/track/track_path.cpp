@@ -14,6 +14,7 @@ constexpr double kMetresPerDegree = 40'007'863.0 / 360;
 constexpr double kNarrowestDegree = 0.01; // of one at the equator, so that the poles have a width
 // Metres. Closest where long tracks are seen whole, since most of their points share pixels there.
 constexpr double kLevels[] = {0, 2, 8, 32, 128, 512, 1024, 2048, 4096, 8192, 32768};
+constexpr int kRecordsInAStep = 100'000;
 constexpr double kLeastThinning = 1.5; // times fewer points than the level before
 
 double within180(double degrees)
@@ -36,15 +37,55 @@ void unite(QRectF& rect, const QPointF& point, bool isFirst)
 void TrackPath::add(RecordColumns& columns, int firstRecord)
 {
     const auto before = static_cast<int>(records_.size());
-    const std::optional<TrackPoint> last = isEmpty() ? std::nullopt : std::optional(pointAt(before - 1));
-    if (!last) {
-        const auto most = static_cast<std::size_t>(columns.store().size() - firstRecord);
-        records_.reserve(most);
-        times_.reserve(most);
-        startsSegment_.reserve(most);
-        places_.reserve(most);
+    if (isEmpty()) {
+        for (const auto& step : stepsToAdd(columns, firstRecord))
+            step();
+        return;
     }
-    forEachTrackPoint(columns, firstRecord, last ? &*last : nullptr, [this](const TrackPoint& point) {
+    const TrackPoint last = pointAt(before - 1);
+    take(columns, firstRecord, columns.store().size(), &last);
+    toMetres(before);
+    if (records_.size() >= 2 * levelsMadeOf_)
+        makeLevels();
+    else
+        for (Level& level : levels_)
+            addTo(level, before);
+}
+
+void TrackPath::reserve(int records)
+{
+    const auto most = static_cast<std::size_t>(records);
+    records_.reserve(most);
+    times_.reserve(most);
+    startsSegment_.reserve(most);
+    places_.reserve(most);
+}
+
+std::vector<std::function<void()>> TrackPath::stepsToAdd(RecordColumns& columns, int firstRecord)
+{
+    std::vector<std::function<void()>> steps;
+    const int size = columns.store().size();
+    steps.emplace_back([this, size, firstRecord] { reserve(size - firstRecord); });
+    for (int record = firstRecord; record < size; record += kRecordsInAStep)
+        steps.emplace_back([this, &columns, record, behind = std::min(record + kRecordsInAStep, size)] {
+            // Places are degrees yet, and its time is all that is asked of the last one.
+            const TrackPoint last{-1, isEmpty() ? 0 : times_.back(), 0, 0, false};
+            take(columns, record, behind, isEmpty() ? nullptr : &last);
+        });
+    steps.emplace_back([this] {
+        setMiddle();
+        toMetres(0);
+        levelsMadeOf_ = records_.size();
+    });
+    for (const double apart : kLevels)
+        steps.emplace_back([this, apart] { makeLevel(apart); });
+    return steps;
+}
+
+// Their places are degrees yet.
+void TrackPath::take(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before)
+{
+    forEachTrackPoint(columns, firstRecord, behindRecord, before, [this](const TrackPoint& point) {
         if (isEmpty())
             lastLongitude_ = point.longitude;
         lastLongitude_ += within180(point.longitude - lastLongitude_);
@@ -53,23 +94,20 @@ void TrackPath::add(RecordColumns& columns, int firstRecord)
         startsSegment_.push_back(point.startsSegment);
         places_.emplace_back(lastLongitude_, point.latitude);
     });
-    if (isEmpty())
-        return;
-    if (!last)
-        setMiddle();
-    for (auto place = places_.begin() + before; place != places_.end(); ++place)
+}
+
+void TrackPath::toMetres(int firstPoint)
+{
+    for (auto place = places_.begin() + firstPoint; place != places_.end(); ++place)
         *place = {(place->x() - middleLongitude_) * metresPerDegreeEast_,
                   (middleLatitude_ - place->y()) * kMetresPerDegree};
-    if (records_.size() >= 2 * levelsMadeOf_)
-        makeLevels();
-    else
-        for (Level& level : levels_)
-            addTo(level, before);
 }
 
 // Takes the middle of the first places, which are degrees yet.
 void TrackPath::setMiddle()
 {
+    if (isEmpty())
+        return;
     const auto [south, north] = std::ranges::minmax(places_, {}, &QPointF::y);
     middleLatitude_ = (south.y() + north.y()) / 2;
     middleLongitude_ = places_.front().x();
@@ -77,23 +115,27 @@ void TrackPath::setMiddle()
         kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);
 }
 
-// A level that leaves out too little is none: the finer one does.
 void TrackPath::makeLevels()
 {
     levels_.clear();
     levelsMadeOf_ = records_.size();
-    for (const double apart : kLevels) {
-        Level level{apart, {}, {}};
-        if (apart == 0)
-            level.kept.reserve(records_.size());
-        addTo(level, 0);
-        if (!levels_.empty() && static_cast<double>(level.kept.size()) * kLeastThinning >
-                                    static_cast<double>(levels_.back().kept.size()))
-            continue;
-        level.kept.shrink_to_fit();
-        level.of.shrink_to_fit();
-        levels_.push_back(std::move(level));
-    }
+    for (const double apart : kLevels)
+        makeLevel(apart);
+}
+
+// A level that leaves out too little is none: the finer one does.
+void TrackPath::makeLevel(double apart)
+{
+    Level level{apart, {}, {}};
+    if (apart == 0)
+        level.kept.reserve(records_.size());
+    addTo(level, 0);
+    if (!levels_.empty() && static_cast<double>(level.kept.size()) * kLeastThinning >
+                                static_cast<double>(levels_.back().kept.size()))
+        return;
+    level.kept.shrink_to_fit();
+    level.of.shrink_to_fit();
+    levels_.push_back(std::move(level));
 }
 
 void TrackPath::addTo(Level& level, int firstPoint) const

@@ -8,6 +8,8 @@
 
 #include <QRectF>
 
+#include <functional>
+
 namespace vlk {
 
 // Makes a rectangle hold a point; of the first one it is nothing but that.
@@ -18,6 +20,8 @@ class TrackPath
 public:
     // The points of the records from that one on, which come after those it has.
     void add(RecordColumns& columns, int firstRecord = 0);
+    // Likewise while it has no point yet, as steps in their order; it is to be used behind the last one.
+    std::vector<std::function<void()>> stepsToAdd(RecordColumns& columns, int firstRecord = 0);
 
     // Made when they are asked for.
     class Points
@@ -54,9 +58,13 @@ public:
 
 private:
     TrackPoint pointAt(int point) const;
+    void reserve(int records);
+    void take(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before);
     void setMiddle();
+    void toMetres(int firstPoint);
     void addTo(Level& level, int firstPoint) const;
     void makeLevels();
+    void makeLevel(double apart);
 
     std::vector<int> records_;
     std::vector<quint32> times_;

@@ -117,7 +117,7 @@ void TrackView::showPlace()
         if (model_->column())
             text += QLatin1String("   ") + valueText(*model_->column(), model_->valueAt(record));
     } else if (record >= 0) {
-        text = tr("rec_201");
+        text = tr(model_->isBeingMade() ? "rec_371" : "rec_201");
     }
     place_->setText(text);
     canvas_->setAccessibleDescription(text);

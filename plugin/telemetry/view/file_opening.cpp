@@ -7,7 +7,7 @@ namespace vlk {
 FileOpening::FileOpening(WorkProgress* progress) : QObject(progress), progress_(progress)
 {
     slices_.setInterval(0);
-    connect(&slices_, &QTimer::timeout, this, [this] { goOn(kSliceMs); });
+    connect(&slices_, &QTimer::timeout, this, [this] { isRead_ ? end() : goOn(kSliceMs); });
     connect(progress, &WorkProgress::cancelled, this, [this] {
         if (!file_)
             return;
@@ -20,9 +20,12 @@ void FileOpening::start(const QString& path, TelemetryReading reading)
 {
     stop();
     file_ = std::make_unique<StoredFile>(path, reading);
+    isRead_ = false;
     progress_->start("rec_072");
     slices_.start();
     goOn(kQuietMs);
+    if (isRead_)
+        end();
 }
 
 void FileOpening::stop()
@@ -36,10 +39,13 @@ void FileOpening::stop()
 
 void FileOpening::goOn(int milliseconds)
 {
-    if (!file_->readFor(milliseconds)) {
-        progress_->setShare(file_->share());
-        return;
-    }
+    isRead_ = file_->readFor(milliseconds);
+    progress_->setShare(file_->share());
+}
+
+// In a turn of its own where the reading took several.
+void FileOpening::end()
+{
     const auto contents = std::make_shared<TelemetryContents>(file_->take());
     stop();
     Q_EMIT opened(contents);

@@ -32,9 +32,11 @@ Q_SIGNALS:
 
 private:
     void goOn(int milliseconds);
+    void end();
 
     WorkProgress* progress_;
     std::unique_ptr<StoredFile> file_;
+    bool isRead_ = false; // and not yet told
     QTimer slices_;
 };
 

@@ -10,6 +10,7 @@ namespace vlk {
 
 void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Reading reading)
 {
+    steps_->clear();
     reading_ = reading;
     contents_ = std::move(contents);
     columns_ = std::make_unique<RecordColumns>(
@@ -35,8 +36,17 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     Q_EMIT contentsChanged();
 }
 
+void ShownRecords::later(std::function<void()> step)
+{
+    if (records().size() <= kMostAtOnce)
+        step();
+    else
+        steps_->add(std::move(step));
+}
+
 void ShownRecords::append(std::span<const std::uint8_t> record, Current current)
 {
+    steps_->finish();
     const int added = records().size();
     const bool isFollowed = current_ == added - 1 && (current == Current::follows || added == 0);
     const TimeSpan inSight = inSight_;
@@ -124,6 +134,8 @@ void ShownRecords::setInSight(const TimeSpan& span)
 
 void ShownRecords::setComputed(std::vector<ComputedColumn> columns)
 {
+    if (computed_.empty() && columns.empty())
+        return;
     computed_ = std::move(columns);
     Q_EMIT computedChanged();
 }

@@ -7,6 +7,7 @@
 
 #include "telemetry/files/record_columns.h"
 #include "telemetry/files/telemetry_contents.h"
+#include "telemetry/view/step_queue.h"
 
 #include <QObject>
 
@@ -49,7 +50,10 @@ class ShownRecords : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    // Above that the parts follow new contents in steps.
+    static constexpr int kMostAtOnce = 50'000;
+
+    explicit ShownRecords(QObject* parent = nullptr) : QObject(parent), steps_(new StepQueue(this)) {}
 
     // All of them pass, the first one is looked at, all of their time is in sight.
     // While a file is read there are none yet.
@@ -69,6 +73,10 @@ public:
     // shows it now; where the last record was looked at, it is this one now if the looking follows.
     enum class Current { stays, follows };
     void append(std::span<const std::uint8_t> record, Current current = Current::follows);
+    // What a part does about new contents, some milliseconds of work on a million records: at once where they
+    // are few, else when the event loop comes to it. Other contents end what is left of it.
+    void later(std::function<void()> step);
+    bool isLeftToDo() const { return !steps_->isEmpty(); }
     // In which times are shown, in seconds east of UTC.
     qint32 utcOffset() const;
     // From the earliest to the latest record; times of 0 are no times.
@@ -114,6 +122,7 @@ private:
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     Reading reading_ = Reading::done;
+    StepQueue* steps_;
     TimeSpan wholeTime_;
     std::vector<int> passing_;
     Passes passes_;

@@ -203,6 +203,8 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
     showContents(contents);
     places_->setName(name);
     showTitle();
+    if (growth == Growth::none)
+        return;
     const std::vector<quint32>& numbers = shown_->columns().recordNumbers();
     newest_ = numbers.empty() ? 0 : *std::ranges::max_element(numbers);
 }

@@ -1,0 +1,37 @@
+#pragma once
+
+// Work in steps of some milliseconds each, done in their order from the event loop: in one turn of it as many
+// as leave time for what else happens.
+
+#include <QObject>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+
+namespace vlk {
+
+class StepQueue : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StepQueue(QObject* parent);
+
+    // Behind the others; a step may add more.
+    void add(std::function<void()> step);
+    // Does what is left at once.
+    void finish();
+    // Gives up what is left.
+    void clear();
+    bool isEmpty() const { return steps_.empty(); }
+
+private:
+    void doFirst();
+    void goOn();
+
+    std::deque<std::function<void()>> steps_;
+    QTimer turns_;
+};
+
+} // namespace vlk
