@@ -111,17 +111,15 @@ int ShownRecords::nearestInSight(double time) const
 {
     const std::vector<quint32>& times = columns_->times();
     const auto timeOfRecord = [&](int record) { return double(times[record]); };
-    const auto inSight =
-        std::ranges::subrange(std::ranges::lower_bound(byTime_, inSight_.from, {}, timeOfRecord),
-                              std::ranges::upper_bound(byTime_, inSight_.to, {}, timeOfRecord));
-    if (inSight.empty())
+    const auto first = std::ranges::lower_bound(byTime_, inSight_.from, {}, timeOfRecord);
+    const auto end = std::ranges::upper_bound(byTime_, inSight_.to, {}, timeOfRecord);
+    if (first >= end)
         return -1;
-    const auto behind = std::ranges::lower_bound(inSight, time, {}, timeOfRecord);
-    if (behind == inSight.begin())
+    const auto behind = std::ranges::lower_bound(first, end, time, {}, timeOfRecord);
+    if (behind == first)
         return *behind;
     const int before = *std::prev(behind);
-    return behind == inSight.end() || time - timeOfRecord(before) <= timeOfRecord(*behind) - time ? before
-                                                                                                  : *behind;
+    return behind == end || time - timeOfRecord(before) <= timeOfRecord(*behind) - time ? before : *behind;
 }
 
 void ShownRecords::setInSight(const TimeSpan& span)
