@@ -1732,6 +1732,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_294"><translation>Unsaved changes of %1: %2. Open it again to bring them back.</translation></message>
     <message id="rev_295"><translation>Unsaved changes of %1: a new configuration. Open a new one to bring them back.</translation></message>
     <message id="rev_296"><translation>Not in use or not filled in</translation></message>
+    <message id="rev_297"><translation>Fields that this tracker does not have: %1</translation></message>
+    <message id="rev_298"><translation>In full setup only: %1</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

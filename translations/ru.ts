@@ -1732,6 +1732,8 @@
     <message id="rev_294"><translation>Несохранённые изменения от %1: %2. Откройте, чтобы вернуть.</translation></message>
     <message id="rev_295"><translation>Несохранённые изменения от %1: новая конфигурация. Откройте её, чтобы вернуть.</translation></message>
     <message id="rev_296"><translation>Не используется или не заполнено</translation></message>
+    <message id="rev_297"><translation>Поля, которых нет у этого трекера: %1</translation></message>
+    <message id="rev_298"><translation>Только в полной настройке: %1</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

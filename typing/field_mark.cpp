@@ -75,6 +75,12 @@ public:
         tell();
     }
 
+    void setTyping(bool isTyping)
+    {
+        isTyping_ = isTyping;
+        tell();
+    }
+
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         switch (event->type()) {
@@ -111,10 +117,21 @@ private:
         QString text;
     };
 
+    // The reasons that hold now.
+    std::map<MarkReason, Told> shown() const
+    {
+        std::map<MarkReason, Told> shown = reasons_;
+        if (isTyping_) {
+            shown.erase(MarkReason::value);
+            shown.erase(MarkReason::advice);
+        }
+        return shown;
+    }
+
     Mark worst() const
     {
         Mark worst = Mark::changed;
-        for (const auto& [reason, told] : reasons_)
+        for (const auto& [reason, told] : shown())
             worst = std::max(worst, told.mark);
         return worst;
     }
@@ -122,7 +139,7 @@ private:
     void tell()
     {
         QStringList texts;
-        for (const auto& [reason, told] : reasons_)
+        for (const auto& [reason, told] : shown())
             texts << told.text;
         const QString text = texts.join(QLatin1Char('\n'));
         setToolTip(text);
@@ -197,7 +214,7 @@ private:
 
     void place()
     {
-        bool isShown = !reasons_.empty();
+        bool isShown = !shown().empty();
         if (isShown) {
             const auto [host, corner] = spot();
             if (host != parentWidget())
@@ -224,6 +241,7 @@ private:
     QString ownToolTip_;
     const QString ownDescription_;
     bool isTelling_ = false;
+    bool isTyping_ = false;
     Outline* outline_ = nullptr;
     std::map<MarkReason, Told> reasons_;
 };
@@ -300,15 +318,29 @@ QIcon tabMark(std::optional<Mark> mark, const QPalette& palette)
     return QIcon(none);
 }
 
+namespace {
+// Null where it has none.
+FieldMark* fieldMarkOf(const QWidget* field)
+{
+    return static_cast<FieldMark*>(field->property(kPropertyName).value<QWidget*>());
+}
+} // namespace
+
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text)
 {
-    auto* shape = static_cast<FieldMark*>(field->property(kPropertyName).value<QWidget*>());
+    FieldMark* shape = fieldMarkOf(field);
     if (!shape && !text.isEmpty() && field->parentWidget()) {
         shape = new FieldMark(field);
         field->setProperty(kPropertyName, QVariant::fromValue<QWidget*>(shape));
     }
     if (shape)
         shape->set(reason, mark, text);
+}
+
+void setTyping(QWidget* field, bool isTyping)
+{
+    if (FieldMark* shape = fieldMarkOf(field))
+        shape->setTyping(isTyping);
 }
 
 } // namespace vlk

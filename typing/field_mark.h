@@ -29,6 +29,9 @@ enum class MarkReason { typing, value, changed, advice };
 // An empty text takes the mark of that reason away.
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text);
 
+// While another value is typed, what is told of the one that the field has is not shown.
+void setTyping(QWidget* field, bool isTyping);
+
 // For marks that stand elsewhere: the colour, and the shape at the painter's origin.
 inline constexpr int kMarkSize = 10;
 QColor markColor(Mark mark, const QPalette& palette);

@@ -247,6 +247,7 @@ void NoticeBar::refresh()
         setVisible(roomBelow_ > 0);
         return;
     }
+    QWidget* before = place_; // in the order of Tab, in front of the cross
     for (const Notice::Action& action : shown->notice.actions) {
         auto* button = new QPushButton(action.text, this);
         button->setObjectName(
@@ -256,6 +257,7 @@ void NoticeBar::refresh()
         button->installEventFilter(this);
         connect(button, &QPushButton::clicked, this, [act = action.act] { act(); });
         buttons_->addWidget(button);
+        setTabOrder(std::exchange(before, button), button);
         button->show();
     }
     place_->setText(tr("wrd_401").arg(1).arg(static_cast<int>(told_.size())));

@@ -34,9 +34,16 @@ QString TypedEntry::typed() const
 
 void TypedEntry::typedOn()
 {
-    typing_ = true;
+    setTyping(true);
     news_.clear();
     mark(Mark::invalid, complaint(typed()));
+}
+
+void TypedEntry::setTyping(bool isTyping)
+{
+    if (typing_ != isTyping)
+        vlk::setTyping(box_, isTyping);
+    typing_ = isTyping;
 }
 
 void TypedEntry::mark(Mark mark, const QString& text)
@@ -50,7 +57,7 @@ void TypedEntry::finish()
 {
     if (!typing_)
         return;
-    typing_ = false;
+    setTyping(false);
     taking_ = true;
     const std::optional<News> news = take(typed());
     restore();
@@ -63,7 +70,7 @@ void TypedEntry::giveUp()
 {
     if (typing_)
         restore();
-    typing_ = false;
+    setTyping(false);
     news_.clear();
     mark(Mark::advice, {});
 }

@@ -72,6 +72,7 @@ protected:
 
 private:
     bool ends(QEvent* event);
+    void setTyping(bool isTyping);
 
     QAbstractSpinBox* box_;
     QLineEdit* line_;

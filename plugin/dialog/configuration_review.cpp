@@ -8,6 +8,7 @@
 #include "xml/xml_document.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vlk {
 
@@ -130,6 +131,7 @@ void ConfigurationReview::compareWith(FileState before, Against against, const E
     against_ = against;
     otherName_ = name;
     differences_ = Differences(std::move(before), now());
+    findBeyond();
     Q_EMIT changed();
 }
 
@@ -161,6 +163,30 @@ void ConfigurationReview::followPreset()
 {
     presetDue_.stop();
     differences_ = Differences(withPreset(), now());
+    findBeyond();
+}
+
+void ConfigurationReview::findBeyond()
+{
+    beyond_.clear();
+    if (!isQuick() || against_ == Against::file)
+        return;
+    std::vector<int> keys;
+    for (const review::Difference& difference : differences_.all()) {
+        if (difference.key >= 0)
+            keys.push_back(difference.key);
+    }
+    Configuration taken = written();
+    review::takeOver(taken, differences_.before(), keys);
+    XmlDocument document(QString(), QStringLiteral("DEVICE"));
+    taken.write(*document.root());
+    document.root()->commit();
+    Values quick(kQuickSettings);
+    readFrom(*document.root(), quick);
+    FileState state = FileState::ofConfiguration(taken);
+    state.lay(quick);
+    std::ranges::copy_if(keys, std::back_inserter(beyond_),
+                         [&](int key) { return !(state.at(key) == differences_.before().at(key)); });
 }
 
 bool ConfigurationReview::isAnew(const review::Difference& difference) const
@@ -316,7 +342,8 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
         hold(*history_.pages()[page]);
     const bool isQuick = this->isQuick();
     const bool isPreset = against_ == Against::preset;
-    const bool isWhole = isQuick || isQuick != wasQuick_ || pages.size() == int(history_.pages().size());
+    const bool isOther = isQuick != wasQuick_;
+    const bool isWhole = isQuick || isOther || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
     if (isWhole) {
         const FileState state = now();
@@ -334,6 +361,8 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
                 differences_.update(values);
         }
     }
+    if (isOther)
+        findBeyond();
     if (isPreset)
         presetDue_.start();
     advice_.reset();

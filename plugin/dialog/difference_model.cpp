@@ -54,6 +54,8 @@ DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& differen
     const bool isOfFile = review_.against() == ConfigurationReview::Against::file;
     if (isOfFile && review_.isAnew(difference))
         return Kind::anew;
+    if (difference.key >= 0 && review_.isBeyond(difference.key))
+        return Kind::beyond;
     // Each key of another file or a preset is a choice of its own.
     return difference.isAlong && (isOfFile || !review_.otherName().isEmpty()) ? Kind::along : Kind::own;
 }
@@ -103,10 +105,14 @@ void DifferenceModel::refresh()
     problems_ = static_cast<int>(lines_.size());
     std::vector<Line> anew;
     std::vector<Line> along;
+    std::vector<Line> beyond;
     std::vector<Line> own;
     for (const review::Difference& difference : review_.listed()) {
         const Kind kind = kindOf(difference);
-        std::vector<Line>& lines = kind == Kind::anew ? anew : kind == Kind::along ? along : own;
+        std::vector<Line>& lines = kind == Kind::anew     ? anew
+                                   : kind == Kind::along  ? along
+                                   : kind == Kind::beyond ? beyond
+                                                          : own;
         lines.push_back(lineOf(difference));
     }
     // They are in the order of their pages.
@@ -132,6 +138,7 @@ void DifferenceModel::refresh()
         addBehindHead("rev_290", &lines);
     }
     addHeads("rev_290", &along);
+    addHeads("rev_298", &beyond);
     const QSet<QString> unchosen = std::exchange(unchosen_, {});
     for (const Line& line : lines_) {
         if (unchosen.contains(line.difference.path))

@@ -6,7 +6,7 @@
 //
 // What nobody has edited stands behind one line a page, which opens, and has no check marks: what quick setup
 // makes of any file, which cannot be taken back in it, and what comes along with other settings, and goes
-// with them.
+// with them. So does what another file or a preset has and quick setup cannot take.
 
 #include "dialog/configuration_review.h"
 #include "review/difference_text.h"
@@ -58,7 +58,7 @@ private:
         int head = -1;   // the line that it stands behind
         int members = 0; // of a head
     };
-    enum class Kind { own, anew, along };
+    enum class Kind { own, anew, along, beyond };
 
     Kind kindOf(const review::Difference& difference) const;
     Line lineOf(const review::Difference& difference) const;

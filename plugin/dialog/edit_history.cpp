@@ -217,7 +217,9 @@ void EditHistory::move(void (QUndoStack::*step)())
     const auto [pages, first] = *moved_;
     Q_EMIT changed(pages);
     if (first.page >= 0)
-        Q_EMIT stepped(first.page, first.row);
+        Q_EMIT stepped(first.page, first.row,
+                       pages_[first.page]->values().held()[first.row] == first.before ? first.after
+                                                                                      : first.before);
 }
 
 void EditHistory::undo()

@@ -61,7 +61,7 @@ Q_SIGNALS:
     // Pages, by their place, hold other values than before; steps can be other ones, too.
     void changed(const QVector<int>& pages);
     // A step was taken back or done again that began with this edit.
-    void stepped(int page, int row);
+    void stepped(int page, int row, const QString& other);
 
 private:
     struct Part

@@ -4,6 +4,7 @@
 #include "typing/line_icon.h"
 #include "typing/table_look.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -152,6 +153,16 @@ bool ListPanel::eventFilter(QObject* watched, QEvent* event)
     case Qt::Key_Space:
         toggle(selectedLines());
         return true;
+    case Qt::Key_Home:
+    case Qt::Key_End: {
+        // Without Ctrl they would go along the line.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->modifiers() & Qt::ControlModifier)
+            return false;
+        QKeyEvent whole(QEvent::KeyPress, key->key(), key->modifiers() | Qt::ControlModifier);
+        QCoreApplication::sendEvent(table_, &whole);
+        return true;
+    }
     default:
         return QWidget::eventFilter(watched, event);
     }

@@ -170,6 +170,11 @@ void UnsavedBar::tellFile(const std::function<Notice()>& notice)
         tell(kFile, notice);
 }
 
+void UnsavedBar::endFile()
+{
+    end(kFile);
+}
+
 void UnsavedBar::tellFailure(const QString& reason)
 {
     if (reason.isEmpty())

@@ -28,6 +28,8 @@ public:
     void drop();
     // What became of a file that the window has saved.
     void tellFile(const std::function<Notice()>& notice);
+    // What it told is of the other window.
+    void endFile();
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
 

@@ -15,6 +15,7 @@
 #include "dialog/widget_config_light.h"
 #include "link/device.h"
 #include "link/requests.h"
+#include "review/setting_parts.h"
 #include "settings/all_settings.h"
 #include "typing/area_keys.h"
 #include "typing/kept_palette.h"
@@ -100,9 +101,13 @@ void VLK_Widget_Config::addReview()
     connect(marks_, &vlk::SettingMarks::tabMarked, &tabs, &vlk::TabNavigation::setMark);
     connect(&tabs, &vlk::TabMenu::moved, marks_, &vlk::SettingMarks::refresh);
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, marks_, &vlk::SettingMarks::refresh);
-    connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row) {
-        const auto& table = history_.pages()[page]->values().table();
-        places_.goTo(vlk::review::FileKeys::all().tableOf(table), row);
+    connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row, const QString& other) {
+        const vlk::Values& values = history_.pages()[page]->values();
+        // Of a record's fields the first one that is another now.
+        const std::vector<int> parts =
+            vlk::review::differingParts(values.setting(row), values.held()[row], other);
+        places_.goTo(vlk::review::FileKeys::all().tableOf(values.table()), row,
+                     parts.empty() ? -1 : parts.front());
     });
 }
 
@@ -364,6 +369,7 @@ void VLK_Widget_Config::switchToFull()
     keeper_.keep();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); }, [this] { showFull(); });
     keeper_.switched();
+    unsaved_->endFile();
 }
 
 void VLK_Widget_Config::switchToQuick()
@@ -371,6 +377,7 @@ void VLK_Widget_Config::switchToQuick()
     keeper_.keep();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_129"); }, [this] { showQuick(); });
     keeper_.switched();
+    unsaved_->endFile();
 }
 
 void VLK_Widget_Config::showFull()

@@ -6,6 +6,8 @@
 #include "review/value_text.h"
 #include "settings/quick_settings.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace vlk::review {
@@ -65,6 +67,18 @@ QString partText(const QString& caption, const QString& value)
     return inOneLine(bare) + QStringLiteral(": ") + value;
 }
 
+// How many positions of a mask are on that no field has; none where it is no mask at all.
+int foreignFields(const Mask& row, const QString& text)
+{
+    static const QRegularExpression digits(QStringLiteral("^[01]+$"));
+    if (!digits.match(text).hasMatch())
+        return 0;
+    auto count = text.count(QLatin1Char('1'));
+    for (const MaskField& field : row.fields)
+        count -= maskPart(field, text).count(QLatin1Char('1'));
+    return count;
+}
+
 // Those of the parts that differ from `other`.
 QStringList parts(const Mask& row, const QString& text, const QString& other)
 {
@@ -110,9 +124,13 @@ QString textBeside(const Setting& setting, const Held& held, const std::vector<H
 {
     if (!held.isThere)
         return {};
-    if (!held.isWhole)
-        return rawText(setting, held.text, unit);
     QStringList told;
+    if (!held.isWhole) {
+        const int foreign = setting.is<Mask>() ? foreignFields(*setting.as<Mask>(), held.text) : 0;
+        if (foreign == 0)
+            return rawText(setting, held.text, unit);
+        told << translated("rev_297").arg(foreign);
+    }
     for (const Held& other : others) {
         if (!other.isThere)
             continue;

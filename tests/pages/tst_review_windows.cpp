@@ -1,6 +1,7 @@
 // The panels of differences and of advice, and finding a setting.
 
 #include "dialog/difference_model.h"
+#include "dialog/tab_navigation.h"
 #include "pages/opened_configuration.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -98,6 +99,36 @@ private Q_SLOTS:
         QCOMPARE(dialog_->review().edited(), 0);
         QTest::keyClick(table, Qt::Key_Escape);
         QVERIFY(table->isHidden() || !table->isVisible());
+    }
+
+    void firstAndLastDifference()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        auto* table = child<QTableView>("tableView_Differences");
+        QTest::keyClick(table, Qt::Key_End);
+        QCOMPARE(table->currentIndex().row(), 1);
+        QTest::keyClick(table, Qt::Key_Home);
+        QCOMPARE(table->currentIndex().row(), 0);
+    }
+
+    // The field of the record that was taken back, on its tab.
+    void undoShowsTheField()
+    {
+        auto* box = child<QCheckBox>("checkBox_RS485_Level_2");
+        dialog_->fullWindow()->navigation().goToFirst();
+        QVERIFY(!box->isVisible());
+        box->click();
+        history().settle();
+        for (const bool isUndo : {true, false}) {
+            dialog_->fullWindow()->navigation().goToFirst();
+            isUndo ? history().undo() : history().redo();
+            QVERIFY(box->isVisible());
+            QTRY_VERIFY(box->parentWidget()->findChild<QFrame*>("frame_Found"));
+            QVERIFY(
+                box->parentWidget()->findChild<QFrame*>("frame_Found")->geometry().contains(box->geometry()));
+        }
     }
 
     // Field, popup, panel, window.

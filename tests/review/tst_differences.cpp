@@ -68,6 +68,24 @@ class DifferencesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Not digit by digit.
+    void fieldsThatTheTrackerLacks()
+    {
+        const QByteArray file = factory().replace("mask=\"1", "mask=\"" + QByteArray(255, '1') + "\" old=\"");
+        const Differences differences(stateOf(file), FileState::ofConfiguration(loaded(file)));
+        bool isTold = false;
+        for (const vlk::review::Difference& difference : differences.all()) {
+            if (!difference.path.endsWith("ZETA/mask"))
+                continue;
+            const vlk::Configuration now = loaded(file);
+            const auto table = vlk::review::FileKeys::all()[difference.key].table;
+            const QString before = textOf(differences, difference, now.tables()[table]).beforeText;
+            QVERIFY2(before.contains("rev_297") && !before.contains("1111"), qPrintable(before));
+            isTold = true;
+        }
+        QVERIFY(isTold);
+    }
+
     // A file that is edited as text, against what a save would make of it.
     void ofAFileAsItCame_data()
     {

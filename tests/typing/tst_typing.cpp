@@ -2,6 +2,7 @@
 
 #include "support/data_table.h"
 #include "support/typing.h"
+#include "typing/field_mark.h"
 #include "typing/file_error.h"
 #include "typing/join_fields.h"
 #include "typing/typed_entry.h"
@@ -242,6 +243,19 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible() && pressed_ == 0);
         type(date_, "<All>03.04.2026 05:06:07<Tab>");
         QCOMPARE(date_->text() + date_->toolTip(), QString("03.04.2026 05:06:07"));
+    }
+
+    // What is told of a value is not told of the one that is being typed.
+    void marksOfTheValueBefore()
+    {
+        vlk::markField(whole_, vlk::MarkReason::advice, vlk::Mark::invalid, "no port");
+        QCOMPARE(whole_->toolTip(), QString("no port"));
+        type(whole_, "<All>2");
+        QVERIFY(whole_->toolTip().isEmpty());
+        type(whole_, "x");
+        QVERIFY(whole_->toolTip().startsWith("typed_number"));
+        type(whole_, "<Esc>");
+        QCOMPARE(whole_->toolTip(), QString("no port"));
     }
 
     void texts_data()
