@@ -1173,7 +1173,7 @@
     <message id="cli_038"><translation>%1: this tracker does not offer %2</translation></message>
     <message id="cli_039"><translation>%1: another setting does not allow %2</translation></message>
     <message id="cli_040"><translation>Path;Setting;File;Value;In words</translation></message>
-    <message id="cli_041"><translation>most files, %1</translation></message>
+    <message id="cli_041"><translation>most often, %1 files</translation></message>
     <message id="cli_052"><translation>File: %1</translation></message>
     <message id="cli_053"><translation>Tracker: %1</translation></message>
     <message id="cli_054"><translation>Version: %1</translation></message>

@@ -1173,7 +1173,7 @@
     <message id="cli_038"><translation>%1: этот трекер не предлагает %2</translation></message>
     <message id="cli_039"><translation>%1: другой параметр не допускает %2</translation></message>
     <message id="cli_040"><translation>Путь;Параметр;Файл;Значение;Словами</translation></message>
-    <message id="cli_041"><translation>большинство файлов, %1</translation></message>
+    <message id="cli_041"><translation>чаще всего, файлов: %1</translation></message>
     <message id="cli_052"><translation>Файл: %1</translation></message>
     <message id="cli_053"><translation>Трекер: %1</translation></message>
     <message id="cli_054"><translation>Версия: %1</translation></message>

@@ -75,7 +75,7 @@ std::vector<std::function<void()>> TrackPath::stepsToAdd(RecordColumns& columns,
     steps.emplace_back([this] {
         setMiddle();
         toMetres(0);
-        levelsMadeOf_ = records_.size();
+        startLevels();
     });
     for (const double apart : kLevels)
         steps.emplace_back([this, apart] { makeLevel(apart); });
@@ -115,10 +115,15 @@ void TrackPath::setMiddle()
         kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);
 }
 
-void TrackPath::makeLevels()
+void TrackPath::startLevels()
 {
     levels_.clear();
     levelsMadeOf_ = records_.size();
+}
+
+void TrackPath::makeLevels()
+{
+    startLevels();
     for (const double apart : kLevels)
         makeLevel(apart);
 }

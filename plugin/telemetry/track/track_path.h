@@ -63,6 +63,7 @@ private:
     void setMiddle();
     void toMetres(int firstPoint);
     void addTo(Level& level, int firstPoint) const;
+    void startLevels();
     void makeLevels();
     void makeLevel(double apart);
 
