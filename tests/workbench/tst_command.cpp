@@ -227,17 +227,17 @@ private Q_SLOTS:
             .row("a fleet of ones", "compare fleet/1.xml fleet/2.xml lines.xml", 1,
                  "TRACK/POINTS/maxSpeed: Track / Always record a track point / Speed threshold\n"
                  "    90 km/h: fleet/1.xml\n    500 km/h: fleet/2.xml\n    –: lines.xml\n"
-                 "TRACK/POINTS/z\n    2: most files, 2\n    –: lines.xml\n"
-                 "X/y\n    1: most files, 2\n    a%0Ab: lines.xml\n",
+                 "TRACK/POINTS/z\n    2: most often, 2 files\n    –: lines.xml\n"
+                 "X/y\n    1: most often, 2 files\n    a%0Ab: lines.xml\n",
                  "")
             .row("a fleet in words", "compare factory.xml motion.xml motion.xml", 1,
                  "SENSORS/IN1/IN1ADIN/ign: Input lines / Line IN1 / Assign as ignition\n"
-                 "    Yes (1): factory.xml\n    No (0): most files, 2\n",
+                 "    Yes (1): factory.xml\n    No (0): most often, 2 files\n",
                  "")
             .row("most lack it", "compare lines.xml secret.xml secret.xml", 1,
                  "TRANS/AP1/pass: Data transfer / GPRS access point / Password\n"
-                 "    ••• 1: most files, 2\n    –: lines.xml\n"
-                 "X/y\n    a%0Ab: lines.xml\n    –: most files, 2\n",
+                 "    ••• 1: most often, 2 files\n    –: lines.xml\n"
+                 "X/y\n    a%0Ab: lines.xml\n    –: most often, 2 files\n",
                  masked)
             .row("nothing at all", "info empty.xml a.xml", 2, "a.xml: configuration, R-7106\n",
                  "empty.xml: is empty\n")
