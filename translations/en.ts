@@ -2042,6 +2042,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_294"><translation>The file that was there before is kept as &quot;%1&quot;.</translation></message>
     <message id="tmiw_300"><translation>In this record: %1&#160;km</translation></message>
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
+    <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
+    <message id="tmiw_303"><translation>End it now</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2428,6 +2430,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Tracker plug-in: %1, version %2</translation></message>
     <message id="wb_answer_again"><translation>Message %1 from the tracker: %2. It cannot be believed and is not shown; the tracker is asked again until a right answer comes. Check the cable.</translation></message>
+    <message id="wb_answer_again_cancelled"><translation>Message %1 from the tracker: %2. It is asked for again. The save was cancelled and ends when a right one comes. Check the cable.</translation></message>
     <message id="wb_answer_again_save"><translation>Message %1 from the tracker: %2. Such records are not saved: they are asked for again, and the save goes on by itself when a right one comes. Check the cable.</translation></message>
     <message id="wb_answer_bad"><translation>Message %1 from the tracker: %2. Do not rely on the record; check the cable and ask again.</translation></message>
     <message id="wb_answer_cut"><translation>cut short after %1&#160;B</translation></message>
@@ -2776,6 +2779,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
     <message id="wb_silence_again"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; check the cable.</translation></message>
+    <message id="wb_silence_cancelled"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s. The save was cancelled and ends with its answer.</translation></message>
     <message id="wb_silence_command"><translation>No answer from the tracker since %1. Whether it has done what was asked is not known. Check the cable.</translation></message>
     <message id="wb_silence_mute"><translation>No answer from the tracker since %1. It may hold nothing of the kind; else check the cable and ask again.</translation></message>
     <message id="wb_silence_save"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s, and the save goes on by itself when it answers.</translation></message>

@@ -2042,6 +2042,8 @@
     <message id="tmiw_294"><translation>Прежний файл сохранён под именем «%1».</translation></message>
     <message id="tmiw_300"><translation>В этой записи: %1&#160;км</translation></message>
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
+    <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
+    <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2428,6 +2430,7 @@
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль трекера: %1, версия %2</translation></message>
     <message id="wb_answer_again"><translation>Сообщение %1 от трекера: %2. Верить ему нельзя, оно не показано; запрос повторяется, пока не придёт верный ответ. Проверьте кабель.</translation></message>
+    <message id="wb_answer_again_cancelled"><translation>Сообщение %1 от трекера: %2. Запрос повторяется. Сохранение отменено и закончится после верного ответа. Проверьте кабель.</translation></message>
     <message id="wb_answer_again_save"><translation>Сообщение %1 от трекера: %2. Такие записи не сохраняются: они запрашиваются повторно, и после верного ответа сохранение продолжится. Проверьте кабель.</translation></message>
     <message id="wb_answer_bad"><translation>Сообщение %1 от трекера: %2. Записи верить нельзя; проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_answer_cut"><translation>обрывается после %1&#160;байт</translation></message>
@@ -2776,6 +2779,7 @@
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>
+    <message id="wb_silence_cancelled"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с. Сохранение отменено и закончится с ответом.</translation></message>
     <message id="wb_silence_command"><translation>Ответа от трекера нет с %1. Выполнил ли он команду, неизвестно. Проверьте кабель.</translation></message>
     <message id="wb_silence_mute"><translation>Ответа от трекера нет с %1. Возможно, таких данных у него нет; если они есть, проверьте кабель и запросите ещё раз.</translation></message>
     <message id="wb_silence_save"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; после ответа сохранение продолжится.</translation></message>

@@ -84,8 +84,8 @@ void NoticeBar::claimHeight()
 {
     const bool isOnShow = isTelling();
     roomBelow_ = isOnShow || keptHeight_ == 0 ? property(kRoomBelow).toInt() : 0;
-    for (QWidget* part : {static_cast<QWidget*>(text_), static_cast<QWidget*>(close_)})
-        part->setVisible(isOnShow);
+    text_->setVisible(isOnShow);
+    close_->setVisible(isOnShow && shown()->mayClose);
     QMargins margins = layout()->contentsMargins();
     margins.setTop(isOnShow ? kEdge : 0);
     margins.setBottom(margins.top() + roomBelow_);

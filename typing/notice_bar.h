@@ -31,6 +31,7 @@ struct Notice
     Mark mark;
     QString text;
     std::vector<Action> actions; // at most two
+    bool mayClose = true;        // by the user; what offers the only way out stays
 };
 
 class NoticeBar : public QFrame

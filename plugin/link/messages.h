@@ -197,6 +197,7 @@ struct RunningWork
     std::uint32_t saving = 0;
     std::uint32_t automatic = 0; // automatic requests
     std::uint32_t clearing = 0;  // bit n: the data of server n + 1 are still to be cleared in this sequence
+    std::uint32_t cancelled = 0; // the save that runs, which ends with the next record
 };
 
 // GetExtensions: which of them the plug-in answers. A plug-in that fills nothing answers none beyond those

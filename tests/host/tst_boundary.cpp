@@ -115,7 +115,7 @@ private Q_SLOTS:
     {
         host_.send(Message::PrepareTelemetry);
         for (const auto& [extension, words] :
-             {std::pair(Message::EndSave, 3U), {Message::GetRunningWork, 4U}}) {
+             {std::pair(Message::EndSave, 3U), {Message::GetRunningWork, 5U}}) {
             for (const quint32 size : {0U, 3U, 4U, 7U, 8U, 11U, 12U, 15U, 16U, 4000U}) {
                 quint32 record[] = {size, 0x55, 0x55, 0x55, 0x55};
                 host_.send(extension, record);

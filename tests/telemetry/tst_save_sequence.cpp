@@ -259,8 +259,18 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i)
             QTest::keyClick(window, Qt::Key_Escape);
         QVERIFY(window->isVisible() && !isIdle());
+        QCOMPARE(text("label_SavedInPart"), QString("tmiw_302"));
+        vlk::RunningWork work;
+        host.send(Message::GetRunningWork, &work);
+        QVERIFY(work.saving == 1 && work.cancelled == 1);
         send(Message::RecordOfPeriod, 7, 13);
         QVERIFY(isIdle() && window->isVisible());
+        QCOMPARE(text("label_SavedInPart"), QString());
+        // Or without a record.
+        press("pushButton_SaveToFile");
+        QTest::keyClick(window, Qt::Key_Escape);
+        press("label_SavedInPart_Action1");
+        QVERIFY(isIdle() && text("label_SavedInPart").isEmpty());
         // The next save knows nothing of it. A tracker that goes away takes the file dialog with it.
         press("pushButton_SaveToFile");
         send(Message::RecordOfPeriod, 7, 13);

@@ -81,6 +81,26 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(Bench::notice(), QString(), 10'000);
     }
 
+    // A cancel in silence is answered at once, and what the host offers to end the save stays on show.
+    void cancelledInSilence()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("goes on by itself")), 10'000);
+        QWidget* view = Bench::telemetry();
+        QVERIFY(!view->findChild<QWidget*>(QStringLiteral("label_WindowNotice_Close"))->isVisible());
+        Bench::press(view, "pushButton_Save_Cancel");
+        QVERIFY(view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"))
+                    ->text()
+                    .contains(QLatin1String("ends with the next record")));
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("ends with its answer")), 10'000);
+        Bench::press(view, "label_SavedInPart_Action1");
+        QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Saved in part: ")),
+                     qPrintable(bench.everything()));
+        QVERIFY(!Bench::notice().contains(QLatin1String("cancelled")));
+    }
+
     // Before there is a file there is nothing to be saved.
     void endsASaveThatNeverBegan()
     {

@@ -71,8 +71,12 @@ void LinkNotices::connectRequests()
         log_.appendWarning(QStringLiteral("vlk.workbench.link"), text(key).arg(quint32(message)));
     };
     const RepeatedRequests* requests = &session_.requests();
-    connect(requests, &RepeatedRequests::sentAgain, this,
-            [log](vlk::Message request) { log("wb_asked_again", request); });
+    connect(requests, &RepeatedRequests::sentAgain, this, [this, log](vlk::Message request) {
+        log("wb_asked_again", request);
+        // Meanwhile it may have been cancelled.
+        if (isSaving_)
+            setTrouble(trouble_);
+    });
     connect(requests, &RepeatedRequests::dropped, this,
             [log](vlk::Message answer) { log("wb_answer_dropped", answer); });
     connect(requests, &RepeatedRequests::refused, this,
@@ -161,14 +165,17 @@ void LinkNotices::tellRefused(vlk::Message answer, const AnswerProblem& problem,
     watch_.begin(request);
     refused_ = answer;
     setTrouble([this, problem, id = quint32(answer)] {
-        return text(isSaving_ ? "wb_answer_again_save" : "wb_answer_again").arg(id).arg(noteOn(problem));
+        const char* key = isSaving_ ? "wb_answer_again_save" : "wb_answer_again";
+        return text(isCancelled_ ? "wb_answer_again_cancelled" : key).arg(id).arg(noteOn(problem));
     });
 }
 
 void LinkNotices::setTrouble(const Sentence& trouble)
 {
     trouble_ = trouble;
-    isSaving_ = trouble_ && session_.link().runningWork().saving != 0;
+    const vlk::RunningWork running = trouble_ ? session_.link().runningWork() : vlk::RunningWork();
+    isSaving_ = running.saving != 0;
+    isCancelled_ = running.cancelled != 0;
     if (trouble_)
         status_.tell(StatusLine::Link, trouble_);
     else
@@ -186,7 +193,7 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
         return text("wb_silence_write").arg(timeOfDay(since));
     const char* key = "wb_silence_command";
     if (hasEffect(request, Effect::Reads))
-        key = isSaving_ ? "wb_silence_save" : "wb_silence_again";
+        key = isCancelled_ ? "wb_silence_cancelled" : isSaving_ ? "wb_silence_save" : "wb_silence_again";
     else if (hasEffect(request, Effect::MayBeMute))
         key = "wb_silence_mute";
     const qint64 seconds = AnswerWatch::kPatienceMs / 1000;
@@ -196,8 +203,10 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 vlk::Notice LinkNotices::troubleNotice()
 {
     vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
-    if (isSaving_)
+    if (isSaving_) {
         notice.actions.push_back({text("wb_end_save"), [this] { endSave(); }});
+        notice.mayClose = false;
+    }
     return notice;
 }
 
@@ -208,17 +217,27 @@ void LinkNotices::endSave()
         setTrouble(trouble_); // without the offer
         return;
     }
-    session_.requests().forget();
-    watch_.forget();
-    setTrouble({});
+    endWait();
     // The plug-in tells of a file with a part of the period.
     if (save.records == 0)
         tellOfCommand([] { return text("wb_save_ended"); }, false);
 }
 
+void LinkNotices::endWait()
+{
+    session_.requests().forget();
+    watch_.forget();
+    setTrouble({});
+}
+
 void LinkNotices::saveEnded()
 {
-    if (std::exchange(isSaving_, false))
+    if (!std::exchange(isSaving_, false))
+        return;
+    // What was cancelled and ended without an answer waits for none.
+    if (isCancelled_)
+        endWait();
+    else
         setTrouble(trouble_);
 }
 

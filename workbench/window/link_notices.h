@@ -51,6 +51,7 @@ private:
     QString silence(const QDateTime& since, vlk::Message request);
     vlk::Notice troubleNotice();
     void endSave();
+    void endWait(); // for an answer
     // Commands come from the window of telemetry.
     void tellOfCommand(const Sentence& sentence, bool isNews)
     {
@@ -70,6 +71,7 @@ private:
     FrontNotice front_;
     Sentence trouble_;
     bool isSaving_ = false;    // a period, when the trouble came
+    bool isCancelled_ = false; // this save
     bool isPulled_ = false;    // the cable went while the tracker answered
     bool isPartSaved_ = false; // since the tracker was detached
     vlk::Message refused_{};   // the answer that was not passed on last

@@ -134,7 +134,8 @@ constexpr RecordRow kRecords[] = {
      [](const void* p) { return numbers(p, "ended=%1 records=%2", &EndedSave::ended, &EndedSave::records); }},
     {Message::GetRunningWork,
      [](const void* p) {
-         return numbers(p, "saving=%1 automatic=%2", &RunningWork::saving, &RunningWork::automatic);
+         return numbers(p, "saving=%1 automatic=%2 cancelled=%3", &RunningWork::saving,
+                        &RunningWork::automatic, &RunningWork::cancelled);
      }},
     {Message::GetExtensions, [](const void* p) { return numbers(p, "newest=%1", &Extensions::newest); }},
     {Message::CompareFiles,

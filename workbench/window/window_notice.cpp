@@ -47,7 +47,8 @@ void WindowNotice::offerByKeys()
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Notice::Action& action : notice->actions)
         menu->addAction(action.text, this, action.act);
-    menu->addAction(tr("wrd_402"), this, &WindowNotice::closeShown);
+    if (notice->mayClose)
+        menu->addAction(tr("wrd_402"), this, &WindowNotice::closeShown);
     menu->setActiveAction(menu->actions().constFirst());
     menu->popup(geometry().bottomLeft());
 }

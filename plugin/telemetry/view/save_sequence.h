@@ -63,6 +63,8 @@ public:
     // Arriving records belong to the sequence. Stays so after the end of a save, until stop().
     bool saving() const { return saving_; }
     bool isRunning() const { return saveState_ != Idle; }
+    // A cancel waits for the next record.
+    bool isCancelled() const { return isRunning() && saveCancelled_; }
 
     // The zone of the file's times, in seconds east of UTC.
     void setTimeOffset(int seconds) { origin_.timeOffset = seconds; }

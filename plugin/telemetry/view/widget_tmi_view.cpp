@@ -24,7 +24,7 @@ using namespace vlk;
 namespace {
 
 constexpr int kFirstProductionMode = 1;
-enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken };
+enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken, kCancelled };
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -148,6 +148,7 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     // They would end it.
     ui_->checkBox_Get_Auto_TMI->setEnabled(!running);
     setManualBlocked(running ? "tmiw_176" : nullptr);
+    notices_->end(kCancelled);
     if (running) {
         age_.await(false);
         notices_->end(kSavedInPart);
@@ -222,9 +223,19 @@ void VLK_Widget_Tmi_View::deviceDisconnected()
 void VLK_Widget_Tmi_View::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && save_.isRunning())
-        save_.cancel();
+        cancelSave();
     else
         QDialog::keyPressEvent(event);
+}
+
+// The next record may be long in coming.
+void VLK_Widget_Tmi_View::cancelSave()
+{
+    save_.cancel();
+    if (save_.isCancelled())
+        notices_->tell(kCancelled, [this] {
+            return Notice{Mark::advice, tr("tmiw_302"), {{tr("tmiw_303"), [this] { save_.endNow(); }}}};
+        });
 }
 
 void VLK_Widget_Tmi_View::stopRequests()
@@ -249,7 +260,8 @@ vlk::RunningWork VLK_Widget_Tmi_View::runningWork() const
 {
     return {.saving = save_.isRunning() ? 1U : 0U,
             .automatic = ui_->checkBox_Get_Auto_TMI->isChecked() ? 1U : 0U,
-            .clearing = clearing_.awaited()};
+            .clearing = clearing_.awaited(),
+            .cancelled = save_.isCancelled() ? 1U : 0U};
 }
 
 void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)

@@ -122,6 +122,7 @@ private:
     void showSaved(const std::shared_ptr<vlk::TelemetryContents>& period, const QString& path);
     void showPart(const vlk::PartOfPeriod& part);
     void tellNoServer(bool isNone);
+    void cancelSave();
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
     bool tookPeriod();

@@ -178,7 +178,7 @@ void VLK_Widget_Tmi_View::slot_pressed_SaveFileToServer()
 
 void VLK_Widget_Tmi_View::slot_pressed_SaveCancel()
 {
-    save_.cancel();
+    cancelSave();
 }
 
 // False once where the fields show other times than were typed: five minutes of reading want the right ones.
