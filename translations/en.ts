@@ -1675,7 +1675,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_293"><translation>There are no records in this time.</translation></message>
     <message id="rec_295"><translation>Fuel</translation></message>
     <message id="rec_296"><translation>Only the beginning of this record is in the file.</translation></message>
-    <message id="rec_297"><translation>%1, 1 of them cut</translation></message>
+    <message id="rec_297"><translation>%1, %2 of them damaged</translation></message>
     <message id="rec_298"><translation>%1, not &quot;%2&quot;</translation></message>
     <message id="rec_360"><translation>a known value of %1, not &quot;%2&quot;</translation></message>
     <message id="rec_361"><translation>%1 (perhaps %2)</translation></message>
@@ -1697,6 +1697,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_424"><translation>not</translation></message>
     <message id="rec_425"><translation>The hour around this record</translation></message>
     <message id="rec_450"><translation>No records from %1 to %2.</translation></message>
+    <message id="rec_460"><translation>This record is damaged in the file. What it shows counts as measured nowhere; values that could not be read show as 0.</translation></message>
+    <message id="rec_461"><translation>Damaged records left out: %1.</translation></message>
+    <message id="rec_462"><translation>Damaged records of the file, left out here: %1. What happened only in them is not in the list.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

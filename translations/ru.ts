@@ -1675,7 +1675,7 @@
     <message id="rec_293"><translation>За это время записей нет.</translation></message>
     <message id="rec_295"><translation>Топливо</translation></message>
     <message id="rec_296"><translation>В файле только начало этой записи.</translation></message>
-    <message id="rec_297"><translation>%1, из них 1 обрезана</translation></message>
+    <message id="rec_297"><translation>%1, повреждено %2</translation></message>
     <message id="rec_298"><translation>%1, а не «%2»</translation></message>
     <message id="rec_360"><translation>известное значение «%1», а не «%2»</translation></message>
     <message id="rec_361"><translation>%1 (возможно, %2)</translation></message>
@@ -1697,6 +1697,9 @@
     <message id="rec_424"><translation>не</translation></message>
     <message id="rec_425"><translation>Час вокруг этой записи</translation></message>
     <message id="rec_450"><translation>С %1 по %2 записей нет.</translation></message>
+    <message id="rec_460"><translation>Эта запись в файле повреждена. Её значения нигде не учитываются; те, что не прочитались, показаны как 0.</translation></message>
+    <message id="rec_461"><translation>Повреждённые записи пропущены: %1.</translation></message>
+    <message id="rec_462"><translation>Повреждённые записи файла, здесь не учтены: %1. Того, что было только в них, в списке нет.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

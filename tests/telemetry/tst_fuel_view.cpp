@@ -5,6 +5,7 @@
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
+#include "telemetry/files/telemetry_file.h"
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
@@ -218,6 +219,26 @@ private Q_SLOTS:
     }
 
     // Its scale ends at 1023, all that is above it is an error.
+    // What a damaged record shows is not measured: the drain stays, and the list tells of the records left
+    // out.
+    void leavesOutDamaged()
+    {
+        const QString path = folder_.filePath("damaged.xml");
+        const TelemetryContents whole = drained();
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, whole.records, whole.origin));
+        QByteArray content = readFile(path);
+        for (int damaged = 0, at = 0; damaged < 3; ++damaged) {
+            at = content.indexOf("2510<", at);
+            content.replace(at, 4, damaged == 0 ? "2x10" : "25y0");
+        }
+        writeFile(path, content);
+        records_->setContents(*readTelemetryFile(path));
+        choose(good_);
+        QCOMPARE(table()->model()->rowCount(), 1);
+        QCOMPARE(row().mid(2, 3), QStringList({"312", "251", "-61"}));
+        QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
+    }
+
     void saysThatATableGivesNoVolume()
     {
         choose(file("small.csv", "Level;Volume, l\n1;0\n1000;400\n"));

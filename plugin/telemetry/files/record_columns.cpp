@@ -3,7 +3,6 @@
 #include "telemetry/files/raw_values.h"
 #include "telemetry/text/item_text.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace vlk {
@@ -18,6 +17,13 @@ const NumberColumn& RecordColumns::numbers(ElementIndex element)
 {
     return filled(wholes_[element], element,
                   [type = kElements[element].type](std::uint64_t raw) { return numberOf(raw, type); });
+}
+
+template <class Number>
+void RecordColumns::leaveOutDamaged(std::vector<Number>& column, int first, Number number) const
+{
+    for (auto record = std::ranges::lower_bound(damaged_, first); record != damaged_.end(); ++record)
+        column[*record] = number;
 }
 
 template <class ToNumber>
@@ -39,6 +45,7 @@ const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex ele
             column[record] = raw ? toNumber(*raw) : std::numeric_limits<double>::quiet_NaN();
         },
         known);
+    leaveOutDamaged(column, known, std::numeric_limits<double>::quiet_NaN());
     return column;
 }
 
@@ -55,6 +62,7 @@ const std::vector<quint32>& RecordColumns::headColumn(ElementIndex element)
             column[record] = static_cast<quint32>(raw.value_or(0));
         },
         known);
+    leaveOutDamaged(column, known, quint32{0});
     return column;
 }
 

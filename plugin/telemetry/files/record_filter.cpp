@@ -220,7 +220,7 @@ std::vector<int> passing(const Filter& filter, RecordColumns& columns, int first
         const int count = std::min(kBlock, size - first);
         evaluate(bound, first, count, passes);
         for (int i = 0; i < count; ++i) {
-            if (passes[i])
+            if (passes[i] && !columns.isDamaged(first + i))
                 records.push_back(first + i);
         }
     }

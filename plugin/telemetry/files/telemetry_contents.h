@@ -56,8 +56,8 @@ struct TelemetryContents
     std::vector<FileDamage> damages;
     std::optional<quint32> announced; // how many records the file says that it holds
     bool lastIsCut = false;           // of the last record there is only the beginning
-    int damaged = 0;                  // records with something in them that is not as it was written
-    int hidden = 0;                   // whole records that salvaging would give besides these
+    std::vector<int> damaged; // rising: records with something in them that is not as it was written, or cut
+    int hidden = 0;           // whole records that salvaging would give besides these
 };
 
 // All that a reader of one form gives.

@@ -163,8 +163,9 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
         goOnAt(page.at());
     if (isKept) {
         page.addTo(contents_.records);
+        if (!salvages && (page.end == XmlPage::OfFile || !isIntact))
+            contents_.damaged.push_back(total_);
         ++total_;
-        contents_.damaged += page.end == XmlPage::OfFile || isIntact ? 0 : 1;
     }
     if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole())
         usual_.remember(page.line(), page.ver(), page.mask());

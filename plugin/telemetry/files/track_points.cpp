@@ -81,7 +81,8 @@ void forEachTrackPoint(RecordColumns& columns, int firstRecord, int behindRecord
         const double longitude = longitudes.at(record);
         // What is absent is not in range; a validity that is absent calls nothing invalid.
         const bool isInRange = std::abs(latitude) <= 90 && std::abs(longitude) <= 180;
-        if (!isInRange || (latitude == 0 && longitude == 0) || validities.at(record) == 0)
+        if (!isInRange || (latitude == 0 && longitude == 0) || validities.at(record) == 0 ||
+            columns.isDamaged(record))
             continue;
         const bool starts = !lastTime || isGapBetween(*lastTime, times[record]);
         lastTime = times[record];

@@ -321,6 +321,8 @@ void FuelView::showState()
     QStringList news = markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
+    if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
+        news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
     news_->setText(news.join(QLatin1Char('\n')));
     news_->setVisible(!news.isEmpty());
     const bool isAnyVolume = std::ranges::any_of(litres_, [](double each) { return !std::isnan(each); });

@@ -48,7 +48,7 @@ Damage damageOf(const TelemetryContents& contents)
     const bool countDiffers = std::ranges::any_of(contents.damages, isCount);
     std::vector<FileDamage> places = contents.damages;
     std::erase_if(places, isCount);
-    const qint64 whole = qint64{contents.records.size()} - contents.damaged - (contents.lastIsCut ? 1 : 0);
+    const qint64 whole = qint64{contents.records.size()} - std::ssize(contents.damaged);
     return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole, contents.hidden};
 }
 

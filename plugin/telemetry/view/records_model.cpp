@@ -180,8 +180,8 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     if (role == Qt::TextAlignmentRole)
         return alignment(column);
     const int record = order_[index.row()];
-    if (isCut(record) && role != Qt::DisplayRole)
-        return cutData(role);
+    if (isDamaged(record) && role != Qt::DisplayRole)
+        return damagedData(record, role);
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
         return {};
     const quint64 key = static_cast<quint64>(record) << 32 | static_cast<quint32>(column);
@@ -198,15 +198,11 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     return role == Qt::ToolTipRole && isPlace ? positionText(decoded(record), shown->item) : QVariant();
 }
 
-bool RecordsModel::isCut(int record) const
+QVariant RecordsModel::damagedData(int record, int role) const
 {
-    return shown_->contents()->lastIsCut && record == shown_->records().size() - 1;
-}
-
-QVariant RecordsModel::cutData(int role)
-{
+    const bool isCut = shown_->contents()->lastIsCut && record == shown_->records().size() - 1;
     if (role == Qt::ToolTipRole)
-        return tr("rec_296");
+        return tr(isCut ? "rec_296" : "rec_460");
     if (role == Qt::ForegroundRole)
         return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
     if (role != Qt::FontRole)
@@ -317,6 +313,8 @@ QString RecordsModel::text(int record, int column) const
 
 QString RecordsModel::textToCopy(int record, int column) const
 {
+    if (isDamaged(record))
+        return {};
     const bool isHeld = raw(record, column).has_value();
     if (isHeld && kind(column) == CellKind::number) {
         QLocale locale;

@@ -35,7 +35,9 @@ public:
 
     // What the record shows in a column; empty where it shows nothing.
     QString text(int record, int column) const;
-    // The text as spreadsheets of the language take it.
+    // Whether the file does not hold it as it was written: what it shows is no measured value.
+    bool isDamaged(int record) const { return shown_->columns().isDamaged(record); }
+    // The text as spreadsheets of the language take it; empty of a damaged record.
     QString textToCopy(int record, int column) const;
     // The bytes behind it; none where the record lacks it, and of the column of packets.
     std::optional<quint64> raw(int record, int column) const;
@@ -63,9 +65,7 @@ private:
     void setRows();
     void order();
     int alignment(int column) const;
-    // Whether there is only the beginning of the record, as there may be of the last one.
-    bool isCut(int record) const;
-    static QVariant cutData(int role);
+    QVariant damagedData(int record, int role) const;
     QVariant absentData(int record, int column, int role) const;
     const TmiPage_Zeta3& decoded(int record) const;
     QString eventText(quint16 code) const;

@@ -226,7 +226,9 @@ bool RecordsTable::showRecord(int record)
     if (row == currentIndex().row())
         return true;
     const bool isKept = column_ >= 0 && !isColumnHidden(column_);
-    setCurrentIndex(model_->index(row, isKept ? column_ : shownColumns().front()));
+    // Alone, whatever keys are held that moved to it elsewhere.
+    selectionModel()->setCurrentIndex(model_->index(row, isKept ? column_ : shownColumns().front()),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(currentIndex(), PositionAtCenter);
     return true;
 }

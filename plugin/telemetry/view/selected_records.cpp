@@ -77,6 +77,8 @@ QString sumsText(const RecordsModel& model, int column, ShownRecords& shown)
 
 QString placeText(const RecordsModel& model, int record, bool link)
 {
+    if (model.isDamaged(record))
+        return {};
     const auto place = [&](ItemIndex latitudeItem, ItemIndex longitudeItem) -> QString {
         const double latitude = numberOf(model, record, latitudeItem);
         const double longitude = numberOf(model, record, longitudeItem);

@@ -13,8 +13,9 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     steps_->clear();
     reading_ = reading;
     contents_ = std::move(contents);
-    columns_ = std::make_unique<RecordColumns>(
-        contents_->records, typeLetters(contents_->origin.titles).toLatin1().toStdString());
+    columns_ = std::make_unique<RecordColumns>(contents_->records,
+                                               typeLetters(contents_->origin.titles).toLatin1().toStdString(),
+                                               contents_->damaged);
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);

@@ -295,8 +295,9 @@ void VLK_Widget_Tmi_Table::showCount()
     const bool areAllShown = model_->rowCount() == shown_->records().size();
     const QString count =
         areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
-    const bool isCutShown = shown_->contents()->lastIsCut && model_->rowOf(shown_->records().size() - 1) >= 0;
-    count_->setText(isCutShown ? tr("rec_297").arg(count) : count);
+    const auto damaged = std::ranges::count_if(shown_->contents()->damaged,
+                                               [this](int record) { return model_->rowOf(record) >= 0; });
+    count_->setText(damaged > 0 ? tr("rec_297").arg(count, locale.toString(qlonglong(damaged))) : count);
     count_->setHidden(shown_->isBeingRead());
     exportButton_->setEnabled(!shown_->records().empty());
     columnsButton_->setEnabled(model_->columnCount() > 0);
@@ -348,6 +349,9 @@ void VLK_Widget_Tmi_Table::exportRecords()
         std::iota(records.begin(), records.end(), 0);
     else
         records = choice_.what == ExportChoice::selected ? selected : model_->records();
+    // As the command line does.
+    leftOut_ =
+        static_cast<int>(std::erase_if(records, [this](int record) { return model_->isDamaged(record); }));
     ExportOptions options;
     options.origin = shown_->contents()->origin;
     if (options.origin.model.isEmpty() && vlkDevice) {
@@ -372,10 +376,11 @@ void VLK_Widget_Tmi_Table::connectExport()
 {
     const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kHandedOver, notice); };
     connect(export_, &RecordsExport::written, this, [this](const QString& path) {
-        notices_->tellNews(kHandedOver, [path, count = exported_] {
-            return Notice{Mark::right,
-                          tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path)),
-                          {}};
+        notices_->tellNews(kHandedOver, [path, count = exported_, leftOut = leftOut_] {
+            QString told = tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path));
+            if (leftOut > 0)
+                told += QLatin1Char(' ') + tr("rec_461").arg(QLocale().toString(leftOut));
+            return Notice{leftOut > 0 ? Mark::advice : Mark::right, told, {}};
         });
     });
     connect(export_, &RecordsExport::failed, this, [this, tell](const QString& path, const QString& reason) {

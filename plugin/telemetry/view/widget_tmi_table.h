@@ -91,6 +91,7 @@ private:
     QString path_; // of the file that was opened last
     vlk::ExportChoice choice_;
     int exported_ = 0; // records, by the latest export
+    int leftOut_ = 0;  // damaged ones of those that were to be exported
     Growth growth_ = Growth::none;
     quint32 newest_ = 0; // number on show
 };
