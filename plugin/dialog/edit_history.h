@@ -60,7 +60,8 @@ public:
 Q_SIGNALS:
     // Pages, by their place, hold other values than before; steps can be other ones, too.
     void changed(const QVector<int>& pages);
-    // A step was taken back or done again that began with this edit.
+    // A step was taken back or done again that began with this edit; `other` is what the row was worth until
+    // then.
     void stepped(int page, int row, const QString& other);
 
 private:

@@ -18,6 +18,7 @@
 #include <QClipboard>
 
 #include <algorithm>
+#include <iterator>
 
 bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
@@ -103,8 +104,8 @@ void VLK_Form_Fuel_Sensor::pasteRows()
     BeforePaste before{there, dirty_, edited_};
     if (preview.isToReplace()) {
         vlk::FuelRows kept;
-        std::copy_if(there.begin(), there.end(), std::back_inserter(kept), [&](const vlk::FuelRow& row) {
-            return std::find(joining.others.begin(), joining.others.end(), row) == joining.others.end();
+        std::ranges::copy_if(there, std::back_inserter(kept), [&](const vlk::FuelRow& row) {
+            return std::ranges::find(joining.others, row) == joining.others.end();
         });
         ui_->tableWidget->setRows(kept);
     }
