@@ -123,7 +123,7 @@ void VLK_Form_TMI_Zeta3::setLive(bool live)
     sensors_->commands()->setVisible(live);
 }
 
-void VLK_Form_TMI_Zeta3::show(const TmiPage_Zeta3& page)
+void VLK_Form_TMI_Zeta3::fillTabs(const TmiPage_Zeta3& page)
 {
     for (const Tab& tab : tabs_)
         tab.form->fill(page);
@@ -131,7 +131,7 @@ void VLK_Form_TMI_Zeta3::show(const TmiPage_Zeta3& page)
 
 void VLK_Form_TMI_Zeta3::fill(const TmiPage_Zeta3& page)
 {
-    show(page);
+    fillTabs(page);
     if (!std::exchange(isOrdered_, true))
         orderTabs();
 }
@@ -150,7 +150,7 @@ void VLK_Form_TMI_Zeta3::orderTabs()
 void VLK_Form_TMI_Zeta3::setUtcOffset(int seconds)
 {
     if (record_.setUtcOffset(seconds))
-        show(*record_.page());
+        fillTabs(*record_.page());
 }
 
 void VLK_Form_TMI_Zeta3::retranslate()
@@ -162,7 +162,7 @@ void VLK_Form_TMI_Zeta3::retranslate()
         menu_->actions().at(i)->setText(tab.form->title());
     }
     if (record_.page())
-        show(*record_.page());
+        fillTabs(*record_.page());
 }
 
 void VLK_Form_TMI_Zeta3::mousePressEvent(QMouseEvent* event)

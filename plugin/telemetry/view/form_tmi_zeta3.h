@@ -61,7 +61,7 @@ private Q_SLOTS:
 private:
     void addTab(VLK_Form_Tmi_F3_Tab* tab);
     void hideAbsentParts();
-    void show(const TmiPage_Zeta3& page);
+    void fillTabs(const TmiPage_Zeta3& page);
     void orderTabs();
 
     vlk::RecordOnShow record_;
