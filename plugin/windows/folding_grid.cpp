@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kColumnsOfPair = 2;
 constexpr int kLastColumn = 4;
-constexpr int kPairGap = 8; // beside the one that every column has
+constexpr int kPairGap = 8;        // beside the one that every column has
+constexpr char kFolds[] = "folds"; // property of a grid that this class keeps
 
 bool isCaption(QLayoutItem* item)
 {
@@ -27,6 +28,21 @@ bool isButton(QLayoutItem* item)
     return first && qobject_cast<QPushButton*>(first->widget());
 }
 
+// Whether another such grid stands inside the item. That one says itself what it needs, and its width is that
+// of its last fold.
+bool holdsFoldingGrid(QLayoutItem* item)
+{
+    const auto folds = [](const QObject* layout) { return layout->property(kFolds).toBool(); };
+    if (const QWidget* widget = item->widget())
+        return std::ranges::any_of(widget->findChildren<QGridLayout*>(), folds);
+    QLayout* layout = item->layout();
+    for (int i = 0; layout && i < layout->count(); ++i) {
+        if (holdsFoldingGrid(layout->itemAt(i)))
+            return true;
+    }
+    return layout && folds(layout);
+}
+
 bool isField(QLayoutItem* item)
 {
     return qobject_cast<QLineEdit*>(item->widget()) || qobject_cast<QComboBox*>(item->widget());
@@ -34,7 +50,10 @@ bool isField(QLayoutItem* item)
 
 } // namespace
 
-FoldingGrid::FoldingGrid(QGridLayout* grid, Order order) : grid_(grid), order_(order) {}
+FoldingGrid::FoldingGrid(QGridLayout* grid, Order order) : grid_(grid), order_(order)
+{
+    grid->setProperty(kFolds, true);
+}
 
 bool FoldingGrid::isOne(const QGridLayout* grid)
 {
@@ -111,7 +130,8 @@ FoldingGrid::Needs FoldingGrid::needs(int pair) const
     Needs needs;
     for (QLayoutItem* item : items()) {
         const Place& place = places_[item];
-        if (place.column / kColumnsOfPair != pair || item->isEmpty() || place.columns > kColumnsOfPair)
+        if (place.column / kColumnsOfPair != pair || item->isEmpty() || place.columns > kColumnsOfPair ||
+            holdsFoldingGrid(item))
             continue;
         const int column = place.column % kColumnsOfPair;
         int& need = place.columns > 1 ? needs.across : column == 0 ? needs.captions : needs.fields;

@@ -333,8 +333,10 @@ void PageLook::lineUp()
 // Groups or boxes that stand side by side stand below each other where there is no room for all.
 void PageLook::stackBoxes(QBoxLayout* row, int width)
 {
-    if (row->property(kRowSpacing).isNull() && row->direction() != QBoxLayout::LeftToRight)
+    const QVariant known = row->property(kRowSpacing);
+    if (known.isNull() && row->direction() != QBoxLayout::LeftToRight)
         return;
+    const int spacing = known.isNull() ? row->spacing() : known.toInt(); // side by side
     int needed = 0;
     int boxes = 0;
     bool hasGroups = false;
@@ -348,18 +350,17 @@ void PageLook::stackBoxes(QBoxLayout* row, int width)
             return;
         boxes += isBox ? 1 : 0;
         hasGroups = hasGroups || qobject_cast<QGroupBox*>(widget);
-        needed += item->minimumSize().width() + (i > 0 ? row->spacing() : 0);
+        needed += item->minimumSize().width() + (i > 0 ? spacing : 0);
     }
     if (boxes < 2)
         return;
-    if (row->property(kRowSpacing).isNull())
-        row->setProperty(kRowSpacing, row->spacing());
+    row->setProperty(kRowSpacing, spacing);
     const bool stacks = needed > width;
     const auto direction = stacks ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
     if (row->direction() == direction)
         return;
     row->setDirection(direction);
-    row->setSpacing(stacks && !hasGroups ? kRowGap : row->property(kRowSpacing).toInt());
+    row->setSpacing(stacks && !hasGroups ? kRowGap : spacing);
 }
 
 } // namespace
