@@ -1717,7 +1717,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_257"><translation>Differences from what was written (%1)</translation></message>
     <message id="rev_258"><translation>To show it, set: %1</translation></message>
     <message id="rev_259"><translation>In full setup only</translation></message>
-    <message id="rev_260"><translation>Unsaved changes: %1. They are offered when this configuration is opened again.</translation></message>
+    <message id="rev_260"><translation>Unsaved changes: %1. They are offered when this is opened again: %2.</translation></message>
     <message id="rev_270"><translation>Compare with another file</translation></message>
     <message id="rev_271"><translation>Apply a preset</translation></message>
     <message id="rev_272"><translation>Pushed by</translation></message>
@@ -1737,6 +1737,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_296"><translation>Not in use or not filled in</translation></message>
     <message id="rev_297"><translation>Fields that this tracker does not have: %1</translation></message>
     <message id="rev_298"><translation>In full setup only: %1</translation></message>
+    <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1717,7 +1717,7 @@
     <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
     <message id="rev_258"><translation>Чтобы показать, задайте: %1</translation></message>
     <message id="rev_259"><translation>Только в полной настройке</translation></message>
-    <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда эту конфигурацию откроют снова.</translation></message>
+    <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда снова откроют: %2.</translation></message>
     <message id="rev_270"><translation>Сравнение с другим файлом</translation></message>
     <message id="rev_271"><translation>Применение шаблона</translation></message>
     <message id="rev_272"><translation>Сдвинуто параметром</translation></message>
@@ -1737,6 +1737,7 @@
     <message id="rev_296"><translation>Не используется или не заполнено</translation></message>
     <message id="rev_297"><translation>Поля, которых нет у этого трекера: %1</translation></message>
     <message id="rev_298"><translation>Только в полной настройке: %1</translation></message>
+    <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

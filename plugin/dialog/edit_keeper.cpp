@@ -176,7 +176,8 @@ void EditKeeper::tellKept() const
         return;
     const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
     if (!own.empty())
-        qCWarning(lcKept) << own.size() << "changes are kept";
+        qCWarning(lcKept).noquote().nospace()
+            << own.size() << " changes are kept: " << nameOfSubject(subject_);
 }
 
 void EditKeeper::switched()
@@ -187,8 +188,12 @@ void EditKeeper::switched()
         (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
 }
 
-void EditKeeper::saved()
+void EditKeeper::saved(const QString& path)
 {
+    if (!subject_.startsWith(kTracker) && !subject_.startsWith(kUnknownTracker)) {
+        QFile::remove(path_);
+        setSubject(editSubject(path, true));
+    }
     beginWith(review_.document());
     inFile_ = {};
     keep();

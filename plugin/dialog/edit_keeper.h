@@ -39,8 +39,8 @@ public:
     // The user has put the other window on show, which was kept before.
     void switched();
 
-    // A file holds what there is now.
-    void saved();
+    // The file at `path` holds what there is now. What was new or of a file is edited there from here on.
+    void saved(const QString& path);
     // What there is now goes to the tracker, in a file that holds the content.
     void handedOver(const QByteArray& content);
     // The tracker has that, or what was handed over last, or nobody will say whether it has.

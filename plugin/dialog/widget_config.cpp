@@ -51,7 +51,7 @@ VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
             &VLK_Widget_Config::writeQuickToDevice);
     connect(lightWindow_, &VLK_Widget_Config_Light::saveRequested, this, [this](const QString& path) {
         if (saveQuickToFile(path))
-            fileSaved();
+            fileSaved(path);
     });
     connect(lightWindow_, &VLK_Widget_Config_Light::fullRequested, this, &VLK_Widget_Config::switchToFull);
     connect(fullWindow_, &VLK_Widget_Config_Full::closeRequested, this, &QDialog::close);
@@ -343,10 +343,10 @@ void VLK_Widget_Config::write(const QString& path)
         keeper_.confirmed(content);
 }
 
-void VLK_Widget_Config::fileSaved()
+void VLK_Widget_Config::fileSaved(const QString& path)
 {
     history_.keepState();
-    keeper_.saved();
+    keeper_.saved(path);
 }
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)

@@ -79,7 +79,7 @@ private:
     void retranslateReview();
     void addKeeper();
     void write(const QString& path);
-    void fileSaved();
+    void fileSaved(const QString& path);
     // That F6 goes to.
     std::vector<QWidgetList> areas() const;
     void showPanel(vlk::ReviewBar::Panel panel);

@@ -65,6 +65,8 @@ void VLK_Widget_Config_Full::connectButtons()
     connect(navigation_->menu(), &QMenu::triggered, this, &VLK_Widget_Config_Full::slot_triggered_Menu);
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &VLK_Widget_Config_Full::slot_pressed_Btn_Help);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, ui_->pushButton_SaveToFile,
+            &QPushButton::click);
     connect(answers_.monitor().timer(), &QTimer::timeout, this,
             &VLK_Widget_Config_Full::slot_timeOut_TimerAnalog);
 }
@@ -182,7 +184,7 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_SaveToFile()
     const bool isSaved = saveFile(path);
     button.release();
     if (isSaved)
-        Q_EMIT saved();
+        Q_EMIT saved(path);
 }
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_LoadToDevice()

@@ -48,7 +48,7 @@ Q_SIGNALS:
     // The user wants the quick window instead, and has been asked whether that is meant.
     void quickRequested();
     // A file that the user chose holds all pages.
-    void saved();
+    void saved(const QString& path);
     // The file at the path is for the tracker.
     void writeRequested(const QString& path);
 

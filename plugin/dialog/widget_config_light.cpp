@@ -33,6 +33,8 @@ VLK_Widget_Config_Light::VLK_Widget_Config_Light(QWidget* parent)
     }
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             [] { vlk::requests::showHelp(QStringLiteral("r-7106quick.html")); });
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, ui_->pushButton_Light_SaveToFile,
+            &QPushButton::click);
     retranslate();
 }
 

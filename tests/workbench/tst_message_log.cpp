@@ -82,7 +82,8 @@ private Q_SLOTS:
               {"vlk.fuel", "/a is too large for a calibration table"},
               {"vlk.fuel", "/a holds no calibration table"},
               {"vlk.fuel", "the document holds more rows than a calibration table"},
-              {"vlk.unsaved.kept", "2 changes are kept"},
+              {"vlk.unsaved.kept", "2 changes are kept: "},
+              {"vlk.unsaved.kept", "2 changes are kept: /a"},
               {"vlk.unsaved.found", "changes of 18:44: "},
               {"vlk.unsaved.found", "changes of 26.11.2026 18:44: /a"}}) {
             QString words = workbench::PluginLog::words(QLatin1String(name), QLatin1String(message));
