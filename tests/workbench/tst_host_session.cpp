@@ -97,20 +97,38 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(log.line(0).section(QLatin1Char('"'), 1, 1)));
     }
 
-    void keepsTheFileThatTheTrackerDidNotTake()
+    // Each under a name of its own: the plug-in names its files by the minute.
+    void keepsTheFilesThatTheTrackerDidNotTake()
     {
         Bench bench;
         QVERIFY(bench.start());
-        QVERIFY(!bench.session.readConfiguration(true));
-        bench.session.tracker().detach(); // between the plug-in's message and the tracker's turn
-        RoadReport report = bench.report();
-        QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
-        QVERIFY(QFile::exists(report.request.file));
-        QVERIFY(workbench::summary(report).contains(report.request.file));
+        QVector<RoadReport> reports;
+        for (const char* x : {"1", "2"}) {
+            bench.session.tracker().detach();
+            QString path = writeFile(QStringLiteral("vlk_R-7106_1.xml"),
+                                     QByteArray("<DEVICE model=\"R-7106\"><A x=\"") + x + "\"/></DEVICE>");
+            Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+            const RoadReport report = bench.report();
+            QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
+            QVERIFY(!QFile::exists(path));
+            reports.append(report);
+        }
+        for (const RoadReport& report : reports) {
+            QVERIFY(workbench::summary(report).contains(report.request.file));
+            QCOMPARE(readFile(report.request.file), report.request.document);
+            QVERIFY(!(QFile::permissions(report.request.file) & (QFile::ReadGroup | QFile::ReadOther)));
+        }
+        QVERIFY(reports[0].request.document != reports[1].request.document);
         // Once more, and the file has done its work.
         bench.session.tracker().attach();
-        QVERIFY(!bench.session.writeAgain(report.request));
-        QVERIFY(bench.isConfirmed() && !QFile::exists(report.request.file));
+        QVERIFY(!bench.session.writeAgain(reports[0].request));
+        QVERIFY(bench.isConfirmed() && !QFile::exists(reports[0].request.file));
+        QVERIFY(QFile::exists(reports[1].request.file));
+        // Nothing is called kept that somebody has changed or taken away.
+        for (const char* content : {"", "<DEVICE/>"}) {
+            writeFile(reports[1].request.file, content);
+            QVERIFY(!workbench::summary(reports[1]).contains(reports[1].request.file));
+        }
     }
 
     // While one is on its way there is no place for another.
@@ -244,9 +262,11 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         bench.agrees = false;
         bench.session.newConfiguration(true);
-        QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
-        QVERIFY(bench.report().outcome == Outcome::cancelled && bench.mustBeSeen);
-        QVERIFY(!QFile::exists(QStringLiteral("vlk_echo.xml")));
+        const QString aside = bench.root.filePath(QStringLiteral("unwritten/vlk_echo.xml"));
+        QVERIFY(QFile::exists(aside));
+        const RoadReport cancelled = bench.report();
+        QVERIFY(cancelled.outcome == Outcome::cancelled && bench.mustBeSeen);
+        QVERIFY(cancelled.request.file == aside && !QFile::exists(aside));
         bench.agrees = true;
         bench.session.newConfiguration(true);
         QVERIFY(bench.isConfirmed() && bench.mustBeSeen);

@@ -97,6 +97,14 @@ QString firstLine(const RoadReport& report)
     return {};
 }
 
+// The very file that was to be written.
+bool isKept(const WriteRequest& request)
+{
+    QFile file(request.file);
+    return !request.file.isEmpty() && file.open(QIODevice::ReadOnly) &&
+           file.read(request.document.size() + 1) == request.document;
+}
+
 } // namespace
 
 QString summary(const RoadReport& report, const QString& typed)
@@ -113,7 +121,7 @@ QString summary(const RoadReport& report, const QString& typed)
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }
-    if (!report.request.file.isEmpty() && QFile::exists(report.request.file))
+    if (isKept(report.request))
         lines.append(text("wb_report_kept").arg(report.request.file));
     lines.removeAll(QString());
     return lines.join(QLatin1Char('\n'));
