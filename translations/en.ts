@@ -1737,6 +1737,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_296"><translation>Not in use or not filled in</translation></message>
     <message id="rev_297"><translation>Fields that this tracker does not have: %1</translation></message>
     <message id="rev_298"><translation>In full setup only: %1</translation></message>
+    <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1737,6 +1737,7 @@
     <message id="rev_296"><translation>Не используется или не заполнено</translation></message>
     <message id="rev_297"><translation>Поля, которых нет у этого трекера: %1</translation></message>
     <message id="rev_298"><translation>Только в полной настройке: %1</translation></message>
+    <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>
