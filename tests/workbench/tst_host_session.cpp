@@ -13,6 +13,7 @@ using workbench::RoadReport;
 using Outcome = RoadReport::Outcome;
 
 Q_DECLARE_METATYPE(tracker::Faults)
+Q_DECLARE_METATYPE(Outcome)
 
 namespace {
 
@@ -147,6 +148,45 @@ private Q_SLOTS:
         write();
         QVERIFY(bench.isConfirmed() && refused.size() == 1);
         QCOMPARE(bench.session.tracker().configuration().text("A/x"), QString("1"));
+    }
+
+    // The plug-in keeps its edits until it hears that they are in the tracker.
+    void confirmsWhatWasReadBack_data()
+    {
+        DataTable<tracker::Faults, bool, Outcome> table({"faults", "opensNext", "outcome"});
+        table.row("confirmed", {}, false, Outcome::confirmed)
+            .row("another one is open by now", {}, true, Outcome::confirmed)
+            .row("not taken", {.skipsPage = true}, false, Outcome::notTaken)
+            .row("not sent", {.unplug = true}, false, Outcome::notWritten)
+            .row("not read back", {.garbledAnswers = true}, false, Outcome::unknown)
+            .row("cancelled", {}, false, Outcome::cancelled);
+    }
+    void confirmsWhatWasReadBack()
+    {
+        QFETCH(tracker::Faults, faults);
+        QFETCH(bool, opensNext);
+        QFETCH(Outcome, outcome);
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.agrees = QTest::currentDataTag() != QByteArray("cancelled");
+        QByteArrayList confirmed;
+        connect(&bench.session.link(), &workbench::PluginLink::passed, this,
+                [&](vlk::Direction, quint32 id, const void* p1) {
+                    if (vlk::Message(id) == vlk::Message::ConfirmWrite)
+                        confirmed.append(*static_cast<const vlk::WriteConfirmation*>(p1)->content);
+                });
+        const auto spoil = [&] { bench.session.tracker().setFaults(faults); };
+        if (outcome == Outcome::unknown)
+            connect(&bench.session.road(), &workbench::WriteRoad::taken, this, spoil);
+        else
+            connect(&bench.session.road(), &workbench::WriteRoad::reviewReady, this, spoil);
+        const QByteArray document = "<DEVICE model=\"R-7106\"><TRANS><OBJECT name=\"1\"/></TRANS></DEVICE>";
+        QString path = writeFile(bench.root.filePath("w.xml"), document);
+        Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        if (opensNext)
+            bench.session.newConfiguration(true);
+        QCOMPARE(int(bench.report().outcome), int(outcome));
+        QCOMPARE(confirmed, outcome == Outcome::confirmed ? QByteArrayList{document} : QByteArrayList());
     }
 
     // Whole, by chosen settings, and what the tracker itself has kept.

@@ -268,12 +268,13 @@ void HostSession::finish(const RoadReport& report)
     const WriteRequest& request = report.request;
     const bool isConfirmed = report.outcome == Outcome::confirmed;
     if (isConfirmed) {
-        if (request.file.isEmpty() || openedThen_ != opened_) {
+        if (request.file.isEmpty() || openedThen_ != opened_)
             edited_.trackerHolds(request.document);
-        } else {
+        else
             edited_.written(request.document, report.tracker.number);
+        // Also of one that is open no longer: its edits are kept until then.
+        if (!request.file.isEmpty())
             link_.confirmWrite(request.document);
-        }
     }
     if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
         QFile::exists(request.file) && !QFile::remove(request.file))
