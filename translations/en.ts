@@ -2757,6 +2757,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
     <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
+    <message id="wb_review_menu"><translation>Show changes before &amp;every write</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
     <message id="wb_review_none"><translation>There are no differences.</translation></message>
     <message id="wb_review_other"><translation>This configuration was read from another tracker: %1.</translation></message>

@@ -2757,6 +2757,7 @@
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
+    <message id="wb_review_menu"><translation>Показывать &amp;изменения перед каждой записью</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_none"><translation>Отличий нет.</translation></message>
     <message id="wb_review_other"><translation>Эта конфигурация прочитана из другого трекера: %1.</translation></message>

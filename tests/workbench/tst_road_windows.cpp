@@ -171,6 +171,16 @@ private Q_SLOTS:
         QTRY_COMPARE(bench.nameInTracker(), QString("Van 2"));
         QTRY_VERIFY(Bench::find("dialog_Report"));
         QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+        // The menu brings it back.
+        bench.action("action_ReviewAlways")->trigger();
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QCheckBox>("checkBox_ReviewAlways")->isChecked());
+        QTest::keyClick(Bench::find("checkBox_ReviewAlways"), Qt::Key_Space);
+        Bench::press("pushButton_Cancel");
+        auto* tools = qobject_cast<QMenu*>(bench.action("action_ReviewAlways")->parentWidget());
+        Q_EMIT tools->aboutToShow();
+        QVERIFY(!bench.action("action_ReviewAlways")->isChecked());
         bench.session().link().send(vlk::Message::CloseWindows);
 
         // A file that removes what the tracker holds is shown all the same, and Enter leaves all as it is.
