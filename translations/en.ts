@@ -2496,6 +2496,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
+    <message id="wb_do_folder"><translation>Check that files can be saved there, and try again.</translation></message>
     <message id="wb_do_part"><translation>Save the period again to have all of it.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>

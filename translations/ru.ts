@@ -2496,6 +2496,7 @@
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
+    <message id="wb_do_folder"><translation>Проверьте, можно ли сохранять туда файлы, и повторите.</translation></message>
     <message id="wb_do_part"><translation>Чтобы получить весь период, сохраните его ещё раз.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>

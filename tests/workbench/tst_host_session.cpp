@@ -132,6 +132,31 @@ private Q_SLOTS:
         }
     }
 
+    // Room on the disk is asked for where that is what is missing, and the reason is in the user's language.
+    void saysWhatTheDiskRefuses()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto told = [&bench](const char* folder) {
+            const QString path = bench.root.filePath(folder);
+            QDir(path).removeRecursively();
+            writeFile(path, "no folder");
+            bench.session.newConfiguration(true);
+            const QString said = workbench::summary(bench.report());
+            QFile::remove(path);
+            return said;
+        };
+        for (const char* folder : {"backups", "tracker"}) {
+            const QString said = told(folder);
+            QVERIFY2(said.contains("there is no such file or folder") && !said.contains("Make room") &&
+                         said.contains("Check that files can be saved there, and try again."),
+                     qPrintable(said));
+        }
+        bench.languages.set(QStringLiteral("ru"));
+        const QString said = told("backups");
+        QVERIFY2(said.contains("нет такого файла") && !said.contains("directory"), qPrintable(said));
+    }
+
     // While one is on its way there is no place for another.
     void refusesASecondWrite()
     {

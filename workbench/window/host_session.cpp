@@ -3,6 +3,7 @@
 #include "base/whole_file.h"
 #include "road/chosen_settings.h"
 #include "tracker/bluetooth_search.h"
+#include "typing/file_error.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
@@ -114,11 +115,12 @@ HostSession::Fetched HostSession::fetchConfiguration()
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
     QString reason;
     if (!vlk::saveWhole(file, reading.document, &reason))
-        return {[reason] {
-                    return sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")});
-                },
-                {},
-                {}};
+        return {
+            [reason] {
+                return sentences({text("wb_why_disk").arg(vlk::fileErrorText(reason)), adviceOnDisk(reason)});
+            },
+            {},
+            {}};
     return {{}, reading.document, file.fileName()};
 }
 
