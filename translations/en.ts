@@ -1737,6 +1737,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_296"><translation>Not in use or not filled in</translation></message>
     <message id="rev_297"><translation>Fields that this tracker does not have: %1</translation></message>
     <message id="rev_298"><translation>In full setup only: %1</translation></message>
+    <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
@@ -2496,6 +2497,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
+    <message id="wb_do_folder"><translation>Check that files can be saved there, and try again.</translation></message>
     <message id="wb_do_part"><translation>Save the period again to have all of it.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
@@ -2757,6 +2759,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
     <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
+    <message id="wb_review_menu"><translation>Show changes before &amp;every write</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
     <message id="wb_review_none"><translation>There are no differences.</translation></message>
     <message id="wb_review_other"><translation>This configuration was read from another tracker: %1.</translation></message>

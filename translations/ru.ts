@@ -1737,6 +1737,7 @@
     <message id="rev_296"><translation>Не используется или не заполнено</translation></message>
     <message id="rev_297"><translation>Поля, которых нет у этого трекера: %1</translation></message>
     <message id="rev_298"><translation>Только в полной настройке: %1</translation></message>
+    <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
@@ -2496,6 +2497,7 @@
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
+    <message id="wb_do_folder"><translation>Проверьте, можно ли сохранять туда файлы, и повторите.</translation></message>
     <message id="wb_do_part"><translation>Чтобы получить весь период, сохраните его ещё раз.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
@@ -2757,6 +2759,7 @@
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
+    <message id="wb_review_menu"><translation>Показывать &amp;изменения перед каждой записью</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
     <message id="wb_review_none"><translation>Отличий нет.</translation></message>
     <message id="wb_review_other"><translation>Эта конфигурация прочитана из другого трекера: %1.</translation></message>

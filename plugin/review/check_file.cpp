@@ -3,13 +3,17 @@
 #include "base/model_text.h"
 #include "base/translated.h"
 #include "base/version.h"
+#include "document/values_document.h"
 #include "review/compare_files.h"
 #include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 #include "xml/xml_section.h"
 
 #include <QRegularExpression>
 #include <QSet>
+
+#include <optional>
 
 namespace vlk::review {
 
@@ -62,8 +66,19 @@ private:
         seen_.insert(path);
         if (isDoubled)
             add(path, "rev_023", known);
-        else if (changed_.contains(path))
+        else if (changed_.contains(path) && !isOfQuickSetup(changed_.value(path)))
             addChanged(changed_.value(path));
+    }
+
+    // Quick setup has keys of its own, and would write this one as it stands.
+    bool isOfQuickSetup(const Difference& difference)
+    {
+        const int row = difference.key < 0 ? layoutOf(kQuickSettings).rowAt(difference.path) : -1;
+        if (row < 0)
+            return false;
+        if (!quick_)
+            readFrom(root_, quick_.emplace(kQuickSettings));
+        return quick_->isWritten(row) && quick_->written(row) == difference.before;
     }
 
     // Names the setting at `known`, if there is one.
@@ -133,7 +148,8 @@ private:
     CXmlSection& root_;
     Secrets secrets_;
     Configuration loaded_{allSettings()};
-    QStringList paths_; // of the document's keys
+    std::optional<Values> quick_; // read when asked for
+    QStringList paths_;           // of the document's keys
     Differences differences_;
     QHash<QString, Difference> changed_;
     QSet<QString> seen_;

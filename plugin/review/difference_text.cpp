@@ -14,12 +14,20 @@ namespace vlk::review {
 
 namespace {
 
+// Some keys quick setup alone reads and writes.
+const char* noteOnLost(const Difference& difference)
+{
+    if (difference.key >= 0)
+        return "rev_004";
+    return layoutOf(kQuickSettings).rowAt(difference.path) < 0 ? "rev_003" : "rev_299";
+}
+
 const char* noteKey(const Difference& difference)
 {
     if (difference.before.isNull())
         return difference.byLoad ? "rev_001" : "rev_002";
     if (difference.after.isNull())
-        return difference.byLoad ? difference.key < 0 ? "rev_003" : "rev_004" : "rev_005";
+        return difference.byLoad ? noteOnLost(difference) : "rev_005";
     if (!difference.byLoad)
         return nullptr;
     switch (difference.change) {

@@ -77,6 +77,12 @@ private Q_SLOTS:
         table.row("no address", "\":::::\" name", "\"hello\" name",
                   QString::fromUtf8("BLUETOOTH/SENS3/macaddr named: hello \u2192 e:::::. rev_011; "
                                     "advice BLUETOOTH/SENS3/type named"));
+        // Full setup neither reads nor writes them.
+        table.row("keys of quick setup", "<SRV1 ", "<SRV1 format=\"VLKB_ZETA\" ", {});
+        table.row("constant of quick setup", "<OPTIONS ", "<OPTIONS owner2=\"\" ", {});
+        table.row("level of quick setup", "<IN1ADIN ", "<IN1ADIN lowLvl=\"5000\" highLvl=\"6000\" ", {});
+        table.row("other values than quick setup writes", "<IN1ADIN ",
+                  "<IN1ADIN lowLvl=\"5000\" highLvl=\"7000\" ", "SENSORS/IN1/IN1ADIN/highLvl: rev_299");
         table.row("model", "model=\"R-7106\"", "model=\"R-1\"", "advice DEVICE/model");
         table.row("version", "version=\"3.3.0\"", "version=\"3.2.0\"", "advice DEVICE/version");
     }

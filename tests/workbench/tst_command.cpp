@@ -484,6 +484,26 @@ private Q_SLOTS:
                  QStringList("b.xml"));
     }
 
+    // Every command says the same of an input that holds nothing.
+    void inputOfNothing()
+    {
+        put("blank.xml", " \r\n\t\n");
+        for (const char* command : {"check", "info", "get TRANS/SRV1/port", "convert --to csv",
+                                    "fuel --sensor CAN_FuelLevel", "set TRANS/SRV1/port=1"}) {
+            for (const auto& [input, told] : {std::pair("blank.xml", "blank.xml: is empty\n"),
+                                              std::pair("- < blank.xml", "-: is empty\n"),
+                                              std::pair("- <&-", "-: cannot be read: it is closed\n")}) {
+                QProcess shell;
+                shell.setWorkingDirectory(folder_->path());
+                const QString call = QStringLiteral(VLK_COMMAND " --language en %1 %2").arg(command, input);
+                shell.start("bash", {"-c", call});
+                QVERIFY(shell.waitForFinished());
+                QVERIFY2(shell.exitCode() == 2 && shell.readAllStandardError() == told, qPrintable(call));
+            }
+        }
+        QFile::remove(path("blank.xml"));
+    }
+
     // Names are bytes: of any encoding, and with line breaks.
     void names()
     {

@@ -13,6 +13,7 @@ using workbench::RoadReport;
 using Outcome = RoadReport::Outcome;
 
 Q_DECLARE_METATYPE(tracker::Faults)
+Q_DECLARE_METATYPE(Outcome)
 
 namespace {
 
@@ -97,20 +98,63 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(log.line(0).section(QLatin1Char('"'), 1, 1)));
     }
 
-    void keepsTheFileThatTheTrackerDidNotTake()
+    // Each under a name of its own: the plug-in names its files by the minute.
+    void keepsTheFilesThatTheTrackerDidNotTake()
     {
         Bench bench;
         QVERIFY(bench.start());
-        QVERIFY(!bench.session.readConfiguration(true));
-        bench.session.tracker().detach(); // between the plug-in's message and the tracker's turn
-        RoadReport report = bench.report();
-        QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
-        QVERIFY(QFile::exists(report.request.file));
-        QVERIFY(workbench::summary(report).contains(report.request.file));
+        QVector<RoadReport> reports;
+        for (const char* x : {"1", "2"}) {
+            bench.session.tracker().detach();
+            QString path = writeFile(QStringLiteral("vlk_R-7106_1.xml"),
+                                     QByteArray("<DEVICE model=\"R-7106\"><A x=\"") + x + "\"/></DEVICE>");
+            Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+            const RoadReport report = bench.report();
+            QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
+            QVERIFY(!QFile::exists(path));
+            reports.append(report);
+        }
+        for (const RoadReport& report : reports) {
+            QVERIFY(workbench::summary(report).contains(report.request.file));
+            QCOMPARE(readFile(report.request.file), report.request.document);
+            QVERIFY(!(QFile::permissions(report.request.file) & (QFile::ReadGroup | QFile::ReadOther)));
+        }
+        QVERIFY(reports[0].request.document != reports[1].request.document);
         // Once more, and the file has done its work.
         bench.session.tracker().attach();
-        QVERIFY(!bench.session.writeAgain(report.request));
-        QVERIFY(bench.isConfirmed() && !QFile::exists(report.request.file));
+        QVERIFY(!bench.session.writeAgain(reports[0].request));
+        QVERIFY(bench.isConfirmed() && !QFile::exists(reports[0].request.file));
+        QVERIFY(QFile::exists(reports[1].request.file));
+        // Nothing is called kept that somebody has changed or taken away.
+        for (const char* content : {"", "<DEVICE/>"}) {
+            writeFile(reports[1].request.file, content);
+            QVERIFY(!workbench::summary(reports[1]).contains(reports[1].request.file));
+        }
+    }
+
+    // Room on the disk is asked for where that is what is missing, and the reason is in the user's language.
+    void saysWhatTheDiskRefuses()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        const auto told = [&bench](const char* folder) {
+            const QString path = bench.root.filePath(folder);
+            QDir(path).removeRecursively();
+            writeFile(path, "no folder");
+            bench.session.newConfiguration(true);
+            const QString said = workbench::summary(bench.report());
+            QFile::remove(path);
+            return said;
+        };
+        for (const char* folder : {"backups", "tracker"}) {
+            const QString said = told(folder);
+            QVERIFY2(said.contains("there is no such file or folder") && !said.contains("Make room") &&
+                         said.contains("Check that files can be saved there, and try again."),
+                     qPrintable(said));
+        }
+        bench.languages.set(QStringLiteral("ru"));
+        const QString said = told("backups");
+        QVERIFY2(said.contains("нет такого файла") && !said.contains("directory"), qPrintable(said));
     }
 
     // While one is on its way there is no place for another.
@@ -129,6 +173,45 @@ private Q_SLOTS:
         write();
         QVERIFY(bench.isConfirmed() && refused.size() == 1);
         QCOMPARE(bench.session.tracker().configuration().text("A/x"), QString("1"));
+    }
+
+    // The plug-in keeps its edits until it hears that they are in the tracker.
+    void confirmsWhatWasReadBack_data()
+    {
+        DataTable<tracker::Faults, bool, Outcome> table({"faults", "opensNext", "outcome"});
+        table.row("confirmed", {}, false, Outcome::confirmed)
+            .row("another one is open by now", {}, true, Outcome::confirmed)
+            .row("not taken", {.skipsPage = true}, false, Outcome::notTaken)
+            .row("not sent", {.unplug = true}, false, Outcome::notWritten)
+            .row("not read back", {.garbledAnswers = true}, false, Outcome::unknown)
+            .row("cancelled", {}, false, Outcome::cancelled);
+    }
+    void confirmsWhatWasReadBack()
+    {
+        QFETCH(tracker::Faults, faults);
+        QFETCH(bool, opensNext);
+        QFETCH(Outcome, outcome);
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.agrees = QTest::currentDataTag() != QByteArray("cancelled");
+        QByteArrayList confirmed;
+        connect(&bench.session.link(), &workbench::PluginLink::passed, this,
+                [&](vlk::Direction, quint32 id, const void* p1) {
+                    if (vlk::Message(id) == vlk::Message::ConfirmWrite)
+                        confirmed.append(*static_cast<const vlk::WriteConfirmation*>(p1)->content);
+                });
+        const auto spoil = [&] { bench.session.tracker().setFaults(faults); };
+        if (outcome == Outcome::unknown)
+            connect(&bench.session.road(), &workbench::WriteRoad::taken, this, spoil);
+        else
+            connect(&bench.session.road(), &workbench::WriteRoad::reviewReady, this, spoil);
+        const QByteArray document = "<DEVICE model=\"R-7106\"><TRANS><OBJECT name=\"1\"/></TRANS></DEVICE>";
+        QString path = writeFile(bench.root.filePath("w.xml"), document);
+        Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        if (opensNext)
+            bench.session.newConfiguration(true);
+        QCOMPARE(int(bench.report().outcome), int(outcome));
+        QCOMPARE(confirmed, outcome == Outcome::confirmed ? QByteArrayList{document} : QByteArrayList());
     }
 
     // Whole, by chosen settings, and what the tracker itself has kept.
@@ -244,9 +327,11 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         bench.agrees = false;
         bench.session.newConfiguration(true);
-        QVERIFY(QFile::exists(QStringLiteral("vlk_echo.xml")));
-        QVERIFY(bench.report().outcome == Outcome::cancelled && bench.mustBeSeen);
-        QVERIFY(!QFile::exists(QStringLiteral("vlk_echo.xml")));
+        const QString aside = bench.root.filePath(QStringLiteral("unwritten/vlk_echo.xml"));
+        QVERIFY(QFile::exists(aside));
+        const RoadReport cancelled = bench.report();
+        QVERIFY(cancelled.outcome == Outcome::cancelled && bench.mustBeSeen);
+        QVERIFY(cancelled.request.file == aside && !QFile::exists(aside));
         bench.agrees = true;
         bench.session.newConfiguration(true);
         QVERIFY(bench.isConfirmed() && bench.mustBeSeen);

@@ -335,6 +335,7 @@ private Q_SLOTS:
         session.tracker().setFaults({});
         QString path = QStringLiteral("vlk_echo.xml");
         const auto write = [&] {
+            writeFile(path, "<DEVICE model=\"R-7106\"/>");
             Q_EMIT session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
         };
         write();
@@ -343,7 +344,6 @@ private Q_SLOTS:
         QTRY_VERIFY2(bench.text("label_Report").contains(told), qPrintable(bench.text("label_Report")));
         QVERIFY(bench.text("label_Status").contains(QLatin1String("Angle: 2,5")));
         // Once.
-        writeFile(path, "<DEVICE model=\"R-7106\"/>");
         write();
         QTRY_VERIFY(!bench.text("label_Report").contains(QLatin1String("Speed")));
     }

@@ -7,6 +7,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using workbench::RoadReport;
+
 namespace {
 
 struct Bench : OpenedWorkbench
@@ -169,6 +171,16 @@ private Q_SLOTS:
         QTRY_COMPARE(bench.nameInTracker(), QString("Van 2"));
         QTRY_VERIFY(Bench::find("dialog_Report"));
         QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+        // The menu brings it back.
+        bench.action("action_ReviewAlways")->trigger();
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(Bench::find<QCheckBox>("checkBox_ReviewAlways")->isChecked());
+        QTest::keyClick(Bench::find("checkBox_ReviewAlways"), Qt::Key_Space);
+        Bench::press("pushButton_Cancel");
+        auto* tools = qobject_cast<QMenu*>(bench.action("action_ReviewAlways")->parentWidget());
+        Q_EMIT tools->aboutToShow();
+        QVERIFY(!bench.action("action_ReviewAlways")->isChecked());
         bench.session().link().send(vlk::Message::CloseWindows);
 
         // A file that removes what the tracker holds is shown all the same, and Enter leaves all as it is.
@@ -296,6 +308,30 @@ private Q_SLOTS:
         bench.asksForFaults("dialog_Progress");
         QTRY_VERIFY(Bench::find("dialog_Report"));
         bench.asksForFaults("dialog_Report");
+        Bench::enter("pushButton_Close");
+    }
+
+    // Wherever it is told since when.
+    void tellsOneTimeOfASilence()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QTRY_VERIFY(Bench::isReviewed());
+        bench.session().tracker().setFaults({.delayMs = 1500});
+        connect(&bench.session().road(), &workbench::WriteRoad::stepChanged, &bench.window,
+                [&bench](RoadReport::Step step) {
+                    if (step == RoadReport::Step::readingBack)
+                        bench.session().tracker().setFaults({.silence = true});
+                });
+        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
+        QTRY_VERIFY(Bench::find("dialog_Progress"));
+        const auto* silence = Bench::find<QLabel>("label_Silence");
+        QTRY_VERIFY_WITH_TIMEOUT(silence->text().startsWith("No answer since "), 10'000);
+        const QString since = silence->text().section(' ', -1);
+        QTRY_VERIFY(bench.text("label_Status").contains("No answer from the tracker since"));
+        QVERIFY2(bench.text("label_Status").contains(since), qPrintable(bench.text("label_Status") + since));
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::find("dialog_Report"), 10'000);
         Bench::enter("pushButton_Close");
     }
 

@@ -69,11 +69,15 @@ void TelemetryInputs::take(const File& file)
     const bool isOpen =
         file.isStandardInput() ? device->open(stdin, QIODevice::ReadOnly) : device->open(QIODevice::ReadOnly);
     const bool isKept = isOpen && device->isSequential();
-    if (isKept)
-        device = kept(*device);
+    if (isKept) {
+        auto copy = kept(*device);
+        if (device->error() != QFileDevice::NoError)
+            return refuse(file, whyUnreadable(*device));
+        device = std::move(copy);
+    }
     if (!device)
         return refuse(file, text("cli_213"));
-    const QByteArray start = isOpen ? device->peek(4096) : QByteArray();
+    const QByteArray start = isOpen ? device->peek(kBeginning) : QByteArray();
     if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
         return refuse(file, whyUnreadable(*device));
     const FileKind kind = kindOf(start);
@@ -84,7 +88,7 @@ void TelemetryInputs::take(const File& file)
     if (kind == FileKind::telemetry || isDamaged)
         add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr);
     else if (file.isNamed || kind == FileKind::unknown)
-        refuse(file, text(start.isEmpty() ? "cli_004" : "cli_212"));
+        refuse(file, text(isBlank(start) ? "cli_004" : "cli_212"));
 }
 
 void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device)

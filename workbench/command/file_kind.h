@@ -2,14 +2,23 @@
 
 // What a file is, by its content alone.
 
+#include <QByteArray>
 #include <QString>
 
 namespace workbench::command {
 
 enum class FileKind { configuration, telemetry, calibration, tachograph, unknown };
 
-// By its first bytes, some thousand of them.
+// How much of its beginning is enough to know it.
+inline constexpr qint64 kBeginning = 4096;
+
 FileKind kindOf(const QByteArray& start);
+// Nothing but blanks up to its end.
+inline bool isBlank(const QByteArray& start)
+{
+    return start.size() < kBeginning && start.trimmed().isEmpty();
+}
+
 // As programs read it: "configuration".
 const char* nameOf(FileKind kind);
 // The key of its text.

@@ -33,8 +33,6 @@ namespace workbench::command {
 
 namespace {
 
-constexpr qint64 kBeginning = 4096;
-
 using vlk::FuelEvent;
 using vlk::TankSensor;
 
@@ -222,6 +220,8 @@ private:
             QFile input;
             if (input.open(stdin, QIODevice::ReadOnly))
                 held.setData(input.readAll());
+            if (input.error() != QFileDevice::NoError)
+                return refuse(file, whyUnreadable(input));
             device = &held;
         }
         if (!device->open(QIODevice::ReadOnly))
@@ -233,7 +233,7 @@ private:
         if (kind == FileKind::telemetry)
             return readRecords(file, *device, isOneOfSeveral);
         if (file.isNamed || kind == FileKind::unknown)
-            refuse(file, text(start.isEmpty() ? "cli_004" : "cli_245"));
+            refuse(file, text(isBlank(start) ? "cli_004" : "cli_245"));
     }
 
     void readRecords(const File& file, QIODevice& device, bool isOneOfSeveral)

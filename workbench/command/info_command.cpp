@@ -130,17 +130,16 @@ Outcome documentFacts(const Call& call, const File& file, FileKind kind, const Q
 
 Outcome factsOf(const Call& call, const File& file)
 {
-    constexpr qint64 beginning = 4096;
     QFile device(file.name);
     const bool isOpen =
         file.isStandardInput() ? device.open(stdin, QIODevice::ReadOnly) : device.open(QIODevice::ReadOnly);
-    const QByteArray start = isOpen ? device.peek(beginning) : QByteArray();
+    const QByteArray start = isOpen ? device.peek(kBeginning) : QByteArray();
     if (start.isEmpty() && device.error() != QFileDevice::NoError)
         return refusal(call, file.name, whyUnreadable(device));
     const FileKind kind = kindOf(start);
     if (kind == FileKind::telemetry)
         return telemetryFacts(call, file, device);
-    if (start.isEmpty())
+    if (isBlank(start))
         return refusal(call, file.name, text("cli_004"));
     if (kind == FileKind::tachograph || kind == FileKind::unknown)
         return {lineOf(call, file, {.kind = kind})};

@@ -133,6 +133,7 @@ void WriteRoad::listen()
     patience_.start(timing_.patienceMs);
     if (std::exchange(isSilent_, false))
         Q_EMIT heard();
+    Q_EMIT waits(since_);
 }
 
 void WriteRoad::readPresent()

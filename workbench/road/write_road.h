@@ -53,6 +53,8 @@ Q_SIGNALS:
     void reviewReady(const workbench::WriteReview& review);
     void progressed(qint64 bytes, qint64 all);
     void taken();
+    // The tracker owes an answer from then on.
+    void waits(const QDateTime& since);
     // Nothing was heard of the tracker since then, and then something was.
     void silent(const QDateTime& since);
     void heard();

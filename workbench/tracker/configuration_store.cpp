@@ -127,12 +127,15 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
 }
 
 // Replaces the file as a whole, or leaves what was there and says so in the log.
-bool saveWhole(const QString& path, const QByteArray& document)
+bool saveWhole(const QString& path, const QByteArray& document, QString* reason = nullptr)
 {
     QSaveFile file(path);
-    if (vlk::saveWhole(file, document))
+    QString why;
+    if (vlk::saveWhole(file, document, &why))
         return true;
-    qCWarning(lcTrackerStore) << "cannot write" << path << file.errorString();
+    qCWarning(lcTrackerStore) << "cannot write" << path << why;
+    if (reason)
+        *reason = path + QStringLiteral(": ") + why;
     return false;
 }
 
@@ -192,8 +195,9 @@ WriteReport ConfigurationStore::write(const QByteArray& taken)
     if (skipsPage_)
         document = withoutOneChange(document, document_);
     const ConfigurationValues values(document);
-    if (!saveWhole(backup(), document_) || !saveWhole(current(), document))
-        return refuse("wb_refused_memory", folder_);
+    QString reason;
+    if (!saveWhole(backup(), document_, &reason) || !saveWhole(current(), document, &reason))
+        return refuse("wb_refused_memory", reason);
 
     compare(values_, values, report);
     report.accepted = true;

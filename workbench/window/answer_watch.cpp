@@ -49,11 +49,11 @@ void AnswerWatch::look(vlk::Direction direction, quint32 id)
     }
 }
 
-void AnswerWatch::begin(Message request)
+void AnswerWatch::begin(Message request, const QDateTime& since)
 {
     request_ = request;
     if (!since_.isValid()) {
-        since_ = QDateTime::currentDateTime();
+        since_ = since;
         patience_.start(kPatienceMs);
     } else if (told_ && !patience_.isActive()) {
         patience_.start(kReminderMs);

@@ -25,7 +25,7 @@ public:
     explicit AnswerWatch(const PluginLink& link);
 
     // Something is asked of the tracker: a command that the user has agreed to, or what is no message.
-    void begin(vlk::Message request = {});
+    void begin(vlk::Message request, const QDateTime& since = QDateTime::currentDateTime());
     bool isSilent() const { return told_; }
     // Nobody waits any more: the window that asked is closed, or the tracker gone.
     void forget();

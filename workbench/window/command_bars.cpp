@@ -56,9 +56,25 @@ void CommandBars::buildMenus(QMenu* recentFiles)
     configuration->addAction(commands_[Command::Quit]);
     addMenu("wb_menu_telemetry", {Command::LiveTelemetry, Command::BrowseFile, Command::TableFile});
     QMenu* tools = addMenu("wb_menu_tools", {Command::Cable, Command::Faults, Command::DataFolders});
+    buildReviewChoice(tools);
     buildLanguages(texts_.bind(tools->addMenu(QString()), "wb_language"));
     buildAppearances(texts_.bind(tools->addMenu(QString()), "wb_appearance"));
     addMenu("wb_menu_help", {Command::Help, Command::About});
+}
+
+// The review has it too, but does not come any more once it is turned off.
+void CommandBars::buildReviewChoice(QMenu* menu)
+{
+    QAction* action = texts_.bind(menu->addAction(QString()), "wb_review_menu");
+    action->setObjectName(QStringLiteral("action_ReviewAlways"));
+    action->setCheckable(true);
+    const auto show = [this, action] { action->setChecked(settings_.reviewAlways()); };
+    connect(menu, &QMenu::aboutToShow, action, show);
+    connect(action, &QAction::triggered, this, [this, show] {
+        settings_.setReviewAlways(!settings_.reviewAlways());
+        show();
+    });
+    show();
 }
 
 // In the menu, and by their own names in the corner, where nobody has to read another language to find them.

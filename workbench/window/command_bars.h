@@ -34,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void buildMenus(QMenu* recentFiles);
+    void buildReviewChoice(QMenu* menu);
     void buildLanguages(QMenu* menu);
     void buildAppearances(QMenu* menu);
     void buildToolBar();

@@ -308,11 +308,16 @@ void HistoryWindow::note()
     const auto backup = session_.backups().find(selected());
     if (!backup)
         return;
-    bool isGiven = false;
-    const QString note =
-        QInputDialog::getText(this, backupName(backup->number), text("wb_history_note_label"),
-                              QLineEdit::Normal, backup->note, &isGiven);
-    if (isGiven && !session_.backups().setNote(backup->number, note.trimmed()))
+    constexpr int widthOfNote = 400;
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(backupName(backup->number));
+    dialog.setLabelText(text("wb_history_note_label"));
+    dialog.setTextValue(backup->note);
+    dialog.setOkButtonText(text("wrd_028"));
+    dialog.setCancelButtonText(text("wrd_031"));
+    dialog.resize(widthOfNote, dialog.sizeHint().height());
+    if (dialog.exec() == QDialog::Accepted &&
+        !session_.backups().setNote(backup->number, dialog.textValue().trimmed()))
         tell([] { return text("wb_history_note_failed"); });
 }
 

@@ -3,9 +3,11 @@
 #include "base/whole_file.h"
 #include "road/chosen_settings.h"
 #include "tracker/bluetooth_search.h"
+#include "typing/file_error.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 
+#include <QDir>
 #include <QFile>
 #include <QLoggingCategory>
 
@@ -37,6 +39,23 @@ QString whyNothingCame(Reading::Outcome outcome)
 QByteArray contentOf(QFile& file)
 {
     return file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
+}
+
+// To a name that nothing else takes: the plug-in names its files by the minute. Where that cannot be, the
+// file stays where it is.
+QString moveAside(const QString& path)
+{
+    const QFileInfo file(path);
+    const QDir folder(file.dir().filePath(QStringLiteral("unwritten")));
+    folder.mkpath(QStringLiteral("."));
+    QString aside = folder.filePath(file.fileName());
+    for (int number = 2; QFile::exists(aside); ++number)
+        aside = folder.filePath(QStringLiteral("%1_%2.xml").arg(file.completeBaseName()).arg(number));
+    if (!QFile::rename(path, aside))
+        return path;
+    // Passwords stand in it.
+    QFile::setPermissions(aside, QFile::ReadOwner | QFile::WriteOwner);
+    return aside;
 }
 
 } // namespace
@@ -96,11 +115,12 @@ HostSession::Fetched HostSession::fetchConfiguration()
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
     QString reason;
     if (!vlk::saveWhole(file, reading.document, &reason))
-        return {[reason] {
-                    return sentences({text("wb_why_disk").arg(reason), text("wb_do_disk")});
-                },
-                {},
-                {}};
+        return {
+            [reason] {
+                return sentences({text("wb_why_disk").arg(vlk::fileErrorText(reason)), adviceOnDisk(reason)});
+            },
+            {},
+            {}};
     return {{}, reading.document, file.fileName()};
 }
 
@@ -205,7 +225,7 @@ void HostSession::followSearch(vlk::Message id, const void* p1)
         isSearching_ = *static_cast<const char*>(p1) == tracker::kSearchRuns;
 }
 
-// It is read now: the plug-in names its files by the minute, and the next one may take the place of this one.
+// It is taken now: the next one may have its name.
 void HostSession::takeWritten(const QString& path)
 {
     using Origin = WriteRequest::Origin;
@@ -217,12 +237,14 @@ void HostSession::takeWritten(const QString& path)
     request.document = contentOf(file);
     request.name = edited_.file();
     request.readFrom = edited_.seenIn();
-    request.file = path;
+    const QString error = file.isOpen() ? QString() : file.errorString();
+    file.close();
+    request.file = error.isEmpty() ? moveAside(path) : path;
     request.lost = edited_.unknown();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
     QMetaObject::invokeMethod(
         this,
-        [this, request, opened = opened_, error = file.isOpen() ? QString() : file.errorString()] {
+        [this, request, opened = opened_, error] {
             if (error.isEmpty())
                 begin(request, opened);
             else
@@ -235,16 +257,10 @@ void HostSession::takeWritten(const QString& path)
 void HostSession::begin(const WriteRequest& request, int opened)
 {
     if (road_.begin(request)) {
-        onTheRoad_ = request;
         openedThen_ = opened;
         return;
     }
-    if (request.file != onTheRoad_.file) {
-        QFile::remove(request.file);
-    } else {
-        QSaveFile file(onTheRoad_.file);
-        vlk::saveWhole(file, onTheRoad_.document);
-    }
+    QFile::remove(request.file);
     Q_EMIT writeRefused();
 }
 
@@ -254,12 +270,13 @@ void HostSession::finish(const RoadReport& report)
     const WriteRequest& request = report.request;
     const bool isConfirmed = report.outcome == Outcome::confirmed;
     if (isConfirmed) {
-        if (request.file.isEmpty() || openedThen_ != opened_) {
+        if (request.file.isEmpty() || openedThen_ != opened_)
             edited_.trackerHolds(request.document);
-        } else {
+        else
             edited_.written(request.document, report.tracker.number);
+        // Also of one that is open no longer: its edits are kept until then.
+        if (!request.file.isEmpty())
             link_.confirmWrite(request.document);
-        }
     }
     if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
         QFile::exists(request.file) && !QFile::remove(request.file))

@@ -100,8 +100,7 @@ private:
     SimulatedPort port_{tracker_};
     Backups backups_;
     WriteRoad road_;
-    WriteRequest onTheRoad_;
-    int openedThen_ = 0; // of which of the opened configurations it is
+    int openedThen_ = 0; // which of the opened configurations is on the road
 };
 
 } // namespace workbench

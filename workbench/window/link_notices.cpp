@@ -26,13 +26,12 @@ LinkNotices::LinkNotices(const PluginLog& pluginLog, HostSession& session, Plugi
     using tracker::SimulatedTracker;
     connect(&session_.link(), &PluginLink::passed, this,
             [this](vlk::Direction direction, quint32 id, const void* p1) { look(direction, id, p1); });
-    connect(&session_.road(), &WriteRoad::stepChanged, &watch_, [this](RoadReport::Step step) {
-        step == RoadReport::Step::review ? watch_.forget() : watch_.begin(vlk::Message::WriteConfiguration);
-    });
-    connect(&session_.road(), &WriteRoad::progressed, &watch_, [this] {
+    // Since when it waits is told by the road's own windows too.
+    connect(&session_.road(), &WriteRoad::waits, &watch_, [this](const QDateTime& since) {
         watch_.forget();
-        watch_.begin(vlk::Message::WriteConfiguration);
+        watch_.begin(vlk::Message::WriteConfiguration, since);
     });
+    connect(&session_.road(), &WriteRoad::reviewReady, &watch_, &AnswerWatch::forget);
     connect(&session_.road(), &WriteRoad::ended, &watch_, &AnswerWatch::forget);
     connect(&watch_, &AnswerWatch::silent, this, [this](const QDateTime& since, vlk::Message request) {
         front_.recall(FrontNotice::Trouble);
@@ -87,7 +86,8 @@ void LinkNotices::connectRequests()
                     tellRefused(answer, problem, *request);
             });
     const TrackerCommands* commands = &session_.commands();
-    connect(commands, &TrackerCommands::sent, &watch_, &AnswerWatch::begin);
+    connect(commands, &TrackerCommands::sent, &watch_,
+            [this](vlk::Message request) { watch_.begin(request); });
     connect(commands, &TrackerCommands::done, this,
             [this](const Sentence& sentence) { tellOfCommand(sentence, true); });
     connect(commands, &TrackerCommands::failed, this,

@@ -14,7 +14,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cerrno>
 #include <iterator>
 
 namespace workbench {
@@ -26,13 +25,6 @@ bool isForTracker(const QString& path)
 {
     const QFileInfo file(path);
     return file.dir() == QDir::current() && file.fileName().startsWith(QLatin1String("vlk_"));
-}
-
-// The reasons come as the system words them.
-bool isAboutRoom(const QString& reason)
-{
-    constexpr int codes[] = {ENOSPC, EDQUOT, EFBIG};
-    return std::ranges::any_of(codes, [&reason](int code) { return reason.contains(qt_error_string(code)); });
 }
 
 } // namespace

@@ -6,6 +6,9 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
+#include <cerrno>
+
 namespace workbench {
 
 namespace {
@@ -80,6 +83,18 @@ QString noteOn(const AnswerProblem& problem)
         return text("wb_answer_period").arg(moment(problem.time));
     }
     return {};
+}
+
+bool isAboutRoom(const QString& systemText)
+{
+    constexpr int codes[] = {ENOSPC, EDQUOT, EFBIG};
+    return std::ranges::any_of(
+        codes, [&systemText](int code) { return systemText.contains(qt_error_string(code)); });
+}
+
+QString adviceOnDisk(const QString& systemText)
+{
+    return text(isAboutRoom(systemText) ? "wb_do_disk" : "wb_do_folder");
 }
 
 QString number(qint64 value)

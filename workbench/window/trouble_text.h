@@ -21,6 +21,11 @@ QString reasonOf(const TelemetryFileProblem& problem);
 // A few words without a full stop, for a list.
 QString noteOn(const AnswerProblem& problem);
 
+// Whether there was no room on the disk, from the words of the system.
+bool isAboutRoom(const QString& systemText);
+// What to do about a file that could not be saved for this reason.
+QString adviceOnDisk(const QString& systemText);
+
 // A whole number and a moment as the language writes them.
 QString number(qint64 value);
 QString timeOfDay(const QDateTime& time);

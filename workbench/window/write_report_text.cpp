@@ -1,5 +1,6 @@
 #include "window/write_report_text.h"
 
+#include "typing/file_error.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
 #include "window/write_report_model.h"
@@ -17,6 +18,9 @@ namespace {
 using Fault = RoadReport::Fault;
 using Outcome = RoadReport::Outcome;
 
+// What to do depends on what the disk said.
+constexpr const char* kDisk = "disk";
+
 struct FaultRow
 {
     Fault fault;
@@ -26,14 +30,14 @@ struct FaultRow
 
 constexpr FaultRow kFaultRows[] = {
     {Fault::badRequest, "wb_road_request", nullptr},
-    {Fault::unsaved, "wb_refused_unsaved", "wb_do_disk"},
+    {Fault::unsaved, "wb_refused_unsaved", kDisk},
     {Fault::incomparable, "wb_road_incomparable", nullptr},
     {Fault::detached, "wb_refused_detached", "wb_do_attach"},
     {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
     {Fault::unplugged, "wb_why_unplugged", "wb_do_attach"},
     {Fault::silent, "wb_refused_silence", "wb_do_cable"},
     {Fault::badAnswer, "wb_why_answer", "wb_do_cable"},
-    {Fault::noBackup, "wb_road_no_backup", "wb_do_disk"},
+    {Fault::noBackup, "wb_road_no_backup", kDisk},
 };
 
 struct AdviceRow
@@ -44,7 +48,7 @@ struct AdviceRow
 
 // What to do about a refusal that a user can mend; the others say enough.
 constexpr AdviceRow kAdvices[] = {
-    {"wb_refused_memory", "wb_do_disk"},
+    {"wb_refused_memory", kDisk},
     {"wb_refused_record", "wb_do_data_set"},
 };
 
@@ -64,16 +68,17 @@ QString reasonFor(const RoadReport& report)
     if (report.problem)
         reason += QLatin1Char(' ') + reasonOf(*report.problem);
     if (!report.detail.isEmpty())
-        reason += QLatin1Char(' ') + report.detail;
+        reason += QLatin1Char(' ') + vlk::fileErrorText(report.detail);
     // A detail ends without a full stop.
     if (advice)
-        reason += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) + text(advice);
+        reason += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) +
+                  (advice == kDisk ? adviceOnDisk(report.detail) : text(advice));
     return reason;
 }
 
 bool saysTryAgain(const QString& line)
 {
-    return std::ranges::any_of(std::array{"wb_do_cable", "wb_do_attach", "wb_do_disk"},
+    return std::ranges::any_of(std::array{"wb_do_cable", "wb_do_attach", "wb_do_disk", "wb_do_folder"},
                                [&](const char* advice) { return line.endsWith(text(advice)); });
 }
 
@@ -97,6 +102,14 @@ QString firstLine(const RoadReport& report)
     return {};
 }
 
+// The very file that was to be written.
+bool isKept(const WriteRequest& request)
+{
+    QFile file(request.file);
+    return !request.file.isEmpty() && file.open(QIODevice::ReadOnly) &&
+           file.read(request.document.size() + 1) == request.document;
+}
+
 } // namespace
 
 QString summary(const RoadReport& report, const QString& typed)
@@ -113,7 +126,7 @@ QString summary(const RoadReport& report, const QString& typed)
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }
-    if (!report.request.file.isEmpty() && QFile::exists(report.request.file))
+    if (isKept(report.request))
         lines.append(text("wb_report_kept").arg(report.request.file));
     lines.removeAll(QString());
     return lines.join(QLatin1Char('\n'));
