@@ -330,6 +330,7 @@ private Q_SLOTS:
             });
             QTest::keyClick(dialog, Qt::Key_Return);
         });
+        QCoreApplication::processEvents();
         const QPoint place = table_->mapTo(window, QPoint());
         press("pushButton_Export");
         disk.reset();

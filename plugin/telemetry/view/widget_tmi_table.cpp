@@ -61,13 +61,14 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
       export_(new TableExport(shown_, model_, table_, notices_, progress_, this)),
       empty_(new EmptyNote(table_)), columnsButton_(new QPushButton(this)),
       exportButton_(new QPushButton(this)), helpButton_(new QPushButton(this)), count_(new QLabel(this)),
-      sums_(new QLabel(this))
+      work_(new QLabel(this)), sums_(new QLabel(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
     columnsButton_->setObjectName(QStringLiteral("pushButton_Columns"));
     exportButton_->setObjectName(QStringLiteral("pushButton_Export"));
     helpButton_->setObjectName(QStringLiteral("pushButton_Help"));
     count_->setObjectName(QStringLiteral("label_Count"));
+    work_->setObjectName(QStringLiteral("label_Work"));
     sums_->setObjectName(QStringLiteral("label_Sums"));
     for (QPushButton* button : {columnsButton_, exportButton_, helpButton_}) {
         button->setAutoDefault(false);
@@ -101,6 +102,9 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(table_, &RecordsTable::menuWanted, this, &VLK_Widget_Tmi_Table::showMenu);
     connect(table_, &RecordsTable::recordOpened, this,
             [this](int record) { Q_EMIT recordOpened(shown_->contents(), name_, record); });
+    connect(shown_, &ShownRecords::wentOn, this, [this](double share) {
+        work_->setText(share < 1 ? tr("rec_471").arg(static_cast<int>(100 * share)) : QString());
+    });
     connect(filter_, &FilterField::applied, this, &VLK_Widget_Tmi_Table::showCount);
     connect(empty_, &EmptyNote::pressed, filter_, &FilterField::clear);
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
@@ -130,6 +134,7 @@ void VLK_Widget_Tmi_Table::layOut()
     line->setContentsMargins(6, 3, 6, 3);
     line->setSpacing(16);
     line->addWidget(count_);
+    line->addWidget(work_);
     line->addStretch(1);
     line->addWidget(sums_);
     sums_->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -83,6 +83,7 @@ private:
     QPushButton* exportButton_;
     QPushButton* helpButton_;
     QLabel* count_;
+    QLabel* work_; // that is left to do of new contents
     QLabel* sums_;
     QString name_;
     QString path_; // of the file that was opened last
