@@ -291,7 +291,7 @@ private Q_SLOTS:
             .row("on show, TSV", 0, ExportForm::tsv, "a.tsv", 6, false, "rec_096")
             .row("chosen, as lines", 1, ExportForm::ndjson, "a", 2, false, "rec_096")
             .row("track", 2, ExportForm::gpx, "a.gpx", 40, false, "rec_096")
-            .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096 rec_470")
+            .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096. rec_470")
             .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096")
             .row("full disk", 2, ExportForm::xml, "a.xml", 0, true, "tmiw_187");
     }

@@ -91,6 +91,8 @@ void TableExport::tellWritten(const QString& path)
             told << tr("rec_470").arg(tr(rowOf(form).key));
         if (leftOut > 0)
             told << tr("rec_461").arg(QLocale().toString(leftOut));
+        if (told.size() > 1) // more sentences behind the name of the file
+            told.front() += QLatin1Char('.');
         return Notice{told.size() > 1 ? Mark::advice : Mark::right, told.join(QLatin1Char(' ')), {}};
     });
 }
