@@ -13,6 +13,7 @@
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/track/track_view.h"
+#include "telemetry/view/work_progress.h"
 #include "typing/notice_bar.h"
 
 #include <QPrintDialog>
@@ -551,6 +552,20 @@ void TestCurves::leavesTurnsToOthers()
     records_->append(few.bytes(0));
     QCOMPARE(made(), 3);
     QVERIFY(!records_->isLeftToDo());
+
+    // What lasts longer than a moment tells how far it is, to its end or until others are opened.
+    for (const RecordStore* next : {&few, static_cast<const RecordStore*>(nullptr)}) {
+        const QSignalSpy told(records_.get(), &ShownRecords::wentOn);
+        open(many);
+        records_->later([] { QTest::qSleep(2 * kQuietMs); });
+        records_->later([] {});
+        QTRY_VERIFY(!told.empty());
+        QVERIFY(told.first().first().toDouble() < 1);
+        if (next)
+            open(*next);
+        QTRY_VERIFY(!records_->isLeftToDo());
+        QCOMPARE(told.last().first().toDouble(), 1.0);
+    }
 
     // Who chooses others meanwhile keeps them.
     open(many);

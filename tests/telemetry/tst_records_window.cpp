@@ -285,17 +285,21 @@ private Q_SLOTS:
     void exporting_data()
     {
         // the whole, the rows on show, two chosen rows; lines or points in the file, or what is told
-        DataTable<int, ExportForm, int, bool, QString>({"what", "form", "count", "isDiskFull", "told"})
-            .row("whole, CSV", 2, ExportForm::csv, 41, false, "rec_096")
-            .row("on show, TSV", 0, ExportForm::tsv, 6, false, "rec_096")
-            .row("chosen, as lines", 1, ExportForm::ndjson, 2, false, "rec_096")
-            .row("track", 2, ExportForm::gpx, 40, false, "rec_096")
-            .row("full disk", 2, ExportForm::xml, 0, true, "tmiw_187");
+        using Row = DataTable<int, ExportForm, QString, int, bool, QString>;
+        Row({"what", "form", "typed", "count", "isDiskFull", "told"})
+            .row("whole, CSV", 2, ExportForm::csv, "a.csv", 41, false, "rec_096")
+            .row("on show, TSV", 0, ExportForm::tsv, "a.tsv", 6, false, "rec_096")
+            .row("chosen, as lines", 1, ExportForm::ndjson, "a", 2, false, "rec_096")
+            .row("track", 2, ExportForm::gpx, "a.gpx", 40, false, "rec_096")
+            .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096. rec_470")
+            .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096")
+            .row("full disk", 2, ExportForm::xml, "a.xml", 0, true, "tmiw_187");
     }
     void exporting()
     {
         QFETCH(int, what);
         QFETCH(ExportForm, form);
+        QFETCH(QString, typed);
         QFETCH(int, count);
         QFETCH(bool, isDiskFull);
         show(drive());
@@ -304,7 +308,6 @@ private Q_SLOTS:
         table_->setFocus();
         table_->setCurrentIndex(cell(1, "NumPage"));
         QTest::keyClick(table_, Qt::Key_Down, Qt::ShiftModifier);
-        const QString path = folder_.filePath(QStringLiteral("exported.") + rowOf(form).suffix);
         std::optional<FullDisk> disk;
         ScriptedHost::whenModal([&](QWidget* dialog) {
             ScriptedHost::child<QAbstractButton>(dialog,
@@ -320,19 +323,26 @@ private Q_SLOTS:
                 QCOMPARE(files->objectName(), QString("fileDialog_Told"));
                 QCOMPARE(qobject_cast<QFileDialog*>(files)->selectedFiles().value(0).section('/', -1),
                          QStringLiteral("telemetry.") + rowOf(form).suffix);
-                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
+                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(folder_.filePath(typed));
                 if (isDiskFull)
                     disk.emplace(5000);
                 QMetaObject::invokeMethod(files, "accept");
             });
             QTest::keyClick(dialog, Qt::Key_Return);
         });
+        QCoreApplication::processEvents();
+        const QPoint place = table_->mapTo(window, QPoint());
         press("pushButton_Export");
         disk.reset();
         QTEST(text("label_Damage"), "told");
+        QTRY_VERIFY(child("label_Damage")->isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(table_->mapTo(window, QPoint()), place); // what is told moves nothing
+        const QString path = folder_.filePath(typed.contains('.') ? typed : typed + '.' + rowOf(form).suffix);
         QCOMPARE(QFile::exists(path), !isDiskFull);
         const QByteArray content = readFile(path);
-        QCOMPARE(form == ExportForm::gpx ? content.count("<trkpt") : content.count('\n'), count);
+        const bool isTrack = path.endsWith(".gpx", Qt::CaseInsensitive);
+        QCOMPARE(isTrack ? content.count("<trkpt") : content.count('\n'), count);
         QFile::remove(path);
     }
 
@@ -398,6 +408,44 @@ private Q_SLOTS:
         QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_380"));
         // Curves, track and fuel tell there too.
         QCOMPARE(window->findChildren<QWidget*>("noticeBar").size(), 1);
+    }
+
+    // A damaged record is grey and counted apart; no filter finds it, no copy and no export holds its
+    // numbers.
+    void damagedRecord()
+    {
+        show(drive());
+        const QString path = folder_.filePath("telemetry.xml");
+        QByteArray content = readFile(path);
+        const int power = content.indexOf("<Power>", content.indexOf("<NumPage>1001<")) + 7;
+        content[power] = 'x';
+        open(writeFile(path, content));
+        QCOMPARE(text("label_Count"), QString("rec_297"));
+        QCOMPARE(cell(1, "Power").data(Qt::ToolTipRole).toString(), QString("rec_460"));
+        QVERIFY(!cell(0, "Power").data(Qt::FontRole).isValid() &&
+                cell(1, "Power").data(Qt::FontRole).isValid());
+        table_->setFocus();
+        table_->setCurrentIndex(cell(1, "NumPage"));
+        QTest::keyClick(table_, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QApplication::clipboard()->text().split('\n').value(1).trimmed().isEmpty());
+        const QString csv = folder_.filePath("damaged.csv");
+        ScriptedHost::whenModal([&](QWidget* dialog) {
+            auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
+            forms->setCurrentIndex(forms->findData(static_cast<int>(ExportForm::csv)));
+            ScriptedHost::whenModal([&](QWidget* files) {
+                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(csv);
+                QMetaObject::invokeMethod(files, "accept");
+            });
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        press("pushButton_Export");
+        QVERIFY2(text("label_Damage").endsWith("rec_461"), qPrintable(text("label_Damage")));
+        QCOMPARE(readFile(csv).count('\n'), 40); // the head and 39 records
+        for (const char* typed : {"NumPage < 1003", "not NumPage > 1002"}) {
+            type("lineEdit_Filter", typed);
+            pressInFilter(Qt::Key_Return);
+            QCOMPARE(numbers(), QStringList({"1000", "1002"}));
+        }
     }
 };
 

@@ -9,6 +9,7 @@
 #include "telemetry/files/track_writers.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <numeric>
@@ -29,6 +30,15 @@ std::vector<int> allOf(const RecordStore& store)
 const ExportFormRow& rowOf(ExportForm form)
 {
     return *std::ranges::find(kExportForms, form, &ExportFormRow::form);
+}
+
+ExportForm formOfEnding(const QString& path, ExportForm chosen)
+{
+    const auto isEnding = [ending = QFileInfo(path).suffix()](const char* suffix) {
+        return ending.compare(QLatin1String(suffix), Qt::CaseInsensitive) == 0;
+    };
+    const auto* const found = std::ranges::find_if(kExportForms, isEnding, &ExportFormRow::suffix);
+    return isEnding(rowOf(chosen).suffix) || found == std::end(kExportForms) ? chosen : found->form;
 }
 
 void ExportAhead::add(const RecordStore& store, std::span<const int> records, ExportForm form)

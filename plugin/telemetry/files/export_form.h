@@ -44,6 +44,8 @@ inline constexpr ExportFormRow kExportForms[] = {
 };
 
 const ExportFormRow& rowOf(ExportForm form);
+// The one that a file of this name is taken for: `chosen`, unless its ending is that of others alone.
+ExportForm formOfEnding(const QString& path, ExportForm chosen);
 
 // What is to be written, as far as a form has to know it in front.
 struct ExportAhead

@@ -48,6 +48,12 @@ std::uint32_t InputBuffer::sum()
     return sum_;
 }
 
+std::size_t InputBuffer::capacityFor(const QIODevice& device)
+{
+    const qint64 size = device.isSequential() ? 0 : device.size() - device.pos();
+    return size <= 0 ? kCapacity : std::min(static_cast<std::size_t>(size), kCapacity);
+}
+
 void InputBuffer::fill(std::size_t count)
 {
     if (atEnd_)
@@ -57,8 +63,8 @@ void InputBuffer::fill(std::size_t count)
     end_ -= begin_;
     begin_ = 0;
     summed_ = 0;
-    while (end_ < std::min(count, kCapacity) && !atEnd_) {
-        const qint64 got = device_.read(bytes_.data() + end_, static_cast<qint64>(kCapacity - end_));
+    while (end_ < std::min(count, bytes_.size()) && !atEnd_) {
+        const qint64 got = device_.read(bytes_.data() + end_, static_cast<qint64>(bytes_.size() - end_));
         atEnd_ = got <= 0;
         end_ += static_cast<std::size_t>(std::max<qint64>(got, 0));
     }

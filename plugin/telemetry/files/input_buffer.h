@@ -16,7 +16,7 @@ class InputBuffer
 public:
     static constexpr std::size_t kCapacity = 262'144;
 
-    explicit InputBuffer(QIODevice& device) : device_(device), bytes_(kCapacity) {}
+    explicit InputBuffer(QIODevice& device) : device_(device), bytes_(capacityFor(device)) {}
 
     // The next line with its end, or as many bytes of it as `most`; then the rest of it is the next line.
     // Empty at the end of the device.
@@ -35,6 +35,8 @@ public:
     std::uint32_t sum();
 
 private:
+    // What the device has, where that can be known and is less.
+    static std::size_t capacityFor(const QIODevice& device);
     void fill(std::size_t count);
 
     QIODevice& device_;

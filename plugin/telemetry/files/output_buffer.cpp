@@ -4,7 +4,7 @@ namespace vlk {
 
 bool OutputBuffer::finish()
 {
-    write(bytes_.data(), used_);
+    write(bytes_.get(), used_);
     used_ = 0;
     return !failed_;
 }

@@ -7,22 +7,25 @@
 #include <charconv>
 #include <concepts>
 #include <cstring>
+#include <memory>
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace vlk {
 
 class OutputBuffer
 {
 public:
-    explicit OutputBuffer(QIODevice& device) : device_(device), bytes_(kCapacity) {}
+    explicit OutputBuffer(QIODevice& device)
+        : device_(device), bytes_(std::make_unique_for_overwrite<char[]>(kCapacity))
+    {
+    }
 
     OutputBuffer& operator<<(std::string_view text)
     {
         if (text.size() > kCapacity - used_ && !makeRoom(text))
             return *this;
-        std::memcpy(bytes_.data() + used_, text.data(), text.size());
+        std::memcpy(bytes_.get() + used_, text.data(), text.size());
         used_ += text.size();
         return *this;
     }
@@ -62,7 +65,7 @@ private:
     void write(const char* bytes, std::size_t size);
 
     QIODevice& device_;
-    std::vector<char> bytes_;
+    std::unique_ptr<char[]> bytes_; // kCapacity of them
     std::size_t used_ = 0;
     bool failed_ = false;
 };

@@ -1,6 +1,8 @@
 #include "telemetry/fuel/journey.h"
 
+#include "telemetry/files/raw_values.h"
 #include "telemetry/files/track_points.h"
+#include "telemetry/text/item_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,13 +28,22 @@ double JourneySummary::per100Km() const
 
 struct Journey::Making
 {
+    // Degrees; NaN for no point of the track.
+    struct Place
+    {
+        double latitude = kNoNumber;
+        double longitude = kNoNumber;
+        bool isPoint() const { return !std::isnan(latitude); }
+        TrackPoint point() const { return {-1, 0, latitude, longitude, false}; }
+    };
+
     RecordColumns& columns;
     std::vector<int> records{}; // by time
     NumberColumn speed{};
     std::vector<Ignition> ignition{};
-    std::vector<TrackPoint> points{};
-    std::vector<int> pointOf{}; // of a record; -1 for none
-    int before = -1;            // the stretch of the last point
+    std::vector<Place> places{}; // by record
+    std::optional<TrackPoint> last{};
+    int before = -1; // the stretch of the last point
 };
 
 Journey::Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events)
@@ -53,8 +64,7 @@ Journey::Steps Journey::stepsToMake(RecordColumns& columns, const NumberColumn& 
     steps.emplace_back([making] { making->ignition = ignitions(making->columns, making->records); });
     steps.emplace_back([this, making] {
         stretches_.reserve(making->records.size());
-        making->points.reserve(making->records.size());
-        making->pointOf.assign(making->columns.times().size(), -1);
+        making->places.resize(making->columns.times().size());
     });
     const int all = columns.store().size();
     const auto inPieces = [&](int size, auto work) {
@@ -98,26 +108,28 @@ void Journey::takeStretches(Making& making, int first, int behind)
 // Of the records in their order in the store.
 void Journey::takePoints(Making& making, int first, int behind)
 {
-    const TrackPoint* const before = making.points.empty() ? nullptr : &making.points.back();
-    forEachTrackPoint(making.columns, first, behind, before, [&making](const TrackPoint& point) {
-        making.pointOf[point.record] = static_cast<int>(making.points.size());
-        making.points.push_back(point);
-    });
+    const std::optional<TrackPoint> before = making.last;
+    forEachTrackPoint(making.columns, first, behind, before ? &*before : nullptr,
+                      [&making](const TrackPoint& point) {
+                          making.places[point.record] = {point.latitude, point.longitude};
+                          making.last = point;
+                      });
 }
 
 void Journey::measureWay(Making& making, int first, int behind)
 {
     const std::vector<int>& records = making.records;
-    const std::vector<TrackPoint>& points = making.points;
-    const std::vector<int>& pointOf = making.pointOf;
-    const NumberColumn& latitudes = making.columns.numbers(item("Latitude"));
+    const std::vector<Making::Place>& places = making.places;
+    const RawValues latitudes(making.columns.store(), element("Latitude"));
     int& before = making.before;
     const std::size_t end = std::min(static_cast<std::size_t>(behind), records.size());
     for (auto i = static_cast<std::size_t>(first); i < end; ++i) {
-        const int point = pointOf[records[i]];
-        stretches_[i].isWithoutFix = point < 0 && !std::isnan(latitudes[records[i]]);
-        if (point < 0)
+        const Making::Place& place = places[records[i]];
+        if (!place.isPoint()) {
+            const std::optional<std::uint64_t> raw = latitudes.at(records[i]);
+            stretches_[i].isWithoutFix = raw && !std::isnan(itemNumber(*raw, item("Latitude")));
             continue;
+        }
         // The coordinates of a vehicle that stands wander.
         if (before >= 0) {
             const Stretch& last = stretches_[before];
@@ -126,7 +138,7 @@ void Journey::measureWay(Making& making, int first, int behind)
             const bool isKnown = !isGap || stretches_[i].number - last.number == i - before;
             if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))
                 stretches_[before].metres =
-                    static_cast<float>(metresBetween(points[pointOf[records[before]]], points[point]));
+                    static_cast<float>(metresBetween(places[records[before]].point(), place.point()));
         }
         before = static_cast<int>(i);
     }

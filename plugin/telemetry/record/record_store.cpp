@@ -13,6 +13,8 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::size_t kPieceBytes = 1 << 20;
+constexpr std::size_t kLeastPieceBytes = 1 << 12;
+constexpr std::size_t kPieceGrowth = 4;
 constexpr std::size_t kLongest = std::numeric_limits<std::uint16_t>::max();
 
 FieldMask fieldsOf(const FieldMask& left, const FieldMask& right)
@@ -129,9 +131,12 @@ void RecordStore::add(const RecordLayout& layout, Bytes bytes)
 void RecordStore::put(std::size_t layout, Bytes bytes)
 {
     bytes = bytes.first(std::min(bytes.size(), kLongest));
-    if (pieces_.empty() || pieces_.back().size() + kLengthBytes + bytes.size() > kPieceBytes) {
+    const std::size_t size = kLengthBytes + bytes.size();
+    if (pieces_.empty() || pieces_.back().size() + size > pieces_.back().capacity()) {
+        // Many a store holds few records.
+        const std::size_t larger = pieces_.empty() ? 0 : kPieceGrowth * pieces_.back().capacity();
         pieces_.emplace_back();
-        pieces_.back().reserve(kPieceBytes);
+        pieces_.back().reserve(std::max(std::clamp(larger, kLeastPieceBytes, kPieceBytes), size));
     }
     std::vector<std::uint8_t>& piece = pieces_.back();
     places_.push_back({pieces_.size() - 1, piece.size(), layout});

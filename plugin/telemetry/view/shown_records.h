@@ -53,7 +53,10 @@ public:
     // Above that the parts follow new contents in steps.
     static constexpr int kMostAtOnce = 50'000;
 
-    explicit ShownRecords(QObject* parent = nullptr) : QObject(parent), steps_(new StepQueue(this)) {}
+    explicit ShownRecords(QObject* parent = nullptr) : QObject(parent), steps_(new StepQueue(this))
+    {
+        connect(steps_, &StepQueue::wentOn, this, &ShownRecords::wentOn);
+    }
 
     // All of them pass, the first one is looked at, all of their time is in sight.
     // While a file is read there are none yet.
@@ -117,6 +120,8 @@ Q_SIGNALS:
     void recordsAdded(int first);
     void computedChanged();
     void foundChanged();
+    // With what is done later, where that lasts longer than a moment; 1 at its end.
+    void wentOn(double share);
 
 private:
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();

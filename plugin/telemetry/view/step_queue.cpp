@@ -2,8 +2,6 @@
 
 #include "telemetry/view/work_progress.h"
 
-#include <QElapsedTimer>
-
 namespace vlk {
 
 StepQueue::StepQueue(QObject* parent) : QObject(parent)
@@ -14,25 +12,46 @@ StepQueue::StepQueue(QObject* parent) : QObject(parent)
 
 void StepQueue::add(std::function<void()> step)
 {
+    if (steps_.empty() && !turns_.isActive()) {
+        clock_.start();
+        added_ = 0;
+        done_ = 0;
+    }
+    ++added_;
     steps_.push_back(std::move(step));
     turns_.start();
 }
 
 void StepQueue::finish()
 {
+    if (isEmpty())
+        return;
     while (!steps_.empty())
         doFirst();
+    tell();
 }
 
 void StepQueue::clear()
 {
+    if (isEmpty())
+        return;
     steps_.clear();
+    tell();
+}
+
+void StepQueue::tell()
+{
+    if (steps_.empty())
+        turns_.stop();
+    if (clock_.isValid() && clock_.elapsed() >= kQuietMs)
+        Q_EMIT wentOn(steps_.empty() ? 1 : double(done_) / added_);
 }
 
 void StepQueue::doFirst()
 {
     const std::function<void()> step = std::move(steps_.front());
     steps_.pop_front();
+    ++done_;
     step();
 }
 
@@ -43,8 +62,7 @@ void StepQueue::goOn()
     clock.start();
     while (!steps_.empty() && clock.elapsed() < kSliceMs / 2)
         doFirst();
-    if (steps_.empty())
-        turns_.stop();
+    tell();
 }
 
 } // namespace vlk

@@ -3,6 +3,7 @@
 // Work in steps of some milliseconds each, done in their order from the event loop: in one turn of it as many
 // as leave time for what else happens.
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -26,12 +27,20 @@ public:
     void clear();
     bool isEmpty() const { return steps_.empty(); }
 
+Q_SIGNALS:
+    // What lasts longer than a moment: how much of it is done, 1 at its end or where it was given up.
+    void wentOn(double share);
+
 private:
     void doFirst();
     void goOn();
+    void tell();
 
     std::deque<std::function<void()>> steps_;
     QTimer turns_;
+    QElapsedTimer clock_; // since there was none
+    int added_ = 0;       // since then
+    int done_ = 0;
 };
 
 } // namespace vlk

@@ -1,6 +1,5 @@
 #include "telemetry/view/widget_tmi_table.h"
 
-#include "link/device.h"
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/view/column_choice.h"
@@ -10,23 +9,21 @@
 #include "telemetry/view/filter_field.h"
 #include "telemetry/view/find_bar.h"
 #include "telemetry/view/record_finder.h"
-#include "telemetry/view/records_export.h"
 #include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/records_notices.h"
 #include "telemetry/view/records_places.h"
 #include "telemetry/view/records_table.h"
 #include "telemetry/view/selected_records.h"
+#include "telemetry/view/table_export.h"
 #include "telemetry/view/work_progress.h"
 #include "typing/area_keys.h"
 #include "typing/empty_note.h"
-#include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -43,7 +40,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <numeric>
 
 using namespace vlk;
 
@@ -61,21 +57,24 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
       filter_(new FilterField(shown_, model_, this)),
       findBar_(new FindBar(new RecordFinder(model_, table_), this)),
       notices_(new NoticeBar(this, QStringLiteral("label_Damage"))), progress_(new WorkProgress(this)),
-      opening_(new FileOpening(progress_)), export_(new RecordsExport(progress_)),
+      opening_(new FileOpening(progress_)),
+      export_(new TableExport(shown_, model_, table_, notices_, progress_, this)),
       empty_(new EmptyNote(table_)), columnsButton_(new QPushButton(this)),
       exportButton_(new QPushButton(this)), helpButton_(new QPushButton(this)), count_(new QLabel(this)),
-      sums_(new QLabel(this))
+      work_(new QLabel(this)), sums_(new QLabel(this))
 {
     table_->setObjectName(QStringLiteral("tableWidget"));
     columnsButton_->setObjectName(QStringLiteral("pushButton_Columns"));
     exportButton_->setObjectName(QStringLiteral("pushButton_Export"));
     helpButton_->setObjectName(QStringLiteral("pushButton_Help"));
     count_->setObjectName(QStringLiteral("label_Count"));
+    work_->setObjectName(QStringLiteral("label_Work"));
     sums_->setObjectName(QStringLiteral("label_Sums"));
     for (QPushButton* button : {columnsButton_, exportButton_, helpButton_}) {
         button->setAutoDefault(false);
         filter_->addWidget(button);
     }
+    notices_->keepPlace();
     columnsButton_->setMenu(new ColumnsMenu(model_, columns_, columnsButton_));
     layOut();
     resize(kWidth, kHeight);
@@ -103,6 +102,9 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(table_, &RecordsTable::menuWanted, this, &VLK_Widget_Tmi_Table::showMenu);
     connect(table_, &RecordsTable::recordOpened, this,
             [this](int record) { Q_EMIT recordOpened(shown_->contents(), name_, record); });
+    connect(shown_, &ShownRecords::wentOn, this, [this](double share) {
+        work_->setText(share < 1 ? tr("rec_471").arg(static_cast<int>(100 * share)) : QString());
+    });
     connect(filter_, &FilterField::applied, this, &VLK_Widget_Tmi_Table::showCount);
     connect(empty_, &EmptyNote::pressed, filter_, &FilterField::clear);
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
@@ -115,8 +117,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
             shown_->setContents(std::make_shared<TelemetryContents>());
         tellCancelled(notices_, [this] { read(); });
     });
-    connect(exportButton_, &QPushButton::clicked, this, &VLK_Widget_Tmi_Table::exportRecords);
-    connectExport();
+    connect(exportButton_, &QPushButton::clicked, export_, &TableExport::ask);
     addKeys();
     retranslate();
 }
@@ -133,6 +134,7 @@ void VLK_Widget_Tmi_Table::layOut()
     line->setContentsMargins(6, 3, 6, 3);
     line->setSpacing(16);
     line->addWidget(count_);
+    line->addWidget(work_);
     line->addStretch(1);
     line->addWidget(sums_);
     sums_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -202,6 +204,7 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
         notices_->end(notice);
     showContents(contents);
     places_->setName(name);
+    export_->setName(name);
     showTitle();
     if (growth == Growth::none)
         return;
@@ -333,72 +336,9 @@ void VLK_Widget_Tmi_Table::copy()
     QApplication::clipboard()->setText(selectionText(*model_, *table_));
 }
 
-void VLK_Widget_Tmi_Table::exportRecords()
-{
-    const std::vector<int> selected = table_->selectedRecords();
-    const auto all = shown_->records().size();
-    ExportDialog dialog(choice_, {model_->rowCount(), static_cast<int>(selected.size()), all}, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    choice_ = dialog.choice();
-    const QString path = ExportDialog::askPath(choice_.form, QFileInfo(name_).completeBaseName(), this);
-    if (path.isEmpty())
-        return;
-    std::vector<int> records(all);
-    if (choice_.what == ExportChoice::whole)
-        std::iota(records.begin(), records.end(), 0);
-    else
-        records = choice_.what == ExportChoice::selected ? selected : model_->records();
-    // As the command line does.
-    leftOut_ =
-        static_cast<int>(std::erase_if(records, [this](int record) { return model_->isDamaged(record); }));
-    ExportOptions options;
-    options.origin = shown_->contents()->origin;
-    if (options.origin.model.isEmpty() && vlkDevice) {
-        options.origin.model = vlkDevice->model();
-        options.origin.vendor = vlkDevice->vendor();
-    }
-    options.title = QFileInfo(name_).completeBaseName();
-    options.utcOffset = shown_->records().utcOffset();
-    options.decimalComma = choice_.decimalComma;
-    options.eventText = &requests::eventText;
-    if (choice_.onlyShownColumns && rowOf(choice_.form).hasDecimalSign) {
-        for (const int column : table_->shownColumns()) {
-            if (const CsvColumn* const known = model_->columnAt(column))
-                options.columns.emplace_back(known->item);
-        }
-    }
-    exported_ = static_cast<int>(records.size());
-    export_->start(path, shown_->contents(), std::move(records), choice_.form, options);
-}
-
-void VLK_Widget_Tmi_Table::connectExport()
-{
-    const auto tell = [this](const std::function<Notice()>& notice) { notices_->tell(kHandedOver, notice); };
-    connect(export_, &RecordsExport::written, this, [this](const QString& path) {
-        notices_->tellNews(kHandedOver, [path, count = exported_, leftOut = leftOut_] {
-            QString told = tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path));
-            if (leftOut > 0)
-                told += QLatin1Char(' ') + tr("rec_461").arg(QLocale().toString(leftOut));
-            return Notice{leftOut > 0 ? Mark::advice : Mark::right, told, {}};
-        });
-    });
-    connect(export_, &RecordsExport::failed, this, [this, tell](const QString& path, const QString& reason) {
-        tell([this, path, reason] {
-            return Notice{Mark::invalid,
-                          tr("tmiw_187").arg(QDir::toNativeSeparators(path), fileErrorText(reason)),
-                          {{tr("rec_007"), [this] { exportRecords(); }}}};
-        });
-    });
-    connect(export_, &RecordsExport::cancelled, this, [tell] {
-        tell([] { return Notice{Mark::advice, tr("rec_097"), {}}; });
-    });
-}
-
 void VLK_Widget_Tmi_Table::retranslate()
 {
     setLocale(QLocale());
-    choice_.decimalComma = QLocale().decimalPoint() == QLatin1Char(',');
     columnsButton_->setText(tr("rec_006"));
     exportButton_->setText(tr("rec_007"));
     helpButton_->setText(tr("wrd_027"));
@@ -409,6 +349,7 @@ void VLK_Widget_Tmi_Table::retranslate()
     filter_->retranslate();
     findBar_->retranslate();
     progress_->retranslate();
+    export_->retranslate();
     places_->retranslate();
     showCount();
     showSums();

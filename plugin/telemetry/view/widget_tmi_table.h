@@ -3,7 +3,6 @@
 // The window of records: stored telemetry, or a period that was just read, as a table whose records are
 // filtered, found, copied and exported, and beside it the other views of the same records.
 
-#include "telemetry/view/export_dialog.h"
 #include "telemetry/view/shown_records.h"
 
 #include <QDialog>
@@ -17,10 +16,10 @@ class FileOpening;
 class FilterField;
 class FindBar;
 class NoticeBar;
-class RecordsExport;
 class RecordsModel;
 class RecordsPlaces;
 class RecordsTable;
+class TableExport;
 class WorkProgress;
 } // namespace vlk
 
@@ -67,8 +66,6 @@ private:
     void showSums();
     void showMenu(const QPoint& globalPlace);
     void copy();
-    void connectExport();
-    void exportRecords();
 
     vlk::ShownRecords* shown_;
     vlk::RecordsModel* model_;
@@ -80,18 +77,16 @@ private:
     vlk::RecordsPlaces* places_;
     vlk::WorkProgress* progress_;
     vlk::FileOpening* opening_;
-    vlk::RecordsExport* export_;
+    vlk::TableExport* export_;
     vlk::EmptyNote* empty_;
     QPushButton* columnsButton_;
     QPushButton* exportButton_;
     QPushButton* helpButton_;
     QLabel* count_;
+    QLabel* work_; // that is left to do of new contents
     QLabel* sums_;
     QString name_;
     QString path_; // of the file that was opened last
-    vlk::ExportChoice choice_;
-    int exported_ = 0; // records, by the latest export
-    int leftOut_ = 0;  // damaged ones of those that were to be exported
     Growth growth_ = Growth::none;
     quint32 newest_ = 0; // number on show
 };

@@ -1,0 +1,54 @@
+#pragma once
+
+// The export of the window of records: asks what is to go out, in which form and under which name, and tells
+// in the window's bar what became of it.
+
+#include "telemetry/view/export_dialog.h"
+
+#include <QObject>
+
+namespace vlk {
+
+class NoticeBar;
+class RecordsExport;
+class RecordsModel;
+class RecordsTable;
+class ShownRecords;
+class WorkProgress;
+
+class TableExport : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `window`: over which it asks; the parent.
+    TableExport(ShownRecords* shown, RecordsModel* model, RecordsTable* table, NoticeBar* notices,
+                WorkProgress* progress, QWidget* window);
+
+    // Of records that are called so, by the name of their file.
+    void setName(const QString& name) { name_ = name; }
+    void ask();
+    // Takes the decimal sign of the language.
+    void retranslate();
+
+private:
+    void start(const QString& path);
+    ExportOptions options() const;
+    void tellWritten(const QString& path);
+    void tellFailed(const QString& path, const QString& reason);
+
+    ShownRecords* shown_;
+    RecordsModel* model_;
+    RecordsTable* table_;
+    NoticeBar* notices_;
+    RecordsExport* export_;
+    QWidget* window_;
+    QString name_;
+    ExportChoice choice_;
+    // Of the latest export.
+    int exported_ = 0; // records
+    int leftOut_ = 0;  // damaged ones of those that were to be exported
+    bool isFormOfEnding_ = false;
+};
+
+} // namespace vlk
