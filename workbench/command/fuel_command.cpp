@@ -181,7 +181,8 @@ public:
         warnOfEnds(files.front(), columns);
         const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
         warnOfNoise(files.front(), vlk::levelNoise(medians));
-        for (const FuelEvent& event : vlk::findFuelEvents(columns, medians, {call_.rise, call_.fall})) {
+        for (const FuelEvent& event :
+             vlk::findFuelEvents(columns, litres, medians, {call_.rise, call_.fall})) {
             outcome_.told += eventLine(call_, partOf(event.record).file, sensor, event);
             outcome_.status = std::max<int>(outcome_.status, found);
         }

@@ -204,7 +204,7 @@ void FuelView::find()
         return;
     std::vector<FuelEvent> events;
     if (!litres_.empty())
-        events = findFuelEvents(records_.columns(), medians_, {rise_->value(), fall_->value()});
+        events = findFuelEvents(records_.columns(), litres_, medians_, {rise_->value(), fall_->value()});
     setEvents(std::move(events));
     table_->resizeColumnsToContents();
     showState();
