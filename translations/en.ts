@@ -1700,6 +1700,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_460"><translation>This record is damaged in the file. What it shows counts as measured nowhere; values that could not be read show as 0.</translation></message>
     <message id="rec_461"><translation>Damaged records left out: %1.</translation></message>
     <message id="rec_462"><translation>Damaged records of the file, left out here: %1. What happened only in them is not in the list.</translation></message>
+    <message id="rec_463"><translation>The typed table is not saved.</translation></message>
+    <message id="rec_464"><translation>Printed.</translation></message>
+    <message id="rec_465"><translation>The last record with the level before. The tool tip of a time also tells the first record with the level after.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

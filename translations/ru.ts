@@ -1700,6 +1700,9 @@
     <message id="rec_460"><translation>Эта запись в файле повреждена. Её значения нигде не учитываются; те, что не прочитались, показаны как 0.</translation></message>
     <message id="rec_461"><translation>Повреждённые записи пропущены: %1.</translation></message>
     <message id="rec_462"><translation>Повреждённые записи файла, здесь не учтены: %1. Того, что было только в них, в списке нет.</translation></message>
+    <message id="rec_463"><translation>Введённая таблица не сохранена.</translation></message>
+    <message id="rec_464"><translation>Напечатано.</translation></message>
+    <message id="rec_465"><translation>Последняя запись с прежним уровнем. Подсказка у времени называет и первую запись с новым уровнем.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -7,6 +7,8 @@
 #include "telemetry/curves/time_scale.h"
 
 #include <QLabel>
+#include <QPainter>
+#include <QPicture>
 #include <QVBoxLayout>
 
 namespace vlk {
@@ -45,7 +47,12 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     // So that all have their places before they are painted.
     sheet.show();
     plot->refresh();
-    sheet.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    if (painter.device()->devType() != QInternal::Printer)
+        return sheet.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    // A widget would give a printer an image of itself.
+    QPicture lines;
+    sheet.render(&lines, QPoint(), QRegion(), QWidget::DrawChildren);
+    painter.drawPicture(QPoint(), lines);
 }
 
 } // namespace vlk
