@@ -17,6 +17,7 @@ namespace {
 constexpr int kSampleWidth = 24;
 constexpr int kSampleMargin = 4;
 constexpr int kEntryMargin = 12;
+constexpr int kLeastLetters = 14;
 constexpr int kLegendPadding = 4;
 
 } // namespace
@@ -89,6 +90,13 @@ int CurveLegend::widthOfAll() const
     for (int place = 0; place < static_cast<int>(model_->curves().size()); ++place)
         width += kSampleWidth + kSampleMargin + metrics.horizontalAdvance(textOf(place)) + kEntryMargin;
     return width;
+}
+
+int CurveLegend::leastWidth() const
+{
+    const int least =
+        kSampleWidth + kSampleMargin + kLeastLetters * fontMetrics().averageCharWidth() + kEntryMargin;
+    return least * static_cast<int>(model_->curves().size());
 }
 
 QSize CurveLegend::sizeHint() const

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
 #include <QLineF>
@@ -105,12 +106,15 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     layout->addWidget(columns_, 0, 1);
     layout->addWidget(fit_, 0, 2);
     layout->addWidget(handOverMenu_, 0, 3);
-    layout->addWidget(spanOnly_, 1, 0, 1, 4);
-    layout->addWidget(canvas_, 2, 0, 1, 4);
-    layout->addWidget(place_, 3, 0, 1, 4);
+    layout->addWidget(canvas_, 1, 0, 1, 4);
+    auto* const below = new QHBoxLayout;
+    below->addWidget(place_, 1);
+    below->addWidget(spanOnly_);
+    layout->addLayout(below, 2, 0, 1, 4);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(2, 1);
+    layout->setRowStretch(1, 1);
     setFocusProxy(canvas_);
+    setTabOrder(canvas_, spanOnly_);
 
     connect(columns_, qOverload<int>(&QComboBox::activated), this, &TrackView::showColumn);
     connect(spanOnly_, &QCheckBox::toggled, model_, &TrackModel::setSpanOnly);
