@@ -17,7 +17,7 @@ namespace {
 constexpr int kSampleWidth = 24;
 constexpr int kSampleMargin = 4;
 constexpr int kEntryMargin = 12;
-constexpr int kLeastLetters = 14;
+constexpr int kLeastLetters = 10;
 constexpr int kLegendPadding = 4;
 
 } // namespace

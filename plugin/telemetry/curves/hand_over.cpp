@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDesktopWidget>
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
@@ -38,6 +39,7 @@ QByteArray svgOf(const PaintPicture& paint)
     QBuffer buffer;
     QSvgGenerator svg;
     svg.setOutputDevice(&buffer);
+    svg.setResolution(QApplication::desktop()->logicalDpiX()); // as of the widgets that are painted
     svg.setSize(kPictureSize);
     svg.setViewBox(QRect(QPoint(), kPictureSize));
     QPainter painter(&svg);
