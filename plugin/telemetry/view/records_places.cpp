@@ -14,7 +14,7 @@ namespace vlk {
 namespace {
 
 constexpr double kCurvesShare = 0.52; // of the height
-constexpr double kTableShare = 0.6;   // of the width
+constexpr double kTableShare = 0.4;   // of the width
 constexpr const char* kPlacesFile = "records-places.ini";
 
 double keptShare(const char* name, double share)
