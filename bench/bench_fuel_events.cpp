@@ -57,7 +57,7 @@ void fuelEventsOfAYear(benchmark::State& state)
             const NumberColumn litres = tankLitres(columns, tanks);
             const std::vector<LevelMedian> medians = levelMedians(columns, litres);
             benchmark::DoNotOptimize(levelNoise(medians));
-            found = findFuelEvents(columns, medians, {}).size();
+            found = findFuelEvents(columns, litres, medians, {}).size();
         },
         [&] { benchmark::DoNotOptimize(RecordColumns(records).numbers(item("LevelRS485_1")).data()); });
     state.counters["events"] = static_cast<double>(found);

@@ -1343,7 +1343,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_075"><translation>Read again</translation></message>
     <message id="rec_076"><translation>%1 more can be brought back.</translation></message>
     <message id="rec_077"><translation>Bring back</translation></message>
-    <message id="rec_080"><translation>Show records</translation></message>
+    <message id="rec_080"><translation>Show rec&amp;ords</translation></message>
     <message id="rec_081"><translation>Records of the period: %1.</translation></message>
     <message id="rec_085"><translation>Export records</translation></message>
     <message id="rec_086"><translation>Records</translation></message>
@@ -1700,6 +1700,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_460"><translation>This record is damaged in the file. What it shows counts as measured nowhere; values that could not be read show as 0.</translation></message>
     <message id="rec_461"><translation>Damaged records left out: %1.</translation></message>
     <message id="rec_462"><translation>Damaged records of the file, left out here: %1. What happened only in them is not in the list.</translation></message>
+    <message id="rec_463"><translation>The typed table is not saved.</translation></message>
+    <message id="rec_464"><translation>Printed.</translation></message>
+    <message id="rec_465"><translation>The last record with the level before. The tool tip of a time also tells the first record with the level after.</translation></message>
     <message id="rec_470"><translation>The form follows the ending of the name: %1.</translation></message>
     <message id="rec_471"><translation>Preparing curves and track: %1&#160;%</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>

@@ -1343,7 +1343,7 @@
     <message id="rec_075"><translation>Прочитать снова</translation></message>
     <message id="rec_076"><translation>Ещё можно вернуть: %1.</translation></message>
     <message id="rec_077"><translation>Вернуть</translation></message>
-    <message id="rec_080"><translation>Показать записи</translation></message>
+    <message id="rec_080"><translation>Показать з&amp;аписи</translation></message>
     <message id="rec_081"><translation>Записей периода: %1.</translation></message>
     <message id="rec_085"><translation>Экспорт записей</translation></message>
     <message id="rec_086"><translation>Записи</translation></message>
@@ -1700,6 +1700,9 @@
     <message id="rec_460"><translation>Эта запись в файле повреждена. Её значения нигде не учитываются; те, что не прочитались, показаны как 0.</translation></message>
     <message id="rec_461"><translation>Повреждённые записи пропущены: %1.</translation></message>
     <message id="rec_462"><translation>Повреждённые записи файла, здесь не учтены: %1. Того, что было только в них, в списке нет.</translation></message>
+    <message id="rec_463"><translation>Введённая таблица не сохранена.</translation></message>
+    <message id="rec_464"><translation>Напечатано.</translation></message>
+    <message id="rec_465"><translation>Последняя запись с прежним уровнем. Подсказка у времени называет и первую запись с новым уровнем.</translation></message>
     <message id="rec_470"><translation>Формат выбран по расширению имени: %1.</translation></message>
     <message id="rec_471"><translation>Подготовка графиков и трека: %1&#160;%</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>

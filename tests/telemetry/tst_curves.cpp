@@ -7,6 +7,7 @@
 #include "support/truck_records.h"
 #include "telemetry/curves/curve_series.h"
 #include "telemetry/curves/curves_model.h"
+#include "telemetry/curves/curves_sheet.h"
 #include "telemetry/curves/curves_view.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
@@ -402,6 +403,16 @@ void TestCurves::tellsStatesWithoutRoom()
     view_->resize(340, 400);
     QCoreApplication::processEvents();
     QVERIFY(!legend->isVisible());
+    // Of low curves they are shortened before they take a line.
+    const auto narrowest = [&](int height) {
+        int width = 1200;
+        do {
+            view_->resize(width -= 10, height);
+            QCoreApplication::processEvents();
+        } while (legend->isVisible() && width > 340);
+        return width;
+    };
+    QVERIFY(narrowest(240) < narrowest(400));
     view_->resize(900, 120);
     QCoreApplication::processEvents();
     QVERIFY(all->isVisible());
@@ -483,6 +494,20 @@ void TestCurves::printsAsItShows()
     int height = 0;
     handOver.print([&](QPainter& painter, const QSize&) { height = painter.fontMetrics().height(); });
     QVERIFY2(qAbs(height - view_->fontMetrics().height()) <= 2, qPrintable(QString::number(height)));
+    const auto* const told = bar.findChild<QLabel*>(QStringLiteral("label_Printed"));
+    QVERIFY(told->text().contains(QStringLiteral("rec_170")));
+    // As lines, which stay sharp however large the paper.
+    open(truckRecords(3000));
+    const QString path = folder.filePath(QStringLiteral("curves.pdf"));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(path);
+    QPainter painter(&printer);
+    CurvesModel model(records_.get(), nullptr);
+    model.show({QStringLiteral("Speed")}, CurvesModel::Choice::chosen);
+    paintCurves(painter, {1200, 600}, model, records_->wholeTime(), {});
+    painter.end();
+    const QByteArray pdf = readFile(path);
+    QVERIFY(pdf.contains("/Page") && !pdf.contains("/Subtype /Image"));
 }
 
 void TestCurves::grows()

@@ -204,8 +204,8 @@ private Q_SLOTS:
         QVERIFY(!suits({"A3", {}, {}}, *levelSensorOfTable("D1")));
     }
 
-    // In words: kind, whole litres and how many seconds after the first record the level before was last
-    // seen.
+    // In words: whole litres and how many seconds after the first record the level before was seen last and
+    // the level after first.
     void events_data()
     {
         QTest::addColumn<std::vector<Told>>("records");
@@ -214,17 +214,17 @@ private Q_SLOTS:
         QTest::newRow("nothing") << std::vector<Told>() << "";
         QTest::newRow("one record") << standing({300}) << "";
         QTest::newRow("level") << high << "";
-        QTest::newRow("drain") << standing(times(20, 300) + times(20, 285)) << "-15@1140";
+        QTest::newRow("drain") << standing(times(20, 300) + times(20, 285)) << "-15@1140-1200";
         QTest::newRow("below the threshold") << standing(times(20, 300) + times(20, 290.5)) << "";
-        QTest::newRow("refuelling") << standing(times(20, 100) + times(20, 330)) << "230@1140";
+        QTest::newRow("refuelling") << standing(times(20, 100) + times(20, 330)) << "230@1140-1200";
         QTest::newRow("slow") << standing(times(20, 100) + std::vector<double>{110, 130, 150, 170, 190} +
                                           times(20, 200))
-                              << "100@1140";
+                              << "100@1140-1500";
         QTest::newRow("one wrong level") << standing(times(20, 300) + times(1, 40) + times(20, 300)) << "";
         QTest::newRow("wrong for some minutes")
             << standing(times(20, 300) + times(4, 40) + times(20, 300)) << "";
         QTest::newRow("at the end, once") << standing(times(20, 300) + times(1, 250)) << "";
-        QTest::newRow("behind a gap") << high + standing(times(20, 250), 40'000) << "-50@1140";
+        QTest::newRow("behind a gap") << high + standing(times(20, 250), 40'000) << "-50@1140-40000";
         QTest::newRow("once behind a gap") << high + standing(times(1, 250) + times(20, 300), 40'000) << "";
         // Each tooth is below the threshold, and an engine that burns that much is no reason to add them up.
         std::vector<double> teeth;
@@ -239,7 +239,28 @@ private Q_SLOTS:
         QTest::newRow("burnt") << burnt << "";
         auto jumped = standing(times(20, 300) + times(20, 285));
         std::swap(jumped[3], jumped[35]);
-        QTest::newRow("a clock that jumped") << jumped << "-15@1140";
+        QTest::newRow("a clock that jumped") << jumped << "-15@1140-1200";
+        // Parked at 1200, seen to be still full at 1740 and refuelled by 2280, though the next start follows.
+        std::vector<Told> parked = burnt;
+        parked.resize(20);
+        parked.push_back({1200, 300, 0, kIgnitionOff, false});
+        for (const auto& [second, litres] : {std::pair(1440U, 300), {1740U, 300}, {1980U, 320}})
+            parked.push_back({second, double(litres), 0, 5, false});
+        parked.push_back({2280, 345, 0, kIgnitionOn});
+        for (quint32 i = 1; i < 30; ++i)
+            parked.push_back({2280 + i * 60, 345});
+        QTest::newRow("parked and off again") << parked << "45@1740-2280";
+        std::vector<Told> driven;
+        for (quint32 i = 0; i < 100; ++i)
+            driven.push_back({i * 60, 300 - i * 0.5, 60, 2, true, 30 + i * 0.02});
+        for (const auto& [second, litres] : {std::pair(5970U, 250.5),
+                                             {6060U, 250.5},
+                                             {6360U, 250.5},
+                                             {6590U, 270.0},
+                                             {6890U, 295.0},
+                                             {7190U, 295.0}})
+            driven.push_back({second, litres, 0, second == 5970 ? kIgnitionOff : 5, false, 32});
+        QTest::newRow("behind a drive") << driven << "45@6360-6890";
         // Sensors without ignition give nothing, and wake with half of what is there.
         std::vector<Told> waking = standing(times(20, 300));
         waking.push_back({1200, 300, 0, kIgnitionOff, false});
@@ -261,11 +282,16 @@ private Q_SLOTS:
         const RecordStore store = storeOf(records);
         RecordColumns columns(store);
         QStringList told;
+        const NumberColumn litres = tankLitres(columns, tenfold());
         for (const FuelEvent& event :
-             findFuelEvents(columns, levelMedians(columns, tankLitres(columns, tenfold())), {20, 10})) {
-            told << QStringLiteral("%1@%2").arg(qRound(event.litres())).arg(event.time - kStart);
+             findFuelEvents(columns, litres, levelMedians(columns, litres), {20, 10})) {
+            told << QStringLiteral("%1@%2-%3")
+                        .arg(qRound(event.litres()))
+                        .arg(event.time - kStart)
+                        .arg(event.until - kStart);
             QCOMPARE(event.latitude, 60.0);
             QCOMPARE(columns.times()[std::size_t(event.record)], event.time);
+            QCOMPARE(columns.times()[std::size_t(event.last)], event.until);
         }
         QCOMPARE(told.join(' '), found);
     }
@@ -285,7 +311,8 @@ private Q_SLOTS:
         const RecordStore store = storeOf(records);
         RecordColumns columns(store);
         const NumberColumn litres = tankLitres(columns, tenfold());
-        const Journey journey(columns, litres, findFuelEvents(columns, levelMedians(columns, litres), {}));
+        const Journey journey(columns, litres,
+                              findFuelEvents(columns, litres, levelMedians(columns, litres), {}));
         const JourneySummary sum = journey.summary(0, 4e9);
         QCOMPARE(sum.records, 102);
         QVERIFY(std::isnan(sum.metres) || std::abs(sum.metres - 55'800) < 100); // a degree at 60° north

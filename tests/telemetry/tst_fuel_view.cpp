@@ -142,6 +142,15 @@ private Q_SLOTS:
         QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
         QCOMPARE(QApplication::clipboard()->text().count('\n'), 3);
         QCOMPARE(records_->current(), 5);
+        for (const auto& [key, modifiers, line, record] :
+             {std::tuple(Qt::Key_End, Qt::ControlModifier, 1, 39),
+              {Qt::Key_Home, Qt::ControlModifier, 0, 19},
+              {Qt::Key_End, Qt::NoModifier, 1, 39}}) {
+            QTest::keyClick(table(), key, modifiers);
+            QCOMPARE(records_->current(), record);
+            const QModelIndexList chosen = table()->selectionModel()->selectedRows();
+            QVERIFY(chosen.size() == 1 && chosen.front().row() == line);
+        }
         QCOMPARE(int(view_->litres().size()), 60);
     }
 
@@ -185,6 +194,26 @@ private Q_SLOTS:
         QCOMPARE(table()->model()->rowCount(), rows);
     }
 
+    // Esc asks, and Esc again goes back to the table: what was typed is not lost but by the button.
+    void asksBeforeATypedTableGoes()
+    {
+        whenOpen<QDialog>([](QDialog& dialog) {
+            QTest::keyClicks(dialog.findChild<QLineEdit*>("lineEdit_Param"), "9");
+            auto* line = dialog.findChild<QLineEdit*>("lineEdit_Volume");
+            QTest::keyClicks(line, "1");
+            QTest::keyClick(line, Qt::Key_Return);
+            whenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QVERIFY(dialog.isVisible());
+            answerBox("Discard");
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            QVERIFY(!dialog.isVisible());
+        });
+        QMenu* menu = view_->findChild<QToolButton*>("toolButton_FuelTanks")->menu();
+        Q_EMIT menu->aboutToShow();
+        menu->actions().last()->trigger();
+    }
+
     // A dialog that is given up leaves no dead end: a table can be typed, with either decimal sign.
     void typesATable()
     {
@@ -218,7 +247,6 @@ private Q_SLOTS:
         QCOMPARE(table()->model()->rowCount(), 1);
     }
 
-    // Its scale ends at 1023, all that is above it is an error.
     // What a damaged record shows is not measured: the drain stays, and the list tells of the records left
     // out.
     void leavesOutDamaged()
@@ -239,6 +267,7 @@ private Q_SLOTS:
         QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
     }
 
+    // Its scale ends at 1023, all that is above it is an error.
     void saysThatATableGivesNoVolume()
     {
         choose(file("small.csv", "Level;Volume, l\n1;0\n1000;400\n"));
@@ -282,6 +311,7 @@ private Q_SLOTS:
         QTextDocument sheet;
         view_->writeSheet(sheet);
         QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-61.0"));
+        QVERIFY(sheet.toPlainText().contains("28.05.2026 23:45 – 23:46"));
         QVERIFY(asked.contains(kStart + 20 * 60));
     }
 

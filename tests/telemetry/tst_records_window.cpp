@@ -447,6 +447,37 @@ private Q_SLOTS:
             QCOMPARE(numbers(), QStringList({"1000", "1002"}));
         }
     }
+
+    // The division between curves and table is the user's, whatever size the window takes, and is written
+    // down.
+    void keepsHowTheWindowIsDivided()
+    {
+        show(drive());
+        const QList<QSplitter*> splitters = window->findChildren<QSplitter*>();
+        const auto found = std::find_if(splitters.begin(), splitters.end(), [](const QSplitter* splitter) {
+            return splitter->orientation() == Qt::Vertical;
+        });
+        QVERIFY(found != splitters.end());
+        QSplitter* const places = *found;
+        const auto share = [places] {
+            return double(places->sizes().front()) / (places->sizes().front() + places->sizes().back());
+        };
+        const double before = share();
+        QWidget* const handle = places->handle(1);
+        const QPoint grip = handle->rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, {}, grip);
+        const QPoint to = grip - QPoint(0, 60);
+        QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(handle, &move);
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
+        const double chosen = share();
+        QVERIFY(chosen < before - 0.03);
+        window->resize(window->width(), window->height() + 200);
+        QCoreApplication::processEvents();
+        QVERIFY(qAbs(share() - chosen) < 0.02);
+        const QSettings file(folder_.filePath(".settings/records-places.ini"), QSettings::IniFormat);
+        QVERIFY(qAbs(file.value("curves").toDouble() - chosen) < 0.02);
+    }
 };
 
 QTEST_MAIN(RecordsWindowTest)

@@ -268,6 +268,21 @@ void TestTrack::showsAndMoves()
     std::vector<Fix> again = first;
     again.push_back({kStart + 90, 55.05, 37.1});
     QCOMPARE(pictured(again), pictured(first));
+    // Where the vehicle stood all the time it shows how it came, also where it was too far away for that.
+    const auto isLined = [&pictured](const std::vector<Fix>& fixes) {
+        const QImage picture = pictured(fixes);
+        int lines = 0;
+        // Between the middle and the edge, and between legend and scale.
+        for (int y = picture.height() / 3; y < picture.height() * 2 / 3; ++y)
+            lines += picture.pixel(picture.width() * 5 / 8, y) != qRgb(255, 255, 255);
+        return lines > 0;
+    };
+    const std::vector<Fix> parked{{kStart, 55, 37}, {kStart + 60, 55.00001, 37}};
+    std::vector<Fix> arrived{{kStart - 400, 55, 37.01}, {kStart - 200, 55, 37.005}};
+    arrived.insert(arrived.end(), parked.begin(), parked.end());
+    QVERIFY(isLined(arrived));
+    QVERIFY(!isLined(parked));
+    QVERIFY(isLined({{kStart - 400, 55, 37.01}, {kStart - 200, 55, 37.002}, {kStart + 900, 56, 37}}));
     const QTemporaryDir folder;
     view.saveTo(folder.filePath(QStringLiteral("t.svg")));
     QVERIFY(readFile(folder.filePath(QStringLiteral("t.svg"))).contains("rec_194"));

@@ -52,8 +52,9 @@ private Q_SLOTS:
         for (int seed = kFirstVehicle; seed < kFirstVehicle + kVehicles; ++seed) {
             const DrivenDays driven = drivenDays(seed, kDays, document);
             vlk::RecordColumns columns(driven.records);
-            std::vector<FuelEvent> events = vlk::findFuelEvents(
-                columns, vlk::levelMedians(columns, vlk::tankLitres(columns, bothTanks())), kThresholds);
+            const vlk::NumberColumn level = vlk::tankLitres(columns, bothTanks());
+            std::vector<FuelEvent> events =
+                vlk::findFuelEvents(columns, level, vlk::levelMedians(columns, level), kThresholds);
             for (const Pour& pour : seenPours(driven.pours, sleeps)) {
                 const auto isOfPour = [&](const FuelEvent& event) {
                     return event.time <= pour.until && event.until >= pour.from &&
@@ -87,11 +88,11 @@ private Q_SLOTS:
         const DrivenDays driven =
             drivenDays(77, kDays, readFile(VLK_SOURCE "/workbench/tracker/factory.xml"));
         vlk::RecordColumns columns(driven.records);
-        const std::vector<vlk::LevelMedian> medians =
-            vlk::levelMedians(columns, vlk::tankLitres(columns, bothTanks()));
+        const vlk::NumberColumn litres = vlk::tankLitres(columns, bothTanks());
+        const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
         const double noise = vlk::levelNoise(medians);
         const auto found = [&](double threshold) {
-            return vlk::findFuelEvents(columns, medians, {threshold, threshold}).size();
+            return vlk::findFuelEvents(columns, litres, medians, {threshold, threshold}).size();
         };
         QVERIFY(found(noise) < driven.pours.size() + 5);
         QVERIFY(found(noise / 4) > driven.pours.size() + 30);

@@ -63,6 +63,7 @@ private Q_SLOTS:
         put("days/1.xml", drained.left(page(11)) + "</TMI>\r\n");
         put("days/2.xml", "<TMI model=\"R-7106\">\r\n" + drained.mid(page(10)) + "</TMI>\r\n");
         const QByteArray rows = "<TABLE><DATA param_U='0' param_V='0'/><DATA param_U='400' param_V='4000'/>";
+        put("tank.csv", "Level;Volume, l\n0;0\n4000;400\n");
         put("tank.xml", "<FUEL type='D1'>" + rows + "</TABLE></FUEL>");
         put("short.xml", QByteArray("<FUEL type='D1'>" + rows + "</TABLE></FUEL>")
                              .replace("param_U='400' param_V='4000'", "param_U='260' param_V='2600'"));
@@ -196,6 +197,8 @@ private Q_SLOTS:
             .row("a threshold below the noise", "fuel --fall 5 --table tank.xml noisy.xml", 0, "",
                  "noisy.xml: --fall of 5.0\u00a0l is below the noise of the level, 5.3\u00a0l: expect false "
                  "ones\n")
+            .row("a table that names no sensor", "fuel --table tank.csv week.xml", 2, "",
+                 "tank.csv: the table names no sensor: add --sensor FIELD (week.xml: LevelRS485_1)\n")
             .row("readings beyond the table", "fuel --table short.xml week.xml", 0, "",
                  "week.xml: 10 of 20 readings of LevelRS485_1 are beyond the ends of the calibration table: "
                  "there the volume of the end is taken\n")

@@ -77,6 +77,31 @@ QByteArray eventLine(const Call& call, const File& file, const QString& sensor, 
     return complaint(file.name, told + QStringLiteral(", ") + sensor);
 }
 
+// " (week.xml: LevelRS485_1, LevelRS485_2)": what the first file of telemetry can be asked for; empty where
+// it cannot be told.
+QString sensorsToChoose(const Call& call)
+{
+    constexpr int mostRecords = 50'000;
+    FileWalk walk(call.files);
+    while (const std::optional<File> file = walk.next()) {
+        QFile device(file->name);
+        if (file->isStandardInput() || !device.open(QIODevice::ReadOnly) ||
+            kindOf(device.peek(kBeginning)) != FileKind::telemetry)
+            continue;
+        vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
+        while (reader.contents().records.size() < mostRecords && reader.step())
+            ;
+        vlk::RecordColumns columns(reader.contents().records);
+        QStringList elements;
+        for (const vlk::LevelSensor* sensor : vlk::sensorsIn(columns))
+            elements << QString::fromStdString(std::string(sensor->element()));
+        return elements.isEmpty() ? QString()
+                                  : QStringLiteral(" (%1: %2)")
+                                        .arg(readable(file->name), elements.join(QLatin1String(", ")));
+    }
+    return {};
+}
+
 // The sensors of the call with their tables; an outcome with failed where they do not go together.
 Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
 {
@@ -115,7 +140,7 @@ Outcome takeTanks(const Call& call, std::vector<TankSensor>* tanks)
         if (!sensor)
             sensor = vlk::levelSensorOfTable(table.sensor);
         if (!sensor)
-            return refuse(call.tables[i], text("cli_242"));
+            return refuse(call.tables[i], text("cli_242") + sensorsToChoose(call));
         if (isTaken(sensor))
             return refuse(call.tables[i], text("cli_031").arg(QLatin1String(sensor->element().data())));
         const QString field = QLatin1String(sensor->element().data());
@@ -179,7 +204,8 @@ public:
         warnOfEnds(files.front(), columns);
         const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
         warnOfNoise(files.front(), vlk::levelNoise(medians));
-        for (const FuelEvent& event : vlk::findFuelEvents(columns, medians, {call_.rise, call_.fall})) {
+        for (const FuelEvent& event :
+             vlk::findFuelEvents(columns, litres, medians, {call_.rise, call_.fall})) {
             outcome_.told += eventLine(call_, partOf(event.record).file, sensor, event);
             outcome_.status = std::max<int>(outcome_.status, found);
         }

@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <iterator>
 
 namespace vlk {
 
@@ -17,6 +18,7 @@ namespace {
 constexpr int kSampleWidth = 24;
 constexpr int kSampleMargin = 4;
 constexpr int kEntryMargin = 12;
+constexpr int kLeastLetters = 10;
 constexpr int kLegendPadding = 4;
 
 } // namespace
@@ -74,8 +76,21 @@ std::vector<QRect> CurveLegend::places(int width) const
     }
     if (isWrapped_ || x <= width)
         return places;
-    for (int place = 0; place < count; ++place)
-        places[place] = QRect(width * place / count, 0, width / count, height);
+    // Short names stay whole, the others get what is left in equal parts.
+    std::vector<int> needed;
+    std::ranges::transform(places, std::back_inserter(needed), &QRect::width);
+    std::ranges::sort(needed);
+    int left = width;
+    int most = 0;
+    for (int place = 0; place < count; ++place) {
+        most = std::max(left / (count - place), 0);
+        left -= std::min(needed[place], most);
+    }
+    x = 0;
+    for (QRect& place : places) {
+        place = {x, 0, std::min(place.width(), most), height};
+        x += place.width();
+    }
     return places;
 }
 
@@ -89,6 +104,13 @@ int CurveLegend::widthOfAll() const
     for (int place = 0; place < static_cast<int>(model_->curves().size()); ++place)
         width += kSampleWidth + kSampleMargin + metrics.horizontalAdvance(textOf(place)) + kEntryMargin;
     return width;
+}
+
+int CurveLegend::leastWidth() const
+{
+    const int least =
+        kSampleWidth + kSampleMargin + kLeastLetters * fontMetrics().averageCharWidth() + kEntryMargin;
+    return least * static_cast<int>(model_->curves().size());
 }
 
 QSize CurveLegend::sizeHint() const

@@ -19,6 +19,8 @@ public:
 
     // That the entries need on one line.
     int widthOfAll() const;
+    // With which something is left of each name.
+    int leastWidth() const;
     QSize sizeHint() const override;
     int heightForWidth(int width) const override;
 

@@ -6,7 +6,11 @@
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
 
+#include <QBuffer>
 #include <QLabel>
+#include <QPainter>
+#include <QSvgGenerator>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 
 namespace vlk {
@@ -45,7 +49,19 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     // So that all have their places before they are painted.
     sheet.show();
     plot->refresh();
-    sheet.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    if (painter.device()->devType() != QInternal::Printer)
+        return sheet.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    // A widget would give a printer an image of itself.
+    QBuffer lines;
+    QSvgGenerator svg;
+    svg.setOutputDevice(&lines);
+    svg.setResolution(sheet.logicalDpiX()); // or letters take less than the room that they have
+    svg.setSize(size);
+    svg.setViewBox(QRect(QPoint(), size));
+    QPainter onto(&svg);
+    sheet.render(&onto, QPoint(), QRegion(), QWidget::DrawChildren);
+    onto.end();
+    QSvgRenderer(lines.data()).render(&painter, QRectF(QPointF(), size));
 }
 
 } // namespace vlk

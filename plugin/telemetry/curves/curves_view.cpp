@@ -22,15 +22,18 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
 
 constexpr int kLeastPlot = 60;
+constexpr int kLowCurves = 300;
 constexpr int kToolSpacing = 8;
 constexpr int kSideMargin = 6;
 constexpr QSize kCurvesSize(640, 240);
-constexpr int kStripShare = 4; // of the height, one in
+constexpr int kStripShare = 3; // of the height, one in
 
 constexpr int kChosen = -1;
 
@@ -131,13 +134,16 @@ void CurvesView::resizeEvent(QResizeEvent*)
     fitLegend();
 }
 
-// Names that have no room beside the buttons stand below them, whole.
+// Names that have no room beside the buttons stand below them, whole; shortened beside them where that would
+// take the room of low curves.
 void CurvesView::fitLegend()
 {
     const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
                       cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
                       handOverMenu_->sizeHint().width() + 5 * kToolSpacing;
-    const bool hasRoom = legend_->widthOfAll() <= contentsRect().width() - taken - 2 * kSideMargin;
+    const int needed = height() < kLowCurves ? std::min(legend_->leastWidth(), legend_->widthOfAll())
+                                             : legend_->widthOfAll();
+    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * kSideMargin;
     legend_->setVisible(hasRoom);
     longLegend_->setHidden(hasRoom);
 }

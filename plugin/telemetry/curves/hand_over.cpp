@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDesktopWidget>
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
@@ -16,6 +17,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSvgGenerator>
+#include <QTextDocument>
 
 namespace vlk {
 
@@ -37,6 +39,7 @@ QByteArray svgOf(const PaintPicture& paint)
     QBuffer buffer;
     QSvgGenerator svg;
     svg.setOutputDevice(&buffer);
+    svg.setResolution(QApplication::desktop()->logicalDpiX()); // as of the widgets that are painted
     svg.setSize(kPictureSize);
     svg.setViewBox(QRect(QPoint(), kPictureSize));
     QPainter painter(&svg);
@@ -124,25 +127,52 @@ void HandOver::askTable(const QString& proposed, const WriteContent& write)
         saveTable(path, write);
 }
 
+bool HandOver::askPrinter(QPrinter& printer)
+{
+    QPrintDialog dialog(&printer, window_);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+void HandOver::tellPrinted(const QPrinter& printer)
+{
+    if (!bar_)
+        return;
+    if (printer.printerState() == QPrinter::Error)
+        return bar_->tell(kHandedOver, [] { return Notice{Mark::invalid, translated("rec_172"), {}}; });
+    bar_->tellNews(kHandedOver, [file = QDir::toNativeSeparators(printer.outputFileName())] {
+        return Notice{
+            Mark::right, file.isEmpty() ? translated("rec_464") : translated("rec_170").arg(file), {}};
+    });
+}
+
 void HandOver::print(const PaintPicture& paint)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(QPageLayout::Landscape);
-    QPrintDialog dialog(&printer, window_);
-    if (dialog.exec() != QDialog::Accepted)
+    if (!askPrinter(printer))
         return;
     QPainter painter;
-    if (!painter.begin(&printer)) {
-        if (bar_)
-            bar_->tell(kHandedOver, [] { return Notice{Mark::invalid, translated("rec_172"), {}}; });
-        return;
+    if (painter.begin(&printer)) {
+        // The picture as it is on a screen, as large as the page.
+        const QRect page = painter.viewport();
+        const double scale = std::min(double(page.width()) / kPictureSize.width(),
+                                      double(page.height()) / kPictureSize.height());
+        painter.scale(scale, scale);
+        paintInPixels(painter, paint);
+        painter.end();
     }
-    // The picture as it is on a screen, as large as the page.
-    const QRect page = painter.viewport();
-    const double scale =
-        std::min(double(page.width()) / kPictureSize.width(), double(page.height()) / kPictureSize.height());
-    painter.scale(scale, scale);
-    paintInPixels(painter, paint);
+    tellPrinted(printer);
+}
+
+void HandOver::print(const std::function<void(QTextDocument& document)>& write)
+{
+    QPrinter printer;
+    if (!askPrinter(printer))
+        return;
+    QTextDocument document;
+    write(document);
+    document.print(&printer);
+    tellPrinted(printer);
 }
 
 QPalette paperPalette()

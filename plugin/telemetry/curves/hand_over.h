@@ -8,7 +8,11 @@
 #include <QObject>
 #include <QSize>
 
+#include <functional>
+
 class QPainter;
+class QPrinter;
+class QTextDocument;
 class QWidget;
 
 namespace vlk {
@@ -37,8 +41,13 @@ public:
     void askPicture(const QString& proposed, const PaintPicture& paint);
     void askTable(const QString& proposed, const WriteContent& write);
     void print(const PaintPicture& paint);
+    // `write` fills the document when it is sure to be printed.
+    void print(const std::function<void(QTextDocument& document)>& write);
 
 private:
+    // False where the user gave it up.
+    bool askPrinter(QPrinter& printer);
+    void tellPrinted(const QPrinter& printer);
     void save(const QString& path, const WriteContent& write);
     QString askPath(const QString& proposed, const QStringList& suffixes);
 

@@ -37,6 +37,9 @@ constexpr double kHeld = 0.6;
 constexpr double kBarrier = 0.3;
 // Seconds, in which nobody stops, pours and drives off.
 constexpr double kShortestStop = 120;
+// Litres by which a level that is the same may differ, and the share of the change by which it may.
+constexpr double kSameLevel = 0.5;
+constexpr double kSameShare = 0.05;
 // From here on a pause between records may hide a drive. Seconds, degrees.
 constexpr double kLongPause = 900;
 constexpr double kSamePlace = 0.005;
@@ -48,8 +51,10 @@ constexpr int kForwards = 1;
 class EventFinder
 {
 public:
-    EventFinder(const std::vector<LevelMedian>& medians, const FuelThresholds& thresholds)
-        : medians_(medians), thresholds_(thresholds), walls_(medians_.size(), false)
+    EventFinder(RecordColumns& columns, const NumberColumn& litres, const std::vector<LevelMedian>& medians,
+                const FuelThresholds& thresholds)
+        : times_(columns.times()), litres_(litres), byTime_(recordsByTime(columns)), medians_(medians),
+          thresholds_(thresholds), walls_(medians_.size(), false)
     {
         learnBurning();
         burnt_.assign(medians_.size(), 0);
@@ -262,16 +267,49 @@ private:
         const auto isHeld = [litres](double part) { return part / litres >= kHeld; };
         if (!was.isSure() || !stays.isSure() || !isHeld(after - was.litres) || !isHeld(stays.litres - before))
             return {};
-        const LevelMedian& one = medians_[step.from];
-        const LevelMedian& other = medians_[step.to];
-        return FuelEvent{one.last,
-                         other.first,
-                         static_cast<quint32>(one.until),
-                         static_cast<quint32>(other.from),
-                         before,
-                         after,
-                         kNowhere,
-                         kNowhere};
+        const auto [record, last] = ends(medians_[step.from], medians_[step.to], litres);
+        return FuelEvent{record, last, times_[record], times_[last], before, after, kNowhere, kNowhere};
+    }
+
+    int placeOf(int record) const
+    {
+        const auto time = [this](int each) { return times_[each]; };
+        const auto first = std::ranges::lower_bound(byTime_, times_[record], {}, time);
+        return static_cast<int>(std::ranges::find(first, byTime_.end(), record) - byTime_.begin());
+    }
+
+    // The record with the level of `median` that is next to the change, as a person finds it: not one that is
+    // on the way already, and one that no median counts if it says the same. `direction`: to the change;
+    // `end`: the record there that is none of it.
+    int endOf(const LevelMedian& median, int direction, int end, double change) const
+    {
+        const auto [outermost, innermost] = direction == kForwards ? std::pair(median.first, median.last)
+                                                                   : std::pair(median.last, median.first);
+        int place = placeOf(innermost);
+        const double most = std::max(kSameLevel, kSameShare * std::abs(change));
+        const double sign = std::copysign(1, direction * change);
+        const auto isOnTheWay = [&](double litres) {
+            return std::isnan(litres) || (litres - median.litres) * sign > most;
+        };
+        // Of a vehicle in motion all levels swing.
+        while (!median.moves && byTime_[place] != outermost && isOnTheWay(litres_[byTime_[place]]))
+            place -= direction;
+        int record = byTime_[place];
+        const double level = litres_[record];
+        for (place += direction; byTime_[place] != end; place += direction) {
+            const double other = litres_[byTime_[place]];
+            if (std::abs(other - level) > kSameLevel)
+                break;
+            if (!std::isnan(other))
+                record = byTime_[place];
+        }
+        return record;
+    }
+
+    std::pair<int, int> ends(const LevelMedian& one, const LevelMedian& other, double change) const
+    {
+        const int record = endOf(one, kForwards, other.first, change);
+        return {record, endOf(other, kBackwards, record, change)};
     }
 
     // What of a refuelling was burnt again before a level told it: where the engine runs behind a pause it
@@ -296,6 +334,9 @@ private:
         return burnt;
     }
 
+    const std::vector<quint32>& times_;
+    const NumberColumn& litres_;
+    const std::vector<int> byTime_;
     const std::vector<LevelMedian>& medians_;
     const FuelThresholds thresholds_;
     std::array<double, 2> burning_{}; // litres a second, standing and moving
@@ -321,12 +362,13 @@ void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)
 
 } // namespace
 
-std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const std::vector<LevelMedian>& medians,
+std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
+                                      const std::vector<LevelMedian>& medians,
                                       const FuelThresholds& thresholds)
 {
     if (medians.empty())
         return {};
-    std::vector<FuelEvent> events = EventFinder(medians, thresholds).find();
+    std::vector<FuelEvent> events = EventFinder(columns, litres, medians, thresholds).find();
     tellPlaces(columns, events);
     return events;
 }

@@ -21,7 +21,7 @@ struct FuelThresholds
 
 struct FuelEvent
 {
-    int record; // the last one with the level before
+    int record; // the last one with the level before, as a person finds it
     int last;   // the first one with the level after
     quint32 time;
     quint32 until;
@@ -34,8 +34,9 @@ struct FuelEvent
     double litres() const { return after - before; } // with its sign
 };
 
-// By time. `medians`: of these records.
-std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const std::vector<LevelMedian>& medians,
+// By time. `litres` and their `medians`: of these records.
+std::vector<FuelEvent> findFuelEvents(RecordColumns& columns, const NumberColumn& litres,
+                                      const std::vector<LevelMedian>& medians,
                                       const FuelThresholds& thresholds);
 
 } // namespace vlk

@@ -130,6 +130,8 @@ QVariant FuelListModel::headerData(int section, Qt::Orientation orientation, int
         return QVariant(
             (section == Before || section == After || section == Litres ? Qt::AlignRight : Qt::AlignLeft) |
             Qt::AlignVCenter);
+    if (role == Qt::ToolTipRole && section == Time)
+        return tr("rec_465");
     if (role != Qt::DisplayRole)
         return {};
     const QString head = tr(kHeads[section]);

@@ -30,6 +30,15 @@ QString paragraph(const QString& text)
     return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
 }
 
+// From the last record with the level before to the first one with the level after.
+QString spanText(const FuelEvent& event, qint32 utcOffset)
+{
+    const bool isOneDay = listDay(event.time, utcOffset) == listDay(event.until, utcOffset);
+    return QStringLiteral("%1 – %2").arg(listTime(event.time, utcOffset),
+                                         isOneDay ? momentText(event.until, utcOffset, "HH:mm")
+                                                  : listTime(event.until, utcOffset));
+}
+
 QString picture(QTextDocument& document, const QString& name, const QImage& image)
 {
     if (image.isNull())
@@ -63,11 +72,11 @@ void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet)
     double drained = 0;
     for (const FuelEvent& event : sheet.events) {
         (event.isRefuelling() ? refuelled : drained) += std::abs(event.litres());
-        html += cells({translated(event.isRefuelling() ? "rec_240" : "rec_241"),
-                       listTime(event.time, sheet.utcOffset), numberText(event.before, 1),
-                       numberText(event.after, 1), signedText(event.litres(), 1),
-                       placeText(event.latitude, event.longitude)},
-                      "td");
+        html +=
+            cells({translated(event.isRefuelling() ? "rec_240" : "rec_241"), spanText(event, sheet.utcOffset),
+                   numberText(event.before, 1), numberText(event.after, 1), signedText(event.litres(), 1),
+                   placeText(event.latitude, event.longitude)},
+                  "td");
     }
     html += QStringLiteral("</table>") +
             paragraph(translated("rec_260").arg(numberText(refuelled, 1), numberText(drained, 1)));

@@ -18,12 +18,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QTableView>
-#include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -120,7 +117,8 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
             [this](const QModelIndex& index) { look(index.row()); });
     connect(table_, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { zoom(index.row()); });
-    connect(print_, &QPushButton::clicked, this, &FuelView::print);
+    connect(print_, &QPushButton::clicked, this,
+            [this] { handOver_->print([this](QTextDocument& document) { writeSheet(document); }); });
     connect(empty_, &EmptyNote::pressed, tanks_, &QToolButton::showMenu);
     retranslate();
     refreshRecords();
@@ -204,7 +202,7 @@ void FuelView::find()
         return;
     std::vector<FuelEvent> events;
     if (!litres_.empty())
-        events = findFuelEvents(records_.columns(), medians_, {rise_->value(), fall_->value()});
+        events = findFuelEvents(records_.columns(), litres_, medians_, {rise_->value(), fall_->value()});
     setEvents(std::move(events));
     table_->resizeColumnsToContents();
     showState();
@@ -242,11 +240,21 @@ bool FuelView::eventFilter(QObject* watched, QEvent* event)
     const int line = table_->currentIndex().row();
     if (event->type() != QEvent::KeyPress || line < 0)
         return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
-        return QWidget::eventFilter(watched, event);
-    zoom(line);
-    return true;
+    const auto& press = static_cast<const QKeyEvent&>(*event);
+    const int key = press.key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        zoom(line);
+        return true;
+    }
+    // With Ctrl the table would go there and leave what is chosen, without it go along the line.
+    if ((key == Qt::Key_Home || key == Qt::Key_End) && !press.modifiers().testFlag(Qt::ShiftModifier)) {
+        const int end = key == Qt::Key_Home ? 0 : model_->rowCount() - 1;
+        table_->selectionModel()->setCurrentIndex(model_->index(end, table_->currentIndex().column()),
+                                                  QItemSelectionModel::ClearAndSelect |
+                                                      QItemSelectionModel::Rows);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 // Half an hour round the chosen event, or all that is in sight.
@@ -272,17 +280,6 @@ void FuelView::writeSheet(QTextDocument& document) const
                               whole.to,
                               curve_ ? curve_(span, kCurvePicture) : QImage(),
                               track_ ? track_(span, kTrackPicture) : QImage()});
-}
-
-void FuelView::print()
-{
-    QPrinter printer;
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    QTextDocument document;
-    writeSheet(document);
-    document.print(&printer);
 }
 
 void FuelView::retranslate()

@@ -71,7 +71,6 @@ private:
     void setEvents(std::vector<FuelEvent> found);
     void look(int line);
     void zoom(int line);
-    void print();
     void showState();
     // Thresholds that are too low for the sensor, with a mark on their fields.
     QStringList markLowThresholds() const;

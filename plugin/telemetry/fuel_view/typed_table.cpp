@@ -2,7 +2,6 @@
 
 #include "base/clock.h"
 #include "fuel/form_fuel_sensor.h"
-#include "fuel/question.h"
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "telemetry/fuel/fuel_curve.h"
@@ -13,6 +12,7 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -88,11 +88,22 @@ void TypedTable::accept()
     QDialog::accept();
 }
 
+// Another Esc goes back to the table.
 void TypedTable::reject()
 {
-    if (form_->rows() == given_ || !agrees(this, tr("cfgt6_038"), "wrd_002"))
+    if (form_->rows() == given_)
         return QDialog::reject();
-    accept();
+    QMessageBox box(QMessageBox::Question, windowTitle(), tr("rec_463"), QMessageBox::NoButton, this);
+    const auto* const save = box.addButton(tr("rec_416"), QMessageBox::AcceptRole);
+    const auto* const discard = box.addButton(tr("cfgt6_407"), QMessageBox::DestructiveRole);
+    auto* const cancel = box.addButton(tr("wrd_031"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == save)
+        accept();
+    else if (box.clickedButton() == discard)
+        QDialog::reject();
 }
 
 } // namespace vlk

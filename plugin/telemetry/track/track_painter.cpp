@@ -19,6 +19,7 @@ namespace vlk {
 namespace {
 
 constexpr double kFitMargin = 40;
+constexpr double kFitShare = 0.12;   // of little room
 constexpr double kFinestScale = 0.1; // metres a pixel
 constexpr int kManyLines = 20'000;   // more of them are drawn thin, which is ten times as fast
 constexpr double kLongestBar = 140;
@@ -346,7 +347,7 @@ private:
 TrackSight sightOf(const QRectF& bounds, const QSizeF& size)
 {
     const auto scale = [](double metres, double pixels) {
-        return metres / std::max(pixels - 2 * kFitMargin, 1.0);
+        return metres / std::max(pixels - 2 * std::min(kFitMargin, kFitShare * pixels), 1.0);
     };
     return {bounds.center(), std::max({scale(bounds.width(), size.width()),
                                        scale(bounds.height(), size.height()), kFinestScale})};

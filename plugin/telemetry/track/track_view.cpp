@@ -9,12 +9,16 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
+#include <QLineF>
 #include <QLocale>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace vlk {
 
@@ -22,6 +26,61 @@ namespace {
 
 constexpr int kPlaceDecimals = 6;
 constexpr int kTitleHeight = 30;
+// Metres. A part of the track within less shows how the vehicle came there and left, up to so far away.
+constexpr double kLeastSurroundings = 1000;
+constexpr double kWidestSurroundings = 3000;
+
+struct TrackPart
+{
+    TimeSpan span;
+    QRectF bounds;
+};
+
+TrackPart partIn(const TrackPath& path, const TimeSpan& span)
+{
+    const TrackPath::Points points = path.points();
+    const auto count = static_cast<int>(points.size());
+    TrackPart part{span, {}};
+    const auto take = [&](int point, bool isFirst) {
+        unite(part.bounds, path.place(point), isFirst);
+        const double time = points[point].time;
+        part.span = {std::min(part.span.from, time), std::max(part.span.to, time)};
+    };
+    if (count == 0)
+        return part;
+    int byThen = 0;
+    int first = -1;
+    int last = -1;
+    for (int point = 0; point < count; ++point) {
+        const double time = points[point].time;
+        if (time <= span.to)
+            byThen = point;
+        if (!span.contains(time))
+            continue;
+        take(point, last < 0);
+        first = first < 0 ? point : first;
+        last = point;
+    }
+    if (last < 0)
+        take(first = last = byThen, true);
+    const auto extent = [&part] { return std::max(part.bounds.width(), part.bounds.height()); };
+    if (extent() >= kLeastSurroundings)
+        return part;
+    const QPointF middle = part.bounds.center();
+    for (const int step : {-1, 1}) {
+        double away = 0;
+        for (int point = step < 0 ? first - 1 : last + 1;
+             point >= 0 && point < count && away < kLeastSurroundings / 2; point += step) {
+            away = QLineF(middle, path.place(point)).length();
+            if (away > kWidestSurroundings)
+                break;
+            take(point, false);
+        }
+    }
+    const double missing = std::max(kLeastSurroundings - extent(), 0.0) / 2;
+    part.bounds.adjust(-missing, -missing, missing, missing);
+    return part;
+}
 
 } // namespace
 
@@ -47,12 +106,15 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     layout->addWidget(columns_, 0, 1);
     layout->addWidget(fit_, 0, 2);
     layout->addWidget(handOverMenu_, 0, 3);
-    layout->addWidget(spanOnly_, 1, 0, 1, 4);
-    layout->addWidget(canvas_, 2, 0, 1, 4);
-    layout->addWidget(place_, 3, 0, 1, 4);
+    layout->addWidget(canvas_, 1, 0, 1, 4);
+    auto* const below = new QHBoxLayout;
+    below->addWidget(place_, 1);
+    below->addWidget(spanOnly_);
+    layout->addLayout(below, 2, 0, 1, 4);
     layout->setColumnStretch(1, 1);
-    layout->setRowStretch(2, 1);
+    layout->setRowStretch(1, 1);
     setFocusProxy(canvas_);
+    setTabOrder(canvas_, spanOnly_);
 
     connect(columns_, qOverload<int>(&QComboBox::activated), this, &TrackView::showColumn);
     connect(spanOnly_, &QCheckBox::toggled, model_, &TrackModel::setSpanOnly);
@@ -144,13 +206,8 @@ QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(kPicturePixels, kPicturePixels);
-    QRectF bounds;
-    bool isFirst = true;
-    for (int point = 0; point < static_cast<int>(model_->path().points().size()); ++point) {
-        if (span.contains(model_->path().points()[point].time))
-            unite(bounds, model_->path().place(point), std::exchange(isFirst, false));
-    }
-    paintTrack(painter, size, *model_, sightOf(bounds, size), span, paperPalette());
+    const TrackPart part = partIn(model_->path(), span);
+    paintTrack(painter, size, *model_, sightOf(part.bounds, size), part.span, paperPalette());
     return image;
 }
 

@@ -1,15 +1,30 @@
 #include "telemetry/view/records_places.h"
 
+#include "telemetry/view/records_memory.h"
+
+#include <QFile>
+#include <QSettings>
 #include <QTabWidget>
 
 #include <algorithm>
+#include <numeric>
 
 namespace vlk {
 
 namespace {
 
-constexpr int kTableShare = 3; // of the width, against that of the views
-constexpr int kViewsShare = 2;
+constexpr double kCurvesShare = 0.52; // of the height
+constexpr double kTableShare = 0.4;   // of the width
+constexpr const char* kPlacesFile = "records-places.ini";
+
+double keptShare(const char* name, double share)
+{
+    const QString file = recordsMemory(kPlacesFile);
+    if (file.isEmpty() || !QFile::exists(file))
+        return share;
+    return std::clamp(QSettings(file, QSettings::IniFormat).value(QLatin1String(name), share).toDouble(), 0.0,
+                      1.0);
+}
 
 } // namespace
 
@@ -29,13 +44,43 @@ RecordsPlaces::RecordsPlaces(QWidget* table, std::vector<RecordsPart> parts, QWi
             views_ = new QTabWidget;
             views_->setObjectName(QStringLiteral("tabWidget_Views"));
             below->addWidget(views_);
-            below->setStretchFactor(0, kTableShare);
-            below->setStretchFactor(1, kViewsShare);
         }
         views_->addTab(part.widget, QString());
     }
     addWidget(below);
+    if (count() > 1)
+        divisions_.push_back({this, "curves", keptShare("curves", kCurvesShare)});
+    if (views_)
+        divisions_.push_back({below, "table", keptShare("table", kTableShare)});
+    for (Division& division : divisions_)
+        connect(division.splitter, &QSplitter::splitterMoved, this,
+                [this, place = &division] { keep(place); });
     retranslate();
+}
+
+void RecordsPlaces::Division::apply() const
+{
+    constexpr int whole = 10'000;
+    const int first = qRound(whole * share);
+    splitter->setSizes({first, whole - first});
+}
+
+void RecordsPlaces::resizeEvent(QResizeEvent* event)
+{
+    QSplitter::resizeEvent(event);
+    for (const Division& division : divisions_)
+        division.apply();
+}
+
+void RecordsPlaces::keep(Division* division)
+{
+    const QList<int> sizes = division->splitter->sizes();
+    const int room = std::accumulate(sizes.begin(), sizes.end(), 0);
+    if (room == 0)
+        return;
+    division->share = double(sizes.front()) / room;
+    if (const QString file = recordsMemory(kPlacesFile); !file.isEmpty())
+        QSettings(file, QSettings::IniFormat).setValue(QLatin1String(division->name), division->share);
 }
 
 void RecordsPlaces::setName(const QString& name)

@@ -1,7 +1,7 @@
 #pragma once
 
 // The places of the window of records: above what is seen against time, below the table and at its right the
-// other views as tabs. A place without a part takes no room.
+// other views as tabs. A place without a part takes no room. How the user divided the room is kept.
 
 #include "telemetry/view/records_parts.h"
 
@@ -27,9 +27,25 @@ public:
     // Null without views.
     QTabWidget* views() const { return views_; }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    // How much of a splitter its first place has; of the room of both.
+    struct Division
+    {
+        QSplitter* splitter;
+        const char* name; // in the file
+        double share;
+
+        void apply() const;
+    };
+
+    void keep(Division* division);
+
     std::vector<RecordsPart> parts_;
     QTabWidget* views_ = nullptr;
+    std::vector<Division> divisions_;
 };
 
 } // namespace vlk
