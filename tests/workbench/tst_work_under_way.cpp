@@ -101,6 +101,54 @@ private Q_SLOTS:
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
     }
 
+    // What blocks an engine on the road is asked for first, and nothing is sent without a yes.
+    void asksBeforeItSwitchesOnTheRoad_data()
+    {
+        DataTable<bool, bool, bool, QString>({"moves", "ignition", "silence", "asked"})
+            .row("driving", true, true, false,
+                 "is moving at [1-9]\\d*\u00A0km/h\\. Output 1 will be switched on")
+            .row("idling", false, true, false, "^The ignition is on\\. Output 1 will be switched on")
+            .row("parked", false, false, false, "")
+            .row("silent", true, true, true,
+                 "could not be read from the tracker\\. Output 1 will be switched on");
+    }
+    void asksBeforeItSwitchesOnTheRoad()
+    {
+        QFETCH(bool, moves);
+        QFETCH(bool, ignition);
+        QFETCH(bool, silence);
+        QFETCH(QString, asked);
+        Bench bench;
+        bench.prepare(Live);
+        // The next minute of that kind.
+        const auto fits = [&] {
+            const std::optional<tracker::Present> present = bench.tracker().readPresent();
+            return present && (present->speed >= 1) == moves && present->ignition == ignition;
+        };
+        QDateTime time = QDateTime::currentDateTimeUtc();
+        for (int minute = 0; minute < 2 * 24 * 60 && !fits(); ++minute) {
+            time = time.addSecs(60);
+            bench.tracker().setClock([time] { return time; });
+        }
+        QVERIFY(fits());
+        bench.tracker().setFaults({.silence = silence});
+        bench.agrees = false;
+        bench.take(Output);
+        const QString result = asked.isEmpty() ? QStringLiteral("Output 1 is switched on")
+                                               : QStringLiteral("nothing was sent to the tracker");
+        QTRY_VERIFY2(bench.status().contains(result), qPrintable(bench.everything()));
+        QCOMPARE(bench.boxes.size(), asked.isEmpty() ? 0 : 1);
+        bench.tracker().setFaults({});
+        QCOMPARE(bench.tracker().readPresent()->outputs & 1, asked.isEmpty() ? 1 : 0);
+        if (asked.isEmpty())
+            return;
+        QVERIFY2(bench.boxes.first().contains(QRegularExpression(asked)), qPrintable(bench.boxes.first()));
+        QCOMPARE(bench.over, Bench::telemetry());
+        bench.agrees = true;
+        bench.take(Output);
+        QTRY_VERIFY(bench.tracker().readPresent()->outputs & 1);
+    }
+
     // Who presses on in a silence is told of it again, with the offer to end the save.
     void refusalGivesWayToSilence()
     {
