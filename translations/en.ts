@@ -1700,6 +1700,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_460"><translation>This record is damaged in the file. What it shows counts as measured nowhere; values that could not be read show as 0.</translation></message>
     <message id="rec_461"><translation>Damaged records left out: %1.</translation></message>
     <message id="rec_462"><translation>Damaged records of the file, left out here: %1. What happened only in them is not in the list.</translation></message>
+    <message id="rec_463"><translation>Part of a period: in front of the last record %1 are missing, between No.&#160;%2 and No.&#160;%3.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

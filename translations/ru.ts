@@ -1700,6 +1700,7 @@
     <message id="rec_460"><translation>Эта запись в файле повреждена. Её значения нигде не учитываются; те, что не прочитались, показаны как 0.</translation></message>
     <message id="rec_461"><translation>Повреждённые записи пропущены: %1.</translation></message>
     <message id="rec_462"><translation>Повреждённые записи файла, здесь не учтены: %1. Того, что было только в них, в списке нет.</translation></message>
+    <message id="rec_463"><translation>Часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3).</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
