@@ -991,7 +991,7 @@
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
-    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1 (№&#160;%2)</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1.</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
     <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
@@ -1005,6 +1005,11 @@
     <message id="cfgt6_421"><translation>Отменить вставку</translation></message>
     <message id="cfgt6_422"><translation>Показание ещё меняется: с %1 на %2. Добавьте точку, когда уровень успокоится.</translation></message>
     <message id="cfgt6_423"><translation>Добавлено, пока показание ещё менялось: с %1 на %2. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
+    <message id="cfgt6_424"><translation>№&#160;%1</translation></message>
+    <message id="cfgt6_425"><translation>не число</translation></message>
+    <message id="cfgt6_426"><translation>вне диапазона</translation></message>
+    <message id="cfgt6_427"><translation>слишком много десятичных знаков</translation></message>
+    <message id="cfgt6_428"><translation>строк больше, чем вместит таблица</translation></message>
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
@@ -2026,7 +2031,7 @@
     <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
     <message id="tmiw_266"><translation>Трекер был отключён.</translation></message>
     <message id="tmiw_267"><translation>Отметьте серверы, записи для которых нужно очистить.</translation></message>
-    <message id="tmiw_268"><translation>Изменённое сохранит Ctrl+S.</translation></message>
+    <message id="tmiw_268"><translation>Изменённое сохранит кнопка «%1» над таблицей или Ctrl+S.</translation></message>
     <message id="tmiw_269"><translation>Тот же объём, что строкой выше. В трекере считается только нижняя строка.</translation></message>
     <message id="tmiw_270"><translation>То же показание, что строкой выше, при другом объёме. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
     <message id="tmiw_271"><translation>нет прав доступа</translation></message>
