@@ -2675,11 +2675,11 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_output_ignition"><translation>The ignition is on.</translation></message>
     <message id="wb_output_moving"><translation>The vehicle is moving at %1&#160;km/h.</translation></message>
     <message id="wb_output_off"><translation>Output %1 is switched off.</translation></message>
-    <message id="wb_output_off_question"><translation>Output %1 will be switched off at once. If it blocks the engine, this is dangerous on the road. Switch it off?</translation></message>
+    <message id="wb_output_off_question"><translation>Output %1 will be switched off at once. If it blocks the engine, the engine may stop on the road. Switch it off?</translation></message>
     <message id="wb_output_off_unknown"><translation>Output %1 was told to switch off, but the tracker did not confirm it. Compare it with the next record.</translation></message>
     <message id="wb_output_off_verb"><translation>&amp;Switch off</translation></message>
     <message id="wb_output_on"><translation>Output %1 is switched on.</translation></message>
-    <message id="wb_output_on_question"><translation>Output %1 will be switched on at once. If it blocks the engine, this is dangerous on the road. Switch it on?</translation></message>
+    <message id="wb_output_on_question"><translation>Output %1 will be switched on at once. If it blocks the engine, the engine may stop on the road. Switch it on?</translation></message>
     <message id="wb_output_on_unknown"><translation>Output %1 was told to switch on, but the tracker did not confirm it. Compare it with the next record.</translation></message>
     <message id="wb_output_on_verb"><translation>&amp;Switch on</translation></message>
     <message id="wb_plugin_foreign"><translation>The library %1 is not a tracker plug-in.</translation></message>

@@ -2675,11 +2675,11 @@
     <message id="wb_output_ignition"><translation>Зажигание включено.</translation></message>
     <message id="wb_output_moving"><translation>Автомобиль движется, скорость %1&#160;км/ч.</translation></message>
     <message id="wb_output_off"><translation>Выход %1 выключен.</translation></message>
-    <message id="wb_output_off_question"><translation>Выход %1 будет выключен сразу. Если он блокирует двигатель, на дороге это опасно. Выключить?</translation></message>
+    <message id="wb_output_off_question"><translation>Выход %1 будет выключен сразу. Если он блокирует двигатель, тот может остановиться в пути. Выключить?</translation></message>
     <message id="wb_output_off_unknown"><translation>Команда выключить выход %1 отправлена, но трекер её не подтвердил. Сравните со следующей записью.</translation></message>
     <message id="wb_output_off_verb"><translation>&amp;Выключить</translation></message>
     <message id="wb_output_on"><translation>Выход %1 включён.</translation></message>
-    <message id="wb_output_on_question"><translation>Выход %1 будет включён сразу. Если он блокирует двигатель, на дороге это опасно. Включить?</translation></message>
+    <message id="wb_output_on_question"><translation>Выход %1 будет включён сразу. Если он блокирует двигатель, тот может остановиться в пути. Включить?</translation></message>
     <message id="wb_output_on_unknown"><translation>Команда включить выход %1 отправлена, но трекер её не подтвердил. Сравните со следующей записью.</translation></message>
     <message id="wb_output_on_verb"><translation>&amp;Включить</translation></message>
     <message id="wb_plugin_foreign"><translation>Библиотека %1 не является модулем трекера.</translation></message>
