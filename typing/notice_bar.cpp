@@ -83,20 +83,36 @@ bool NoticeBar::hasHeightForWidth() const
 void NoticeBar::claimHeight()
 {
     const bool isOnShow = isTelling();
-    roomBelow_ = isOnShow || keptHeight_ == 0 ? property(kRoomBelow).toInt() : 0;
+    const bool keepsPlace = keptHeight_ > 0;
+    const int wanted = property(kRoomBelow).toInt();
+    roomBelow_ = keepsPlace ? 0 : wanted;
     text_->setVisible(isOnShow);
     close_->setVisible(isOnShow && shown()->mayClose);
     QMargins margins = layout()->contentsMargins();
     margins.setTop(isOnShow ? kEdge : 0);
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
-    const int least = std::max(kHeight, keptHeight_) + roomBelow_;
-    if (keptHeight_ == 0)
-        setMinimumHeight(isOnShow ? least : roomBelow_);
-    else if (isOnShow)
-        setFixedHeight(std::max(least, layout()->heightForWidth(width())));
-    else // the host's stands in the kept place
-        setFixedHeight(std::max(keptHeight_, property(kRoomBelow).toInt() - kRoomMargin));
+    if (keepsPlace)
+        setFixedHeight(
+            std::max({keptHeight_, isOnShow ? layout()->heightForWidth(width()) : 0, wanted - kRoomMargin}));
+    else
+        setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
+    const bool isCovered = keepsPlace && isOnShow && wanted > 0;
+    if (std::exchange(isCovered_, isCovered) != isCovered)
+        Q_EMIT coverChanged();
+}
+
+void NoticeBar::setBehind(int count)
+{
+    if (std::exchange(behind_, count) != count)
+        showPlace();
+}
+
+void NoticeBar::showPlace()
+{
+    const int count = static_cast<int>(told_.size()) + behind_;
+    place_->setText(tr("wrd_401").arg(1).arg(count));
+    place_->setVisible(isTelling() && count > 1);
 }
 
 bool NoticeBar::event(QEvent* event)
@@ -198,7 +214,7 @@ void NoticeBar::end(int number)
 bool NoticeBar::isOnShow(int number) const
 {
     const Told* shown = worst();
-    return shown && shown->number == number;
+    return shown && !isCovered_ && shown->number == number;
 }
 
 void NoticeBar::retranslate()
@@ -260,8 +276,7 @@ void NoticeBar::refresh()
         setTabOrder(std::exchange(before, button), button);
         button->show();
     }
-    place_->setText(tr("wrd_401").arg(1).arg(static_cast<int>(told_.size())));
-    place_->setVisible(told_.size() > 1);
+    showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);
     setAccessibleName(shown->notice.text);

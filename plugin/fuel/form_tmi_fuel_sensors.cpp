@@ -47,6 +47,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     ui_->verticalLayout_Window->insertWidget(0, bar_);
     bar_->keepPlace();
     connect(bar_, &NoticeBar::closed, this, &VLK_Form_TMI_Fuel_Sensors::forgetNotice);
+    connect(bar_, &NoticeBar::coverChanged, this, &VLK_Form_TMI_Fuel_Sensors::openSave);
     ui_->pushButton_Help->hide();
     buildTabs();
 

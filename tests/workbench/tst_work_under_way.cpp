@@ -62,6 +62,44 @@ private Q_SLOTS:
         QVERIFY(!noticeOn(calibration)->geometry().intersects(field));
     }
 
+    // The host's notice stands over the window's own, which waits behind it: nothing moves under the mouse.
+    void movesNothing()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        QWidget* view = Bench::telemetry();
+        Bench::press(view, "pushButton_Clear");
+        const auto* own = view->findChild<QFrame*>(QStringLiteral("noticeBar"));
+        QVERIFY(own->isVisible());
+        const auto* button = view->findChild<QWidget*>(QStringLiteral("pushButton_Out_On"));
+        const QPoint before = button->mapToGlobal(QPoint());
+        bench.take(Output);
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("Output 1")));
+        const auto* bar = view->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        QCOMPARE(bar->findChild<QLabel*>(QStringLiteral("label_NoticePlace"))->text(),
+                 QStringLiteral("1 of 2"));
+        QCOMPARE(button->mapToGlobal(QPoint()), before);
+        Bench::press(view, "label_WindowNotice_Close");
+        QTRY_VERIFY(Bench::notice().isEmpty() && own->isVisible());
+        QCOMPARE(button->mapToGlobal(QPoint()), before);
+
+        // What the one behind offers can be had elsewhere.
+        Bench::press(view, "pushButton_FuelSensor");
+        QWidget* calibration = Bench::calibration();
+        auto* name = calibration->findChild<QWidget*>(QStringLiteral("A3"))
+                         ->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"));
+        QApplication::setActiveWindow(calibration);
+        name->setFocus();
+        QTest::keyClicks(name, "left");
+        QTest::keyClick(name, Qt::Key_Tab);
+        const auto* save = calibration->findChild<QWidget*>(QStringLiteral("pushButton_Save_Xml"));
+        QTRY_VERIFY(!save->isEnabled() && !save->toolTip().isEmpty());
+        bench.tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), save->isEnabled()), 20'000);
+        bench.tracker().setFaults({});
+        QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled(), 20'000);
+    }
+
     void refusesWhatDestroys_data()
     {
         DataTable<int, QString>({"during", "said"})
