@@ -42,6 +42,8 @@ struct Bench : OpenedWorkbench
         QObject::connect(&person, &QTimer::timeout, &window, [this] {
             QWidget* modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                if (std::exchange(unplugsFirst, false))
+                    tracker().detach();
                 boxes.append(box->text());
                 over = box->parentWidget();
                 QAbstractButton* verb = box->buttons().constFirst();
@@ -240,7 +242,8 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
-    QStringList origins;    // of what was reviewed
-    QPointer<QWidget> over; // which window the last box came up
-    bool agrees = true;     // to what is asked
+    QStringList origins;       // of what was reviewed
+    QPointer<QWidget> over;    // which window the last box came up
+    bool agrees = true;        // to what is asked
+    bool unplugsFirst = false; // when the next box is open
 };

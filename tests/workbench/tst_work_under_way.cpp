@@ -187,6 +187,26 @@ private Q_SLOTS:
         QTRY_VERIFY(bench.tracker().readPresent()->outputs & 1);
     }
 
+    // The cable may go while a question is open: then a yes sends nothing any more, and that is told.
+    void unpluggedOverAQuestion_data()
+    {
+        DataTable<int>({"step"}).row("clear", Clear).row("mileage", Mileage).row("output", Output);
+    }
+    void unpluggedOverAQuestion()
+    {
+        QFETCH(int, step);
+        Bench bench;
+        bench.prepare(Live);
+        if (step == Output)
+            bench.tracker().setFaults({.silence = true}); // so that it asks at any hour
+        bench.unplugsFirst = true;
+        bench.take(Step(step));
+        QTRY_VERIFY2(bench.status().contains(QLatin1String("not sent: the tracker is not attached")),
+                     qPrintable(bench.everything()));
+        QVERIFY(!Bench::telemetry() && !QApplication::activeModalWidget());
+        QCOMPARE(bench.boxes.size(), 1);
+    }
+
     // Who presses on in a silence is told of it again, with the offer to end the save.
     void refusalGivesWayToSilence()
     {
