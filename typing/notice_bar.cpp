@@ -23,6 +23,7 @@ namespace {
 constexpr int kHeight = 36;
 constexpr int kMargin = 9;
 constexpr int kEdge = 2;
+constexpr int kRim = 1; // above and below, with a frame if there is one
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
 constexpr int kNewsMs = 8000;
@@ -64,9 +65,10 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
 
 void NoticeBar::keepPlace()
 {
-    constexpr int kLines = 2;
-    constexpr int kFrame = 1; // the host's has one
-    keptHeight_ = std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + 2 * (kEdge + kFrame));
+    // As the label measures two lines, which is more than the font says.
+    text_->setText(QStringLiteral("x x"));
+    keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
+    text_->clear();
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
@@ -89,7 +91,7 @@ void NoticeBar::claimHeight()
     text_->setVisible(isOnShow);
     close_->setVisible(isOnShow && shown()->mayClose);
     QMargins margins = layout()->contentsMargins();
-    margins.setTop(isOnShow ? kEdge : 0);
+    margins.setTop(isOnShow ? std::max(0, kRim - frameWidth()) : 0);
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
     if (keepsPlace)
