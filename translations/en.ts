@@ -991,7 +991,7 @@
     <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt6_408"><translation>→ takes it</translation></message>
     <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
-    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1 (No.&#160;%2)</translation></message>
+    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1.</translation></message>
     <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
     <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
     <message id="cfgt6_413"><translation>Save a sheet with the table and the curve as PDF</translation></message>
@@ -1005,6 +1005,11 @@
     <message id="cfgt6_421"><translation>Undo the paste</translation></message>
     <message id="cfgt6_422"><translation>The reading still changes: from %1 to %2. Add the point when the level has settled.</translation></message>
     <message id="cfgt6_423"><translation>Added while the reading still changed: from %1 to %2. Wait until the level settles, then measure again.</translation></message>
+    <message id="cfgt6_424"><translation>No.&#160;%1</translation></message>
+    <message id="cfgt6_425"><translation>not a number</translation></message>
+    <message id="cfgt6_426"><translation>out of range</translation></message>
+    <message id="cfgt6_427"><translation>too many decimals</translation></message>
+    <message id="cfgt6_428"><translation>more lines than a table can hold</translation></message>
     <message id="cfgt6_450"><translation>No tracker is attached.</translation></message>
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
@@ -2032,7 +2037,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_265"><translation>Row %1 holds &quot;%2&quot;, which is no number and counts as 0. Correct the cell or delete the row.</translation></message>
     <message id="tmiw_266"><translation>The tracker was unplugged.</translation></message>
     <message id="tmiw_267"><translation>Tick the servers whose records are to be cleared.</translation></message>
-    <message id="tmiw_268"><translation>Ctrl+S saves what was changed.</translation></message>
+    <message id="tmiw_268"><translation>The button &quot;%1&quot; above the table saves what was changed, and so does Ctrl+S.</translation></message>
     <message id="tmiw_269"><translation>The same volume as in the row above. In the tracker only the lower row counts.</translation></message>
     <message id="tmiw_270"><translation>The same reading as in the row above, at another volume. Wait until the level settles, then measure again.</translation></message>
     <message id="tmiw_271"><translation>you have no right to do this</translation></message>
@@ -2673,10 +2678,17 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_option_tour"><translation>Do the main job without a person and leave files and pictures in the folder.</translation></message>
     <message id="wb_option_unexpected"><translation>Unexpected argument: %1</translation></message>
     <message id="wb_option_version"><translation>Show the version.</translation></message>
+    <message id="wb_output_blind"><translation>Whether the vehicle is moving could not be read from the tracker.</translation></message>
+    <message id="wb_output_ignition"><translation>The ignition is on.</translation></message>
+    <message id="wb_output_moving"><translation>The vehicle is moving at %1&#160;km/h.</translation></message>
     <message id="wb_output_off"><translation>Output %1 is switched off.</translation></message>
+    <message id="wb_output_off_question"><translation>Output %1 will be switched off at once. If it blocks the engine, the engine may stop on the road. Switch it off?</translation></message>
     <message id="wb_output_off_unknown"><translation>Output %1 was told to switch off, but the tracker did not confirm it. Compare it with the next record.</translation></message>
+    <message id="wb_output_off_verb"><translation>&amp;Switch off</translation></message>
     <message id="wb_output_on"><translation>Output %1 is switched on.</translation></message>
+    <message id="wb_output_on_question"><translation>Output %1 will be switched on at once. If it blocks the engine, the engine may stop on the road. Switch it on?</translation></message>
     <message id="wb_output_on_unknown"><translation>Output %1 was told to switch on, but the tracker did not confirm it. Compare it with the next record.</translation></message>
+    <message id="wb_output_on_verb"><translation>&amp;Switch on</translation></message>
     <message id="wb_plugin_foreign"><translation>The library %1 is not a tracker plug-in.</translation></message>
     <message id="wb_plugin_missing"><translation>The tracker plug-in is missing: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>The tracker plug-in %1 cannot be opened: %2</translation></message>

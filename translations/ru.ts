@@ -991,7 +991,7 @@
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
-    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1 (№&#160;%2)</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1.</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
     <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
@@ -1005,6 +1005,11 @@
     <message id="cfgt6_421"><translation>Отменить вставку</translation></message>
     <message id="cfgt6_422"><translation>Показание ещё меняется: с %1 на %2. Добавьте точку, когда уровень успокоится.</translation></message>
     <message id="cfgt6_423"><translation>Добавлено, пока показание ещё менялось: с %1 на %2. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
+    <message id="cfgt6_424"><translation>№&#160;%1</translation></message>
+    <message id="cfgt6_425"><translation>не число</translation></message>
+    <message id="cfgt6_426"><translation>вне диапазона</translation></message>
+    <message id="cfgt6_427"><translation>слишком много десятичных знаков</translation></message>
+    <message id="cfgt6_428"><translation>строк больше, чем вместит таблица</translation></message>
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
@@ -2032,7 +2037,7 @@
     <message id="tmiw_265"><translation>В строке %1 стоит «%2»: это не число и считается нулём. Исправьте ячейку или удалите строку.</translation></message>
     <message id="tmiw_266"><translation>Трекер был отключён.</translation></message>
     <message id="tmiw_267"><translation>Отметьте серверы, записи для которых нужно очистить.</translation></message>
-    <message id="tmiw_268"><translation>Изменённое сохранит Ctrl+S.</translation></message>
+    <message id="tmiw_268"><translation>Изменённое сохранит кнопка «%1» над таблицей или Ctrl+S.</translation></message>
     <message id="tmiw_269"><translation>Тот же объём, что строкой выше. В трекере считается только нижняя строка.</translation></message>
     <message id="tmiw_270"><translation>То же показание, что строкой выше, при другом объёме. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
     <message id="tmiw_271"><translation>нет прав доступа</translation></message>
@@ -2673,10 +2678,17 @@
     <message id="wb_option_tour"><translation>Выполнить основную работу без человека и оставить файлы и снимки в папке.</translation></message>
     <message id="wb_option_unexpected"><translation>Лишний аргумент: %1</translation></message>
     <message id="wb_option_version"><translation>Показать версию.</translation></message>
+    <message id="wb_output_blind"><translation>Движется ли автомобиль, узнать у трекера не удалось.</translation></message>
+    <message id="wb_output_ignition"><translation>Зажигание включено.</translation></message>
+    <message id="wb_output_moving"><translation>Автомобиль движется, скорость %1&#160;км/ч.</translation></message>
     <message id="wb_output_off"><translation>Выход %1 выключен.</translation></message>
+    <message id="wb_output_off_question"><translation>Выход %1 будет выключен сразу. Если он блокирует двигатель, тот может остановиться в пути. Выключить?</translation></message>
     <message id="wb_output_off_unknown"><translation>Команда выключить выход %1 отправлена, но трекер её не подтвердил. Сравните со следующей записью.</translation></message>
+    <message id="wb_output_off_verb"><translation>&amp;Выключить</translation></message>
     <message id="wb_output_on"><translation>Выход %1 включён.</translation></message>
+    <message id="wb_output_on_question"><translation>Выход %1 будет включён сразу. Если он блокирует двигатель, тот может остановиться в пути. Включить?</translation></message>
     <message id="wb_output_on_unknown"><translation>Команда включить выход %1 отправлена, но трекер её не подтвердил. Сравните со следующей записью.</translation></message>
+    <message id="wb_output_on_verb"><translation>&amp;Включить</translation></message>
     <message id="wb_plugin_foreign"><translation>Библиотека %1 не является модулем трекера.</translation></message>
     <message id="wb_plugin_missing"><translation>Модуль трекера не найден: %1</translation></message>
     <message id="wb_plugin_unloadable"><translation>Модуль трекера %1 не открывается: %2</translation></message>

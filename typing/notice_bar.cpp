@@ -23,6 +23,7 @@ namespace {
 constexpr int kHeight = 36;
 constexpr int kMargin = 9;
 constexpr int kEdge = 2;
+constexpr int kRim = 1; // above and below, with a frame if there is one
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
 constexpr int kNewsMs = 8000;
@@ -64,9 +65,10 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
 
 void NoticeBar::keepPlace()
 {
-    constexpr int kLines = 2;
-    constexpr int kFrame = 1; // the host's has one
-    keptHeight_ = std::max(kHeight, kLines * text_->fontMetrics().lineSpacing() + 2 * (kEdge + kFrame));
+    // As the label measures two lines, which is more than the font says.
+    text_->setText(QStringLiteral("x x"));
+    keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
+    text_->clear();
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
@@ -83,20 +85,36 @@ bool NoticeBar::hasHeightForWidth() const
 void NoticeBar::claimHeight()
 {
     const bool isOnShow = isTelling();
-    roomBelow_ = isOnShow || keptHeight_ == 0 ? property(kRoomBelow).toInt() : 0;
+    const bool keepsPlace = keptHeight_ > 0;
+    const int wanted = property(kRoomBelow).toInt();
+    roomBelow_ = keepsPlace ? 0 : wanted;
     text_->setVisible(isOnShow);
     close_->setVisible(isOnShow && shown()->mayClose);
     QMargins margins = layout()->contentsMargins();
-    margins.setTop(isOnShow ? kEdge : 0);
+    margins.setTop(isOnShow ? std::max(0, kRim - frameWidth()) : 0);
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
-    const int least = std::max(kHeight, keptHeight_) + roomBelow_;
-    if (keptHeight_ == 0)
-        setMinimumHeight(isOnShow ? least : roomBelow_);
-    else if (isOnShow)
-        setFixedHeight(std::max(least, layout()->heightForWidth(width())));
-    else // the host's stands in the kept place
-        setFixedHeight(std::max(keptHeight_, property(kRoomBelow).toInt() - kRoomMargin));
+    if (keepsPlace)
+        setFixedHeight(
+            std::max({keptHeight_, isOnShow ? layout()->heightForWidth(width()) : 0, wanted - kRoomMargin}));
+    else
+        setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
+    const bool isCovered = keepsPlace && isOnShow && wanted > 0;
+    if (std::exchange(isCovered_, isCovered) != isCovered)
+        Q_EMIT coverChanged();
+}
+
+void NoticeBar::setBehind(int count)
+{
+    if (std::exchange(behind_, count) != count)
+        showPlace();
+}
+
+void NoticeBar::showPlace()
+{
+    const int count = static_cast<int>(told_.size()) + behind_;
+    place_->setText(tr("wrd_401").arg(1).arg(count));
+    place_->setVisible(isTelling() && count > 1);
 }
 
 bool NoticeBar::event(QEvent* event)
@@ -198,7 +216,7 @@ void NoticeBar::end(int number)
 bool NoticeBar::isOnShow(int number) const
 {
     const Told* shown = worst();
-    return shown && shown->number == number;
+    return shown && !isCovered_ && shown->number == number;
 }
 
 void NoticeBar::retranslate()
@@ -260,8 +278,7 @@ void NoticeBar::refresh()
         setTabOrder(std::exchange(before, button), button);
         button->show();
     }
-    place_->setText(tr("wrd_401").arg(1).arg(static_cast<int>(told_.size())));
-    place_->setVisible(told_.size() > 1);
+    showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);
     setAccessibleName(shown->notice.text);

@@ -61,10 +61,13 @@ public:
     // and go while the user presses buttons, nothing may move under the mouse.
     void keepPlace();
     bool isTelling() const { return worst() != nullptr; }
-    // The property in which the host says how many pixels its own notice wants below what is on show. Where
-    // nothing is, and no place is kept, the bar gives them alone.
+    // The property in which the host says how many pixels its own notice wants. A bar with a kept place has
+    // it stand there, over what the bar tells, which waits as in any bar that tells several things. Another
+    // bar gives the room below what is on show, or alone.
     static constexpr const char* kRoomBelow = "roomBelow";
     static constexpr int kRoomMargin = 6; // of these pixels, between the two
+    // So many notices wait behind this bar, in another one.
+    void setBehind(int count);
     void retranslate();
     // For its first button; where the bar goes, the focus goes back.
     void takeFocus();
@@ -72,6 +75,8 @@ public:
 Q_SIGNALS:
     // By the cross.
     void closed(int number);
+    // The host's notice came to stand over what the bar tells, or went.
+    void coverChanged();
 
 protected:
     // Null when there is none.
@@ -102,6 +107,7 @@ private:
     void refresh();
     // With the room below; that of a kept place, and more where the text has more lines.
     void claimHeight();
+    void showPlace();
     // In the colour of the palette.
     void setCross();
     void toggleFocus();
@@ -114,6 +120,8 @@ private:
     bool isNewestFirst_ = false;
     int keptHeight_ = 0;       // 0 where no place is kept
     int roomBelow_ = 0;        // what of the height is another's
+    bool isCovered_ = false;   // by the host's notice
+    int behind_ = 0;           // notices in another bar
     QTimer news_;              // at whose end there are none
     QPointer<QWidget> before_; // had the focus before F6
 };

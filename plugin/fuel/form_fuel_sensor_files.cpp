@@ -22,7 +22,7 @@
 
 bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
-    return vlk::keepTable(path, name_, vehicle, ui_->lineEdit_Name->text(), rows(), time);
+    return vlk::keepTable(path, name_, vehicle, {ui_->lineEdit_Name->text(), offeredName_}, rows(), time);
 }
 
 bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const
@@ -73,7 +73,7 @@ void VLK_Form_Fuel_Sensor::fillSheet(vlk::CalibrationSheet& sheet) const
 {
     sheet.kind = kind_;
     sheet.sensor = name_;
-    sheet.tank = ui_->lineEdit_Name->text();
+    sheet.tank = ui_->lineEdit_Name->text().isEmpty() ? offeredName_ : ui_->lineEdit_Name->text();
     sheet.rows = rows();
     sheet.points = points_;
 }
@@ -89,7 +89,10 @@ void VLK_Form_Fuel_Sensor::pasteRows()
     const auto pasted =
         vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
     if (pasted.rows.empty()) {
-        vlk::warn(this, tr("cfgt6_411").arg(pasted.leftOut.size()));
+        QString told = tr("cfgt6_411").arg(pasted.leftOut.size());
+        if (!pasted.leftOut.empty())
+            told += QLatin1Char(' ') + PastePreview::reasons(pasted.leftOut, texts);
+        vlk::warn(this, told);
         return;
     }
     const vlk::FuelRows there = rows();

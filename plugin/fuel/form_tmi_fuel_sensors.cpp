@@ -47,6 +47,7 @@ VLK_Form_TMI_Fuel_Sensors::VLK_Form_TMI_Fuel_Sensors(QWidget* parent)
     ui_->verticalLayout_Window->insertWidget(0, bar_);
     bar_->keepPlace();
     connect(bar_, &NoticeBar::closed, this, &VLK_Form_TMI_Fuel_Sensors::forgetNotice);
+    connect(bar_, &NoticeBar::coverChanged, this, &VLK_Form_TMI_Fuel_Sensors::openSave);
     ui_->pushButton_Help->hide();
     buildTabs();
 
@@ -266,6 +267,7 @@ void VLK_Form_TMI_Fuel_Sensors::select(const QString& type)
 
 void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
+    endShownAt();
     tellOfTable();
 }
 
@@ -281,16 +283,15 @@ void VLK_Form_TMI_Fuel_Sensors::markTabs()
 {
     const QIcon mark = tabMark(Mark::changed, palette());
     const QIcon none = tabMark({}, palette());
-    const auto show = [&](QTabWidget* tabs, int index, bool isUnsaved) {
+    const auto show = [&](QTabWidget* tabs, int index, bool isMarked) {
         tabs->setIconSize({kMarkSize, kMarkSize});
-        tabs->setTabIcon(index, isUnsaved ? mark : none);
-        tabs->setTabToolTip(index, isUnsaved ? tr("tmiw_262") : QString());
+        tabs->setTabIcon(index, isMarked ? mark : none);
+        tabs->setTabToolTip(index, isMarked ? tr("tmiw_262") : QString());
     };
     std::array<bool, kFuelGroupCount> isInGroup{};
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        const bool isUnsaved = form.isDirty() || isToBeKept(form, sensor);
-        isInGroup[groupOf(sensor)] |= isUnsaved;
-        show(tabsOf(sensor), form.tabIndex(), isUnsaved);
+        isInGroup[groupOf(sensor)] |= isUnsaved(form, sensor);
+        show(tabsOf(sensor), form.tabIndex(), isUnsaved(form, sensor));
     });
     for (int i = 0; i < kFuelGroupCount; ++i) {
         if (groups_[i])
@@ -322,7 +323,7 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
     const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
                                  .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
     const auto mayLose = [&] { return agrees(this, question, "wrd_031"); };
-    if ((!hasUnsaved() || mayLose()) && (keepEdited() || mayLose()))
+    if ((!hasUnsaved() || mayLose()) && (keepUnsaved() || mayLose()))
         QDialog::reject();
 }
 
@@ -331,7 +332,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_finished(int /*result*/)
     drafts_.stop();
     changed_ = {};
     forEachForm([this](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        isToBeKept(form, sensor) ? kept_.release(form) : kept_.end(form);
+        isUnsaved(form, sensor) ? kept_.release(form) : kept_.end(form);
     });
     timer_.stop();
 }

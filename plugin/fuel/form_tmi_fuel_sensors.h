@@ -2,8 +2,8 @@
 
 // The calibration window: a table for each fuel sensor of the tracker, each sensor's live value while the
 // user fills the tank, files, and the report. What is not saved is kept on the disk, at most a second behind:
-// after the end of a program that was killed it is offered at the next opening, and so is a table that was
-// edited when the window closed. While the window is open it asks for the live values: a question, its
+// after the end of a program that was killed it is offered at the next opening, and so is what was not saved
+// when the window closed. While the window is open it asks for the live values: a question, its
 // answer, two seconds of pause. A value that is older than two such periods goes. Live values come as the
 // byte record of the message AnalogRecord.
 
@@ -105,15 +105,20 @@ private:
     bool load(const VLK_Form_Fuel_Sensor& form, Read read);
     void loadXml(const QString& path);
     void loadCsv(const QString& path);
-    // `type` is the sensor that the file names, `otherColumn` the heading of values that are none of this
-    // sensor.
-    void showLoaded(const QString& type, const QString& otherColumn = {});
+    // `before` was on show, `type` is the sensor that the file names, `otherColumn` the heading of values
+    // that are none of this sensor.
+    void showLoaded(const VLK_Form_Fuel_Sensor* before, const QString& type, const QString& otherColumn = {});
+    // The news that a file has come to another tab than the one that was on show.
+    void endShownAt();
     // A table without new rows that is as it stands in no file, be it for the fractions of its volumes alone.
     bool isToBeKept(const VLK_Form_Fuel_Sensor& form, int sensor) const;
+    // The same, or with rows that are in no XML file.
+    bool isUnsaved(const VLK_Form_Fuel_Sensor& form, int sensor) const;
     void noteChange(int sensor);
-    // Both are false when the disk refused.
+    // False when the disk refused.
     bool keep(const VLK_Form_Fuel_Sensor& form);
-    bool keepEdited();
+    // False when the disk refused one of which the user was not asked.
+    bool keepUnsaved();
     void keepDrafts();
     int currentSensor() const;
     QString proposedName(const QString& sensor) const;

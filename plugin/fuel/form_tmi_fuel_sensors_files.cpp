@@ -28,7 +28,15 @@ namespace {
 
 // Numbers in the bar; offers have those from kOffers on. That a table is edited can wait until all are
 // answered.
-enum NoticeNumber { kNoLink, kFileOfOther, kCut, kFlaw, kOffers, kEdited = std::numeric_limits<int>::max() };
+enum NoticeNumber {
+    kNoLink,
+    kFileOfOther,
+    kCut,
+    kFlaw,
+    kShownAt,
+    kOffers,
+    kEdited = std::numeric_limits<int>::max()
+};
 
 constexpr int kQuoted = 40; // characters of a cell, in the bar
 
@@ -52,6 +60,7 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     if (form && !form->hasRows()) {
         otherFile_[sensor] = nullptr;
         cutIn_[sensor] = 0;
+        endShownAt();
     }
     if (!form) {
         for (const auto number : {kFileOfOther, kCut, kFlaw, kEdited})
@@ -98,7 +107,13 @@ void VLK_Form_TMI_Fuel_Sensors::openSave()
     if (!mayPress && focusWidget() == ui_->pushButton_Save_Xml)
         form->setFocus();
     ui_->pushButton_Save_Xml->setEnabled(mayPress);
-    ui_->pushButton_Save_Xml->setToolTip(isInBar ? tr("tmiw_268") : QString());
+    ui_->pushButton_Save_Xml->setToolTip(isInBar ? tr("tmiw_268").arg(ui_->pushButton_Save_Xml->text())
+                                                 : QString());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::endShownAt()
+{
+    bar_->end(kShownAt);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
@@ -180,12 +195,12 @@ bool VLK_Form_TMI_Fuel_Sensors::keep(const VLK_Form_Fuel_Sensor& form)
     return kept_.keep(form, telemetryFolder(), ui_->lineEdit_Title->text());
 }
 
-bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
+bool VLK_Form_TMI_Fuel_Sensors::keepUnsaved()
 {
     bool allKept = true;
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
-        if (isToBeKept(form, sensor) && !keep(form))
-            allKept = false;
+        if (isUnsaved(form, sensor) && !keep(form))
+            allKept &= form.isDirty();
     });
     return allKept;
 }
@@ -193,6 +208,11 @@ bool VLK_Form_TMI_Fuel_Sensors::keepEdited()
 bool VLK_Form_TMI_Fuel_Sensors::isToBeKept(const VLK_Form_Fuel_Sensor& form, int sensor) const
 {
     return form.isEdited() || (cutIn_[sensor] > 0 && !form.isDirty());
+}
+
+bool VLK_Form_TMI_Fuel_Sensors::isUnsaved(const VLK_Form_Fuel_Sensor& form, int sensor) const
+{
+    return form.isDirty() || isToBeKept(form, sensor);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::noteChange(int sensor)
@@ -208,7 +228,7 @@ void VLK_Form_TMI_Fuel_Sensors::keepDrafts()
     forEachForm([&](const VLK_Form_Fuel_Sensor& form, int sensor) {
         if (!changed[sensor])
             return;
-        if (!form.isDirty() && !isToBeKept(form, sensor))
+        if (!isUnsaved(form, sensor))
             kept_.end(form);
         else if (canKeep_) // that it cannot is told once
             canKeep_ = keep(form);
@@ -248,12 +268,13 @@ void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
         return;
     }
     const QString type = document.root()->getString(QStringLiteral("type"));
+    const VLK_Form_Fuel_Sensor* before = currentForm();
     select(type);
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
     if (load(*form, [&] { return form->loadXml(document.root()); }))
-        showLoaded(type);
+        showLoaded(before, type);
 }
 
 // Its rows say nothing of their sensor, but its name begins with it unless the user has chosen another, and
@@ -274,6 +295,7 @@ void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
             warn(this, tr("rec_370"));
         return;
     }
+    const VLK_Form_Fuel_Sensor* before = currentForm();
     if (isNamed)
         select(start);
     VLK_Form_Fuel_Sensor* form = currentForm();
@@ -285,12 +307,14 @@ void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
         return true;
     });
     const FuelMeasure other = fuelKind(form->kind()).millivolts ? FuelMeasure::Level : FuelMeasure::Voltage;
-    showLoaded(isNamed ? start : QString(), csv.measure == other ? csv.value : QString());
+    showLoaded(before, isNamed ? start : QString(), csv.measure == other ? csv.value : QString());
 }
 
-void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type, const QString& otherColumn)
+void VLK_Form_TMI_Fuel_Sensors::showLoaded(const VLK_Form_Fuel_Sensor* before, const QString& type,
+                                           const QString& otherColumn)
 {
     const VLK_Form_Fuel_Sensor* form = currentForm();
+    endShownAt();
     auto& otherFile = otherFile_[currentSensor()];
     otherFile = nullptr;
     // A letter alone names no sensor.
@@ -302,6 +326,10 @@ void VLK_Form_TMI_Fuel_Sensors::showLoaded(const QString& type, const QString& o
         };
     tellOfTable();
     offerKeptTables();
+    if (form != before && !otherFile)
+        bar_->tellNews(kShownAt, [type, form] {
+            return Notice{Mark::right, tr("cfgt6_412").arg(type, form->name()), {}};
+        });
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()

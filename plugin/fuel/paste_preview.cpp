@@ -37,7 +37,25 @@ void addSentence(QVBoxLayout* column, const char* name, const QString& text)
 
 } // namespace
 
-PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<int>& leftOut,
+QString PastePreview::reasons(const std::vector<vlk::LeftOutLine>& leftOut, const vlk::FuelCaptions& captions)
+{
+    static constexpr std::pair<vlk::FuelRefusal, const char*> kWords[] = {
+        {vlk::FuelRefusal::NoNumber, "cfgt6_425"},
+        {vlk::FuelRefusal::OutOfRange, "cfgt6_426"},
+        {vlk::FuelRefusal::TooManyDecimals, "cfgt6_427"},
+        {vlk::FuelRefusal::TooManyLines, "cfgt6_428"},
+    };
+    const auto told = [&captions](const vlk::LeftOutLine& line) {
+        const auto* word =
+            std::ranges::find(kWords, line.reason, &std::pair<vlk::FuelRefusal, const char*>::first);
+        return QStringLiteral("%1 (%2): %3")
+            .arg(QString::number(line.line), line.isOfVolume ? captions.volume : captions.value,
+                 tr(word->second));
+    };
+    return tr("cfgt6_424").arg(named(leftOut, told));
+}
+
+PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<vlk::LeftOutLine>& leftOut,
                            const vlk::FuelCaptions& captions, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
 {
@@ -68,9 +86,7 @@ PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<in
 
     if (!leftOut.empty())
         addSentence(column, "label_LeftOut",
-                    tr("cfgt6_410").arg(QString::number(leftOut.size()), named(leftOut, [](int line) {
-                                            return QString::number(line);
-                                        })));
+                    tr("cfgt6_410").arg(leftOut.size()) + QLatin1Char(' ') + reasons(leftOut, captions));
     if (joining.known > 0)
         addSentence(column, "label_Known", tr("cfgt6_417").arg(joining.known));
     if (!joining.others.empty()) {

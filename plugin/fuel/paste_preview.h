@@ -1,7 +1,7 @@
 #pragma once
 
 // What a paste would add to a calibration table, what becomes of the points that are there, and which lines
-// it leaves out, for the user to agree to.
+// it leaves out and why, for the user to agree to.
 
 #include "fuel/table/fuel_text.h"
 
@@ -14,8 +14,11 @@ class PastePreview : public QDialog
     Q_OBJECT
 
 public:
-    PastePreview(const vlk::JoiningRows& joining, const std::vector<int>& leftOut,
+    PastePreview(const vlk::JoiningRows& joining, const std::vector<vlk::LeftOutLine>& leftOut,
                  const vlk::FuelCaptions& captions, QWidget* parent);
+
+    // Of the lines that are left out, the first ones by name.
+    static QString reasons(const std::vector<vlk::LeftOutLine>& leftOut, const vlk::FuelCaptions& captions);
 
     // Whether the rows come in the place of those at the same volume.
     bool isToReplace() const;

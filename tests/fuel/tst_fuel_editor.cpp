@@ -9,6 +9,8 @@
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/window_parts.h"
+#include "xml/xml_document.h"
+#include "xml/xml_section.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -134,6 +136,10 @@ private Q_SLOTS:
         answerBox("wrd_003");
         QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
         QVERIFY(!form()->isDirty());
+        QGuiApplication::clipboard()->setText("h\n1\tx\n");
+        answerBox("wrd_003", "cfgt6_411 cfgt6_424");
+        QApplication::setActiveWindow(window);
+        QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
         QGuiApplication::clipboard()->setText("5,5\t7\n1\t2\n1\t70000\n");
         for (const Qt::Key answer : {Qt::Key_Escape, Qt::Key_Return}) {
             // From the table, or the field in which a single number would be pasted.
@@ -304,6 +310,14 @@ private Q_SLOTS:
         const QString cell = "<td align=right>%1</td>";
         QVERIFY(html.contains(cell.arg(0) + cell.arg(100) + cell.arg(11) + cell.arg(111)));
         QCOMPARE(html.count("<td align=right></td>"), 2);
+        // The name of a file that was not taken is the tank's too.
+        QTemporaryDir folder;
+        const QString path = folder.filePath("load.xml");
+        writeFile(path, "<FUEL><Name>left</Name><TABLE/></FUEL>");
+        vlk::XmlDocument document(path, "FUEL");
+        QVERIFY(form()->loadXml(document.root()));
+        form()->fillSheet(sheet);
+        QCOMPARE(sheet.tank, QString("left"));
     }
 
 private:

@@ -100,11 +100,12 @@ private Q_SLOTS:
             .row("with Russian headings", "Объём, л\tНапряжение\n10\t2\n", "10=2", "")
             .row("more digits than needed", "10.00\t2.500\n1e1\t2\n", "10.0=2.50 10.0=2", "")
             .row("nothing holds them", "10\t2\n10\t36\n5001\t1\n-1\t1\n1.25\t1\n1\t1.234\nnan\t1\n", "10=2",
-                 "2 3 4 5 6 7")
+                 "2:value,range 3:volume,range 4:volume,range 5:volume,decimals 6:value,decimals "
+                 "7:volume,number")
             .row("blanks between thousands", "1 000\t2,5\n1\u00A0100,5\t3\n1 00\t4\n", "1000=2.5 1100.5=3",
-                 "3")
-            .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2", "2")
-            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", "2 4");
+                 "3:volume,number")
+            .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2", "2:volume,number")
+            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", "2:volume,number 4:value,number");
         for (const QString& language : kLanguages) {
             const auto texts = readTexts(language);
             for (const char* value : {"cfgt6_041", "cfgt6_042", "cfgt6_043", "cfgt6_044", "cfgt6_045"}) {
@@ -122,12 +123,15 @@ private Q_SLOTS:
         const PastedRows pasted = readFuelClipboard(text, kCaptions, fuelKind(0));
         QCOMPARE(shown(pasted.rows), rows);
         QStringList lines;
-        for (const int line : pasted.leftOut)
-            lines << QString::number(line);
+        const char* const reasons[] = {"number", "range", "decimals", "lines"};
+        for (const auto& [line, reason, isOfVolume] : pasted.leftOut)
+            lines << QString("%1:%2,%3")
+                         .arg(QString::number(line), isOfVolume ? "volume" : "value", reasons[int(reason)]);
         QCOMPARE(lines.join(' '), leftOut);
         const auto tooMany =
             readFuelClipboard(QString("1\t2\n").repeated(int(kMaxFuelRows) + 1), kCaptions, fuelKind(0));
-        QVERIFY(tooMany.rows.empty() && tooMany.leftOut.size() == kMaxFuelRows + 1);
+        QVERIFY(tooMany.rows.empty() && tooMany.leftOut.size() == kMaxFuelRows + 1 &&
+                tooMany.leftOut.front().reason == FuelRefusal::TooManyLines);
     }
 
     // Spreadsheets read numbers in the way of the user's country only.

@@ -67,6 +67,42 @@ private Q_SLOTS:
         QVERIFY(tank->placeholderText().isEmpty());
     }
 
+    // Whoever closes over a calibration that is in no file at all may think better of it.
+    void keepsWhatWasNeverSaved()
+    {
+        add("A3", "10.5", 12340);
+        answerBox("wrd_001", kUnsaved);
+        fuel_.window->close();
+        QVERIFY(fuel_.window->isHidden());
+        press("pushButton_FuelSensor");
+        QVERIFY(rows("A3").isEmpty());
+        QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
+        pressInBar("cfgt6_406");
+        QCOMPARE(rows("A3"), QString("10.5=12.34"));
+        // Discarded it is gone for good.
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        pressInBar("cfgt6_407");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
+    }
+
+    // The name of the file goes with the table, whether it was taken or not.
+    void keepsTheOfferedName()
+    {
+        const QByteArray content = fuelFile("A3").replace("Name_A1", "Name");
+        load(writeFile(folder.filePath("named.xml"), content));
+        auto* tank = field("A3", "lineEdit_Name");
+        QVERIFY(tank->text().isEmpty() && tank->placeholderText().startsWith("rear ("));
+        editCell("A3", "11");
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        QVERIFY(tank->placeholderText().isEmpty());
+        pressInBar("cfgt6_406");
+        QVERIFY(tank->text().isEmpty() && tank->placeholderText().startsWith("rear ("));
+    }
+
     // What could not be saved stays unsaved, and the file stays as it was.
     void keepsWhatADiskRefuses()
     {
@@ -276,7 +312,9 @@ private Q_SLOTS:
             QCOMPARE(field(sensor, "lineEdit_Name")->text(), QString("rear"));
             QVERIFY(form(sensor)->isVisible());
             // A file of another sensor is told, until the table is gone.
-            const bool isOther = content.contains("\"D9\"") || content.contains("\"F1\"");
+            // So is one for which the tab has changed.
+            const bool isOther =
+                content.contains("\"D9\"") || content.contains("\"F1\"") || sensor.startsWith('D');
             QCOMPARE(!bar()->isHidden() && fuel_.text("label_Notice") == "cfgt6_412", isOther);
             answerBox("wrd_001");
             form(sensor)->findChild<QPushButton*>("pushButton_Clear")->click();

@@ -302,6 +302,34 @@ private Q_SLOTS:
         QVERIFY(text("label_Damage").isEmpty());
     }
 
+    // A period that was saved in part has its last record, and not those in front of it. Other gaps are those
+    // of records that somebody chose.
+    void tellsOfAPart_data()
+    {
+        DataTable<QList<int>, QString>({"numbers", "told"})
+            .row("whole", {5, 6, 7}, "")
+            .row("in part", {5, 6, 9}, "rec_463")
+            .row("the ends alone", {5, 900}, "rec_463")
+            .row("one", {5}, "")
+            .row("chosen", {5, 8, 9, 12}, "")
+            .row("gap in the middle", {5, 6, 9, 10}, "")
+            .row("backwards", {9, 6, 5}, "");
+    }
+    void tellsOfAPart()
+    {
+        QFETCH(QList<int>, numbers);
+        for (const Kind kind : {Browser, Table})
+            showPages(numbered({numbers.begin(), numbers.end()}), kind);
+        QTEST(text("label_Damage"), "told");
+        QTEST(table_->window()->findChild<QLabel*>("label_Damage")->text(), "told");
+        if (text("label_Damage").isEmpty())
+            return;
+        press("label_Damage_Action1");
+        QCOMPARE(number(), QString::number(numbers.at(numbers.size() - 2)));
+        showPages(numbered({8, 9}));
+        QCOMPARE(text("label_Damage"), QString());
+    }
+
     void language()
     {
         showPages(pagesOf(recordOf({{"NumPage", 1}, {"State", 0}})));

@@ -23,12 +23,15 @@ enum Step {
     Clear,
     Mileage,
     Output,
+    Tacho,
+    TachoFile,
     CloseOverSave,
     CloseOverWrite,
     CloseOverTable,
     CloseSave,
     CloseTable,
-    CloseEdits
+    CloseEdits,
+    CloseTacho
 };
 
 struct Bench : OpenedWorkbench
@@ -39,6 +42,8 @@ struct Bench : OpenedWorkbench
         QObject::connect(&person, &QTimer::timeout, &window, [this] {
             QWidget* modal = QApplication::activeModalWidget();
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                if (std::exchange(unplugsFirst, false))
+                    tracker().detach();
                 boxes.append(box->text());
                 over = box->parentWidget();
                 QAbstractButton* verb = box->buttons().constFirst();
@@ -83,6 +88,7 @@ struct Bench : OpenedWorkbench
     }
     static QWidget* configuration() { return pluginWindow("VLK_Widget_Config"); }
     static QWidget* telemetry() { return pluginWindow("VLK_Widget_Tmi_View"); }
+    static QWidget* tachograph() { return pluginWindow("VLK_Form_TMI_Taho"); }
     static QWidget* calibration() { return pluginWindow("VLK_Form_TMI_Fuel_Sensors"); }
 
     static void press(QWidget* in, const char* button)
@@ -97,11 +103,14 @@ struct Bench : OpenedWorkbench
     // nothing else.
     static QString notice()
     {
-        QWidget* window = configuration() ? configuration() : telemetry();
-        const auto* bar = window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        QWidget* window = configuration() ? configuration() : tachograph() ? tachograph() : telemetry();
+        const auto* bar =
+            window->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"), Qt::FindDirectChildrenOnly);
         if (!bar || !bar->isVisible())
             return {};
-        const auto* own = window->findChild<QFrame*>(QStringLiteral("noticeBar"));
+        const QFrame* own = nullptr;
+        for (const auto* candidate : window->findChildren<QFrame*>(QStringLiteral("noticeBar")))
+            own = candidate->window() == window ? candidate : own;
         const QRect room(own->mapToGlobal(QPoint()), own->size());
         return room.contains(bar->geometry())
                    ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
@@ -131,6 +140,8 @@ struct Bench : OpenedWorkbench
             collect();
         else if (step == CloseOverTable || step == CloseTable)
             addPoint();
+        else if (step == Tacho || step == TachoFile || step == CloseTacho)
+            press(telemetry(), "pushButton_Taho");
     }
 
     void take(Step step)
@@ -156,6 +167,13 @@ struct Bench : OpenedWorkbench
             return press(telemetry(), "pushButton_Run");
         case Output:
             return press(telemetry(), "pushButton_Out_On");
+        case Tacho:
+            return press(tachograph(), "pushButton_Quest");
+        case TachoFile:
+            return press(tachograph(), "pushButton_Create");
+        case CloseTacho:
+            take(TachoFile);
+            return void(tachograph()->close());
         case CloseOverWrite:
             take(Write);
             configuration()->close();
@@ -224,7 +242,8 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
-    QStringList origins;    // of what was reviewed
-    QPointer<QWidget> over; // which window the last box came up
-    bool agrees = true;     // to what is asked
+    QStringList origins;       // of what was reviewed
+    QPointer<QWidget> over;    // which window the last box came up
+    bool agrees = true;        // to what is asked
+    bool unplugsFirst = false; // when the next box is open
 };

@@ -152,6 +152,12 @@ private Q_SLOTS:
             .row("output, garbled", Output, garbled, notConfirmed, true, false)
             .row("output, unplugged", Output, unplug, closed, false, false)
             .row("output, delay", Output, delay, "Output 1 is switched on", true, false)
+            .row("tachograph", Tacho, none, ready, true, false)
+            .row("tachograph, silence", Tacho, silence, silent, true, false)
+            .row("tachograph, unplugged", Tacho, unplug, closed, false, false)
+            .row("tachograph, late", Tacho, late, silent, true, false)
+            .row("tachograph file", TachoFile, none, ready, true, false)
+            .row("tachograph file, silence", TachoFile, silence, unknown, true, false)
             .row("period, full disk", Period, none, "period.xml was not saved: ", true, true)
             .row("close over a save", CloseOverSave, delay, "Closing ends the save", true, false)
             .row("close over a write", CloseOverWrite, silence, "is on its way to the tracker", false, false)
@@ -159,6 +165,7 @@ private Q_SLOTS:
             .row("close a save", CloseSave, delay, inPart, false, false)
             .row("close a table", CloseTable, none, tableAsked, true, false)
             .row("close edits", CloseEdits, none, "Unsaved changes: 1. They are offered", false, false)
+            .row("close the tachograph", CloseTacho, silence, unknown, true, false)
             // To whom reads Russian it is told in Russian from the beginning.
             .row("Russian read, silence", Read, silence,
                  "Конфигурация из трекера не прочитана. Трекер не отвечает", false, false)
@@ -172,6 +179,7 @@ private Q_SLOTS:
             .row("Russian send, unplugged", Send, unplug, "не записана. Трекер отключился во время записи",
                  true, false)
             .row("Russian send, a page", Send, page, "Не принято: 1 из 1 параметров", true, false)
+            .row("Russian tachograph, silence", Tacho, silence, "Ответа от трекера нет с ", true, false)
             .row("Russian period", Period, none, "Сохранено: ", true, false)
             .row("Russian period, silence", Period, silence, "Ответа от трекера нет с .* продолжится", true,
                  false)
@@ -221,7 +229,8 @@ private Q_SLOTS:
             connect(road, &workbench::WriteRoad::taken, &context, spoil);
         else
             spoil();
-        const bool isRefused = step >= CloseOverSave && step != CloseSave && step != CloseEdits;
+        const bool isRefused =
+            step >= CloseOverSave && step != CloseSave && step != CloseEdits && step != CloseTacho;
         bench.agrees = !isRefused;
         bench.take(Step(step));
         // A line that was there before says nothing until an answer has come.

@@ -101,6 +101,29 @@ private Q_SLOTS:
         QCOMPARE(visibleFaults()->geometry(), place);
     }
 
+    // The window that they were brought over may go while a box is open: they do not go with the box.
+    void outliveTheirWindow()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QWidget telemetry;
+        telemetry.show();
+        telemetry.activateWindow();
+        QTRY_VERIFY(telemetry.isActiveWindow());
+        QTest::keyClick(&telemetry, Qt::Key_F9);
+        QDialog box;
+        box.setModal(true);
+        box.show();
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &box);
+        telemetry.hide();
+        box.hide();
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
+        // Without a box they go with it, as before.
+        bench.window.hide();
+        QTest::qWait(20);
+        QVERIFY(!visibleFaults());
+    }
+
     // Where there is no room beside a window its buttons stay free.
     void coversNoButtons()
     {

@@ -87,14 +87,21 @@ private Q_SLOTS:
         Bench bench;
         bench.beginSave();
         bench.tracker().setFaults({.silence = true});
-        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("goes on by itself")), 10'000);
         QWidget* view = Bench::telemetry();
+        const auto* place = view->findChild<QWidget*>(QStringLiteral("noticeBar"));
+        const int before = place->height();
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("goes on by itself")), 10'000);
+        QCOMPARE(place->height(), before); // enough for a notice with a button
         QVERIFY(!view->findChild<QWidget*>(QStringLiteral("label_WindowNotice_Close"))->isVisible());
-        Bench::press(view, "pushButton_Save_Cancel");
+        QTest::mouseClick(view->findChild<QWidget*>(QStringLiteral("pushButton_Save_Cancel")),
+                          Qt::LeftButton);
         QVERIFY(view->findChild<QLabel*>(QStringLiteral("label_SavedInPart"))
                     ->text()
                     .contains(QLatin1String("ends with the next record")));
-        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("ends with its answer")), 10'000);
+        // The host says so at once, too.
+        QCoreApplication::processEvents();
+        QVERIFY2(Bench::notice().contains(QLatin1String("ends with its answer")),
+                 qPrintable(Bench::notice()));
         Bench::press(view, "label_SavedInPart_Action1");
         QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Saved in part: ")),
                      qPrintable(bench.everything()));

@@ -62,6 +62,44 @@ private Q_SLOTS:
         QVERIFY(!noticeOn(calibration)->geometry().intersects(field));
     }
 
+    // The host's notice stands over the window's own, which waits behind it: nothing moves under the mouse.
+    void movesNothing()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        QWidget* view = Bench::telemetry();
+        Bench::press(view, "pushButton_Clear");
+        const auto* own = view->findChild<QFrame*>(QStringLiteral("noticeBar"));
+        QVERIFY(own->isVisible());
+        const auto* button = view->findChild<QWidget*>(QStringLiteral("pushButton_Out_On"));
+        const QPoint before = button->mapToGlobal(QPoint());
+        bench.take(Output);
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("Output 1")));
+        const auto* bar = view->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
+        QCOMPARE(bar->findChild<QLabel*>(QStringLiteral("label_NoticePlace"))->text(),
+                 QStringLiteral("1 of 2"));
+        QCOMPARE(button->mapToGlobal(QPoint()), before);
+        Bench::press(view, "label_WindowNotice_Close");
+        QTRY_VERIFY(Bench::notice().isEmpty() && own->isVisible());
+        QCOMPARE(button->mapToGlobal(QPoint()), before);
+
+        // What the one behind offers can be had elsewhere.
+        Bench::press(view, "pushButton_FuelSensor");
+        QWidget* calibration = Bench::calibration();
+        auto* name = calibration->findChild<QWidget*>(QStringLiteral("A3"))
+                         ->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"));
+        QApplication::setActiveWindow(calibration);
+        name->setFocus();
+        QTest::keyClicks(name, "left");
+        QTest::keyClick(name, Qt::Key_Tab);
+        const auto* save = calibration->findChild<QWidget*>(QStringLiteral("pushButton_Save_Xml"));
+        QTRY_VERIFY(!save->isEnabled() && !save->toolTip().isEmpty());
+        bench.tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), save->isEnabled()), 20'000);
+        bench.tracker().setFaults({});
+        QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled(), 20'000);
+    }
+
     void refusesWhatDestroys_data()
     {
         DataTable<int, QString>({"during", "said"})
@@ -99,6 +137,74 @@ private Q_SLOTS:
                                       (bench.status().startsWith(result) && Bench::notice().isEmpty()),
                                   qPrintable(bench.everything()), 10'000);
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
+    }
+
+    // What blocks an engine on the road is asked for first, and nothing is sent without a yes.
+    void asksBeforeItSwitchesOnTheRoad_data()
+    {
+        DataTable<bool, bool, bool, QString>({"moves", "ignition", "silence", "asked"})
+            .row("driving", true, true, false,
+                 "is moving at [1-9]\\d*\u00A0km/h\\. Output 1 will be switched on")
+            .row("idling", false, true, false, "^The ignition is on\\. Output 1 will be switched on")
+            .row("parked", false, false, false, "")
+            .row("silent", true, true, true,
+                 "could not be read from the tracker\\. Output 1 will be switched on");
+    }
+    void asksBeforeItSwitchesOnTheRoad()
+    {
+        QFETCH(bool, moves);
+        QFETCH(bool, ignition);
+        QFETCH(bool, silence);
+        QFETCH(QString, asked);
+        Bench bench;
+        bench.prepare(Live);
+        // The next minute of that kind.
+        const auto fits = [&] {
+            const std::optional<tracker::Present> present = bench.tracker().readPresent();
+            return present && (present->speed >= 1) == moves && present->ignition == ignition;
+        };
+        QDateTime time = QDateTime::currentDateTimeUtc();
+        for (int minute = 0; minute < 2 * 24 * 60 && !fits(); ++minute) {
+            time = time.addSecs(60);
+            bench.tracker().setClock([time] { return time; });
+        }
+        QVERIFY(fits());
+        bench.tracker().setFaults({.silence = silence});
+        bench.agrees = false;
+        bench.take(Output);
+        const QString result = asked.isEmpty() ? QStringLiteral("Output 1 is switched on")
+                                               : QStringLiteral("nothing was sent to the tracker");
+        QTRY_VERIFY2(bench.status().contains(result), qPrintable(bench.everything()));
+        QCOMPARE(bench.boxes.size(), asked.isEmpty() ? 0 : 1);
+        bench.tracker().setFaults({});
+        QCOMPARE(bench.tracker().readPresent()->outputs & 1, asked.isEmpty() ? 1 : 0);
+        if (asked.isEmpty())
+            return;
+        QVERIFY2(bench.boxes.first().contains(QRegularExpression(asked)), qPrintable(bench.boxes.first()));
+        QCOMPARE(bench.over, Bench::telemetry());
+        bench.agrees = true;
+        bench.take(Output);
+        QTRY_VERIFY(bench.tracker().readPresent()->outputs & 1);
+    }
+
+    // The cable may go while a question is open: then a yes sends nothing any more, and that is told.
+    void unpluggedOverAQuestion_data()
+    {
+        DataTable<int>({"step"}).row("clear", Clear).row("mileage", Mileage).row("output", Output);
+    }
+    void unpluggedOverAQuestion()
+    {
+        QFETCH(int, step);
+        Bench bench;
+        bench.prepare(Live);
+        if (step == Output)
+            bench.tracker().setFaults({.silence = true}); // so that it asks at any hour
+        bench.unplugsFirst = true;
+        bench.take(Step(step));
+        QTRY_VERIFY2(bench.status().contains(QLatin1String("not sent: the tracker is not attached")),
+                     qPrintable(bench.everything()));
+        QVERIFY(!Bench::telemetry() && !QApplication::activeModalWidget());
+        QCOMPARE(bench.boxes.size(), 1);
     }
 
     // Who presses on in a silence is told of it again, with the offer to end the save.

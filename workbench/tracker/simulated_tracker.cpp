@@ -156,6 +156,11 @@ void SimulatedTracker::setSender(Sender sender)
     parts_->line.setSender(std::move(sender));
 }
 
+void SimulatedTracker::setClock(Clock clock)
+{
+    parts_->clock = std::move(clock);
+}
+
 bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2, quint32 ticket)
 {
     if (id == Message::RequestEventText) {
@@ -241,7 +246,7 @@ std::optional<Present> SimulatedTracker::readPresent()
     if (faults().silence || faults().shortAnswers || faults().garbledAnswers)
         return {};
     const Vehicle vehicle = parts_->vehicle();
-    return Present{vehicle.mileage(), vehicle.c.outputs};
+    return Present{vehicle.mileage(), vehicle.m.speed, vehicle.running(), vehicle.c.outputs};
 }
 
 QString SimulatedTracker::vehicleName() const

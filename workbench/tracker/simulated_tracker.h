@@ -37,6 +37,8 @@ struct Reading
 struct Present
 {
     double mileage;  // km
+    double speed;    // km/h
+    bool ignition;   // on
     quint16 outputs; // bit n is output n + 1
 };
 
@@ -58,6 +60,7 @@ public:
     ~SimulatedTracker() override;
 
     void setSender(Sender sender);
+    void setClock(Clock clock);
 
     // Takes a request of the plug-in; true when it was one for the tracker. RequestEventText fills its text
     // at once, everything else is answered from the event loop. While detached, requests are dropped.
@@ -81,7 +84,8 @@ public:
     void attach();
     void detach();
 
-    // What commands change, as it says itself; none when no answer comes that can be believed.
+    // What commands change and what they depend on, as it says itself; none when no answer comes that can be
+    // believed.
     std::optional<Present> readPresent();
     Reading readConfiguration();
     // What it kept before the last write; empty where nothing was written.

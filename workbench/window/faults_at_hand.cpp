@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QWindow>
 
+#include <utility>
+
 namespace workbench {
 
 FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
@@ -35,7 +37,7 @@ bool FaultsAtHand::eventFilter(QObject* object, QEvent* event)
     }
     if (event->type() == QEvent::WindowBlocked) {
         if (window_ && window_->isVisible() && object == window_->windowHandle()) {
-            if (!home_)
+            if (!std::exchange(isAway_, true))
                 home_ = window_->parentWidget();
             moveOn();
         }
@@ -78,6 +80,10 @@ void FaultsAtHand::moveOn()
         [this] {
             QWidget* modal = QApplication::activeModalWidget();
             QWidget* owner = modal ? modal : home_.data();
+            // The cable may have taken it away behind the box.
+            if (isAway_ && !(owner && owner->isVisible()))
+                owner = windowInFront(mainWindow_);
+            isAway_ &= modal != nullptr;
             if (owner && owner->isVisible())
                 windowOf(owner)->comeUp(false);
         },
@@ -109,6 +115,7 @@ void FaultsAtHand::toggle()
     }
     wanted_ = true;
     home_.clear();
+    isAway_ = false;
     windowOf(windowInFront(mainWindow_))->comeUp(true);
 }
 

@@ -51,6 +51,7 @@ private:
     QWidget* mainWindow_;
     QPointer<FaultsWindow> window_;
     QPointer<QWidget> home_;  // its owner before a modal window came up over that
+    bool isAway_ = false;     // from there, over a modal window
     QPointer<QWidget> asker_; // the modal window from which the tracker was asked last
     QString trouble_;
     bool wanted_ = true; // the user has not closed it

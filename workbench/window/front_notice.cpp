@@ -91,7 +91,7 @@ QWidget* FrontNotice::lookedAt() const
         return modal;
     const QVector<QWidget*> latest = ActiveWindows::instance().latest();
     const auto found = std::ranges::find_if(latest, [this](const QWidget* window) {
-        return window == telemetry_ || window == PluginWindows::calibration();
+        return window == telemetry_ || PluginWindows::isOfTelemetry(window);
     });
     return found == latest.end() ? telemetry_.data() : *found;
 }

@@ -62,6 +62,23 @@ LinkNotices::LinkNotices(const PluginLog& pluginLog, HostSession& session, Plugi
         front_.tell(FrontNotice::Result, {});
     });
     connectRequests();
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+// No message tells that a save was cancelled, so it is looked for where the user has pressed something.
+bool LinkNotices::eventFilter(QObject* object, QEvent* event)
+{
+    const bool isPressed = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease;
+    const auto* widget = qobject_cast<QWidget*>(object);
+    if (isPressed && isSaving_ && !isCancelled_ && widget && widget->window() == front_.telemetry())
+        QMetaObject::invokeMethod(this, &LinkNotices::lookForCancel, Qt::QueuedConnection);
+    return false;
+}
+
+void LinkNotices::lookForCancel()
+{
+    if (isSaving_ && !isCancelled_ && session_.link().runningWork().cancelled != 0)
+        setTrouble(trouble_);
 }
 
 void LinkNotices::connectRequests()

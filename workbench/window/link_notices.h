@@ -42,6 +42,9 @@ public:
 Q_SIGNALS:
     void troubleChanged();
 
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     void look(vlk::Direction direction, quint32 id, const void* p1);
     void tellRefused(vlk::Message answer, const AnswerProblem& problem, vlk::Message request);
@@ -51,6 +54,8 @@ private:
     QString silence(const QDateTime& since, vlk::Message request);
     vlk::Notice troubleNotice();
     void endSave();
+    // Whether the user has cancelled the save that is told of.
+    void lookForCancel();
     void endWait(); // for an answer
     // Commands come from the window of telemetry.
     void tellOfCommand(const Sentence& sentence, bool isNews)

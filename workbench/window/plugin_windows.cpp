@@ -38,6 +38,11 @@ QWidget* PluginWindows::calibration()
     return found == windows.end() ? nullptr : *found;
 }
 
+bool PluginWindows::isOfTelemetry(const QWidget* window)
+{
+    return window->inherits("VLK_Form_TMI_Fuel_Sensors") || window->inherits("VLK_Form_TMI_Taho");
+}
+
 bool PluginWindows::eventFilter(QObject* object, QEvent* event)
 {
     const bool shown = event->type() == QEvent::Show;

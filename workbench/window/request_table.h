@@ -12,7 +12,7 @@ enum class Effect {
     Reads,     // asking twice does no harm: it is asked again until an answer comes
     MayBeMute, // reads what the tracker may not have; then it stays silent, so asking again would never end
     Starts,    // begins or ends something on the tracker, or moves it on by a step: once only
-    Switches,  // an output, which is told when it is done: once only
+    Switches,  // an output, which is told when it is done: once only, and on the road after a question
     Destroys,  // what was there is gone: once only, and after a question
 };
 

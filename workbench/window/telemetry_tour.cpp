@@ -5,6 +5,7 @@
 #include "window/live_telemetry.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
@@ -14,6 +15,7 @@
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QTextEdit>
+#include <QTimer>
 
 namespace workbench {
 
@@ -81,11 +83,14 @@ void controls(Tour& tour)
         dialog.accept();
     });
     Tour::press("pushButton_Run");
-    tour.whenModal<QMessageBox>([&tour](QMessageBox& question) {
-        tour.picture(QStringLiteral("telemetry-mileage.png"), &question);
+    const auto agree = [](QMessageBox& question) {
         for (QAbstractButton* button : question.buttons())
             if (question.buttonRole(button) == QMessageBox::AcceptRole)
                 button->click();
+    };
+    tour.whenModal<QMessageBox>([&tour, agree](QMessageBox& question) {
+        tour.picture(QStringLiteral("telemetry-mileage.png"), &question);
+        agree(question);
     });
     tour.waitFor([] { return Tour::findVisible("label_WindowNotice"); },
                  QStringLiteral("what became of the mileage"));
@@ -95,6 +100,13 @@ void controls(Tour& tour)
     const QString before = live::textOf("label_Out_Value_2");
     const char* other =
         before == live::textOf("label_Out_Value_1") ? "pushButton_Out_On" : "pushButton_Out_Off";
+    // Asked for unless the vehicle stands.
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, &person, [agree] {
+        if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            agree(*question);
+    });
+    person.start(50);
     Tour::press(other);
     // The record is asked for anew by itself.
     tour.waitFor([before] { return live::textOf("label_Out_Value_2") != before; },

@@ -88,28 +88,30 @@ void TrackerCommands::carryOutNext()
         QMetaObject::invokeMethod(this, &TrackerCommands::carryOutNext, Qt::QueuedConnection);
 }
 
-const char* TrackerCommands::whyNotNow()
+const char* TrackerCommands::whyNotNow(Message command)
 {
     if (!tracker_.attached())
         return "wb_command_detached";
+    if (!hasEffect(command, Effect::Destroys))
+        return nullptr;
     const RunningWork running = link_.runningWork();
     if (running.saving != 0)
         return "wb_command_saving";
     return running.automatic != 0 ? "wb_command_automatic" : nullptr;
 }
 
-bool TrackerCommands::isAllowed(const QString& question, const char* verb)
+bool TrackerCommands::isAllowed(Message command, const QString& question, const char* verb)
 {
-    const char* reason = whyNotNow();
-    if (!reason && mayDestroy_) {
-        if (!mayDestroy_(question, text(verb))) {
+    const char* reason = whyNotNow(command);
+    if (!reason && agrees_ && !question.isEmpty()) {
+        if (!agrees_(question, text(verb))) {
             Q_EMIT done(saying("wb_command_cancelled"));
             return false;
         }
-        reason = whyNotNow();
+        reason = whyNotNow(command);
     }
     if (reason)
-        Q_EMIT refused(saying(reason), [this, reason] { return whyNotNow() == reason; });
+        Q_EMIT refused(saying(reason), [this, command, reason] { return whyNotNow(command) == reason; });
     return !reason;
 }
 
@@ -134,7 +136,7 @@ QString TrackerCommands::clearQuestion(int first)
 
 void TrackerCommands::clear(const Command& command)
 {
-    if (!isAllowed(clearQuestion(command.number), "wb_clear_verb"))
+    if (!isAllowed(command.message, clearQuestion(command.number), "wb_clear_verb"))
         return;
     cleared_ = {command.number};
     isDoubtful_ = false;
@@ -172,7 +174,8 @@ void TrackerCommands::setMileage(const Command& command)
     const auto told = [mileage = command.mileage](const char* key) {
         return [mileage, key] { return text(key).arg(km(mileage)); };
     };
-    if (!isAllowed(before ? told("wb_mileage_question")().arg(km(before->mileage))
+    if (!isAllowed(command.message,
+                   before ? told("wb_mileage_question")().arg(km(before->mileage))
                           : told("wb_mileage_question_blind")(),
                    "wb_mileage_verb"))
         return;
@@ -189,10 +192,30 @@ void TrackerCommands::setMileage(const Command& command)
     });
 }
 
+// Whatever an output drives, it does so at once: on the road that may be the engine.
+QString TrackerCommands::outputQuestion(const Command& command)
+{
+    const std::optional<tracker::Present> present = tracker_.readPresent();
+    QString reason;
+    if (!present)
+        reason = text("wb_output_blind");
+    else if (const int speed = qRound(present->speed); speed > 0)
+        reason = text("wb_output_moving").arg(number(speed));
+    else if (present->ignition)
+        reason = text("wb_output_ignition");
+    else
+        return {};
+    const bool on = command.message == Message::OutputOn;
+    return reason + QLatin1Char(' ') +
+           text(on ? "wb_output_on_question" : "wb_output_off_question").arg(number(command.number));
+}
+
 void TrackerCommands::switchOutput(const Command& command)
 {
-    requests_.send(command.message, asParameter(command.number), nullptr);
     const bool on = command.message == Message::OutputOn;
+    if (!isAllowed(command.message, outputQuestion(command), on ? "wb_output_on_verb" : "wb_output_off_verb"))
+        return;
+    requests_.send(command.message, asParameter(command.number), nullptr);
     look([this, on, output = command.number](const std::optional<tracker::Present>& present) {
         const bool isOn = present && output > 0 && (quint64{present->outputs} << 1 >> output & 1) != 0;
         const auto told = [output](const char* key) {

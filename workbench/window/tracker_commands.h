@@ -1,9 +1,10 @@
 #pragma once
 
 // The commands of the plug-in that change the tracker: one that destroys is asked of the user before it is
-// sent, and refused while records are on their way by themselves; what became of it, and of an output that
-// was switched, is told. Clearing the data of several servers is one sequence, which is asked for once. Where
-// the tracker's present is on show, it is asked for anew after a command that changed it.
+// sent, and so is the switching of an output unless the vehicle is known to stand with its ignition off; one
+// that destroys is refused while records are on their way by themselves; what became of it, and of an output
+// that was switched, is told. Clearing the data of several servers is one sequence, which is asked for once.
+// Where the tracker's present is on show, it is asked for anew after a command that changed it.
 //
 // Nothing is asked within the call of the plug-in, which is in the middle of its own work there.
 
@@ -24,7 +25,7 @@ public:
     TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedRequests& requests, PluginLink& link);
 
     // Without one nothing is asked.
-    void setQuestion(Question question) { mayDestroy_ = std::move(question); }
+    void setQuestion(Question question) { agrees_ = std::move(question); }
 
     // False when it is no command.
     bool take(Message command, void* p1);
@@ -54,11 +55,13 @@ private:
     QString clearQuestion(int first);
     void clear(const Command& command);
     void setMileage(const Command& command);
+    // Empty where nothing needs to be asked.
+    QString outputQuestion(const Command& command);
     void switchOutput(const Command& command);
-    // The key of the text that says it; null where a command that destroys may be sent.
-    const char* whyNotNow();
-    // Asks, and says why it is not to be sent where that is so.
-    bool isAllowed(const QString& question, const char* verb);
+    // The key of the text that says it; null where the command may be sent.
+    const char* whyNotNow(Message command);
+    // Asks, unless the question is empty, and says why it is not to be sent where that is so.
+    bool isAllowed(Message command, const QString& question, const char* verb);
     // When the tracker had as much time as it takes for an answer.
     void look(const std::function<void(const std::optional<tracker::Present>& present)>& tell);
     void confirm(const Sentence& sentence);
@@ -66,7 +69,7 @@ private:
     tracker::SimulatedTracker& tracker_;
     RepeatedRequests& requests_;
     PluginLink& link_;
-    Question mayDestroy_;
+    Question agrees_;
     std::vector<Command> commands_; // the first one is being carried out
     bool isAnswered_ = false;       // the answer to a clearing is being handed over
     std::vector<int> cleared_;      // servers of the sequence

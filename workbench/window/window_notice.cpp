@@ -124,14 +124,19 @@ void WindowNotice::hideEvent(QHideEvent* event)
 void WindowNotice::place()
 {
     QRect inside = parentWidget()->geometry().marginsRemoved({kMargin, kMargin, kMargin, kMargin});
+    int covered = 0;
     for (const QFrame* bar : barsIn(parentWidget())) {
+        const bool keepsPlace = bar->sizePolicy().retainSizeWhenHidden();
         QRect place(bar->mapToGlobal(QPoint()), bar->size());
-        place.setBottom(place.bottom() - bar->property(kRoomBelow).toInt());
-        if (bar->isVisible() || bar->sizePolicy().retainSizeWhenHidden())
+        if (bar->isVisible() || keepsPlace)
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
-        if (bar->isVisible())
-            inside.setTop(qMax(inside.top(), place.bottom() + 1 + kRoomMargin));
+        if (bar->isVisible() && keepsPlace)
+            ++covered;
+        else if (bar->isVisible())
+            inside.setTop(
+                qMax(inside.top(), place.bottom() + 1 + kRoomMargin - bar->property(kRoomBelow).toInt()));
     }
+    setBehind(covered);
     resize(inside.width(), heightForWidth(inside.width()));
     const QWidget* typed = parentWidget()->focusWidget();
     if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {

@@ -56,9 +56,11 @@ void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name,
     putTable(root, sensor, rows, false);
 }
 
-void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)
+void putKeptTable(CXmlSection* root, const QString& sensor, const FuelTableNames& names, const FuelRows& rows)
 {
-    root->setChildValue(kNameRead, name);
+    root->setChildValue(kNameRead, names.typed);
+    if (!names.offered.isEmpty())
+        root->setChildValue(kName, names.offered);
     putTable(root, sensor, rows, true);
 }
 

@@ -27,9 +27,17 @@ int cutVolumes(const FuelRows& rows);
 // Puts one sensor's table into the root of a document.
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 
-// Puts the table with volumes as they stand and with the name where fuelTableName finds it: for a document
-// that only this program reads.
-void putKeptTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
+// What the field of the name holds, and what it shows while it is empty: the name of the file.
+struct FuelTableNames
+{
+    QString typed;
+    QString offered;
+};
+
+// Puts the table with volumes as they stand and with the names where fuelTableName and fuelTableWrittenName
+// find them: for a document that only this program reads.
+void putKeptTable(CXmlSection* root, const QString& sensor, const FuelTableNames& names,
+                  const FuelRows& rows);
 
 // The table in the root of a document; none when it has more than maxFuelRows rows.
 std::optional<FuelRows> fuelTable(CXmlSection* root);

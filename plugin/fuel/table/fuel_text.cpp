@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 #include <utility>
 
 namespace vlk {
@@ -212,20 +211,23 @@ std::optional<FuelHeadings> headingsOf(const QString& line, const FuelCaptions& 
     return FuelHeadings{*order, value, isVoltage ? FuelMeasure::Voltage : FuelMeasure::Level};
 }
 
-// Whether a cell can hold the number. One that is written with more digits than it has loses them.
-bool fit(QString& text, const FuelLimit& limit)
+// Why no cell can hold the number; none where one can. One that is written with more digits than it has loses
+// them.
+std::optional<FuelRefusal> fit(QString& text, const FuelLimit& limit)
 {
     bool ok = false;
     const double number = text.toDouble(&ok);
-    if (!ok || !(number >= 0 && number <= limit.top))
-        return false;
+    if (!ok || !std::isfinite(number))
+        return FuelRefusal::NoNumber;
+    if (number < 0 || number > limit.top)
+        return FuelRefusal::OutOfRange;
     const QString shortest = QString::number(number, 'f', limit.decimals);
     if (std::abs(shortest.toDouble() - number) > 1e-9)
-        return false;
+        return FuelRefusal::TooManyDecimals;
     static const QRegularExpression digits(QStringLiteral("^\\d+(\\.\\d+)?$"));
     if (!digits.match(text).hasMatch() || text.section(kPoint, 1).size() > limit.decimals)
         text = shortest;
-    return true;
+    return {};
 }
 
 QString decoded(const QByteArray& content)
@@ -324,16 +326,19 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
             return true;
         }
         FuelRow row = rowOf(cells, order);
-        if (fit(row.volume, kVolumeLimit) && fit(row.value, valueLimit(kind)))
-            pasted.rows.push_back(std::move(row));
+        if (const auto ofVolume = fit(row.volume, kVolumeLimit))
+            pasted.leftOut.push_back({lineNumber, *ofVolume, true});
+        else if (const auto ofValue = fit(row.value, valueLimit(kind)))
+            pasted.leftOut.push_back({lineNumber, *ofValue, false});
         else
-            pasted.leftOut.push_back(lineNumber);
+            pasted.rows.push_back(std::move(row));
         return true;
     });
     if (pasted.rows.size() > kMaxFuelRows) {
         pasted.rows.clear();
-        pasted.leftOut.resize(static_cast<std::size_t>(lineNumber));
-        std::iota(pasted.leftOut.begin(), pasted.leftOut.end(), 1);
+        pasted.leftOut.clear();
+        for (int line = 1; line <= lineNumber; ++line)
+            pasted.leftOut.push_back({line, FuelRefusal::TooManyLines, false});
     }
     return pasted;
 }

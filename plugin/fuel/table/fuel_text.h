@@ -73,11 +73,21 @@ std::variant<FuelCsv, FuelCsvFault> readFuelCsvByHeadings(const QByteArray& cont
 
 QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows);
 
+// Why no cell can hold what a line has.
+enum class FuelRefusal : std::uint8_t { NoNumber, OutOfRange, TooManyDecimals, TooManyLines };
+
+struct LeftOutLine
+{
+    int line; // from 1
+    FuelRefusal reason;
+    bool isOfVolume; // not of the value
+};
+
 // What a text would add to a table.
 struct PastedRows
 {
     FuelRows rows;
-    std::vector<int> leftOut; // lines with something that no cell could hold, from 1
+    std::vector<LeftOutLine> leftOut;
 };
 
 // Headings may be there; what they say of the order counts, in whatever language it was saved. With more than

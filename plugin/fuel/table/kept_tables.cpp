@@ -43,14 +43,14 @@ QString newKeptPath(const QString& folder, const QString& sensor, const QString&
     return freePath(fuelFileName(keptFolder(folder), sensor, vehicle, time));
 }
 
-bool keepTable(const QString& path, const QString& sensor, const QString& vehicle, const QString& name,
-               const FuelRows& rows, const QDateTime& time)
+bool keepTable(const QString& path, const QString& sensor, const QString& vehicle,
+               const FuelTableNames& names, const FuelRows& rows, const QDateTime& time)
 {
     QDir().mkpath(QFileInfo(path).path()); // the user may have removed it
     XmlDocument document(QString{}, QLatin1String(kFuelRoot));
     document.root()->setString(kTime, time.toString(Qt::ISODate));
     document.root()->setChildValue(kVehicleName, vehicle);
-    putKeptTable(document.root(), sensor, name, rows);
+    putKeptTable(document.root(), sensor, names, rows);
     return document.saveAs(path) && QFile::setPermissions(path, kOfOwner);
 }
 

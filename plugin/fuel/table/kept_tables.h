@@ -4,6 +4,7 @@
 // folder that only its owner can read. Other than a saved document they hold volumes with their decimals, and
 // a name that is read back.
 
+#include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_rows.h"
 
 #include <QDateTime>
@@ -25,8 +26,8 @@ struct KeptTable
 QString newKeptPath(const QString& folder, const QString& sensor, const QString& vehicle,
                     const QDateTime& time);
 // False when the disk refused, and the log (vlk.save) says why.
-bool keepTable(const QString& path, const QString& sensor, const QString& vehicle, const QString& name,
-               const FuelRows& rows, const QDateTime& time);
+bool keepTable(const QString& path, const QString& sensor, const QString& vehicle,
+               const FuelTableNames& names, const FuelRows& rows, const QDateTime& time);
 // From the latest to the oldest, of one time those with most points first; behind all, tables without points.
 std::vector<KeptTable> keptTables(const QString& folder);
 

@@ -6,6 +6,7 @@
 #include "link/requests.h"
 #include "telemetry/text/tachograph_answer.h"
 #include "typing/join_fields.h"
+#include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
@@ -62,9 +63,11 @@ void setItems(QComboBox* box, const QStringList& texts)
 
 VLK_Form_TMI_Taho::VLK_Form_TMI_Taho(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
-      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Taho>())
+      ui_(std::make_unique<Ui::VLK_Designer_Form_TMI_Taho>()), bar_(new vlk::NoticeBar(this))
 {
     ui_->setupUi(this);
+    ui_->verticalLayout->insertWidget(0, bar_);
+    bar_->keepPlace();
     dressGroups(this);
     ui_->frame_FileAutorize->hide();
     ui_->pushButton_Autorize->hide();
@@ -137,6 +140,7 @@ void VLK_Form_TMI_Taho::takeFetched(bool done)
 void VLK_Form_TMI_Taho::retranslate()
 {
     setWindowTitle(tr("wrd_065"));
+    bar_->retranslate();
     ui_->groupBox_Quest->setTitle(tr("tmiw_032"));
     ui_->pushButton_Quest->setText(tr("tmiw_032"));
     ui_->groupBox_File->setTitle(tr("tmiw_036"));

@@ -14,6 +14,10 @@ namespace Ui {
 class VLK_Designer_Form_TMI_Taho;
 }
 
+namespace vlk {
+class NoticeBar;
+}
+
 // Signals and slots are found by their signatures, in which the record stands under this name alone.
 using vlk::szQueryTaho;
 
@@ -46,5 +50,6 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Taho> ui_;
+    vlk::NoticeBar* bar_; // the place for what the host has to tell
     QString tahoFileName_;
 };

@@ -79,7 +79,32 @@ void showAll(QWidget* window, const Damage& damage)
     box.exec();
 }
 
+quint32 numberOf(const RecordStore& records, int record)
+{
+    constexpr ElementIndex number = element("NumPage");
+    const auto page = records.at(record);
+    return page->isExtra() ? page->extra().value<number>() : page->value<number>();
+}
+
 } // namespace
+
+void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int record)>& goTo)
+{
+    bar->end(kPart);
+    const int last = contents.records.size() - 1;
+    if (last < 1 || !contents.damaged.empty() || contents.hidden > 0)
+        return;
+    const quint32 first = numberOf(contents.records, 0);
+    const quint32 before = numberOf(contents.records, last - 1);
+    const quint32 behind = numberOf(contents.records, last);
+    if (before - first != static_cast<quint32>(last - 1) || behind <= before || behind - before == 1)
+        return;
+    bar->tell(kPart, [goTo, last, before, behind] {
+        return Notice{Mark::advice,
+                      translated("rec_463").arg(number(behind - before - 1), number(before), number(behind)),
+                      {{translated("tmiw_200"), [goTo, last] { goTo(last - 1); }}}};
+    });
+}
 
 void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions)
 {

@@ -137,6 +137,7 @@ void VLK_Widget_Tmi_Page::takeContents(std::shared_ptr<const TelemetryContents> 
     tellDamage(damageNotice_, *contents_,
                {[this](int record) { ui_->horizontalSlider->setValue(record); },
                 [this] { opening_->start(path_, TelemetryReading::salvage); }});
+    tellPart(damageNotice_, *contents_, [this](int record) { ui_->horizontalSlider->setValue(record); });
     ui_->label_NoRecord->hide();
     if (records().empty())
         return;

@@ -227,6 +227,7 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
     tellDamage(notices_, *contents,
                {[this](int record) { shown_->setCurrent(record); },
                 [this] { opening_->start(path_, TelemetryReading::salvage); }});
+    tellPart(notices_, *contents, [this](int record) { shown_->setCurrent(record); });
     shown_->setContents(contents);
 }
 
