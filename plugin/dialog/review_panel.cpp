@@ -4,7 +4,6 @@
 #include "dialog/preset_saving.h"
 #include "dialog/setting_places.h"
 #include "fuel/question.h"
-#include "link/device.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
@@ -16,7 +15,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
@@ -169,8 +167,9 @@ bool ReviewPanel::chooseAgainst(int index)
     QString path;
     bool isRead = true;
     if (against == Against::otherFile || against == Against::preset) {
-        path = QFileDialog::getOpenFileName(
-            this, tr(kQuestions[index]), vlkDevice ? vlkDevice->xmlFolder() : QString(), tr(kFilters[index]));
+        path =
+            askPathToOpen(this, against == Against::preset ? FileKind::preset : FileKind::otherConfiguration,
+                          tr(kQuestions[index]), tr(kFilters[index]));
         isRead = !path.isEmpty();
     }
     isRead = isRead && review_.compareWith(against, path);
@@ -228,8 +227,8 @@ void ReviewPanel::saveAsPreset()
 
 void ReviewPanel::saveCsv()
 {
-    const QString path = askPathToSave(
-        this, {tr("rev_115"), tr("rev_108"), QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
+    const QString path = askPathToSave(this, {FileKind::differences, tr("rev_115"), tr("rev_108"),
+                                              QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
     if (path.isEmpty())
         return;
     // With a mark of the encoding, by which spreadsheets know it.

@@ -76,7 +76,8 @@ private Q_SLOTS:
         const QString here = QDir::currentPath();
         QDir::setCurrent(folder_.path());
         QDir().mkpath(device_.xmlFolder());
-        writeFile(device_.xmlFolder() + "/Rev_204.XML", {});
+        for (const QString& folder : {device_.xmlFolder(), folder_.path()})
+            writeFile(folder + "/Rev_204.XML", {});
         auto* box = child<QCheckBox>("checkBox_State_2");
         box->click();
         history().settle();
@@ -91,6 +92,42 @@ private Q_SLOTS:
         auto* model = child<QTableView>("tableView_Differences")->model();
         QCOMPARE(model->rowCount(), 1);
         QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
+    }
+
+    // Each kind is looked for where one was saved or opened last, whatever became of the other kinds.
+    void folderOfTheLastFile()
+    {
+        const QDir folder(folder_.path());
+        for (const char* kind : {"presets", "tables", "reports", "others"})
+            folder.mkdir(kind);
+        for (const char* name : {"others/other.xml", "others/b other.xml"})
+            QFile::copy(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", folder_.filePath(name));
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        child<QToolButton>("toolButton_Differences")->click();
+        const auto press = [this](const char* name) {
+            return [this, name] { child<QPushButton>(name)->click(); };
+        };
+        const auto against = [this](int side) {
+            return [this, side] { Q_EMIT child<QComboBox>("comboBox_Against")->activated(side); };
+        };
+        const std::function<void()> report = [this] {
+            child<QPushButton>("pushButton_Document")->menu()->actions().last()->trigger();
+            child<QPushButton>("pushButton_ReportHtml")->click();
+        };
+        const std::tuple<const char*, const char*, std::function<void()>> rows[] = {
+            {"presets", "a.xml", press("pushButton_SavePreset")},
+            {"tables", "a.csv", press("pushButton_SaveDifferences")},
+            {"reports", "a.html", report},
+            {"others", "other.xml", against(2)},
+            {"presets", "a.xml", against(3)}};
+        for (const bool again : {false, true}) {
+            dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+            for (const auto& [kind, name, ask] : rows) {
+                chooseNext(folder_.filePath(QString("%1/%2").arg(kind, again ? "b " + QString(name) : name)));
+                ask();
+                QVERIFY2(!again || startedIn_ == kind, qPrintable(startedIn_));
+            }
+        }
     }
 
     // What it has beyond quick setup is told, the rest is done. What another file has alone is told likewise.
@@ -123,6 +160,20 @@ private Q_SLOTS:
         };
         QVERIFY(dialog_->showPreset(path));
         QVERIFY(!notes().contains("rev_005"));
+        // Nor can it take the sensors of a line without their numbers, which only a choice of few leaves out.
+        auto* differences = static_cast<vlk::DifferenceModel*>(model);
+        const auto choose = [&](const auto& isChosen) {
+            for (int line = 0; line < model->rowCount(); ++line)
+                differences->choose({line}, isChosen(differences->at(line).path));
+        };
+        choose([](const QString& path) { return path == "RS485/OPTIONS/owner1"; });
+        QCOMPARE(differences->chosenKeys().size(), 1U);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_284"));
+        child<QToolButton>("label_Unsaved_Close")->click();
+        history().undo();
+        QVERIFY(dialog_->showPreset(path));
+        choose([](const QString& /*path*/) { return true; });
         const int beyond = heads();
         QVERIFY(beyond > 0 && model->rowCount() > beyond);
         child<QPushButton>("pushButton_TakeOver")->click();
@@ -233,6 +284,28 @@ private Q_SLOTS:
         QCOMPARE(vlk::pointsOnOnePage(line.repeated(5), pdf), 12.0);
         const qreal points = vlk::pointsOnOnePage(line.repeated(35), pdf);
         QVERIFY2(points > 6 && points < 12, qPrintable(QString::number(points)));
+    }
+
+    // Wherever the page ends, headings stand above the first line of what they head.
+    void headingsAreKept()
+    {
+        QBuffer file;
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QPdfWriter pdf(&file);
+        const QString below = "<h2>Page</h2><h3>Group</h3><table><tr><td>caption</td><td>1</td></tr></table>";
+        QSet<int> pages;
+        for (int lines = 20; lines < 45; ++lines) {
+            const auto sheet = vlk::reportSheet(QString("<p>line</p>").repeated(lines) + below, false, pdf);
+            const auto pageOf = [&](const QString& text) {
+                const QTextBlock block = sheet->find(text).block();
+                return static_cast<int>(sheet->documentLayout()->blockBoundingRect(block).top() /
+                                        sheet->pageSize().height());
+            };
+            QCOMPARE(pageOf("Page"), pageOf("caption"));
+            QCOMPARE(pageOf("Group"), pageOf("caption"));
+            pages << pageOf("Page");
+        }
+        QCOMPARE(pages, QSet<int>({0, 1}));
     }
 };
 
