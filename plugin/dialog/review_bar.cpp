@@ -199,6 +199,11 @@ void ReviewBar::find()
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
+    // Quick setup has few of them.
+    if (review_.isQuick())
+        std::ranges::stable_partition(hits_, [this](const review::Hit& hit) {
+            return places_.whyHidden(hit.table, hit.row).isEmpty();
+        });
     list_->clear();
     for (const review::Hit& hit : hits_)
         addLine(hit);

@@ -366,6 +366,16 @@ private Q_SLOTS:
             QTest::keyClick(find, Qt::Key_Return);
             QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
         }
+        // What can be reached comes first.
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "TRANS");
+        const auto* list = child<QListWidget>("listWidget_Found");
+        int reached = 0;
+        while (reached < list->count() && !list->item(reached)->text().endsWith(')'))
+            ++reached;
+        QVERIFY(reached > 0 && reached < list->count());
+        for (int line = reached; line < list->count(); ++line)
+            QVERIFY2(list->item(line)->text().endsWith(')'), qPrintable(list->item(line)->text()));
     }
 
     // What the panels list is what the command line tells of the same files.
