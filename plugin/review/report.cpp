@@ -48,6 +48,14 @@ bool isLong(const Line& line)
     return line.values.size() == 1 && line.values.first().size() > longest;
 }
 
+// A host or an address of Bluetooth, which nobody could read across two lines. Longer ones have no room.
+bool isOneWord(const QString& value)
+{
+    constexpr int longest = 30;
+    constexpr int least = 12;
+    return value.size() >= least && value.size() <= longest && !value.contains(QLatin1Char(' '));
+}
+
 // The first row of a page; none where there is nothing to name.
 QString headRow(const QStringList& head)
 {
@@ -68,8 +76,10 @@ QString rowOf(const Line& line)
     if (!line.note.isEmpty())
         html += QStringLiteral("<br><small>%1</small>").arg(line.note.toHtmlEscaped());
     for (const QString& value : line.values)
-        html += QLatin1String(isPair ? "</td><td width=\"25%\">" : "</td><td>") +
-                (value.isEmpty() ? QStringLiteral("–") : value.toHtmlEscaped());
+        html += QStringLiteral("</td><td%1%2>%3")
+                    .arg(QLatin1String(isPair ? " width=\"25%\"" : ""),
+                         QLatin1String(isOneWord(value) ? " style=\"white-space: nowrap\"" : ""),
+                         value.isEmpty() ? QStringLiteral("–") : value.toHtmlEscaped());
     return html + QStringLiteral("</td></tr>\n");
 }
 
