@@ -79,6 +79,11 @@ void ListPanel::addToHead(const QWidgetList& widgets)
         if (auto* button = qobject_cast<QPushButton*>(widget))
             button->setAutoDefault(false);
     }
+    // Tab goes as one reads.
+    QWidgetList order = widgets;
+    order << close_ << table_;
+    for (int next = 1; next < order.size(); ++next)
+        setTabOrder(order[next - 1], order[next]);
 }
 
 void ListPanel::press(const QPushButton* button, const std::function<void()>& act)

@@ -159,6 +159,12 @@ void ReviewBar::showState()
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
 
+void ReviewBar::addLast(QWidget* widget)
+{
+    layout()->addWidget(widget);
+    setTabOrder(advice_, widget);
+}
+
 void ReviewBar::focusFind()
 {
     find_->setFocus(Qt::ShortcutFocusReason);

@@ -353,6 +353,22 @@ private Q_SLOTS:
         QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
     }
 
+    // Along the bar and then through the panel, as one reads.
+    void tabGoesInOrder()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        for (const char* name :
+             {"checkBox_ChangedOnly", "toolButton_Differences", "toolButton_Advice", "pushButton_Document",
+              "comboBox_Against", "pushButton_TakeOver", "pushButton_SavePreset",
+              "pushButton_CopyDifferences", "pushButton_SaveDifferences", "toolButton_CloseDifferences",
+              "tableView_Differences"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
+    }
+
     // Quick setup has fewer, and sets some without showing them.
     void findsInQuickSetup()
     {
