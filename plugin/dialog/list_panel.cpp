@@ -79,9 +79,12 @@ void ListPanel::addToHead(const QWidgetList& widgets)
         if (auto* button = qobject_cast<QPushButton*>(widget))
             button->setAutoDefault(false);
     }
-    // Tab goes as one reads.
+    // Tab goes from what fills the table to its lines, and from there to what is done with them.
     QWidgetList order = widgets;
-    order << close_ << table_;
+    const auto buttons = std::stable_partition(
+        order.begin(), order.end(), [](QWidget* widget) { return !qobject_cast<QPushButton*>(widget); });
+    order.insert(buttons, table_);
+    order << close_;
     for (int next = 1; next < order.size(); ++next)
         setTabOrder(order[next - 1], order[next]);
 }

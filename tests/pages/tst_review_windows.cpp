@@ -353,7 +353,7 @@ private Q_SLOTS:
         QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
     }
 
-    // Along the bar and then through the panel, as one reads.
+    // Along the bar, and in the panel from its lines to what is done with them.
     void tabGoesInOrder()
     {
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
@@ -361,9 +361,8 @@ private Q_SLOTS:
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         for (const char* name :
              {"checkBox_ChangedOnly", "toolButton_Differences", "toolButton_Advice", "pushButton_Document",
-              "comboBox_Against", "pushButton_TakeOver", "pushButton_SavePreset",
-              "pushButton_CopyDifferences", "pushButton_SaveDifferences", "toolButton_CloseDifferences",
-              "tableView_Differences"}) {
+              "comboBox_Against", "tableView_Differences", "pushButton_TakeOver", "pushButton_SavePreset",
+              "pushButton_CopyDifferences", "pushButton_SaveDifferences", "toolButton_CloseDifferences"}) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
         }
