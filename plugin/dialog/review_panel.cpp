@@ -140,10 +140,10 @@ void ReviewPanel::fitTable()
 {
     table()->resizeColumnsToContents();
     QAbstractItemView* view = table();
-    const QHeaderView* heads = table()->horizontalHeader();
-    int excess = std::max(view->sizeHintForColumn(DifferenceModel::Note),
-                          heads->sectionSizeHint(DifferenceModel::Note)) -
-                 view->viewport()->width();
+    QHeaderView* heads = table()->horizontalHeader();
+    const int note = std::max({view->sizeHintForColumn(DifferenceModel::Note),
+                               heads->sectionSizeHint(DifferenceModel::Note), heads->minimumSectionSize()});
+    int excess = note - view->viewport()->width();
     for (const auto& [column, least] : kNarrowest)
         excess += table()->columnWidth(column);
     for (const auto& [column, least] : kNarrowest) {
@@ -151,9 +151,10 @@ void ReviewPanel::fitTable()
         table()->setColumnWidth(column, std::clamp(width - excess, std::min(least, width), width));
         excess -= width - table()->columnWidth(column);
     }
-    // What the columns leave belongs to the last one.
-    table()->horizontalHeader()->setStretchLastSection(false);
-    table()->horizontalHeader()->setStretchLastSection(true);
+    // What the columns leave belongs to the last one, which would take more by itself.
+    heads->setStretchLastSection(false);
+    heads->resizeSection(DifferenceModel::Note, note);
+    heads->setStretchLastSection(true);
 }
 
 bool ReviewPanel::choosePreset()

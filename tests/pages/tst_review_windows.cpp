@@ -353,6 +353,19 @@ private Q_SLOTS:
         QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
     }
 
+    // The narrowest window shows all columns of the list, long values cut.
+    void nothingIsBesideTheList()
+    {
+        dialog_->resize(960, 500);
+        type(child<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"), QString("navigation").repeated(5) + ".org");
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        const auto* table = child<QTableView>("tableView_Differences");
+        QTest::qWait(50);
+        QCOMPARE(table->horizontalScrollBar()->maximum(), 0);
+        QVERIFY(table->horizontalHeader()->length() <= table->viewport()->width());
+    }
+
     // Along the bar, and in the panel from its lines to what is done with them.
     void tabGoesInOrder()
     {
