@@ -49,6 +49,7 @@ private Q_SLOTS:
         const QByteArray before = saved();
         chooseNext(folder_.filePath("chosen.xml"));
         child<QPushButton>("pushButton_Document")->menu()->actions().first()->trigger();
+        QCoreApplication::processEvents();
         auto* table = child<QTableView>("tableView_Differences");
         QVERIFY(table->isVisible());
         QCOMPARE(table->model()->rowCount(), 1);
@@ -117,6 +118,7 @@ private Q_SLOTS:
         };
         const std::function<void()> report = [this] {
             child<QPushButton>("pushButton_Document")->menu()->actions().last()->trigger();
+            QCoreApplication::processEvents();
             child<QPushButton>("pushButton_ReportHtml")->click();
         };
         const std::tuple<const char*, const char*, std::function<void()>> rows[] = {
@@ -233,6 +235,7 @@ private Q_SLOTS:
         dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
         answerNext<QMessageBox>(tell);
         child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
+        QCoreApplication::processEvents();
         QCOMPARE(told, QString("rev_226"));
         child<QToolButton>("toolButton_Differences")->click();
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
