@@ -15,7 +15,7 @@ namespace vlk {
 namespace {
 
 constexpr qreal kUsualPoints = 9;    // points
-constexpr qreal kLargestPoints = 12; // of the one page, which is filled
+constexpr qreal kLargestPoints = 9.5; // of the one page, whose columns have room for a host
 constexpr qreal kSmallestPoints = 6; // that can be read on paper
 constexpr qreal kStep = 0.5;
 constexpr qreal kMargin = 2 / 2.54; // inches, as QTextDocument::print() leaves them
