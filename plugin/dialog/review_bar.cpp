@@ -207,7 +207,7 @@ void ReviewBar::find()
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
     // Quick setup has few of them.
     if (review_.isQuick())
-        std::ranges::stable_partition(hits_, [this](const review::Hit& hit) {
+        std::stable_partition(hits_.begin(), hits_.end(), [this](const review::Hit& hit) {
             return places_.whyHidden(hit.table, hit.row).isEmpty();
         });
     list_->clear();
