@@ -89,7 +89,7 @@
     <message id="adv_062"><translation>The time is synchronised by NTP, but no server is given.</translation></message>
     <message id="adv_063"><translation>After an error the time is asked for less often (%1) than usual (%2).</translation></message>
     <message id="adv_064"><translation>%1: %2 is neither an IP address nor a host name.</translation></message>
-    <message id="adv_065"><translation>There is no port %2: give server %1 a number up to 65535.</translation></message>
+    <message id="adv_065"><translation>Server %1 has port %2, which does not exist: set a number from 1 to 65535.</translation></message>
     <message id="adv_066"><translation>No server is in use: data are sent nowhere.</translation></message>
     <message id="adv_067"><translation>There is an encryption key, but data are encrypted for no server.</translation></message>
     <message id="adv_068"><translation>Only operators of the list are allowed in roaming, but the list is empty: no data are sent.</translation></message>
@@ -1605,13 +1605,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_225"><translation>Attached tracker: %1</translation></message>
     <message id="rev_226"><translation>Nothing is chosen for a preset. Compare with the default values to choose among more settings.</translation></message>
     <message id="rev_140"><translation>Unsaved changes of %1</translation></message>
-    <message id="rev_141"><translation>Show</translation></message>
-    <message id="rev_142"><translation>Bring back</translation></message>
-    <message id="rev_143"><translation>Discard</translation></message>
+    <message id="rev_141"><translation>Sh&amp;ow</translation></message>
+    <message id="rev_142"><translation>B&amp;ring back</translation></message>
+    <message id="rev_143"><translation>&amp;Discard</translation></message>
     <message id="rev_144"><translation>unsaved changes brought back</translation></message>
     <message id="rev_145"><translation>Unsaved changes cannot be kept: %1. Save them to a file before you close the window.</translation></message>
     <message id="rev_146"><translation>%1 will be discarded when the window closes.</translation></message>
-    <message id="rev_147"><translation>Keep</translation></message>
+    <message id="rev_147"><translation>&amp;Keep</translation></message>
     <message id="rev_160"><translation>Changed, was</translation></message>
     <message id="rev_161"><translation>Changed</translation></message>
     <message id="rev_163"><translation>Bring back</translation></message>

@@ -89,7 +89,7 @@
     <message id="adv_062"><translation>Время синхронизируется по NTP, но ни один сервер не указан.</translation></message>
     <message id="adv_063"><translation>После ошибки время по NTP запрашивается реже (%1), чем обычно (%2).</translation></message>
     <message id="adv_064"><translation>%1: %2 — не IP-адрес и не имя узла.</translation></message>
-    <message id="adv_065"><translation>Порта %2 не бывает: у сервера %1 укажите число до 65535.</translation></message>
+    <message id="adv_065"><translation>У сервера %1 порт %2, а такого не бывает: укажите число 1…65535.</translation></message>
     <message id="adv_066"><translation>Ни один сервер не используется: данные никуда не передаются.</translation></message>
     <message id="adv_067"><translation>Ключ шифрования задан, но данные не шифруются ни для одного сервера.</translation></message>
     <message id="adv_068"><translation>В роуминге разрешены только операторы из списка, но список пуст: данные не передаются.</translation></message>
@@ -1605,13 +1605,13 @@
     <message id="rev_225"><translation>Подключённый трекер: %1</translation></message>
     <message id="rev_226"><translation>Для шаблона ничего не отмечено. Сравните с начальными значениями, чтобы выбирать из большего числа параметров.</translation></message>
     <message id="rev_140"><translation>Несохранённые изменения от %1</translation></message>
-    <message id="rev_141"><translation>Показать</translation></message>
-    <message id="rev_142"><translation>Вернуть</translation></message>
-    <message id="rev_143"><translation>Удалить</translation></message>
+    <message id="rev_141"><translation>П&amp;оказать</translation></message>
+    <message id="rev_142"><translation>&amp;Вернуть</translation></message>
+    <message id="rev_143"><translation>&amp;Удалить</translation></message>
     <message id="rev_144"><translation>возврат несохранённых изменений</translation></message>
     <message id="rev_145"><translation>Несохранённые изменения не удаётся держать на диске: %1. Сохраните их в файл, прежде чем закрыть окно.</translation></message>
     <message id="rev_146"><translation>%1 будут удалены, когда окно закроется.</translation></message>
-    <message id="rev_147"><translation>Оставить</translation></message>
+    <message id="rev_147"><translation>Ос&amp;тавить</translation></message>
     <message id="rev_160"><translation>Изменено, было</translation></message>
     <message id="rev_161"><translation>Изменено</translation></message>
     <message id="rev_163"><translation>Вернуть</translation></message>

@@ -2,13 +2,13 @@
 
 #include "document/values_document.h"
 #include "review/compare_files.h"
+#include "review/quick_reach.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace vlk {
 
@@ -131,7 +131,7 @@ void ConfigurationReview::compareWith(FileState before, Against against, const E
     against_ = against;
     otherName_ = name;
     differences_ = Differences(std::move(before), now());
-    findBeyond();
+    beyond_.reset();
     Q_EMIT changed();
 }
 
@@ -163,30 +163,22 @@ void ConfigurationReview::followPreset()
 {
     presetDue_.stop();
     differences_ = Differences(withPreset(), now());
-    findBeyond();
+    beyond_.reset();
 }
 
-void ConfigurationReview::findBeyond()
+bool ConfigurationReview::isBeyond(int key) const
 {
-    beyond_.clear();
     if (!isQuick() || against_ == Against::file)
-        return;
-    std::vector<int> keys;
-    for (const review::Difference& difference : differences_.all()) {
-        if (difference.key >= 0)
-            keys.push_back(difference.key);
+        return false;
+    if (!beyond_) {
+        std::vector<int> keys;
+        for (const review::Difference& difference : differences_.all()) {
+            if (difference.key >= 0)
+                keys.push_back(difference.key);
+        }
+        beyond_ = review::beyondQuick(written(), differences_.before(), keys);
     }
-    Configuration taken = written();
-    review::takeOver(taken, differences_.before(), keys);
-    XmlDocument document(QString(), QStringLiteral("DEVICE"));
-    taken.write(*document.root());
-    document.root()->commit();
-    Values quick(kQuickSettings);
-    readFrom(*document.root(), quick);
-    FileState state = FileState::ofConfiguration(taken);
-    state.lay(quick);
-    std::ranges::copy_if(keys, std::back_inserter(beyond_),
-                         [&](int key) { return !(state.at(key) == differences_.before().at(key)); });
+    return std::ranges::find(*beyond_, key) != beyond_->end();
 }
 
 bool ConfigurationReview::isAnew(const review::Difference& difference) const
@@ -362,7 +354,7 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
         }
     }
     if (isOther)
-        findBeyond();
+        beyond_.reset();
     if (isPreset)
         presetDue_.start();
     advice_.reset();

@@ -12,7 +12,6 @@
 
 #include <QTimer>
 
-#include <algorithm>
 #include <optional>
 
 struct CXmlSection;
@@ -66,7 +65,8 @@ public:
     bool isAnew(int key) const;
     bool isAnew(const review::Difference& difference) const;
     // Whether it would stay as it is if all were taken from the other side now: the quick window decides it.
-    bool isBeyond(int key) const { return isQuick() && std::ranges::find(beyond_, key) != beyond_.end(); }
+    // Worked out when it is asked for first after another side was chosen or an open preset followed an edit.
+    bool isBeyond(int key) const;
     // What the quick window made of the file as it came, of a setting that it shows and no file holds; null
     // where that is what it shows now, and for every other setting.
     QString quickBefore(const PageSettings& page, int row) const;
@@ -125,8 +125,6 @@ private:
     // An edit may move what the preset would make of the rest: applied anew, but not with each edit.
     void followPreset();
     void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
-    // Works out anew what the quick window cannot take from the other side.
-    void findBeyond();
     void write(CXmlSection& root) const;
     // `quick`: values of that window that stand whatever the configuration makes of them.
     void put(const Configuration& changed, const QMap<QString, QString>& quick,
@@ -148,10 +146,11 @@ private:
     review::FileState quickState_; // with that over what the full window makes of it
     QHash<QString, QString> quickStrangers_;
     Against against_ = Against::file;
-    QByteArray preset_;       // its document
-    std::vector<int> moved_;  // keys that it moves
-    std::vector<int> beyond_; // keys that the quick window cannot take
-    QTimer presetDue_;        // to be followed when edits pause
+    QByteArray preset_;      // its document
+    std::vector<int> moved_; // keys that it moves
+    // Keys that the quick window cannot take; none until they are asked for.
+    mutable std::optional<std::vector<int>> beyond_;
+    QTimer presetDue_; // to be followed when edits pause
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
     bool wasQuick_ = false;

@@ -3,6 +3,8 @@
 #include <QMenu>
 #include <QShortcut>
 
+#include <utility>
+
 namespace vlk {
 
 DocumentMenu::DocumentMenu(QWidget* window) : QPushButton(window)
@@ -10,10 +12,15 @@ DocumentMenu::DocumentMenu(QWidget* window) : QPushButton(window)
     setObjectName(QStringLiteral("pushButton_Document"));
     setAutoDefault(false);
     auto* menu = new QMenu(this);
-    apply_ = menu->addAction(QString(), this, &DocumentMenu::presetToApply);
-    save_ = menu->addAction(QString(), this, &DocumentMenu::presetToSave);
+    apply_ = menu->addAction(QString());
+    save_ = menu->addAction(QString());
     menu->addSeparator();
-    report_ = menu->addAction(QString(), this, &DocumentMenu::reportWanted);
+    report_ = menu->addAction(QString());
+    // When the menu has closed: the button would look pressed from then on.
+    for (const auto& [action, signal] : {std::pair(apply_, &DocumentMenu::presetToApply),
+                                         {save_, &DocumentMenu::presetToSave},
+                                         {report_, &DocumentMenu::reportWanted}})
+        connect(action, &QAction::triggered, this, signal, Qt::QueuedConnection);
     setMenu(menu);
     const QKeySequence print(QKeySequence::Print);
     connect(new QShortcut(print, window), &QShortcut::activated, this, &DocumentMenu::reportWanted);

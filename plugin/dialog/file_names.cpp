@@ -15,9 +15,9 @@ namespace vlk {
 namespace {
 
 // Files may be carried to a system that does not tell the case of letters.
-QString freeName(const PathQuestion& question)
+QString freeName(const QString& folder, const PathQuestion& question)
 {
-    const QStringList taken = vlkDevice ? QDir(vlkDevice->xmlFolder()).entryList() : QStringList();
+    const QStringList taken = QDir(folder).entryList();
     QString free = question.name;
     for (int number = 2; taken.contains(free + QLatin1Char('.') + question.suffix, Qt::CaseInsensitive);
          ++number)
@@ -25,18 +25,13 @@ QString freeName(const PathQuestion& question)
     return free;
 }
 
-QString askPath(QWidget* parent, const PathQuestion& question, const QString& dialogName)
+// Empty when the user cancels.
+QString run(QFileDialog* dialog, const QString& suffix)
 {
-    if (!vlkDevice)
-        return {};
-    const QString path =
-        QStringLiteral("%1/%2.%3").arg(vlkDevice->xmlFolder(), question.name, question.suffix);
-    QFileDialog dialog(parent, question.caption, path, question.filter);
-    dialog.setObjectName(dialogName);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
     // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
-    dialog.setDefaultSuffix(question.suffix);
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    dialog->setDefaultSuffix(suffix);
+    return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
 }
 
 } // namespace
@@ -49,20 +44,39 @@ QString configurationPathToWrite(const QString& part)
 
 QString askConfigurationPath(QWidget* parent, const QString& objectName)
 {
+    if (!vlkDevice)
+        return {};
     const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
-    const QString name = QStringLiteral("%1(%2)").arg(asFileName(objectName, QStringLiteral("_")),
-                                                      now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
-    return askPath(parent,
-                   {text("cfgwnd_003"), name, QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")),
-                    QStringLiteral("xml")},
-                   {});
+    const QString path = QStringLiteral("%1/%2(%3).xml")
+                             .arg(vlkDevice->xmlFolder(), asFileName(objectName, QStringLiteral("_")),
+                                  now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
+    QFileDialog dialog(parent, text("cfgwnd_003"), path,
+                       QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
+    return run(&dialog, QStringLiteral("xml"));
 }
 
 QString askPathToSave(QWidget* parent, const PathQuestion& question)
 {
-    PathQuestion free = question;
-    free.name = freeName(question);
-    return askPath(parent, free, QStringLiteral("fileDialog_Told"));
+    if (!vlkDevice)
+        return {};
+    const QString folder = lastFolder(question.kind, vlkDevice->xmlFolder());
+    QFileDialog dialog(parent, question.caption,
+                       QStringLiteral("%1/%2.%3").arg(folder, freeName(folder, question), question.suffix),
+                       question.filter);
+    dialog.setObjectName(QStringLiteral("fileDialog_Told"));
+    const QString path = run(&dialog, question.suffix);
+    if (!path.isEmpty())
+        rememberFolder(question.kind, path);
+    return path;
+}
+
+QString askPathToOpen(QWidget* parent, FileKind kind, const QString& caption, const QString& filter)
+{
+    const QString path = QFileDialog::getOpenFileName(
+        parent, caption, lastFolder(kind, vlkDevice ? vlkDevice->xmlFolder() : QString()), filter);
+    if (!path.isEmpty())
+        rememberFolder(kind, path);
+    return path;
 }
 
 QString saveAsAsked(const QString& path, const QByteArray& content, bool isPrivate)

@@ -79,6 +79,14 @@ void ListPanel::addToHead(const QWidgetList& widgets)
         if (auto* button = qobject_cast<QPushButton*>(widget))
             button->setAutoDefault(false);
     }
+    // Tab goes from what fills the table to its lines, and from there to what is done with them.
+    QWidgetList order = widgets;
+    const auto buttons = std::stable_partition(
+        order.begin(), order.end(), [](QWidget* widget) { return !qobject_cast<QPushButton*>(widget); });
+    order.insert(buttons, table_);
+    order << close_;
+    for (int next = 1; next < order.size(); ++next)
+        setTabOrder(order[next - 1], order[next]);
 }
 
 void ListPanel::press(const QPushButton* button, const std::function<void()>& act)

@@ -89,8 +89,8 @@ std::function<Notice()> savePreset(QWidget* parent, const review::FileState& fro
         personal = askPersonal(parent, static_cast<int>(keys.size() - personals));
     if (!personal)
         return {};
-    const QString path =
-        askPathToSave(parent, {word("rev_199"), word("rev_204"), word("rev_205"), QStringLiteral("xml")});
+    const QString path = askPathToSave(
+        parent, {FileKind::preset, word("rev_199"), word("rev_204"), word("rev_205"), QStringLiteral("xml")});
     if (path.isEmpty())
         return {};
     XmlDocument document(QString(), QStringLiteral("DEVICE"));

@@ -152,8 +152,9 @@ void ReportDialog::save(const char* kind, const QString& suffix,
     const QString object = asFileName(review_.written().value(QStringLiteral("TRANS/OBJECT/name")).trimmed(),
                                       QStringLiteral("_"));
     const QString name = QStringLiteral("%1 %2").arg(tr("rev_217"), object).trimmed();
-    const QString path = askPathToSave(
-        this, {tr(kind), name, suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
+    const QString path =
+        askPathToSave(this, {FileKind::report, tr(kind), name,
+                             suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
     if (path.isEmpty())
         return;
     const QString failure = saveAsAsked(path, content(html_, onePage_->isChecked()), secrets_->isChecked());

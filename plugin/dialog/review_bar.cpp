@@ -159,6 +159,12 @@ void ReviewBar::showState()
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
 }
 
+void ReviewBar::addLast(QWidget* widget)
+{
+    layout()->addWidget(widget);
+    setTabOrder(advice_, widget);
+}
+
 void ReviewBar::focusFind()
 {
     find_->setFocus(Qt::ShortcutFocusReason);
@@ -199,6 +205,11 @@ void ReviewBar::find()
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
+    // Quick setup has few of them.
+    if (review_.isQuick())
+        std::stable_partition(hits_.begin(), hits_.end(), [this](const review::Hit& hit) {
+            return places_.whyHidden(hit.table, hit.row).isEmpty();
+        });
     list_->clear();
     for (const review::Hit& hit : hits_)
         addLine(hit);

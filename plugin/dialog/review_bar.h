@@ -27,6 +27,8 @@ public:
     ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget* parent);
 
     void retranslate();
+    // Behind all others, for the eye and for Tab.
+    void addLast(QWidget* widget);
     void focusFind();
     // What is on show below.
     enum Panel { None, Differences, Advice };

@@ -4,7 +4,6 @@
 #include "dialog/preset_saving.h"
 #include "dialog/setting_places.h"
 #include "fuel/question.h"
-#include "link/device.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
@@ -16,7 +15,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
@@ -142,10 +140,10 @@ void ReviewPanel::fitTable()
 {
     table()->resizeColumnsToContents();
     QAbstractItemView* view = table();
-    const QHeaderView* heads = table()->horizontalHeader();
-    int excess = std::max(view->sizeHintForColumn(DifferenceModel::Note),
-                          heads->sectionSizeHint(DifferenceModel::Note)) -
-                 view->viewport()->width();
+    QHeaderView* heads = table()->horizontalHeader();
+    const int note = std::max({view->sizeHintForColumn(DifferenceModel::Note),
+                               heads->sectionSizeHint(DifferenceModel::Note), heads->minimumSectionSize()});
+    int excess = note - view->viewport()->width();
     for (const auto& [column, least] : kNarrowest)
         excess += table()->columnWidth(column);
     for (const auto& [column, least] : kNarrowest) {
@@ -153,9 +151,10 @@ void ReviewPanel::fitTable()
         table()->setColumnWidth(column, std::clamp(width - excess, std::min(least, width), width));
         excess -= width - table()->columnWidth(column);
     }
-    // What the columns leave belongs to the last one.
-    table()->horizontalHeader()->setStretchLastSection(false);
-    table()->horizontalHeader()->setStretchLastSection(true);
+    // What the columns leave belongs to the last one, which would take more by itself.
+    heads->setStretchLastSection(false);
+    heads->resizeSection(DifferenceModel::Note, note);
+    heads->setStretchLastSection(true);
 }
 
 bool ReviewPanel::choosePreset()
@@ -169,8 +168,9 @@ bool ReviewPanel::chooseAgainst(int index)
     QString path;
     bool isRead = true;
     if (against == Against::otherFile || against == Against::preset) {
-        path = QFileDialog::getOpenFileName(
-            this, tr(kQuestions[index]), vlkDevice ? vlkDevice->xmlFolder() : QString(), tr(kFilters[index]));
+        path =
+            askPathToOpen(this, against == Against::preset ? FileKind::preset : FileKind::otherConfiguration,
+                          tr(kQuestions[index]), tr(kFilters[index]));
         isRead = !path.isEmpty();
     }
     isRead = isRead && review_.compareWith(against, path);
@@ -228,8 +228,8 @@ void ReviewPanel::saveAsPreset()
 
 void ReviewPanel::saveCsv()
 {
-    const QString path = askPathToSave(
-        this, {tr("rev_115"), tr("rev_108"), QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
+    const QString path = askPathToSave(this, {FileKind::differences, tr("rev_115"), tr("rev_108"),
+                                              QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
     if (path.isEmpty())
         return;
     // With a mark of the encoding, by which spreadsheets know it.

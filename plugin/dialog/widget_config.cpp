@@ -114,7 +114,7 @@ void VLK_Widget_Config::addReview()
 void VLK_Widget_Config::addDocuments()
 {
     documents_ = new vlk::DocumentMenu(this);
-    bar_->layout()->addWidget(documents_);
+    bar_->addLast(documents_);
     connect(documents_, &vlk::DocumentMenu::presetToApply, this, [this] {
         if (panel_->choosePreset())
             showPanel(vlk::ReviewBar::Differences);

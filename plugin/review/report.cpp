@@ -57,14 +57,14 @@ QString headRow(const QStringList& head)
     return html.isEmpty() ? html : QStringLiteral("<tr>%1</tr>\n").arg(html);
 }
 
-QString rowOf(const Line& line)
+QString rowOf(const Line& line, int captionShare)
 {
     const QString caption = line.words.caption.toHtmlEscaped();
     if (isLong(line))
         return QStringLiteral("<tr><td colspan=\"2\">%1: %2</td></tr>\n")
             .arg(caption, line.values.first().toHtmlEscaped());
     const bool isPair = line.values.size() > 1;
-    QString html = QStringLiteral("<tr><td width=\"%1%\">").arg(isPair ? 50 : 60) + caption;
+    QString html = QStringLiteral("<tr><td width=\"%1%\">").arg(isPair ? 50 : captionShare) + caption;
     if (!line.note.isEmpty())
         html += QStringLiteral("<br><small>%1</small>").arg(line.note.toHtmlEscaped());
     for (const QString& value : line.values)
@@ -74,7 +74,8 @@ QString rowOf(const Line& line)
 }
 
 // Puts lines under their pages and groups, each heading where it changes.
-QString tables(Lines::const_iterator line, Lines::const_iterator end, const QStringList& head)
+QString tables(Lines::const_iterator line, Lines::const_iterator end, const QStringList& head,
+               int captionShare)
 {
     QString html;
     QString page;
@@ -101,7 +102,7 @@ QString tables(Lines::const_iterator line, Lines::const_iterator end, const QStr
             if (isOtherPage)
                 html += headRow(head);
         }
-        html += rowOf(*line);
+        html += rowOf(*line, captionShare);
     }
     endTable();
     return html;
@@ -286,11 +287,13 @@ Lines::const_iterator middleOf(const Lines& lines)
 QString bodyOf(const Lines& lines, const QStringList& head, bool isInColumns)
 {
     if (!isInColumns)
-        return tables(lines.begin(), lines.end(), head);
+        return tables(lines.begin(), lines.end(), head, 60);
+    constexpr int besideAddress = 36; // percent that leave a host or a Bluetooth address its line
     const auto middle = middleOf(lines);
     return QStringLiteral("<table width=\"100%\"><tr><td width=\"50%\">%1</td>"
                           "<td width=\"50%\" style=\"padding-left: 12px\">%2</td></tr></table>\n")
-        .arg(tables(lines.begin(), middle, head), tables(middle, lines.end(), head));
+        .arg(tables(lines.begin(), middle, head, besideAddress),
+             tables(middle, lines.end(), head, besideAddress));
 }
 
 } // namespace

@@ -211,7 +211,7 @@ int Search::score(const Entry& entry, const Query& query) const
         });
     sum += isCalledSo ? wholeName : 0;
     // What the file does not have as things stand comes behind its like.
-    constexpr int absence = 15;
+    constexpr int absence = 60;
     const bool isThere = !values.row(entry.hit.row).base->stored || values.isWritten(entry.hit.row);
     return std::max(1, sum - (isThere ? 0 : absence));
 }

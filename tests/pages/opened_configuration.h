@@ -70,6 +70,7 @@ protected:
     {
         answerNext<QFileDialog>([path](QFileDialog* dialog) {
             suggested_ = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+            startedIn_ = QFileInfo(dialog->directory().path()).fileName();
             dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
             QMetaObject::invokeMethod(dialog, "accept");
         });
@@ -114,6 +115,7 @@ protected:
     }
 
     static inline QString suggested_; // the name of the last file that was asked for
+    static inline QString startedIn_; // the folder where it was
     QTemporaryDir folder_;
     TestDevice device_;
     std::unique_ptr<VLK_Widget_Config> dialog_;

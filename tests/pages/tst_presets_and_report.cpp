@@ -3,6 +3,8 @@
 #include "dialog/difference_model.h"
 #include "dialog/report_sheet.h"
 #include "pages/opened_configuration.h"
+#include "review/report.h"
+#include "settings/all_settings.h"
 #include "support/files.h"
 #include "support/full_disk.h"
 
@@ -17,8 +19,9 @@ private Q_SLOTS:
     void init() { start(); }
     void cleanup() { end(); }
 
-    // The settings that were changed go into a preset, the object's name on demand, and come from there in
-    // one step, in either window beside what was edited there.
+    // The settings that were changed go into a preset, the object's name on
+    // demand, and come from there in one step, in either window beside what was
+    // edited there.
     void presetIsSavedAndApplied()
     {
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
@@ -46,6 +49,7 @@ private Q_SLOTS:
         const QByteArray before = saved();
         chooseNext(folder_.filePath("chosen.xml"));
         child<QPushButton>("pushButton_Document")->menu()->actions().first()->trigger();
+        QCoreApplication::processEvents();
         auto* table = child<QTableView>("tableView_Differences");
         QVERIFY(table->isVisible());
         QCOMPARE(table->model()->rowCount(), 1);
@@ -70,13 +74,15 @@ private Q_SLOTS:
         QCOMPARE(address->text(), QString("example.com"));
     }
 
-    // It sets all fields of a record, which is told before and behind. What is there keeps its name.
+    // It sets all fields of a record, which is told before and behind. What is
+    // there keeps its name.
     void presetOfOneField()
     {
         const QString here = QDir::currentPath();
         QDir::setCurrent(folder_.path());
         QDir().mkpath(device_.xmlFolder());
-        writeFile(device_.xmlFolder() + "/Rev_204.XML", {});
+        for (const QString& folder : {device_.xmlFolder(), folder_.path()})
+            writeFile(folder + "/Rev_204.XML", {});
         auto* box = child<QCheckBox>("checkBox_State_2");
         box->click();
         history().settle();
@@ -93,7 +99,46 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
     }
 
-    // What it has beyond quick setup is told, the rest is done. What another file has alone is told likewise.
+    // Each kind is looked for where one was saved or opened last, whatever became
+    // of the other kinds.
+    void folderOfTheLastFile()
+    {
+        const QDir folder(folder_.path());
+        for (const char* kind : {"presets", "tables", "reports", "others"})
+            folder.mkdir(kind);
+        for (const char* name : {"others/other.xml", "others/b other.xml"})
+            QFile::copy(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", folder_.filePath(name));
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        child<QToolButton>("toolButton_Differences")->click();
+        const auto press = [this](const char* name) {
+            return [this, name] { child<QPushButton>(name)->click(); };
+        };
+        const auto against = [this](int side) {
+            return [this, side] { Q_EMIT child<QComboBox>("comboBox_Against")->activated(side); };
+        };
+        const std::function<void()> report = [this] {
+            child<QPushButton>("pushButton_Document")->menu()->actions().last()->trigger();
+            QCoreApplication::processEvents();
+            child<QPushButton>("pushButton_ReportHtml")->click();
+        };
+        const std::tuple<const char*, const char*, std::function<void()>> rows[] = {
+            {"presets", "a.xml", press("pushButton_SavePreset")},
+            {"tables", "a.csv", press("pushButton_SaveDifferences")},
+            {"reports", "a.html", report},
+            {"others", "other.xml", against(2)},
+            {"presets", "a.xml", against(3)}};
+        for (const bool again : {false, true}) {
+            dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+            for (const auto& [kind, name, ask] : rows) {
+                chooseNext(folder_.filePath(QString("%1/%2").arg(kind, again ? "b " + QString(name) : name)));
+                ask();
+                QVERIFY2(!again || startedIn_ == kind, qPrintable(startedIn_));
+            }
+        }
+    }
+
+    // What it has beyond quick setup is told, the rest is done. What another file
+    // has alone is told likewise.
     void presetBeyondQuickSetup()
     {
         const QString path = folder_.filePath("more.xml");
@@ -111,7 +156,8 @@ private Q_SLOTS:
         child<QToolButton>("toolButton_Differences")->click();
         QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, path));
         QVERIFY(notes().contains("rev_280") && !notes().contains("rev_005"));
-        // What stays out of reach stands behind lines that cannot be chosen; the rest is done without a word.
+        // What stays out of reach stands behind lines that cannot be chosen; the
+        // rest is done without a word.
         const auto heads = [model] {
             int heads = 0;
             for (int line = 0; line < model->rowCount(); ++line) {
@@ -123,6 +169,21 @@ private Q_SLOTS:
         };
         QVERIFY(dialog_->showPreset(path));
         QVERIFY(!notes().contains("rev_005"));
+        // Nor can it take the sensors of a line without their numbers, which only a
+        // choice of few leaves out.
+        auto* differences = static_cast<vlk::DifferenceModel*>(model);
+        const auto choose = [&](const auto& isChosen) {
+            for (int line = 0; line < model->rowCount(); ++line)
+                differences->choose({line}, isChosen(differences->at(line).path));
+        };
+        choose([](const QString& path) { return path == "RS485/OPTIONS/owner1"; });
+        QCOMPARE(differences->chosenKeys().size(), 1U);
+        child<QPushButton>("pushButton_TakeOver")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_284"));
+        child<QToolButton>("label_Unsaved_Close")->click();
+        history().undo();
+        QVERIFY(dialog_->showPreset(path));
+        choose([](const QString& /*path*/) { return true; });
         const int beyond = heads();
         QVERIFY(beyond > 0 && model->rowCount() > beyond);
         child<QPushButton>("pushButton_TakeOver")->click();
@@ -144,11 +205,13 @@ private Q_SLOTS:
         QVERIFY(notes().contains("rev_282"));
     }
 
-    // What does not fit comes first, with its reason and without a check mark; a full disk is told.
+    // What does not fit comes first, with its reason and without a check mark; a
+    // full disk is told.
     void presetsInTrouble()
     {
         const QString path = folder_.filePath("bad.xml");
-        writeFile(path, "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"7\" dist=\"far\" bend=\"1\"/>"
+        writeFile(path, "<DEVICE creator=\"preset\"><TRACK><POINTS angle=\"7\" "
+                        "dist=\"far\" bend=\"1\"/>"
                         "<POINTS angle=\"8\"/></TRACK></DEVICE>");
         QVERIFY(dialog_->showPreset(path));
         auto* model = child<QTableView>("tableView_Differences")->model();
@@ -157,9 +220,8 @@ private Q_SLOTS:
             notes << model->index(line, 3).data().toString() +
                          (model->index(line, 0).data(Qt::CheckStateRole).isNull() ? "" : "+");
         QCOMPARE(notes, QStringList({"rev_184", "rev_185", "rev_187", "5 abbr_016+"}));
-        QVERIFY(dialog_->showPreset(writeFile(
-            path,
-            "<DEVICE creator=\"preset\"><OUTPUTS><LINE1 mode=\"ZUM\" safeBlock=\"1\"/></OUTPUTS></DEVICE>")));
+        QVERIFY(dialog_->showPreset(writeFile(path, "<DEVICE creator=\"preset\"><OUTPUTS><LINE1 "
+                                                    "mode=\"ZUM\" safeBlock=\"1\"/></OUTPUTS></DEVICE>")));
         QVERIFY(model->index(0, 2).data().toString() != "1");
         QCOMPARE(model->index(0, 3).data().toString(), QString("rev_285"));
         QVERIFY(!dialog_->showPreset("no such file"));
@@ -173,6 +235,7 @@ private Q_SLOTS:
         dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
         answerNext<QMessageBox>(tell);
         child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
+        QCoreApplication::processEvents();
         QCOMPARE(told, QString("rev_226"));
         child<QToolButton>("toolButton_Differences")->click();
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
@@ -230,9 +293,55 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         const QPdfWriter pdf(&file);
         const QString line = "<p>A setting and its value</p>";
-        QCOMPARE(vlk::pointsOnOnePage(line.repeated(5), pdf), 12.0);
-        const qreal points = vlk::pointsOnOnePage(line.repeated(35), pdf);
-        QVERIFY2(points > 6 && points < 12, qPrintable(QString::number(points)));
+        QCOMPARE(vlk::pointsOnOnePage(line.repeated(5), pdf), 9.5);
+        const qreal points = vlk::pointsOnOnePage(line.repeated(42), pdf);
+        QVERIFY2(points > 6 && points < 9.5, qPrintable(QString::number(points)));
+    }
+
+    // Hosts and addresses are read in one line, also in large letters.
+    void addressesAreNotBroken()
+    {
+        QBuffer file;
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QPdfWriter pdf(&file);
+        vlk::Configuration configuration(vlk::allSettings());
+        const QString values[] = {"telemetry1.example.com", "C4:64:E3:0B:52:10"};
+        configuration.edit("TRANS/SRV1/addr", values[0]);
+        configuration.edit("BLUETOOTH/SENS1/macaddr", values[1]);
+        const vlk::review::ReportChoice onePage{.isOnePage = true};
+        const QString html = toHtml(configuration, reportOf(configuration, {}, {}, {}, onePage));
+        const auto sheet = vlk::reportSheet(html, true, pdf);
+        for (const QString& value : values) {
+            const QTextBlock block = sheet->find(value).block();
+            QCOMPARE(block.layout()->lineCount(), 1);
+            const QRectF line = block.layout()->lineAt(0).naturalTextRect();
+            QVERIFY(sheet->documentLayout()->blockBoundingRect(block).left() + line.right() <
+                    sheet->pageSize().width());
+        }
+    }
+
+    // Wherever the page ends, headings stand above the first line of what they
+    // head.
+    void headingsAreKept()
+    {
+        QBuffer file;
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QPdfWriter pdf(&file);
+        const QString below = "<h2>Page</h2><h3>Group</h3><table><tr><td>caption</"
+                              "td><td>1</td></tr></table>";
+        QSet<int> pages;
+        for (int lines = 20; lines < 45; ++lines) {
+            const auto sheet = vlk::reportSheet(QString("<p>line</p>").repeated(lines) + below, false, pdf);
+            const auto pageOf = [&](const QString& text) {
+                const QTextBlock block = sheet->find(text).block();
+                return static_cast<int>(sheet->documentLayout()->blockBoundingRect(block).top() /
+                                        sheet->pageSize().height());
+            };
+            QCOMPARE(pageOf("Page"), pageOf("caption"));
+            QCOMPARE(pageOf("Group"), pageOf("caption"));
+            pages << pageOf("Page");
+        }
+        QCOMPARE(pages, QSet<int>({0, 1}));
     }
 };
 

@@ -353,6 +353,34 @@ private Q_SLOTS:
         QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
     }
 
+    // The narrowest window shows all columns of the list, long values cut.
+    void nothingIsBesideTheList()
+    {
+        dialog_->resize(960, 500);
+        type(child<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"), QString("navigation").repeated(5) + ".org");
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        const auto* table = child<QTableView>("tableView_Differences");
+        QTest::qWait(50);
+        QCOMPARE(table->horizontalScrollBar()->maximum(), 0);
+        QVERIFY(table->horizontalHeader()->length() <= table->viewport()->width());
+    }
+
+    // Along the bar, and in the panel from its lines to what is done with them.
+    void tabGoesInOrder()
+    {
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        for (const char* name :
+             {"checkBox_ChangedOnly", "toolButton_Differences", "toolButton_Advice", "pushButton_Document",
+              "comboBox_Against", "tableView_Differences", "pushButton_TakeOver", "pushButton_SavePreset",
+              "pushButton_CopyDifferences", "pushButton_SaveDifferences", "toolButton_CloseDifferences"}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
+    }
+
     // Quick setup has fewer, and sets some without showing them.
     void findsInQuickSetup()
     {
@@ -366,6 +394,16 @@ private Q_SLOTS:
             QTest::keyClick(find, Qt::Key_Return);
             QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
         }
+        // What can be reached comes first.
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "TRANS");
+        const auto* list = child<QListWidget>("listWidget_Found");
+        int reached = 0;
+        while (reached < list->count() && !list->item(reached)->text().endsWith(')'))
+            ++reached;
+        QVERIFY(reached > 0 && reached < list->count());
+        for (int line = reached; line < list->count(); ++line)
+            QVERIFY2(list->item(line)->text().endsWith(')'), qPrintable(list->item(line)->text()));
     }
 
     // What the panels list is what the command line tells of the same files.

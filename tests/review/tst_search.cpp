@@ -73,6 +73,13 @@ private Q_SLOTS:
             .row("reefer", "холодильник", "RS485/OPTIONS/owner1")
             .row("how often", "reporting interval", "TRACK/POINTS/moveTimer")
             .row("object by its login", "логин объекта", "TRANS/SRV1/objID")
+            .row("what is on show before what a choice would show", "температура bluetooth",
+                 "BLUETOOTH/SENS1/type")
+            .row("type of a sensor before those of its kinds", "bluetooth датчик 1 тип",
+                 "BLUETOOTH/SENS1/type")
+            .row("the same in two languages", "bluetooth sensor 1 тип", "BLUETOOTH/SENS1/type")
+            .row("device before what it has", "топливо rs-485", "RS485/OPTIONS/owner1")
+            .row("two languages, the other way round", "порт server", "TRANS/SRV1/port")
             .row("no secret by its value", "geheim", "")
             .row("nothing", "qwertz", "")
             .row("a word that is nowhere", "порт qwertz", "");

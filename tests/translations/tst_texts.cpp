@@ -103,8 +103,10 @@ private Q_SLOTS:
     void buttonsHaveMnemonics()
     {
         const QStringList windows[] = {
-            {"wrd_047", "wrd_048", "cfgwnd_001", "wrd_051", "wrd_053", "wrd_052", "wrd_027", "wrd_054"},
-            {"wrd_055", "cfgwnd_002", "wrd_054"},
+            // With the buttons of the bar that offers edits kept from before.
+            {"wrd_047", "wrd_048", "cfgwnd_001", "wrd_051", "wrd_053", "wrd_052", "wrd_027", "wrd_054",
+             "rev_141", "rev_142", "rev_143", "rev_147"},
+            {"wrd_055", "cfgwnd_002", "wrd_054", "rev_141", "rev_142", "rev_143", "rev_147"},
             {"wrd_061", "wrd_062", "wrd_027", "wrd_054"},
             {"rec_001", "rec_006", "rec_007", "wrd_027"},
             // "Cancel" stands beside commands that are closed meanwhile, and shares a letter with one.

@@ -1,6 +1,7 @@
 #include "fuel/table/fuel_file.h"
 
 #include "base/file_name.h"
+#include "base/last_folder.h"
 #include "base/replace_file.h"
 #include "fuel/table/fuel_log.h"
 
@@ -16,12 +17,6 @@ namespace {
 
 // Bytes. The largest table has a tenth of this.
 constexpr qint64 kLargestFile = 4'000'000;
-
-QString& folderOfLastSave()
-{
-    static QString folder;
-    return folder;
-}
 
 QString noTable(const QString& path)
 {
@@ -40,13 +35,12 @@ QString fuelFileName(const QString& folder, const QString& sensor, const QString
 
 QString fuelFolder(const QString& otherwise)
 {
-    const QString& last = folderOfLastSave();
-    return !last.isEmpty() && QFileInfo(last).isDir() ? last : otherwise;
+    return lastFolder(FileKind::calibration, otherwise);
 }
 
 void rememberFuelFolder(const QString& path)
 {
-    folderOfLastSave() = QFileInfo(path).path();
+    rememberFolder(FileKind::calibration, path);
 }
 
 bool saveFuelFile(const QString& path, const QByteArray& content)

@@ -1,0 +1,15 @@
+#pragma once
+
+// Dialogs start where a file of the kind was saved or opened last, as long as the program runs.
+
+#include <QString>
+
+namespace vlk {
+
+enum class FileKind { calibration, preset, otherConfiguration, report, differences };
+
+// `otherwise` where there was none yet or its folder is gone.
+QString lastFolder(FileKind kind, const QString& otherwise);
+void rememberFolder(FileKind kind, const QString& path);
+
+} // namespace vlk
