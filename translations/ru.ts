@@ -1710,6 +1710,7 @@
     <message id="rec_465"><translation>Последняя запись с прежним уровнем. Подсказка у времени называет и первую запись с новым уровнем.</translation></message>
     <message id="rec_470"><translation>Формат выбран по расширению имени: %1.</translation></message>
     <message id="rec_471"><translation>Подготовка графиков и трека: %1&#160;%</translation></message>
+    <message id="rec_472"><translation>Часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3).</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

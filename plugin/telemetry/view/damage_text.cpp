@@ -101,7 +101,7 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
         return;
     bar->tell(kPart, [goTo, last, before, behind] {
         return Notice{Mark::advice,
-                      translated("rec_463").arg(number(behind - before - 1), number(before), number(behind)),
+                      translated("rec_472").arg(number(behind - before - 1), number(before), number(behind)),
                       {{translated("tmiw_200"), [goTo, last] { goTo(last - 1); }}}};
     });
 }
