@@ -1750,6 +1750,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_298"><translation>In full setup only: %1</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
+    <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
     <message id="tmiex_003"><translation>Satellites</translation></message>

@@ -1750,6 +1750,7 @@
     <message id="rev_298"><translation>Только в полной настройке: %1</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
+    <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
     <message id="tmiex_003"><translation>Спутники</translation></message>

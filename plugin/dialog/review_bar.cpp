@@ -205,6 +205,9 @@ void ReviewBar::find()
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });
     hits_.resize(std::min<std::size_t>(hits_.size(), kMostHits));
+    std::erase_if(hits_, [this](const review::Hit& hit) {
+        return places_.isShownNowhere(hit.table, hit.row, hit.part);
+    });
     // Quick setup has few of them.
     if (review_.isQuick())
         std::stable_partition(hits_.begin(), hits_.end(), [this](const review::Hit& hit) {

@@ -152,6 +152,13 @@ QString SettingPlaces::whyHidden(int table, int row) const
     return needed ? needed->text : QString();
 }
 
+bool SettingPlaces::isShownNowhere(int table, int row, int part) const
+{
+    const QWidget* widget = widgetOf(table, row, part);
+    return widget && widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide) &&
+           whyHidden(table, row).isEmpty();
+}
+
 void SettingPlaces::goTo(int table, int row, int part)
 {
     auto [page, own] = placeOf(table, row);
@@ -162,6 +169,11 @@ void SettingPlaces::goTo(int table, int row, int part)
         if (QWidget* form = pages.empty() ? nullptr : pages.front()->binder().forms().first())
             QToolTip::showText(form->mapToGlobal(QPoint()), sentenceOf("rev_259"), form);
         return;
+    }
+    if (isShownNowhere(table, row, part)) {
+        QWidget* form = page->binder().forms().first();
+        showTabs(form);
+        return QToolTip::showText(form->mapToGlobal(QPoint()), sentenceOf("rev_331"), form);
     }
     QString told;
     for (int step = 0; step < kMostNeeded; ++step) {

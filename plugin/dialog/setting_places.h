@@ -25,6 +25,9 @@ public:
     // What has to be set to show it, "Device: Fuel level sensors", or that the other window has it. Empty
     // where it is on show.
     QString whyHidden(int table, int row) const;
+    // Whether no window of this tracker ever shows it: sensors behind the sixth one, which are kept all the
+    // same.
+    bool isShownNowhere(int table, int row, int part = -1) const;
     // To what has to be set first, where the setting is not on show, saying so.
     void goTo(int table, int row, int part = -1);
     // After the page has lost some of its room.

@@ -17,11 +17,29 @@ namespace vlk::review {
 
 namespace {
 
+// In words with a digit, letters that look alike in both alphabets are the same: lines are named "O1" and
+// "T1" in Latin, and typed on either keyboard.
+void useOneAlphabet(QString& text)
+{
+    static const QString cyrillic = QString::fromUtf8("авекмнорстух");
+    static const QString latin = QStringLiteral("abekmhopctyx");
+    for (int begin = 0, end = 0; begin < text.size(); begin = end + 1) {
+        bool hasDigit = false;
+        for (end = begin; end < text.size() && text[end].isLetterOrNumber(); ++end)
+            hasDigit = hasDigit || text[end].isDigit();
+        for (int i = begin; hasDigit && i < end; ++i) {
+            if (const int letter = cyrillic.indexOf(text[i]); letter >= 0)
+                text[i] = latin[letter];
+        }
+    }
+}
+
 QString folded(const QString& text)
 {
     QString plain = text.toCaseFolded();
     plain.replace(QChar(0x451), QChar(0x435)); // "ё" is looked for as "е"
     plain.replace(QChar(QChar::Nbsp), QLatin1Char(' '));
+    useOneAlphabet(plain);
     return plain;
 }
 

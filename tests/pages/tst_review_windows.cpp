@@ -319,6 +319,22 @@ private Q_SLOTS:
             QTRY_COMPARE(QApplication::focusWidget()->objectName(), focus);
     }
 
+    // The page has room for six sensors, the tracker for sixteen.
+    void shownNowhere()
+    {
+        auto* device = child<QComboBox>("comboBox_RS485_Owner_1");
+        device->setCurrentIndex(device->findData("FLDS"));
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        for (const auto& [sensor, isFound] :
+             {std::pair("RS485/FS6/address", true), {"RS485/FS7/address", false}}) {
+            auto* find = child<QLineEdit>("lineEdit_Find");
+            find->selectAll();
+            QTest::keyClicks(find, sensor);
+            const auto* list = child<QListWidget>("listWidget_Found");
+            QCOMPARE(list->item(0)->text() != "rev_127", isFound);
+        }
+    }
+
     // The cell of a list of operators, so that typing over it changes what was looked for.
     void findsACell_data()
     {

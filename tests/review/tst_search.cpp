@@ -148,6 +148,8 @@ private Q_SLOTS:
             .row("низкое напряжение", "SYSTEM/PWRSENS/alarmLvl")
             .row("рфид", "RS485/RFID/type")
             .row("сглаживание топлива", "RS485/FS1/filterMode")
+            .row("название О1", "OUTPUTS/LINE1/nickname") // in Cyrillic
+            .row("Т1 максимум", "TEMPSENS/SENS1/max")
             .row("глушение", "OUTPUTS/LINE1/mode")
             .row("485 address", "RS485/FS1/address")
             .row("fuel sensor address", "RS485/FS1/address")
