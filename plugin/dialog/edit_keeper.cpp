@@ -64,7 +64,7 @@ QString editSubject(const QString& path, bool isFile)
         const QFileInfo file(path);
         return kFile + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     }
-    if (const QString subject = trackerSubject(); !subject.isEmpty())
+    if (QString subject = trackerSubject(); !subject.isEmpty())
         return subject;
     QFile file(path);
     file.open(QIODevice::ReadOnly);

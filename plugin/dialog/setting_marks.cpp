@@ -150,7 +150,7 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
 // The settings that it fills may be closed: the change is told where it was made, too.
 QString SettingMarks::choiceBefore(const PageSettings& page, int row) const
 {
-    if (const QString before = review_.quickBefore(page, row); !before.isNull())
+    if (QString before = review_.quickBefore(page, row); !before.isNull())
         return before;
     const Values& values = page.values();
     const review::Differences& edits = review_.edits();
@@ -166,7 +166,7 @@ QString SettingMarks::choiceBefore(const PageSettings& page, int row) const
     for (const Presets* presets : values.row(row).presets) {
         if (!presets->other || keyOf(row) >= 0 || std::ranges::none_of(presets->fields, isChanged))
             continue;
-        const QString before = values.presetFor(*presets, [&](int field) {
+        QString before = values.presetFor(*presets, [&](int field) {
             const int key = keyOf(field);
             return key < 0 ? values.value(field) : edits.before().at(key).meaning;
         });

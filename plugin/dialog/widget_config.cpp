@@ -214,11 +214,10 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
 
 void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Escape)
-        QDialog::keyPressEvent(event);
-    else if (bar_->isAncestorOf(focusWidget()))
+    const bool isEscape = event->key() == Qt::Key_Escape;
+    if (isEscape && bar_->isAncestorOf(focusWidget()))
         ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
-    else if (panel_->isVisible() || advice_->isVisible())
+    else if (isEscape && (panel_->isVisible() || advice_->isVisible()))
         showPanel(vlk::ReviewBar::None);
     else
         QDialog::keyPressEvent(event);

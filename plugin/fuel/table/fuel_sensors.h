@@ -35,17 +35,17 @@ struct FuelKind
     const char* valueCaption; // keys
     const char* axisCaption;
     Editor editor;     // of the value column: volts or codes
+    bool millivolts;   // what the tracker says is in millivolts, and is shown in volts
     int leftMargin;    // pixels, of the graph
     int graphDecimals; // of its values
-    bool millivolts;   // what the tracker says is in millivolts, and is shown in volts
     int steady;        // by how much the reading of a level at rest may differ from the one before
 };
 
 inline constexpr FuelKind kFuelKinds[] = {
-    {"cfgt6_042", "cfgt6_043", FuelKind::Editor::Decimal, 60, 2, true, 20},
-    {"cfgt6_044", "cfgt6_044", FuelKind::Editor::Integer, 80, 0, false, 8},
-    {"cfgt6_045", "cfgt6_045", FuelKind::Editor::Integer, 80, 0, false, 8},
-    {"cfgt6_041", "cfgt6_041", FuelKind::Editor::None, 80, 0, false, 8}, // any other number
+    {"cfgt6_042", "cfgt6_043", FuelKind::Editor::Decimal, true, 60, 2, 20},
+    {"cfgt6_044", "cfgt6_044", FuelKind::Editor::Integer, false, 80, 0, 8},
+    {"cfgt6_045", "cfgt6_045", FuelKind::Editor::Integer, false, 80, 0, 8},
+    {"cfgt6_041", "cfgt6_041", FuelKind::Editor::None, false, 80, 0, 8}, // any other number
 };
 
 constexpr const FuelKind& fuelKind(int kind)

@@ -21,10 +21,10 @@ enum class ExportForm : std::uint8_t { csv, csvText, tsv, ndjson, gpx, kml, geoj
 
 struct ExportFormRow
 {
-    ExportForm form;
     const char* name; // on the command line
     const char* key;  // of its text
     const char* suffix;
+    ExportForm form;
     bool looksAhead;     // needs to know of all records before the first is written
     bool isIndependent;  // no record depends on those before it
     bool hasDecimalSign; // of which there are two
@@ -32,15 +32,15 @@ struct ExportFormRow
 
 // In the order in which they are offered.
 inline constexpr ExportFormRow kExportForms[] = {
-    {ExportForm::csv, "csv", "rec_120", "csv", true, true, true},
-    {ExportForm::csvText, "csv-text", "rec_121", "csv", true, true, false},
-    {ExportForm::tsv, "tsv", "rec_122", "tsv", true, true, true},
-    {ExportForm::gpx, "gpx", "rec_123", "gpx", false, false, false},
-    {ExportForm::kml, "kml", "rec_124", "kml", false, false, false},
-    {ExportForm::geojson, "geojson", "rec_125", "geojson", false, false, false},
-    {ExportForm::ndjson, "ndjson", "rec_126", "ndjson", false, true, false},
-    {ExportForm::xml, "xml", "rec_127", "xml", true, true, false},
-    {ExportForm::tmi, "tmi", "rec_128", "tmi", true, true, false},
+    {"csv", "rec_120", "csv", ExportForm::csv, true, true, true},
+    {"csv-text", "rec_121", "csv", ExportForm::csvText, true, true, false},
+    {"tsv", "rec_122", "tsv", ExportForm::tsv, true, true, true},
+    {"gpx", "rec_123", "gpx", ExportForm::gpx, false, false, false},
+    {"kml", "rec_124", "kml", ExportForm::kml, false, false, false},
+    {"geojson", "rec_125", "geojson", ExportForm::geojson, false, false, false},
+    {"ndjson", "rec_126", "ndjson", ExportForm::ndjson, false, true, false},
+    {"xml", "rec_127", "xml", ExportForm::xml, true, true, false},
+    {"tmi", "rec_128", "tmi", ExportForm::tmi, true, true, false},
 };
 
 const ExportFormRow& rowOf(ExportForm form);
