@@ -144,6 +144,49 @@ private Q_SLOTS:
         QVERIFY(notes().contains("rev_282"));
     }
 
+    // Quick setup finds the operator of what a preset brings as full setup does, and an operator that was
+    // chosen there stays beside what a preset brings of other settings.
+    void presetOfAnAccessPoint()
+    {
+        const QString path = folder_.filePath("point.xml");
+        const auto apply = [&](const char* preset) {
+            writeFile(path, preset);
+            QVERIFY(dialog_->showPreset(path));
+            child<QPushButton>("pushButton_TakeOver")->click();
+        };
+        open({}, 0);
+        auto* page = dialog_->findChild<QWidget*>("page_Light");
+        auto* list = page->findChild<QComboBox*>("Transfer_comboBox_GSM_Operator_1");
+        auto* point = page->findChild<QLineEdit*>("Transfer_lineEdit_GSM_APN_1");
+        const auto shown = [&] {
+            return QStringList{QString::number(list->currentIndex()), point->text(),
+                               point->isEnabled() ? "open" : "locked"};
+        };
+        const auto choose = [list](Qt::Key key, int times) {
+            list->setFocus();
+            while (times-- > 0)
+                QTest::keyClick(list, key);
+        };
+        choose(Qt::Key_Up, 5);
+        const QStringList first{"0", "internet.mts.ru", "locked"};
+        QCOMPARE(shown(), first);
+        apply("<DEVICE creator=\"preset\"><TRANS><AP1 name=\"internet.fleet\"/></TRANS></DEVICE>");
+        const QStringList other{"6", "internet.fleet", "open"};
+        QCOMPARE(shown(), other);
+        apply("<DEVICE creator=\"preset\"><TRANS><SRV1 port=\"5555\"/></TRANS></DEVICE>");
+        QCOMPARE(page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value(), 5555);
+        QCOMPARE(shown(), other);
+        history().undo();
+        history().undo();
+        QCOMPARE(shown(), first);
+        history().redo();
+        QCOMPARE(shown(), other);
+        open({}, 0);
+        apply("<DEVICE creator=\"preset\"><TRANS><AP1 name=\"internet.beeline.ru\" login=\"beeline\" "
+              "pass=\"beeline\"/></TRANS></DEVICE>");
+        QCOMPARE(shown(), QStringList({"1", "internet.beeline.ru", "locked"}));
+    }
+
     // What does not fit comes first, with its reason and without a check mark; a full disk is told.
     void presetsInTrouble()
     {

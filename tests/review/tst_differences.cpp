@@ -329,6 +329,20 @@ private Q_SLOTS:
         QCOMPARE(configuration.value(path), QString("90060"));
     }
 
+    // What a read would make of the rest of a new configuration stays as it is.
+    void nothingElseIsTakenOver()
+    {
+        vlk::Configuration configuration(vlk::allSettings());
+        const QByteArray file = saved(configuration);
+        configuration.edit("TRANS/RULES/pingTimer", "120");
+        const vlk::Configuration expected = configuration;
+        configuration.edit("TEMPSENS/SENS1/hyst", "9");
+        takeOver(configuration, Differences(stateOf(file), FileState::ofConfiguration(configuration)),
+                 {vlk::review::FileKeys::all().at("TEMPSENS/SENS1/hyst")});
+        for (std::size_t table = 0; table < expected.tables().size(); ++table)
+            QCOMPARE(configuration.tables()[table].held(), expected.tables()[table].held());
+    }
+
 private:
     static vlk::TextSource textsOf(const QString& language)
     {
