@@ -54,6 +54,18 @@ qreal pointsOnOnePage(const QString& html, const QPagedPaintDevice& device)
     return points;
 }
 
+int leastPages(const QString& html)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&buffer);
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    QTextDocument document;
+    setSize(document, kSmallestPoints);
+    document.setHtml(html);
+    return pagesOn(pdf, document);
+}
+
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)
 {
     QTextDocument document;

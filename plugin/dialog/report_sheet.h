@@ -12,6 +12,8 @@ namespace vlk {
 // What is meant for one page gets letters as large as it has room for, down to what can be read; more than
 // that goes on over other pages. In points.
 qreal pointsOnOnePage(const QString& html, const QPagedPaintDevice& device);
+// How many pages of A4 that takes at least.
+int leastPages(const QString& html);
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device);
 // A4.
 QByteArray reportPdf(const QString& html, bool isOnePage);
