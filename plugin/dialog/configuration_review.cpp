@@ -7,6 +7,8 @@
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 
@@ -76,6 +78,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     presetDue_.stop();
     against_ = Against::file;
     otherName_ = {};
+    fileName_.clear();
     history_.begin();
 }
 
@@ -133,12 +136,14 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
             before = FileState::ofDocument(*document.root());
         }
     }
+    fileName_ = QFileInfo(path).fileName();
     compareWith(std::move(before), against, {});
     return true;
 }
 
 void ConfigurationReview::compareWith(FileState before, const EditHistory::Words& name)
 {
+    fileName_.clear();
     compareWith(std::move(before), Against::otherFile, name);
 }
 

@@ -93,6 +93,28 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
     }
 
+    // The other events of an output become what their list calls it.
+    void presetOfEvents()
+    {
+        for (const auto& [name, key] : {std::pair("comboBox_UseAs_O1", Qt::Key_Home),
+                                        std::pair("comboBox_AutoSwitch_In2_O1", Qt::Key_End)}) {
+            auto* list = child<QComboBox>(name);
+            list->setFocus();
+            QTest::keyClick(list, key);
+        }
+        history().settle();
+        child<QToolButton>("toolButton_Differences")->click();
+        const QString path = folder_.filePath("events.xml");
+        chooseNext(path);
+        child<QPushButton>("pushButton_SavePreset")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text().section("\n", -1), QString("rev_342"));
+        history().undo();
+        QVERIFY(dialog_->showPreset(path));
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        const QModelIndex first = model->index(0, vlk::DifferenceModel::Note);
+        QCOMPARE(model->match(first, Qt::DisplayRole, "rev_341").size(), 1);
+    }
+
     // What it has beyond quick setup is told, the rest is done. What another file has alone is told likewise.
     void presetBeyondQuickSetup()
     {
@@ -133,7 +155,8 @@ private Q_SLOTS:
                      ->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")
                      ->value(),
                  5555);
-        QVERIFY(model->headerData(2, Qt::Horizontal, Qt::ToolTipRole) == "rev_192");
+        QVERIFY(model->headerData(2, Qt::Horizontal, Qt::ToolTipRole) == "rev_192: more.xml");
+        QCOMPARE(model->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), QString("more.xml"));
         // The other window takes them, and what was told in this one goes with it.
         chooseNext(folder_.filePath("told.csv"));
         child<QPushButton>("pushButton_SaveDifferences")->click();

@@ -212,8 +212,9 @@ private Q_SLOTS:
         text.beforeText = "two\nlines";
         const vlk::TextSource source = textsOf("en");
         const vlk::TextsFrom texts(source);
-        QCOMPARE(vlk::review::toCsv({text}), QString("Tab;Group;Setting;Before;After;Note\r\n"
-                                                     ";;\"a;\"\"b\"\"\";\"two\nlines\";;\r\n"));
+        QCOMPARE(vlk::review::toCsv({text}, "By default", "Now"),
+                 QString("Page;Group;Setting;By default;Now;Note\r\n"
+                         ";;\"a;\"\"b\"\"\";\"two\nlines\";;\r\n"));
     }
 
     // What a missing key reads as is no difference from the defaults, and before is that.
