@@ -252,7 +252,8 @@ DifferenceModel::Copied DifferenceModel::copied() const
     };
     Copied copied;
     copied.text = cells([&](int column) { return headerData(column, Qt::Horizontal).toString(); });
-    for (const Line& line : lines_) {
+    for (const int place : shown_) {
+        const Line& line = lines_[place];
         if (line.members > 0)
             continue;
         ++copied.all;
@@ -261,8 +262,8 @@ DifferenceModel::Copied DifferenceModel::copied() const
         if (hasChoice && std::ranges::find(chosen, line.difference.key) == chosen.end())
             continue;
         ++copied.lines;
-        const QString place = review::placeText(line.text);
-        copied.text += cells([&](int column) { return cell(line.text, place, column); });
+        const QString setting = review::placeText(line.text);
+        copied.text += cells([&](int column) { return cell(line.text, setting, column); });
     }
     return copied;
 }

@@ -42,7 +42,7 @@ public:
     std::vector<int> chosenKeys() const;
     // With a heading, as a spreadsheet takes it.
     QString csv() const;
-    // All but what can be chosen and is not, with a heading and tabs between the cells.
+    // What is on show, but for what can be chosen and is not, with a heading and tabs between the cells.
     struct Copied
     {
         QString text;
