@@ -140,13 +140,11 @@ void ReviewPanel::showState()
 
 void ReviewPanel::fitTable()
 {
+    // It would keep the width that the last column had once.
+    table()->horizontalHeader()->setStretchLastSection(false);
     table()->resizeColumnsToContents();
-    QAbstractItemView* view = table();
-    const QHeaderView* heads = table()->horizontalHeader();
-    int excess = std::max(view->sizeHintForColumn(DifferenceModel::Note),
-                          heads->sectionSizeHint(DifferenceModel::Note)) -
-                 view->viewport()->width();
-    for (int column = 0; column < DifferenceModel::Note; ++column)
+    int excess = -table()->viewport()->width();
+    for (int column = 0; column < DifferenceModel::ColumnCount; ++column)
         excess += table()->columnWidth(column);
     for (const auto& [column, least] : kNarrowest) {
         const int width = table()->columnWidth(column);
@@ -154,8 +152,8 @@ void ReviewPanel::fitTable()
         excess -= width - table()->columnWidth(column);
     }
     // What the columns leave belongs to the last one.
-    table()->horizontalHeader()->setStretchLastSection(false);
-    table()->horizontalHeader()->setStretchLastSection(true);
+    if (excess < 0)
+        table()->setColumnWidth(DifferenceModel::Note, table()->columnWidth(DifferenceModel::Note) - excess);
 }
 
 bool ReviewPanel::choosePreset()

@@ -113,6 +113,19 @@ private Q_SLOTS:
         QVERIFY(table->isHidden() || !table->isVisible());
     }
 
+    // Whatever the last column had while the list was narrow.
+    void columnsFit()
+    {
+        dialog_->resize(960, 590);
+        open({});
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        const auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile,
+                                              VLK_SOURCE "/fuzz/corpus/settings/factory.xml"));
+        QVERIFY(table->model()->rowCount() > 10);
+        QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
+    }
+
     void firstAndLastDifference()
     {
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
