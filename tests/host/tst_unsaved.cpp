@@ -99,8 +99,11 @@ private Q_SLOTS:
         QVERIFY(offer().isEmpty());
         open(source, full);
         QCOMPARE(offer(), QString("rev_345: 2"));
+        const auto* backup = window->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Reserv_1");
+        const QString address = full ? backup->text() : QString();
         press("label_Unsaved_Action2");
         QVERIFY(offer().isEmpty());
+        QVERIFY(!full || backup->text() == address);
         press("toolButton_Undo");
         QVERIFY(!offer().isEmpty());
         press("toolButton_Redo");
