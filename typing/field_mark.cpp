@@ -18,6 +18,7 @@ namespace vlk {
 namespace {
 
 constexpr int kMarkGap = 3; // between the shape and the caption
+constexpr int kRatio = 2;   // of icons, which look well on any screen then
 constexpr const char* kPropertyName = "fieldMark";
 
 // The frame round an invalid field.
@@ -308,9 +309,17 @@ QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio)
     return pixmap;
 }
 
+QIcon markIcon(Mark mark, const QPalette& palette)
+{
+    QPalette selected = palette;
+    selected.setColor(QPalette::Window, palette.color(QPalette::Highlight));
+    QIcon icon(markPixmap(mark, palette, kMarkSize, kRatio));
+    icon.addPixmap(markPixmap(mark, selected, kMarkSize, kRatio), QIcon::Selected);
+    return icon;
+}
+
 QIcon tabMark(std::optional<Mark> mark, const QPalette& palette)
 {
-    constexpr int kRatio = 2;
     if (mark)
         return QIcon(markPixmap(*mark, palette, kMarkSize, kRatio));
     QPixmap none(kRatio * QSize(kMarkSize, kMarkSize));

@@ -40,6 +40,8 @@ QPalette withInvalidText(QPalette palette);
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette);
 // The mark with sides of that many pixels, for a screen of that ratio.
 QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio);
+// For a line of a list, also one that is selected.
+QIcon markIcon(Mark mark, const QPalette& palette);
 // For the tab of a page, whose bar has icons of kMarkSize; without a mark it keeps the place of one.
 QIcon tabMark(std::optional<Mark> mark, const QPalette& palette);
 

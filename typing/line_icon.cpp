@@ -69,6 +69,19 @@ QPainterPath drawing(LineIcon icon)
         path.lineTo(14, 19);
         lines({{15, 4}, {20, 9}, {15, 14}});
         break;
+    case LineIcon::differences:
+        lines({{5, 9}, {19, 9}});
+        lines({{5, 15}, {19, 15}});
+        lines({{15, 4}, {9, 20}});
+        break;
+    case LineIcon::advice: {
+        const QRectF bulb(6, 3, 12, 12);
+        path.arcMoveTo(bulb, -60);
+        path.arcTo(bulb, -60, 300);
+        lines({{9, 14}, {9, 17}, {15, 17}, {15, 14}});
+        lines({{10, 21}, {14, 21}});
+        break;
+    }
     }
     return path;
 }

@@ -25,6 +25,8 @@ enum class LineIcon {
     cross,
     undo,
     redo,
+    differences,
+    advice,
 };
 
 QIcon lineIcon(LineIcon which);

@@ -16,12 +16,6 @@
 
 namespace vlk {
 
-namespace {
-
-constexpr int kMarkRatio = 2;
-
-} // namespace
-
 AdvicePanel::AdvicePanel(ConfigurationReview& review, SettingPlaces& places, QWidget* parent)
     : ListPanel("Advice", parent), review_(review), places_(places),
       goTo_(namedWidget<QPushButton>("pushButton_GoToAdvice", this)),
@@ -80,7 +74,7 @@ void AdvicePanel::refresh()
             auto* page =
                 new QStandardItem(values ? review::wordsOf(values->layout(), place.row).page : QString());
             if (const std::optional<Mark> mark = markOf(finding.severity))
-                page->setIcon(QIcon(markPixmap(*mark, palette(), kMarkSize, kMarkRatio)));
+                page->setIcon(markIcon(*mark, palette()));
             model_.appendRow({page, new QStandardItem(review::adviceText(finding))});
         }
         table()->resizeColumnToContents(0);

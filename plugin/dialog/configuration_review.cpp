@@ -8,6 +8,8 @@
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace vlk {
@@ -19,6 +21,23 @@ using review::FileState;
 namespace {
 
 constexpr int kPresetDelayMs = 200;
+
+// The quick window reads an access point of no known operator as the automatic choice. Where it has another
+// one than before, the operator is the one that the full window finds.
+void followPresets(const Presets& presets, const Values& before, const Values& read,
+                   const Configuration& configuration, std::vector<QString>* held)
+{
+    const bool isSame = std::ranges::all_of(
+        presets.fields, [&](const Path& field) { return read.value(field.row) == before.value(field.row); });
+    if (!presets.other || isSame)
+        return;
+    const int trigger = presets.trigger.row;
+    (*held)[trigger] = configuration.value(read.row(trigger).path);
+    for (const Sets& rule : read.table().all<Sets>()) {
+        if (rule.when.row == trigger)
+            (*held)[rule.path.row] = read.value(rule.path.row);
+    }
+}
 
 } // namespace
 
@@ -59,6 +78,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     presetDue_.stop();
     against_ = Against::file;
     otherName_ = {};
+    fileName_.clear();
     history_.begin();
 }
 
@@ -116,12 +136,14 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
             before = FileState::ofDocument(*document.root());
         }
     }
+    fileName_ = QFileInfo(path).fileName();
     compareWith(std::move(before), against, {});
     return true;
 }
 
 void ConfigurationReview::compareWith(FileState before, const EditHistory::Words& name)
 {
+    fileName_.clear();
     compareWith(std::move(before), Against::otherFile, name);
 }
 
@@ -413,6 +435,10 @@ void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHi
     XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
     Configuration changed = configuration();
     review::readAsEdited(changed, *edited.root());
+    XmlDocument unedited(now, QStringLiteral("DEVICE"));
+    Configuration unchanged = configuration();
+    review::readAsEdited(unchanged, *unedited.root());
+    review::keepTheRest(changed, written(), unchanged);
     // They belong to the configuration on which they were made.
     put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
 }
@@ -420,6 +446,7 @@ void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHi
 void ConfigurationReview::put(const Configuration& changed, const QMap<QString, QString>& quick,
                               const EditHistory::Words& words)
 {
+    const QByteArray now = document();
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
             const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
@@ -434,8 +461,15 @@ void ConfigurationReview::put(const Configuration& changed, const QMap<QString, 
         changed.write(*document.root());
         document.root()->commit();
         PageSettings& page = *history_.pages().back();
+        const Values before = page.values();
+        Values unchanged = before;
+        readFrom(*XmlDocument(now, QStringLiteral("DEVICE")).root(), unchanged);
         page.load(document.root());
-        std::vector<QString> held = page.values().held();
+        Values read = page.values();
+        review::keepTheRest(read, before, unchanged);
+        std::vector<QString> held = read.held();
+        for (const Presets& presets : read.table().all<Presets>())
+            followPresets(presets, before, page.values(), changed, &held);
         for (auto value = quick.begin(); value != quick.end(); ++value) {
             if (const int row = page.rowAt(value.key()); row >= 0)
                 held[row] = value.value();

@@ -47,6 +47,8 @@ public:
     void compareWith(review::FileState before, const EditHistory::Words& name);
     // Empty unless a name was given.
     QString otherName() const { return otherName_ ? otherName_() : QString(); }
+    // Of another file or a preset.
+    const QString& fileName() const { return fileName_; }
 
     const review::Differences& differences() const { return differences_; }
     // In the order of a save; with the quick window on show those of the sections first that it makes anew.
@@ -153,6 +155,7 @@ private:
     QTimer presetDue_; // to be followed when edits pause
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
+    QString fileName_;
     bool wasQuick_ = false;
     review::Differences edited_;      // to the file as it came
     review::Differences differences_; // to what is chosen

@@ -3,7 +3,6 @@
 #include "typing/field_mark.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QLocale>
 
 #include <algorithm>
@@ -13,8 +12,6 @@
 namespace vlk {
 
 namespace {
-
-constexpr int kIconRatio = 2;
 
 // Where the other side is neither what was opened nor the defaults, by ConfigurationReview::Against: what is
 // missing now, and what the other side lacks.
@@ -194,8 +191,12 @@ QString DifferenceModel::quickSummary() const
 // The texts tell what the preset moves here alone.
 void DifferenceModel::tellWhole(Line* line, const QString& value)
 {
-    if (const auto parts = review::chosenParts(line->difference.key, value))
-        line->text.note = text("rev_251").arg(parts->count).arg(parts->all);
+    if (const auto parts = review::chosenParts(line->difference.key, value)) {
+        line->text.note =
+            text(parts->rest.isEmpty() ? "rev_251" : "rev_341").arg(parts->count).arg(parts->all);
+        if (!parts->rest.isEmpty())
+            line->text.note = line->text.note.arg(parts->rest);
+    }
 }
 
 bool DifferenceModel::hasCheckMark(const Line& line) const
@@ -236,7 +237,35 @@ QString DifferenceModel::csv() const
         if (line.members == 0)
             texts.push_back(line.text);
     }
-    return review::toCsv(texts);
+    return review::toCsv(texts, headerData(Before, Qt::Horizontal).toString(),
+                         headerData(Now, Qt::Horizontal).toString());
+}
+
+DifferenceModel::Copied DifferenceModel::copied() const
+{
+    const std::vector<int> chosen = chosenKeys();
+    const auto cells = [](auto cell) {
+        QStringList texts;
+        for (int column = 0; column < ColumnCount; ++column)
+            texts << cell(column).simplified();
+        return texts.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    };
+    Copied copied;
+    copied.text = cells([&](int column) { return headerData(column, Qt::Horizontal).toString(); });
+    for (const int place : shown_) {
+        const Line& line = lines_[place];
+        if (line.members > 0)
+            continue;
+        ++copied.all;
+        const Kind kind = kindOf(line.difference);
+        const bool hasChoice = line.difference.key >= 0 && (kind == Kind::own || kind == Kind::along);
+        if (hasChoice && std::ranges::find(chosen, line.difference.key) == chosen.end())
+            continue;
+        ++copied.lines;
+        const QString setting = review::placeText(line.text);
+        copied.text += cells([&](int column) { return cell(line.text, setting, column); });
+    }
+    return copied;
 }
 
 int DifferenceModel::rowCount(const QModelIndex& parent) const
@@ -263,7 +292,7 @@ QVariant DifferenceModel::data(const QModelIndex& index, int role) const
                cell(line.text, review::placeText(line.text), column);
     }
     if (role == Qt::DecorationRole && index.column() == Page && isProblem)
-        return QIcon(markPixmap(Mark::advice, QGuiApplication::palette(), kMarkSize, kIconRatio));
+        return markIcon(Mark::advice, QGuiApplication::palette());
     if (role == Qt::CheckStateRole && index.column() == Page && hasCheckMark(line))
         return isChosen(line) ? Qt::Checked : Qt::Unchecked;
     return {};
@@ -307,6 +336,11 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
         return {};
     if (section == Before && !review_.otherName().isEmpty())
         return review_.otherName();
+    const QString& file = review_.fileName();
+    if (section == Before && !file.isEmpty()) {
+        const QString side = text(sides[static_cast<int>(review_.against())]);
+        return role == Qt::DisplayRole ? file : QStringLiteral("%1: %2").arg(side, file);
+    }
     if (section == Before && review_.against() == ConfigurationReview::Against::file && review_.isWritten())
         return text("rev_256");
     return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);

@@ -42,13 +42,21 @@ public:
     std::vector<int> chosenKeys() const;
     // With a heading, as a spreadsheet takes it.
     QString csv() const;
+    // What is on show, but for what can be chosen and is not, with a heading and tabs between the cells.
+    struct Copied
+    {
+        QString text;
+        int lines = 0;
+        int all = 0; // that there are
+    };
+    Copied copied() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
     struct Line

@@ -69,7 +69,9 @@ Notice savedPresetNotice(const QString& path, const Wholes& wholes)
         const TableLayout& layout = review::FileKeys::all().layout(place.table);
         const QString caption = review::wordsOf(layout, place.rows.front()).caption;
         notice.mark = Mark::advice;
-        notice.text += QLatin1Char('\n') + word("rev_252").arg(caption).arg(parts.count).arg(parts.all);
+        const QString told =
+            word(parts.rest.isEmpty() ? "rev_252" : "rev_342").arg(caption).arg(parts.count).arg(parts.all);
+        notice.text += QLatin1Char('\n') + (parts.rest.isEmpty() ? told : told.arg(parts.rest));
     }
     return notice;
 }

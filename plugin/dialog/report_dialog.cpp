@@ -11,6 +11,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPrintDialog>
@@ -26,6 +27,7 @@ namespace {
 enum Contents { All, Edited, NotDefault };
 constexpr const char* kContents[] = {"rev_207", "rev_208", "rev_209"};
 constexpr int kSaved = 1;
+constexpr int kTooLong = 2;
 constexpr QSize kUsualSize(760, 560);
 
 QPalette ofPaper(QPalette palette)
@@ -136,6 +138,13 @@ void ReportDialog::refresh()
     html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
                                            review_.advice(), about_(), choice));
     preview_->setHtml(html_);
+    const int pages = onePage_->isChecked() ? leastPages(html_) : 1;
+    if (pages > 1)
+        bar_->tell(kTooLong, [pages] {
+            return Notice{Mark::advice, QCoreApplication::translate("vlk", "rev_346").arg(pages), {}};
+        });
+    else
+        bar_->end(kTooLong);
 }
 
 void ReportDialog::print()

@@ -14,9 +14,9 @@ namespace vlk {
 
 namespace {
 
-constexpr qreal kUsualPoints = 9;    // points
+constexpr qreal kUsualPoints = 9;     // points
 constexpr qreal kLargestPoints = 9.5; // of the one page, whose columns have room for a host
-constexpr qreal kSmallestPoints = 6; // that can be read on paper
+constexpr qreal kSmallestPoints = 6;  // that can be read on paper
 constexpr qreal kStep = 0.5;
 constexpr qreal kMargin = 2 / 2.54; // inches, as QTextDocument::print() leaves them
 
@@ -115,6 +115,18 @@ std::unique_ptr<QTextDocument> reportSheet(const QString& html, bool isOnePage,
                                            const QPagedPaintDevice& device)
 {
     return laidOut(device, *documentOf(html, isOnePage, device));
+}
+
+int leastPages(const QString& html)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&buffer);
+    pdf.setPageSize(QPageSize(QPageSize::A4));
+    QTextDocument document;
+    setSize(document, kSmallestPoints);
+    document.setHtml(html);
+    return laidOut(pdf, document)->pageCount();
 }
 
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device)

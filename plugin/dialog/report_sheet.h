@@ -18,6 +18,8 @@ qreal pointsOnOnePage(const QString& html, const QPagedPaintDevice& device);
 // As it lies on the pages of the device. No heading stands at the foot of a page without what it heads.
 std::unique_ptr<QTextDocument> reportSheet(const QString& html, bool isOnePage,
                                            const QPagedPaintDevice& device);
+// How many pages of A4 that takes at least.
+int leastPages(const QString& html);
 void printReport(const QString& html, bool isOnePage, QPagedPaintDevice& device);
 // A4.
 QByteArray reportPdf(const QString& html, bool isOnePage);

@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -26,7 +27,7 @@ namespace {
 
 constexpr int kMostHits = 100;
 constexpr int kLinesOnShow = 10;
-constexpr int kMarkSide = 10;
+constexpr QSize kIconSize(20, 16);
 const QStringList kUndoKeys{QStringLiteral("Ctrl+Z")};
 const QStringList kRedoKeys{QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")};
 const QString kDifferencesKey = QStringLiteral("Ctrl+D");
@@ -53,15 +54,36 @@ QString lineOf(const review::Hit& hit, const Values& values, const QString& whyH
 }
 
 constexpr const char* kMarkProperty = "mark";
+constexpr int kNoMark = -1;
 
-// Painted anew only where it is another one, in the colours of the window, which has new ones first.
-void setMark(QToolButton* button, std::optional<Mark> mark)
+// An icon with the mark in its lower corner. Painted anew only where it is another one, in the colours of the
+// window, which has new ones first.
+void setMark(QToolButton* button, LineIcon icon, int mark)
 {
-    const QVariant number = mark ? QVariant(static_cast<int>(*mark)) : QVariant();
-    if (button->property(kMarkProperty) == number)
+    if (button->property(kMarkProperty) == mark)
         return;
-    button->setProperty(kMarkProperty, number);
-    button->setIcon(mark ? QIcon(markPixmap(*mark, button->window()->palette(), kMarkSide, 2)) : QIcon());
+    button->setProperty(kMarkProperty, mark);
+    constexpr int ratio = 2;
+    constexpr int gap = 1; // around the mark
+    QPixmap pixmap(kIconSize * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    lineIcon(icon).paint(&painter, {0, 0, kIconSize.height(), kIconSize.height()});
+    if (mark != kNoMark) {
+        const QRect corner(kIconSize.width() - kMarkSize, kIconSize.height() - kMarkSize, kMarkSize,
+                           kMarkSize);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::black);
+        painter.drawEllipse(corner.adjusted(-gap, -gap, gap, gap));
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        painter.translate(corner.topLeft());
+        paintMark(painter, static_cast<Mark>(mark), button->window()->palette());
+    }
+    painter.end();
+    button->setIcon(pixmap);
 }
 
 } // namespace
@@ -87,7 +109,7 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
         button->setAutoRaise(true);
     for (QToolButton* button : {differences_, advice_}) {
         button->setCheckable(true);
-        button->setIconSize({kMarkSide, kMarkSide});
+        button->setIconSize(kIconSize);
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     }
     find_->setClearButtonEnabled(true);
@@ -110,6 +132,7 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
             [this](bool on) { Q_EMIT panelRequested(on ? Differences : None); });
     connect(advice_, &QToolButton::toggled, this,
             [this](bool on) { Q_EMIT panelRequested(on ? Advice : None); });
+    setMark(advice_, LineIcon::advice, kNoMark);
     connect(&review_, &ConfigurationReview::changed, this, &ReviewBar::showState);
     connect(new QShortcut(QKeySequence::Find, parent), &QShortcut::activated, this, &ReviewBar::focusFind);
     for (const auto& [button, keys] : {std::pair(undo_, kUndoKeys), std::pair(redo_, kRedoKeys)}) {
@@ -150,9 +173,8 @@ void ReviewBar::showState()
     const int count = review_.edited();
     differences_->setText(QLocale().toString(count));
     const bool setsAnew = review_.setsAnew();
-    setMark(differences_, setsAnew    ? std::optional(Mark::advice)
-                          : count > 0 ? std::optional(Mark::changed)
-                                      : std::nullopt);
+    setMark(differences_, LineIcon::differences,
+            count == 0 ? kNoMark : static_cast<int>(setsAnew ? Mark::advice : Mark::changed));
     const QString told =
         tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
     differences_->setToolTip(setsAnew ? told + QLatin1Char('\n') + tr("rev_293") : told);
@@ -182,7 +204,7 @@ void ReviewBar::setPanel(Panel panel)
 void ReviewBar::setAdvice(int count, std::optional<Mark> worst)
 {
     advice_->setText(QLocale().toString(count));
-    setMark(advice_, worst);
+    setMark(advice_, LineIcon::advice, worst ? static_cast<int>(*worst) : kNoMark);
     advice_->setToolTip(tr("rev_135").arg(QKeySequence(kAdviceKey).toString()));
     advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
@@ -260,11 +282,11 @@ void ReviewBar::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::PaletteChange)
         return;
-    for (QToolButton* button : {differences_, advice_}) {
+    for (const auto& [button, icon] :
+         {std::pair(differences_, LineIcon::differences), std::pair(advice_, LineIcon::advice)}) {
         const QVariant mark = button->property(kMarkProperty);
-        setMark(button, std::nullopt);
-        if (mark.isValid())
-            setMark(button, static_cast<Mark>(mark.toInt()));
+        button->setProperty(kMarkProperty, {});
+        setMark(button, icon, mark.isValid() ? mark.toInt() : kNoMark);
     }
 }
 

@@ -32,10 +32,9 @@ namespace {
 
 // The least that columns are cut to, one after the other, where the window is small; the tool tip tells what
 // is cut.
-constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Caption, 230},
-                                              {DifferenceModel::Before, 110},
-                                              {DifferenceModel::Now, 110},
-                                              {DifferenceModel::Page, 90}};
+constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Before, 180},  {DifferenceModel::Now, 180},
+                                              {DifferenceModel::Caption, 230}, {DifferenceModel::Before, 110},
+                                              {DifferenceModel::Now, 110},     {DifferenceModel::Page, 90}};
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
@@ -79,8 +78,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
     connect(against_, QOverload<int>::of(&QComboBox::activated), this, &ReviewPanel::chooseAgainst);
     connect(takeOver_, &QPushButton::clicked, this, [this] { press(takeOver_, [this] { takeOver(); }); });
     connect(preset_, &QPushButton::clicked, this, &ReviewPanel::saveAsPreset);
-    connect(copy_, &QPushButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(tableText(*table())); });
+    connect(copy_, &QPushButton::clicked, this, &ReviewPanel::copy);
     connect(csv_, &QPushButton::clicked, this, &ReviewPanel::saveCsv);
 }
 
@@ -96,6 +94,7 @@ void ReviewPanel::retranslate()
     all_->setText(tr("rev_248"));
     none_->setText(tr("rev_249"));
     copy_->setText(tr("rev_114"));
+    copy_->setToolTip(tr("rev_343"));
     csv_->setText(QStringLiteral("CSV…"));
     csv_->setToolTip(tr("rev_115"));
     if (isVisible())
@@ -110,6 +109,7 @@ void ReviewPanel::showState()
     against_->setItemText(static_cast<int>(Against::file), tr(review_.isWritten() ? "rev_255" : kSides[0]));
     against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
+    against_->setToolTip(review_.fileName());
     QStringList sides;
     for (int side = 0; side < against_->count(); ++side)
         sides << against_->itemText(side);
@@ -138,23 +138,20 @@ void ReviewPanel::showState()
 
 void ReviewPanel::fitTable()
 {
+    // It would keep the width that the last column had once.
+    table()->horizontalHeader()->setStretchLastSection(false);
     table()->resizeColumnsToContents();
-    QAbstractItemView* view = table();
-    QHeaderView* heads = table()->horizontalHeader();
-    const int note = std::max({view->sizeHintForColumn(DifferenceModel::Note),
-                               heads->sectionSizeHint(DifferenceModel::Note), heads->minimumSectionSize()});
-    int excess = note - view->viewport()->width();
-    for (const auto& [column, least] : kNarrowest)
+    int excess = -table()->viewport()->width();
+    for (int column = 0; column < DifferenceModel::ColumnCount; ++column)
         excess += table()->columnWidth(column);
     for (const auto& [column, least] : kNarrowest) {
         const int width = table()->columnWidth(column);
         table()->setColumnWidth(column, std::clamp(width - excess, std::min(least, width), width));
         excess -= width - table()->columnWidth(column);
     }
-    // What the columns leave belongs to the last one, which would take more by itself.
-    heads->setStretchLastSection(false);
-    heads->resizeSection(DifferenceModel::Note, note);
-    heads->setStretchLastSection(true);
+    // What the columns leave belongs to the last one.
+    if (excess < 0)
+        table()->setColumnWidth(DifferenceModel::Note, table()->columnWidth(DifferenceModel::Note) - excess);
 }
 
 bool ReviewPanel::choosePreset()
@@ -224,6 +221,17 @@ void ReviewPanel::saveAsPreset()
 {
     if (const auto notice = savePreset(this, review_.differences().after(), model_.chosenKeys()))
         Q_EMIT told(notice);
+}
+
+void ReviewPanel::copy()
+{
+    const DifferenceModel::Copied copied = model_.copied();
+    QApplication::clipboard()->setText(copied.text);
+    Q_EMIT told([lines = copied.lines, all = copied.all] {
+        const QLocale locale;
+        const QString text = QCoreApplication::translate("vlk", "rev_344");
+        return Notice{Mark::right, text.arg(locale.toString(lines), locale.toString(all)), {}};
+    });
 }
 
 void ReviewPanel::saveCsv()

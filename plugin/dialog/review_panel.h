@@ -32,7 +32,7 @@ public:
     void saveAsPreset();
 
 Q_SIGNALS:
-    // What became of a file; asked for again when the language changes.
+    // What became of a file or a copy; asked for again when the language changes.
     void told(const std::function<vlk::Notice()>& notice);
 
 protected:
@@ -47,6 +47,7 @@ private:
     bool chooseAgainst(int index);
     void chooseAll(bool isChosen);
     void takeOver();
+    void copy();
     void saveCsv();
 
     ConfigurationReview& review_;

@@ -5,8 +5,9 @@
 #include "review/setting_parts.h"
 #include "windows/way_to.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFrame>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -166,8 +167,12 @@ void SettingPlaces::goTo(int table, int row, int part)
         return; // of the quick window, which has gone
     if (!page) {
         const std::vector<PageSettings*> pages = pages_();
-        if (QWidget* form = pages.empty() ? nullptr : pages.front()->binder().forms().first())
-            QToolTip::showText(form->mapToGlobal(QPoint()), sentenceOf("rev_259"), form);
+        QWidget* form = pages.empty() ? nullptr : pages.front()->binder().forms().first();
+        // Where the eyes are: below the field in which it was looked for.
+        if (QWidget* typed = qobject_cast<QLineEdit*>(QApplication::focusWidget()))
+            tellBelow(typed, sentenceOf("rev_259"));
+        else if (form)
+            QToolTip::showText(form->mapToGlobal(form->rect().center()), sentenceOf("rev_259"), form);
         return;
     }
     if (isShownNowhere(table, row, part)) {
@@ -205,7 +210,11 @@ void SettingPlaces::goTo(int table, int row, int part)
             outline(widget->parentWidget(), widget->geometry());
         if (!widget->isEnabled())
             leave(widget);
-        const QString text = !told.isEmpty() || widget->isEnabled() ? told : binder->whyDisabled(widget);
+        const auto* line = qobject_cast<const QLineEdit*>(widget);
+        const QString text = !told.isEmpty()              ? told
+                             : !widget->isEnabled()       ? binder->whyDisabled(widget)
+                             : line && line->isReadOnly() ? sentenceOf("rev_347")
+                                                          : QString();
         if (!text.isEmpty())
             tellBelow(widget, text);
     });

@@ -111,7 +111,8 @@ Notice UnsavedBar::noticeOf(int number)
 {
     const Offer& offer = offers_[number - 1];
     const QString text =
-        QStringLiteral("%1: %2").arg(nameOf(offer.kept.unsaved), QLocale().toString(offer.told));
+        QStringLiteral("%1: %2 (%3)")
+            .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(offer.kept.unsaved));
     const Notice::Action show{words("rev_141"), [this, number] { showOffer(number); }};
     const Notice::Action bring{words("rev_142"), [this, number] { bringBack(number); }};
     const Notice::Action drop{words("rev_143"), [this, number] { discard(number, true); }};

@@ -117,6 +117,10 @@ QString told(const Argument& argument, Numbers numbers, const Facts& facts)
         const Place place = placeOf(path);
         return captionText(facts.table(place).setting(place.row));
     }
+    case Argument::Kind::title: {
+        const Place place = placeOf(path);
+        return headingText(facts.table(place).setting(place.row)).section(QStringLiteral(" / "), -1);
+    }
     case Argument::Kind::field:
         return facts.boxText(positionOf(argument.position, numbers));
     case Argument::Kind::unread:

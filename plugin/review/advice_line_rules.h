@@ -104,7 +104,7 @@ inline constexpr auto kOutputRules = rulesOf(
         .naming("OUTPUTS/LINE1/safeBlock", kActions)
         .mending("OUTPUTS/LINE1/safeBlock", "1"),
     rule("output_idle", hint, "adv_049")
-        .when(kSwitched, unlike(kActions, "[12]"))
+        .when(kSwitched, unlike(kActions, "1"))
         .whenAny(isOn(kForm), isOn("OUTPUTS/LINE1/onPeriod"), isOn("OUTPUTS/LINE1/offPeriod"),
                  isOn("OUTPUTS/LINE1/autoOffDelay"))
         .naming(kActions, kForm),

@@ -149,6 +149,7 @@ struct Argument
         innerNumber,
         value, // with its unit
         caption,
+        title,  // that it stands under: "Backup 1"
         field,  // the box of the data set that the record lacks
         unread, // as the quick window calls it
         recordBytes,
@@ -175,6 +176,10 @@ constexpr Argument valueOf(const char* path)
 constexpr Argument captionOf(const char* path)
 {
     return {Argument::Kind::caption, path};
+}
+constexpr Argument titleOf(const char* path)
+{
+    return {Argument::Kind::title, path};
 }
 constexpr Argument boxOf(Position field)
 {

@@ -23,39 +23,42 @@ inline constexpr const char* kLongestOfDay = "86340";
 
 inline constexpr const char* kNoAddress = "|0.0.0.0";
 
+inline constexpr Argument kServer = titleOf("TRANS/SRV%1/addr");
+
 inline constexpr auto kServerRules = rulesOf(
     // A further one is not in use then.
     rule("server_empty", hint, "adv_001")
         .each(1)
         .when(isOn("TRANS/SRV%1/use"), is("TRANS/SRV%1/addr", kNoAddress), is("TRANS/SRV%1/port", "0"))
         .naming("TRANS/SRV%1/addr", "TRANS/SRV%1/port")
-        .telling(outerNumber()),
+        .telling(kServer),
     rule("server_address", error, "adv_002")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), is("TRANS/SRV%1/addr", kNoAddress), isNot("TRANS/SRV%1/port", "0"))
         .naming("TRANS/SRV%1/addr")
-        .telling(outerNumber()),
+        .telling(kServer),
     rule("server_port", error, "adv_003")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), isNot("TRANS/SRV%1/addr", kNoAddress), is("TRANS/SRV%1/port", "0"))
         .naming("TRANS/SRV%1/port")
-        .telling(outerNumber()),
+        .telling(kServer),
     rule("server_port_large", error, "adv_065")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), notBelow("TRANS/SRV%1/port", kHighestPort + 1))
         .naming("TRANS/SRV%1/port")
-        .telling(outerNumber(), valueOf("TRANS/SRV%1/port")),
+        .telling(kServer, valueOf("TRANS/SRV%1/port")),
     rule("server_address_form", error, "adv_004")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), unlike("TRANS/SRV%1/addr", shared::kHostPattern))
         .naming("TRANS/SRV%1/addr")
-        .telling(outerNumber(), valueOf("TRANS/SRV%1/addr")),
+        .telling(kServer, valueOf("TRANS/SRV%1/addr")),
     rule("servers_same", warning, "adv_005")
         .eachPair(kServers)
         .when(isOn("TRANS/SRV%1/use"), isOn("TRANS/SRV%2/use"), isNot("TRANS/SRV%1/addr", kNoAddress),
               same("TRANS/SRV%1/addr", "TRANS/SRV%2/addr"), same("TRANS/SRV%1/port", "TRANS/SRV%2/port"))
         .naming("TRANS/SRV%2/addr", "TRANS/SRV%1/addr", "TRANS/SRV%2/port", "TRANS/SRV%1/port")
-        .telling(outerNumber(), innerNumber(), valueOf("TRANS/SRV%1/addr"), valueOf("TRANS/SRV%1/port")),
+        .telling(kServer, titleOf("TRANS/SRV%2/addr"), valueOf("TRANS/SRV%1/addr"),
+                 valueOf("TRANS/SRV%1/port")),
     rule("server_none", hint, "adv_066")
         .when(every(kServers, isOff("TRANS/SRV%2/use")))
         .naming("TRANS/SRV1/use"),
@@ -68,7 +71,7 @@ inline constexpr auto kServerRules = rulesOf(
         .when(isOn("TRANS/SRV%1/use"), is("TRANS/SRV%1/protocol", "EGTS|EGTSAUTH"),
               is("TRANS/SRV%1/objID", "0"))
         .naming("TRANS/SRV%1/objID", "TRANS/SRV%1/protocol")
-        .telling(outerNumber(), valueOf("TRANS/SRV%1/protocol")));
+        .telling(kServer, valueOf("TRANS/SRV%1/protocol")));
 
 // A protocol as the quick window calls it in the file, and as the Transfer page does under another key.
 struct ProtocolNames
@@ -108,7 +111,7 @@ inline constexpr auto kTransferRules = rulesOf(
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), isOn("TRANS/CRYPTO/srv%1Mode"), is("TRANS/CRYPTO/key", ""))
         .naming("TRANS/CRYPTO/key", "TRANS/CRYPTO/srv%1Mode")
-        .telling(outerNumber()),
+        .telling(kServer),
     rule("crypto_key_form", error, "adv_010")
         .when(isNot("TRANS/CRYPTO/key", ""), unlike("TRANS/CRYPTO/key", "^[0-9A-Fa-f]{32}$"),
               some(kServers, isOn("TRANS/CRYPTO/srv%2Mode")))

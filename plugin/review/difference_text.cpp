@@ -198,12 +198,10 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
     return text;
 }
 
-QString toCsv(const std::vector<DifferenceText>& texts)
+QString toCsv(const std::vector<DifferenceText>& texts, const QString& before, const QString& after)
 {
-    QStringList heading;
-    for (const char* key : {"rev_014", "rev_015", "rev_016", "rev_017", "rev_018", "rev_019"})
-        heading << translated(key);
-    QString csv = csvLine(heading);
+    QString csv = csvLine({translated("rev_101"), translated("rev_015"), translated("rev_016"), before, after,
+                           translated("rev_019")});
     for (const DifferenceText& text : texts)
         csv += csvLine({text.page, text.group, text.caption, text.beforeText, text.afterText, text.note});
     return csv;

@@ -30,7 +30,8 @@ DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::m
 QString textBeside(const Setting& setting, const Held& held, const std::vector<Held>& others,
                    const char* unit);
 
-// One line a difference below a heading; separated by semicolons, quoted where it has to be.
-QString toCsv(const std::vector<DifferenceText>& texts);
+// One line a difference below a heading, which names the sides as they are given; separated by semicolons,
+// quoted where it has to be.
+QString toCsv(const std::vector<DifferenceText>& texts, const QString& before, const QString& after);
 
 } // namespace vlk::review

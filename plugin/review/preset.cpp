@@ -144,6 +144,8 @@ std::optional<ChosenParts> chosenParts(int key, const QString& text)
     const TableLayout& layout = FileKeys::all().layout(place.table);
     const Setting& setting = *layout.rows[layout.rows[place.rows.front()].target].setting;
     ChosenParts chosen;
+    if (const auto* digits = setting.as<Digits>(); digits && !digits->items.empty())
+        chosen.rest = partText(setting, 0, QStringLiteral("0"));
     for (int part = 0; part < partCount(setting); ++part) {
         if (!isPartShown(setting, part))
             continue;

@@ -27,6 +27,7 @@ struct ChosenParts
 {
     int count = 0;
     int all = 0;
+    QString rest{}; // what the others become, where it has a word of its own; else they go off
 };
 std::optional<ChosenParts> chosenParts(int key, const QString& text);
 

@@ -252,6 +252,8 @@ Lines changesOf(const Configuration& configuration, const Report& report)
 {
     Lines lines;
     for (const Difference& difference : report.changes->all()) {
+        if (difference.isAlong)
+            continue;
         const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
         const DifferenceText text =
             textOf(*report.changes, difference, configuration.tables()[table], report.secrets);
@@ -337,6 +339,9 @@ Report reportOf(const Configuration& configuration, const Differences& changes,
         report.advice << adviceText(finding);
     if (choice.isChangesAlone) {
         report.changes = &changes;
+        const auto all = changes.all();
+        if (const auto along = std::ranges::count_if(all, &Difference::isAlong); along > 0)
+            report.end = translated("rev_340").arg(along);
     } else if (choice.isOnePage) {
         report.keys.emplace();
         const Differences others(FileState::ofDefaults(configuration),

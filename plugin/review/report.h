@@ -18,9 +18,10 @@ struct Report
     QStringList advice;                     // sentences
     std::optional<std::vector<int>> keys{}; // told alone
     Secrets secrets = Secrets::masked;
-    const Differences* changes = nullptr; // told alone, with what was there before
-    bool isOnePage = false;               // in two columns
-    QString end{};                        // a sentence below all
+    // Told alone, with what was there before: those that a person would count.
+    const Differences* changes = nullptr;
+    bool isOnePage = false; // in two columns
+    QString end{};          // a sentence below all
 };
 
 // Plain HTML of the kind that QTextDocument lays out too. Keys that the configuration does not write are left

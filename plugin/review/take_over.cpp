@@ -139,12 +139,32 @@ void readAsEdited(Configuration& configuration, CXmlSection& root)
     }
 }
 
+void keepTheRest(Values& read, const Values& before, const Values& unchanged)
+{
+    std::vector<QString> held = read.held();
+    for (std::size_t row = 0; row < held.size(); ++row) {
+        if (held[row] == unchanged.held()[row])
+            held[row] = before.held()[row];
+    }
+    read.putBack(held);
+}
+
+void keepTheRest(Configuration& read, const Configuration& before, const Configuration& unchanged)
+{
+    for (std::size_t table = 0; table < read.tables().size(); ++table)
+        keepTheRest(read.tables()[table], before.tables()[table], unchanged.tables()[table]);
+}
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys)
 {
+    const Configuration before = configuration;
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     configuration.write(*document.root());
+    Configuration unchanged = configuration;
+    readAsEdited(unchanged, *document.root());
     layOver(*document.root(), from, keys);
     readAsEdited(configuration, *document.root());
+    keepTheRest(configuration, before, unchanged);
 }
 
 std::vector<int> takeOver(Configuration& configuration, const Differences& differences, std::vector<int> keys)

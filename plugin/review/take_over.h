@@ -28,6 +28,11 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
 // Reads what windows would save, with that which edits alone can give them.
 void readAsEdited(Configuration& configuration, CXmlSection& root);
 
+// What reading moves that nothing was laid over stays as it was: of a new configuration the empty address of
+// a server that is off. `unchanged` is what the state before reads as.
+void keepTheRest(Values& read, const Values& before, const Values& unchanged);
+void keepTheRest(Configuration& read, const Configuration& before, const Configuration& unchanged);
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
 
 // Takes keys over from the side before, with those that are needed; where a rule of a load stands against one

@@ -183,9 +183,10 @@ void PageLook::dressBoxes()
     // A check box beside its words takes them: a click on them is one on the box.
     for (QLabel* label : page_->findChildren<QLabel*>()) {
         auto* box = qobject_cast<QCheckBox*>(label->buddy());
-        if (!box || (!box->text().isEmpty() && !label->isHidden()))
-            continue;
         const QString words = label->text().replace(QLatin1String("<br>"), QLatin1String("\n"));
+        // A label that comes back with its box has the words that the box took.
+        if (!box || (!box->text().isEmpty() && box->text() != words && !label->isHidden()))
+            continue;
         if (box->text() != words)
             box->setText(words);
         label->hide();

@@ -281,6 +281,28 @@ private Q_SLOTS:
         }
     }
 
+    // Also a box that comes with a choice.
+    void boxesHaveTheirWordsOnce()
+    {
+        host_.open({});
+        auto* use = tabs_->findChild<QComboBox*>("comboBox_UseAs_O1");
+        for (int tab = 0; tab < tabs_->count(); ++tab) {
+            tabs_->setCurrentIndex(tab);
+            settle();
+            if (use->isVisible()) {
+                use->setFocus();
+                QTest::keyClick(use, Qt::Key_End);
+                QVERIFY(tabs_->findChild<QCheckBox*>("checkBox_ZumG_O1")->isVisible());
+                settle();
+            }
+            for (const QLabel* label : tabs_->currentWidget()->findChildren<QLabel*>()) {
+                const auto* box = qobject_cast<QCheckBox*>(label->buddy());
+                QVERIFY2(!box || !label->isVisible() || label->text() != box->text(),
+                         qPrintable(label->objectName()));
+            }
+        }
+    }
+
     void presentValuesAreNoFields()
     {
         for (const char* name : {"doubleSpinBox_TuningCur", "doubleSpinBox_AIN_Cur"}) {

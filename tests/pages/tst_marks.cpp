@@ -148,9 +148,13 @@ private Q_SLOTS:
         const QPalette before = QApplication::palette();
         QApplication::setPalette(QPalette(QColor(0x35, 0x37, 0x3a)));
         const QColor colour = vlk::markColor(vlk::Mark::changed, QApplication::palette());
-        for (const QIcon& icon : {child<QToolButton>("toolButton_Differences")->icon(),
-                                  child<QTabWidget>("tabWidget")->tabIcon(0)})
-            QCOMPARE(icon.pixmap(vlk::kMarkSize).toImage().pixelColor(4, 4), colour);
+        // On the button it is in the lower corner of a drawing.
+        const auto* button = child<QToolButton>("toolButton_Differences");
+        const QSize whole = button->iconSize();
+        QCOMPARE(button->icon().pixmap(whole).toImage().pixelColor(whole.width() - 5, whole.height() - 5),
+                 colour);
+        const QIcon tab = child<QTabWidget>("tabWidget")->tabIcon(0);
+        QCOMPARE(tab.pixmap(vlk::kMarkSize).toImage().pixelColor(4, 4), colour);
         QApplication::setPalette(before);
     }
 

@@ -99,8 +99,7 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, vlk::DifferenceModel::Note).data().toString(), QString("rev_251"));
     }
 
-    // Each kind is looked for where one was saved or opened last, whatever became
-    // of the other kinds.
+    // Each kind is looked for where one was saved or opened last, whatever became of the other kinds.
     void folderOfTheLastFile()
     {
         const QDir folder(folder_.path());
@@ -137,8 +136,29 @@ private Q_SLOTS:
         }
     }
 
-    // What it has beyond quick setup is told, the rest is done. What another file
-    // has alone is told likewise.
+    // The other events of an output become what their list calls it.
+    void presetOfEvents()
+    {
+        for (const auto& [name, key] : {std::pair("comboBox_UseAs_O1", Qt::Key_Home),
+                                        std::pair("comboBox_AutoSwitch_In2_O1", Qt::Key_End)}) {
+            auto* list = child<QComboBox>(name);
+            list->setFocus();
+            QTest::keyClick(list, key);
+        }
+        history().settle();
+        child<QToolButton>("toolButton_Differences")->click();
+        const QString path = folder_.filePath("events.xml");
+        chooseNext(path);
+        child<QPushButton>("pushButton_SavePreset")->click();
+        QCOMPARE(child<QLabel>("label_Unsaved")->text().section("\n", -1), QString("rev_342"));
+        history().undo();
+        QVERIFY(dialog_->showPreset(path));
+        auto* model = child<QTableView>("tableView_Differences")->model();
+        const QModelIndex first = model->index(0, vlk::DifferenceModel::Note);
+        QCOMPARE(model->match(first, Qt::DisplayRole, "rev_341").size(), 1);
+    }
+
+    // What it has beyond quick setup is told, the rest is done. What another file has alone is told likewise.
     void presetBeyondQuickSetup()
     {
         const QString path = folder_.filePath("more.xml");
@@ -194,7 +214,8 @@ private Q_SLOTS:
                      ->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")
                      ->value(),
                  5555);
-        QVERIFY(model->headerData(2, Qt::Horizontal, Qt::ToolTipRole) == "rev_192");
+        QVERIFY(model->headerData(2, Qt::Horizontal, Qt::ToolTipRole) == "rev_192: more.xml");
+        QCOMPARE(model->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), QString("more.xml"));
         // The other window takes them, and what was told in this one goes with it.
         chooseNext(folder_.filePath("told.csv"));
         child<QPushButton>("pushButton_SaveDifferences")->click();
@@ -205,8 +226,50 @@ private Q_SLOTS:
         QVERIFY(notes().contains("rev_282"));
     }
 
-    // What does not fit comes first, with its reason and without a check mark; a
-    // full disk is told.
+    // Quick setup finds the operator of what a preset brings as full setup does, and an operator that was
+    // chosen there stays beside what a preset brings of other settings.
+    void presetOfAnAccessPoint()
+    {
+        const QString path = folder_.filePath("point.xml");
+        const auto apply = [&](const char* preset) {
+            writeFile(path, preset);
+            QVERIFY(dialog_->showPreset(path));
+            child<QPushButton>("pushButton_TakeOver")->click();
+        };
+        open({}, 0);
+        auto* page = dialog_->findChild<QWidget*>("page_Light");
+        auto* list = page->findChild<QComboBox*>("Transfer_comboBox_GSM_Operator_1");
+        auto* point = page->findChild<QLineEdit*>("Transfer_lineEdit_GSM_APN_1");
+        const auto shown = [&] {
+            return QStringList{QString::number(list->currentIndex()), point->text(),
+                               point->isEnabled() ? "open" : "locked"};
+        };
+        const auto choose = [list](Qt::Key key, int times) {
+            list->setFocus();
+            while (times-- > 0)
+                QTest::keyClick(list, key);
+        };
+        choose(Qt::Key_Up, 5);
+        const QStringList first{"0", "internet.mts.ru", "locked"};
+        QCOMPARE(shown(), first);
+        apply("<DEVICE creator=\"preset\"><TRANS><AP1 name=\"internet.fleet\"/></TRANS></DEVICE>");
+        const QStringList other{"6", "internet.fleet", "open"};
+        QCOMPARE(shown(), other);
+        apply("<DEVICE creator=\"preset\"><TRANS><SRV1 port=\"5555\"/></TRANS></DEVICE>");
+        QCOMPARE(page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value(), 5555);
+        QCOMPARE(shown(), other);
+        history().undo();
+        history().undo();
+        QCOMPARE(shown(), first);
+        history().redo();
+        QCOMPARE(shown(), other);
+        open({}, 0);
+        apply("<DEVICE creator=\"preset\"><TRANS><AP1 name=\"internet.beeline.ru\" login=\"beeline\" "
+              "pass=\"beeline\"/></TRANS></DEVICE>");
+        QCOMPARE(shown(), QStringList({"1", "internet.beeline.ru", "locked"}));
+    }
+
+    // What does not fit comes first, with its reason and without a check mark; a full disk is told.
     void presetsInTrouble()
     {
         const QString path = folder_.filePath("bad.xml");

@@ -86,7 +86,19 @@ private Q_SLOTS:
             child<QAction>(action)->trigger();
             QCOMPARE(takeOver->isEnabled(), action == QString("action_MarkAll"));
         }
+        // Copied is what is chosen, whatever is selected.
         table->clearSelection();
+        const auto copied = [this] {
+            child<QPushButton>("pushButton_CopyDifferences")->click();
+            return QApplication::clipboard()->text().count('\n') - 1;
+        };
+        QCOMPARE(copied(), 2);
+        table->setCurrentIndex(table->model()->index(1, 0));
+        QTest::keyClick(table, Qt::Key_Space);
+        QCOMPARE(copied(), 1);
+        QVERIFY(!QApplication::clipboard()->text().contains("5555"));
+        QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_344"));
+        QTest::keyClick(table, Qt::Key_Space);
         // Of two lines one is left out, and is the one that stays.
         table->setCurrentIndex(table->model()->index(0, 0));
         QTest::keyClick(table, Qt::Key_Space);
@@ -99,6 +111,19 @@ private Q_SLOTS:
         QCOMPARE(dialog_->review().edited(), 0);
         QTest::keyClick(table, Qt::Key_Escape);
         QVERIFY(table->isHidden() || !table->isVisible());
+    }
+
+    // Whatever the last column had while the list was narrow.
+    void columnsFit()
+    {
+        dialog_->resize(960, 590);
+        open({});
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        const auto* table = child<QTableView>("tableView_Differences");
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile,
+                                              VLK_SOURCE "/fuzz/corpus/settings/factory.xml"));
+        QVERIFY(table->model()->rowCount() > 10);
+        QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
     }
 
     void firstAndLastDifference()

@@ -191,7 +191,7 @@ private Q_SLOTS:
             told << vlk::review::adviceText(finding);
         QCOMPARE(told,
                  QStringList(
-                     {"Server 1 cannot be reached: %2 %1 is neither an IP address nor a host name.",
+                     {"Server \"Main\" cannot be reached: %2 %1 is neither an IP address nor a host name.",
                       "An elevation mask angle of 31° leaves few satellites.",
                       "Fuel level sensor 4 on the RS-485 line is in use, but the record lacks the field "
                       "\"Level sensor 4\".",
@@ -316,6 +316,7 @@ private:
         row("shock_levels", "ACCEL/SENSORS/sh2=50.0", "ACCEL/SENSORS/sh2=50.1");
         row("output_unsafe", "OUTPUTS/LINE1/mode=GP; /actions=1@0", "OUTPUTS/LINE1/mode=GP; /actions=2@0");
         row("output_idle", output + "/signalForm=1; /onPeriod=1", output + "/actions=1@0; /signalForm=1");
+        row("output_idle", output + "/actions=2@0; /signalForm=1; /onPeriod=1", output + "/actions=2@0");
         row("output_time_on", output + "/signalForm=1", output + "/onPeriod=0");
         row("output_time_off", output + "/signalForm=2", output + "/signalForm=1");
         row("output_off_delay", output + "/signalForm=2; /autoOff=1",

@@ -212,8 +212,9 @@ private Q_SLOTS:
         text.beforeText = "two\nlines";
         const vlk::TextSource source = textsOf("en");
         const vlk::TextsFrom texts(source);
-        QCOMPARE(vlk::review::toCsv({text}), QString("Tab;Group;Setting;Before;After;Note\r\n"
-                                                     ";;\"a;\"\"b\"\"\";\"two\nlines\";;\r\n"));
+        QCOMPARE(vlk::review::toCsv({text}, "By default", "Now"),
+                 QString("Page;Group;Setting;By default;Now;Note\r\n"
+                         ";;\"a;\"\"b\"\"\";\"two\nlines\";;\r\n"));
     }
 
     // What a missing key reads as is no difference from the defaults, and before is that.
@@ -327,6 +328,20 @@ private Q_SLOTS:
         takeOver(configuration, Differences(stateOf(file), FileState::ofConfiguration(configuration)),
                  {vlk::review::FileKeys::all().at(path)});
         QCOMPARE(configuration.value(path), QString("90060"));
+    }
+
+    // What a read would make of the rest of a new configuration stays as it is.
+    void nothingElseIsTakenOver()
+    {
+        vlk::Configuration configuration(vlk::allSettings());
+        const QByteArray file = saved(configuration);
+        configuration.edit("TRANS/RULES/pingTimer", "120");
+        const vlk::Configuration expected = configuration;
+        configuration.edit("TEMPSENS/SENS1/hyst", "9");
+        takeOver(configuration, Differences(stateOf(file), FileState::ofConfiguration(configuration)),
+                 {vlk::review::FileKeys::all().at("TEMPSENS/SENS1/hyst")});
+        for (std::size_t table = 0; table < expected.tables().size(); ++table)
+            QCOMPARE(configuration.tables()[table].held(), expected.tables()[table].held());
     }
 
 private:

@@ -1,5 +1,6 @@
 // The report of a configuration, told in keys where no language is on show.
 
+#include "base/translated.h"
 #include "review/report.h"
 #include "settings/all_settings.h"
 
@@ -105,6 +106,23 @@ private Q_SLOTS:
         QVERIFY(html.contains("<td>5555</td>") && html.contains("<p>rev_182</p>"));
         QVERIFY(html.count("<tr>") < told(changes, {}).count("<tr>") / 2);
         QVERIFY(told({}, {true, false, {}}).contains("<p>rev_117</p>"));
+    }
+
+    // What came along with a choice at its defaults is counted, not listed.
+    void whatComesAlongIsCounted()
+    {
+        vlk::Configuration edited = configuration_;
+        edited.edit("RS485/OPTIONS/owner1", "FLDS");
+        edited.edit("RS485/FS2/thld", "77");
+        const Differences changes(FileState::ofConfiguration(configuration_),
+                                  FileState::ofConfiguration(edited));
+        QVERIFY(changes.count() > 100);
+        const vlk::TextSource source = [](const char* key) { return QString(key) + " (%1)"; };
+        const vlk::TextsFrom texts(source);
+        const QString html = toHtml(edited, reportOf(edited, changes, {}, {}, {true, false, {}}));
+        const auto own = static_cast<int>(changes.ownKeys().size());
+        QCOMPARE(html.count("<tr>"), own + 1); // and the heads of the page
+        QVERIFY(html.contains(QStringLiteral("rev_340 (%1)").arg(changes.count() - own)));
     }
 
 private:
