@@ -41,9 +41,11 @@ struct Bench : OpenedWorkbench
         // Boxes are read and closed; who asks for a file name gets one.
         QObject::connect(&person, &QTimer::timeout, &window, [this] {
             QWidget* modal = QApplication::activeModalWidget();
+            if (modal && unplugsOver && modal->inherits(unplugsOver)) {
+                unplugsOver = nullptr;
+                return tracker().detach();
+            }
             if (auto* box = qobject_cast<QMessageBox*>(modal)) {
-                if (std::exchange(unplugsFirst, false))
-                    tracker().detach();
                 boxes.append(box->text());
                 over = box->parentWidget();
                 QAbstractButton* verb = box->buttons().constFirst();
@@ -242,8 +244,8 @@ struct Bench : OpenedWorkbench
 
     QTimer person;
     QStringList boxes;
-    QStringList origins;       // of what was reviewed
-    QPointer<QWidget> over;    // which window the last box came up
-    bool agrees = true;        // to what is asked
-    bool unplugsFirst = false; // when the next box is open
+    QStringList origins;               // of what was reviewed
+    QPointer<QWidget> over;            // which window the last box came up
+    bool agrees = true;                // to what is asked
+    const char* unplugsOver = nullptr; // when a window of that class is open
 };

@@ -70,6 +70,14 @@ bool agrees(const QString& question, const QString& verb, const QString& name, Q
     return ask(QMessageBox::Warning, question, {verb}, name, window, false) == 0;
 }
 
+void withdrawQuestion(const QString& name)
+{
+    for (QWidget* open : QApplication::topLevelWidgets()) {
+        if (auto* box = qobject_cast<QMessageBox*>(open); box && box->objectName() == name)
+            box->reject();
+    }
+}
+
 int choose(const QString& question, const QStringList& verbs, const QString& name, QWidget* window)
 {
     return ask(QMessageBox::Question, question, verbs, name, window, true);

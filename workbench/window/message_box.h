@@ -17,6 +17,9 @@ void showWarning(const QString& text, QWidget* window);
 // default.
 bool agrees(const QString& question, const QString& verb, const QString& name, QWidget* window);
 
+// Answers the question of that name with Cancel, if it is open: what it asks about has gone.
+void withdrawQuestion(const QString& name);
+
 // Asks which of several things is meant, none of which loses anything; the first is the default. The place of
 // the verb that was pressed, -1 for Cancel.
 int choose(const QString& question, const QStringList& verbs, const QString& name, QWidget* window);

@@ -45,6 +45,7 @@ TrackerCommands::TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedReq
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, [this] {
         cleared_.clear();
         isAskedAnew_ = false;
+        hasGone_ = true;
     });
 }
 
@@ -104,11 +105,13 @@ bool TrackerCommands::isAllowed(Message command, const QString& question, const 
 {
     const char* reason = whyNotNow(command);
     if (!reason && agrees_ && !question.isEmpty()) {
-        if (!agrees_(question, text(verb))) {
+        hasGone_ = false;
+        const bool isAgreed = agrees_(question, text(verb));
+        if (!hasGone_ && !isAgreed) {
             Q_EMIT done(saying("wb_command_cancelled"));
             return false;
         }
-        reason = whyNotNow(command);
+        reason = hasGone_ ? "wb_command_detached" : whyNotNow(command);
     }
     if (reason)
         Q_EMIT refused(saying(reason), [this, command, reason] { return whyNotNow(command) == reason; });

@@ -19,7 +19,8 @@ class TrackerCommands : public QObject
     Q_OBJECT
 
 public:
-    // The text of the question and that of the button that agrees.
+    // The text of the question and that of the button that agrees. What was agreed to after the tracker has
+    // gone is not sent.
     using Question = std::function<bool(const QString& text, const QString& verb)>;
 
     TrackerCommands(tracker::SimulatedTracker& tracker, RepeatedRequests& requests, PluginLink& link);
@@ -76,6 +77,7 @@ private:
     bool isDoubtful_ = false;       // an answer of the sequence cannot be right
     bool isPresentShown_ = false;   // the record that was handed over last is the tracker's present
     bool isAskedAnew_ = false;      // for it, by nobody but these commands
+    bool hasGone_ = false;          // the tracker that the question is about
 };
 
 } // namespace workbench

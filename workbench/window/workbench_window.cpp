@@ -42,6 +42,7 @@ namespace {
 enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
 constexpr const char* kTabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
 constexpr int kLeftWidth = 290;
+const QString kCommandQuestion = QStringLiteral("messageBox_Command");
 constexpr QSize usualSize(1024, 600);
 
 } // namespace
@@ -158,8 +159,11 @@ void WorkbenchWindow::connectSession()
             [this] { tellOpened([] { return text("wb_write_busy"); }); });
     connect(&session_, &HostSession::editedChanged, this, &WorkbenchWindow::showEdited);
     session_.commands().setQuestion([this](const QString& text, const QString& verb) {
-        return agrees(text, verb, QStringLiteral("messageBox_Command"), this);
+        return agrees(text, verb, kCommandQuestion, this);
     });
+    // The tracker that is attached next may be another one.
+    connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this,
+            [] { withdrawQuestion(kCommandQuestion); });
     // Its window is modal, and so are those that come up over it.
     connect(&windows_, &PluginWindows::closed, this, [this](const QWidget* window) {
         if (window->isModal() && !windows_.modal())

@@ -121,8 +121,9 @@ constexpr ValueSeries kGeofences[] = {
     {"label_Geo_Value_%1", "tmizta_214", item("GeozoneInfo.0"), 10, Main::Geo},
 };
 
-// Its only field leaves the keys that end typing to the dialog, which stays open, and says why, when what was
-// typed is not the mileage that would be sent.
+// It goes with the window below, whose tracker may be another one when it comes back. Its only field leaves
+// the keys that end typing to the dialog, which stays open, and says why, when what was typed is not the
+// mileage that would be sent.
 class MileageDialog : public QInputDialog
 {
 public:
@@ -135,6 +136,7 @@ public:
         // Both decimal signs.
         vlk::joinFields(this);
         box_->installEventFilter(this);
+        parentWidget()->window()->installEventFilter(this);
     }
 
     void done(int result) override
@@ -154,6 +156,8 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        if (watched == parentWidget()->window() && event->type() == QEvent::Hide && !event->spontaneous())
+            reject();
         if (watched != box_ || event->type() != QEvent::KeyPress)
             return QInputDialog::eventFilter(watched, event);
         switch (static_cast<QKeyEvent*>(event)->key()) {
