@@ -5,6 +5,7 @@
 #include "base/replace_file.h"
 #include "link/device.h"
 #include "typing/file_error.h"
+#include "windows/save_dialog.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,15 +26,6 @@ QString freeName(const QString& folder, const PathQuestion& question)
     return free;
 }
 
-// Empty when the user cancels.
-QString run(QFileDialog* dialog, const QString& suffix)
-{
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    // Set in the dialog, so that it asks about the file with the suffix before it is replaced.
-    dialog->setDefaultSuffix(suffix);
-    return dialog->exec() == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
-}
-
 } // namespace
 
 QString configurationPathToWrite(const QString& part)
@@ -50,9 +42,9 @@ QString askConfigurationPath(QWidget* parent, const QString& objectName)
     const QString path = QStringLiteral("%1/%2(%3).xml")
                              .arg(vlkDevice->xmlFolder(), asFileName(objectName, QStringLiteral("_")),
                                   now().toString(QStringLiteral("dd-MM-yy hh_mm_ss")));
-    QFileDialog dialog(parent, text("cfgwnd_003"), path,
-                       QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")));
-    return run(&dialog, QStringLiteral("xml"));
+    SaveDialog dialog(parent, text("cfgwnd_003"), path,
+                      QStringLiteral("%1 XML (*.xml)").arg(text("cfgwnd_004")), QStringLiteral("xml"));
+    return dialog.ask();
 }
 
 QString askPathToSave(QWidget* parent, const PathQuestion& question)
@@ -60,11 +52,11 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question)
     if (!vlkDevice)
         return {};
     const QString folder = lastFolder(question.kind, vlkDevice->xmlFolder());
-    QFileDialog dialog(parent, question.caption,
-                       QStringLiteral("%1/%2.%3").arg(folder, freeName(folder, question), question.suffix),
-                       question.filter);
+    SaveDialog dialog(parent, question.caption,
+                      QStringLiteral("%1/%2.%3").arg(folder, freeName(folder, question), question.suffix),
+                      question.filter, question.suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told"));
-    const QString path = run(&dialog, question.suffix);
+    const QString path = dialog.ask();
     if (!path.isEmpty())
         rememberFolder(question.kind, path);
     return path;

@@ -2,6 +2,7 @@
 
 #include "fuel/table/fuel_file.h"
 #include "fuel/table/fuel_sensors.h"
+#include "windows/save_dialog.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -11,16 +12,14 @@ namespace vlk {
 QString askFuelFileToSave(QWidget* parent, const QString& caption, const QString& proposed,
                           const QString& suffix)
 {
-    QFileDialog dialog(parent, caption, fuelFolder(QFileInfo(proposed).path()), QLatin1String("*.") + suffix);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    SaveDialog dialog(parent, caption, fuelFolder(QFileInfo(proposed).path()), QLatin1String("*.") + suffix,
+                      suffix);
     // To a name with a point in it the dialog adds none by itself.
     const QString name = QFileInfo(proposed).fileName();
-    dialog.setDefaultSuffix(suffix);
     dialog.selectFile(name.contains(QLatin1Char('.')) ? name + QLatin1Char('.') + suffix : name);
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    QString path = dialog.selectedFiles().value(0);
-    rememberFuelFolder(path);
+    QString path = dialog.ask();
+    if (!path.isEmpty())
+        rememberFuelFolder(path);
     return path;
 }
 

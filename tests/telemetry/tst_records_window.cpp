@@ -42,6 +42,8 @@ private Q_SLOTS:
     {
         DataTable<QString, QStringList, QString>({"typed", "numbers", "told"})
             .row("event by its words", "Code = \"event 35\"", {"1007", "1030"}, {})
+            .row("event that the file lacks", "Code = \"event 41\"", {}, {})
+            .row("event that there is not", "Code = \"events 41\"", {}, "rec_005")
             .row("conditions", "NumPage < 1003 and not IN1 = 1", {"1000", "1002"}, {})
             .row("nothing", "Power < 1", {}, {})
             .row("fault", "NumPage < ", {}, "rec_005");
@@ -293,6 +295,7 @@ private Q_SLOTS:
             .row("track", 2, ExportForm::gpx, "a.gpx", 40, false, "rec_096")
             .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096. rec_470")
             .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096")
+            .row("a date in the name", 2, ExportForm::gpx, "Рейс 22.11.2026", 40, false, "rec_096")
             .row("full disk", 2, ExportForm::xml, "a.xml", 0, true, "tmiw_187");
     }
     void exporting()
@@ -338,7 +341,8 @@ private Q_SLOTS:
         QTRY_VERIFY(child("label_Damage")->isVisible());
         QCoreApplication::processEvents();
         QCOMPARE(table_->mapTo(window, QPoint()), place); // what is told moves nothing
-        const QString path = folder_.filePath(typed.contains('.') ? typed : typed + '.' + rowOf(form).suffix);
+        const bool hasEnding = QRegularExpression("\\.[A-Za-z]+$").match(typed).hasMatch();
+        const QString path = folder_.filePath(hasEnding ? typed : typed + '.' + rowOf(form).suffix);
         QCOMPARE(QFile::exists(path), !isDiskFull);
         const QByteArray content = readFile(path);
         const bool isTrack = path.endsWith(".gpx", Qt::CaseInsensitive);

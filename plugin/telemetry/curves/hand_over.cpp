@@ -6,12 +6,12 @@
 #include "telemetry/view/records_notices.h"
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
+#include "windows/save_dialog.h"
 
 #include <QApplication>
 #include <QBuffer>
 #include <QDesktopWidget>
 #include <QDir>
-#include <QFileDialog>
 #include <QImage>
 #include <QPainter>
 #include <QPrintDialog>
@@ -101,16 +101,14 @@ QString HandOver::askPath(const QString& proposed, const QStringList& suffixes)
         filters << QStringLiteral("%1 (*.%2)").arg(suffix.toUpper(), suffix);
     const QDir folder(vlkDevice ? vlkDevice->tmiFolder() : QString());
     const QString name = asFileName(proposed, QStringLiteral("-")) + QLatin1Char('.') + suffixes.front();
-    QFileDialog dialog(window_, translated("wrd_028"), folder.path());
+    SaveDialog dialog(window_, translated("wrd_028"), folder.path(), {}, suffixes.front());
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        dialog.setDefaultSuffix(suffixes.value(filters.indexOf(filter), suffixes.front()));
+    });
     dialog.selectFile(name);
-    QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
-    const int chosen = std::max(filters.indexOf(dialog.selectedNameFilter()), 0);
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-        path += QLatin1Char('.') + suffixes[chosen];
-    return path;
+    return dialog.ask();
 }
 
 void HandOver::askPicture(const QString& proposed, const PaintPicture& paint)

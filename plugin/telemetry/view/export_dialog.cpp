@@ -1,12 +1,12 @@
 #include "telemetry/view/export_dialog.h"
 
 #include "link/device.h"
+#include "windows/save_dialog.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -100,13 +100,11 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
 {
     const ExportFormRow& row = rowOf(form);
     const QString suffix = QLatin1String(row.suffix);
-    QFileDialog dialog(parent, tr("rec_085"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
-                       QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix));
+    SaveDialog dialog(parent, tr("rec_085"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
+                      QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix), suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(suffix);
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return dialog.ask();
 }
 
 } // namespace vlk

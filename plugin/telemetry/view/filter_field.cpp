@@ -28,6 +28,7 @@ namespace vlk {
 namespace {
 
 constexpr const char* kLanguages[] = {"ru", "en"};
+constexpr quint32 kEventCodes = 256; // that may have words
 constexpr double kHalfAnHour = 1800; // seconds
 
 // Enter on what is offered takes that; Down asks for what was applied before.
@@ -121,6 +122,7 @@ const FilterNames& FilterField::names()
     if (names_)
         return *names_;
     names_.emplace();
+    hasAllEvents_ = false;
     names_->addTexts();
     for (const char* language : kLanguages) {
         const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
@@ -141,12 +143,26 @@ const FilterNames& FilterField::names()
     }
     names_->offerFirst(heads);
     const std::vector<quint32>& codes = shown_->columns().codes();
-    for (const quint32 code : std::set<quint32>(codes.begin(), codes.end())) {
-        const QString event = requests::eventText(static_cast<int>(code));
-        if (!event.isEmpty())
-            names_->addWord(event, item("Code"), {double(code), double(code)});
-    }
+    for (const quint32 code : std::set<quint32>(codes.begin(), codes.end()))
+        addEvent(code);
     return *names_;
+}
+
+void FilterField::addEvent(quint32 code)
+{
+    const QString event = requests::eventText(static_cast<int>(code));
+    if (!event.isEmpty())
+        names_->addWord(event, item("Code"), {double(code), double(code)});
+}
+
+ParsedFilter FilterField::parsed(const QString& text)
+{
+    ParsedFilter read = parseFilter(text, names(), shown_->utcOffset());
+    if (read.filter || std::exchange(hasAllEvents_, true))
+        return read;
+    for (quint32 code = 0; code < kEventCodes; ++code)
+        addEvent(code);
+    return parseFilter(text, names(), shown_->utcOffset());
 }
 
 void FilterField::offer()
@@ -195,7 +211,7 @@ void FilterField::applyTyped()
 {
     completer_->popup()->hide();
     const QString text = line_->text();
-    const ParsedFilter parsed = parseFilter(text, names(), shown_->utcOffset());
+    const ParsedFilter parsed = this->parsed(text);
     if (!parsed.filter) {
         line_->setCursorPosition(parsed.fault.position);
         // In words of the language of the moment.
@@ -222,7 +238,7 @@ void FilterField::offerLatest()
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const QString& kept : latestFilters()) {
-        const ParsedFilter parsed = parseFilter(kept, names(), shown_->utcOffset());
+        const ParsedFilter parsed = this->parsed(kept);
         const QString filter = parsed.filter ? inWords(*parsed.filter) : kept;
         menu->addAction(QString(filter).replace(QLatin1Char('&'), QLatin1String("&&")), this,
                         [this, filter] { apply(filter); });

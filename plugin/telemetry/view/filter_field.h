@@ -52,6 +52,9 @@ private:
     void offerLatest();
     void tell(const std::function<QString()>& fault);
     const FilterNames& names();
+    void addEvent(quint32 code);
+    // Asks the host for the words of events that this file lacks, where it cannot be read without.
+    ParsedFilter parsed(const QString& text);
     QString inWords(const Filter& filter);
 
     ShownRecords* shown_;
@@ -64,6 +67,7 @@ private:
     QStringListModel* offered_;
     std::vector<FilterCompletion> completions_;
     std::optional<FilterNames> names_; // of this file, made when they are asked for
+    bool hasAllEvents_ = false;
     std::function<QString()> told_;
     QString applied_;
 };

@@ -9,9 +9,9 @@
 #include "telemetry/record/record_head.h"
 #include "telemetry/text/time_text.h"
 #include "typing/file_error.h"
+#include "windows/save_dialog.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QMessageBox>
@@ -226,10 +226,8 @@ bool SaveSequence::chooseFile()
 {
     const SavedFileKind& kind = kindOf(saveMode_);
     const QString suffix = QLatin1String(kind.suffix);
-    QFileDialog dialog(window_, translated("wrd_028"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
-                       QStringLiteral("%1 (*.%2)").arg(translated(kind.name), suffix));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(suffix);
+    SaveDialog dialog(window_, translated("wrd_028"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
+                      QStringLiteral("%1 (*.%2)").arg(translated(kind.name), suffix), suffix);
     dialog.selectFile(proposedName_ + QLatin1Char('.') + suffix);
     fileDialog_ = &dialog;
     while (isRunning() && dialog.exec() == QDialog::Accepted) {
