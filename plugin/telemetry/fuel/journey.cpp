@@ -101,7 +101,7 @@ void Journey::takeStretches(Making& making, int first, int behind)
         const bool standsNext = !isLast && speed[records[i + 1]] < kMovesFrom;
         stretches_.push_back({time, columns.recordNumbers()[record], static_cast<float>(speed[record]), 0,
                               speed[record] >= kMovesFrom && !isGap, stands && (!isGap || standsNext),
-                              ignition[record] == Ignition::On, true, !isGap});
+                              ignition[record] == Ignition::On, false, !isGap});
     }
 }
 
