@@ -89,6 +89,7 @@ private Q_SLOTS:
             .row("two signs", "en", 1, 0, 9999, "<All>1.234,5<Tab>", 20, 20, "typed_number")
             .row("group of thousands", "en", 0, 0, 9999, "<All>1,234<Tab>", 20, 20, "typed_whole")
             .row("blank between thousands", "ru", 1, 0, 9999, "<All>1 234,5<Tab>", 20, 1234.5, "")
+            .row("no-break blanks", "ru", 0, 0, 9'999'999, "<All>1\u00a0234\u202f567<Tab>", 20, 1'234'567, "")
             .row("blank elsewhere", "ru", 0, 0, 9999, "<All>12 34<Tab>", 20, 20, "typed_number")
             .row("fraction in a whole one", "ru", 0, 0, 99, "<All>2,5<Tab>", 20, 20, "typed_whole")
             .row("too many decimals", "ru", 1, 0, 99, "<All>2,55<Tab>", 20, 20, "typed_decimals")
