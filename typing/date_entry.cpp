@@ -219,7 +219,6 @@ bool DateEntry::keyPressed(QKeyEvent* event)
         typeInSection(event);
         return true;
     }
-    cameBySection_ = false;
     if (moves)
         finish();
     return false;

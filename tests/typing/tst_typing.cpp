@@ -254,6 +254,7 @@ private Q_SLOTS:
             .row("day over all", "<All>03.11.2026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
             .row("day in figures over all", "<All>03112026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
             .row("day by sections", "03.11.2026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
+            .row("colon by Shift", "<Tab><Tab><Tab>10<Shift>:15", "<Enter>", "20.11.2026 10:15:44")
             .row("short sections", "3<Tab>1<Tab>", "2025<Enter>", "03.01.2025 08:29:44")
             .row("full sections", "03<Tab>12<Tab>2025<Tab>10<Tab>", "15<Tab>16<Enter>", "03.12.2025 10:15:16")
             .row("back to the month", "03.12.<Backtab>", "04<Enter>", "03.04.2026 08:29:44")
