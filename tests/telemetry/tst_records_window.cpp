@@ -276,6 +276,12 @@ private Q_SLOTS:
         QTest::mouseDClick(table_->viewport(), Qt::LeftButton, {},
                            table_->visualRect(cell(2, "Code")).center());
         QCOMPARE(number(), QString("1002"));
+        // Both go on together.
+        QTest::keyClick(ScriptedHost::child<QSlider>(browser, "horizontalSlider"), Qt::Key_Right);
+        QCOMPARE(number(), QString("1003"));
+        QCOMPARE(table_->currentIndex().row(), 3);
+        QTest::keyClick(table_, Qt::Key_Down);
+        QCOMPARE(number(), QString("1004"));
         // What the browser shows stays when the table has another file.
         show(pagesOf(recordOf({{"NumPage", 1}})));
         ScriptedHost::child<QSlider>(browser, "horizontalSlider")->setValue(9);
