@@ -35,7 +35,7 @@ DateEntry::DateEntry(QDateTimeEdit* box) : TypedEntry(box), edit_(box), validato
 }
 
 // Blanks count once, figures need no leading zeros, and the time of day may be missing.
-QDateTime DateEntry::momentOf(const QString& typed) const
+DateEntry::Typed DateEntry::read(const QString& typed) const
 {
     const QString text = typed.simplified();
     const auto moment = [&](const QString& format) {
@@ -50,19 +50,19 @@ QDateTime DateEntry::momentOf(const QString& typed) const
          {shown, QString(shown).remove(QStringLiteral(":s")), QStringLiteral("yyyy-MM-dd HH:mm:ss"),
           QStringLiteral("yyyy-MM-ddTHH:mm:ss")}) {
         if (QDateTime read = moment(format); read.isValid())
-            return read;
+            return {read};
     }
     // Figures alone, as the keypad gives them.
     QString figures = edit_->displayFormat().remove(QRegularExpression(QStringLiteral("[^A-Za-z]")));
     for (; figures.size() > 8; figures.chop(2)) {
         if (QDateTime read = moment(figures); text.size() == figures.size() && read.isValid())
-            return read;
+            return {read};
     }
     for (const QString& format :
          {shown.section(QLatin1Char(' '), 0, 0), figures, QStringLiteral("yyyy-MM-dd")}) {
         if (QDateTime read = moment(format); read.isValid()) {
             read.setTime(edit_->time());
-            return read;
+            return {read, true};
         }
     }
     return {};
@@ -70,7 +70,7 @@ QDateTime DateEntry::momentOf(const QString& typed) const
 
 std::optional<TypedEntry::News> DateEntry::take(const QString& typed)
 {
-    const QDateTime moment = momentOf(typed);
+    const QDateTime moment = read(typed).moment;
     if (!moment.isValid())
         return News{Mark::invalid, dateText("typed_date", typed.simplified(), *edit_)};
     edit_->setDateTime(moment);
@@ -128,6 +128,12 @@ DateEntry::Span DateEntry::sectionAt(int place) const
     return {begin, end};
 }
 
+// Counted from 0; the line may hold fewer than the box shows.
+int DateEntry::indexOf(const Span& section) const
+{
+    return line()->text().left(section.begin).split(QRegularExpression(QStringLiteral("\\D+"))).size() - 1;
+}
+
 void DateEntry::select(Span span)
 {
     const QSignalBlocker quiet(line());
@@ -146,12 +152,10 @@ void DateEntry::typeInSection(QKeyEvent* event)
     }
     cameBySection_ = false;
     // The shown moment has the widths of the sections, in their order.
-    const QRegularExpression apart(QStringLiteral("\\D+"));
-    const QStringList shown =
-        edit_->locale().toString(edit_->dateTime(), edit_->displayFormat()).split(apart);
-    const auto widthOf = [&](const Span& section) {
-        return shown.value(line()->text().left(section.begin).split(apart).size() - 1).size();
-    };
+    const QStringList shown = edit_->locale()
+                                  .toString(edit_->dateTime(), edit_->displayFormat())
+                                  .split(QRegularExpression(QStringLiteral("\\D+")));
+    const auto widthOf = [&](const Span& section) { return shown.value(indexOf(section)).size(); };
     const Span before = sectionAt(line()->cursorPosition());
     if (!line()->hasSelectedText() && before.end - before.begin >= widthOf(before))
         select(before);
@@ -161,6 +165,36 @@ void DateEntry::typeInSection(QKeyEvent* event)
         return;
     select(next(section));
     cameBySection_ = true;
+}
+
+// The section that Tab goes on from: the box does not know where typing has come to.
+int DateEntry::tabbedFrom(bool isBack) const
+{
+    if (!isWhole_) {
+        const int section = indexOf(sectionAt(line()->cursorPosition()));
+        // A full one has led on already.
+        return cameBySection_ && !isBack ? section - 1 : section;
+    }
+    if (isBack)
+        return 0;
+    if (read(typed()).isDay) {
+        for (int index = 1; index < edit_->sectionCount(); ++index) {
+            if (edit_->sectionAt(index) == QDateTimeEdit::HourSection)
+                return index - 1;
+        }
+    }
+    return edit_->sectionCount() - 1;
+}
+
+bool DateEntry::eventFilter(QObject* watched, QEvent* event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (isTyping() && (key == Qt::Key_Tab || key == Qt::Key_Backtab)) {
+        const int from = tabbedFrom(key == Qt::Key_Backtab);
+        finish();
+        edit_->setCurrentSectionIndex(from);
+    }
+    return TypedEntry::eventFilter(watched, event);
 }
 
 bool DateEntry::keyPressed(QKeyEvent* event)
@@ -175,7 +209,7 @@ bool DateEntry::keyPressed(QKeyEvent* event)
     const bool moves = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right ||
                        event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
     if (!isTyping())
-        isWhole_ = false;
+        isWhole_ = cameBySection_ = false;
     isWhole_ = isWhole_ || ((isSign || deletes) && isAllSelected());
     if (deletes || (isWhole_ && (isSign || moves))) {
         forward(event);
@@ -185,7 +219,6 @@ bool DateEntry::keyPressed(QKeyEvent* event)
         typeInSection(event);
         return true;
     }
-    cameBySection_ = false;
     if (moves)
         finish();
     return false;

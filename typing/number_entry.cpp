@@ -1,10 +1,11 @@
 #include "typing/number_entry.h"
 
+#include "typing/thousands.h"
+
 #include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QSpinBox>
 #include <QValidator>
 
@@ -35,15 +36,6 @@ private:
 bool isDecimalSign(QChar sign)
 {
     return sign == QLatin1Char('.') || sign == QLatin1Char(',');
-}
-
-// Blanks that stand between thousands are no part of the number: "1 234,5".
-QString withoutGroups(const QString& text)
-{
-    static const QRegularExpression grouped(
-        QStringLiteral("^[0-9]{1,3}([ \\x{a0}\\x{202f}][0-9]{3})+([.,].*)?$"));
-    static const QRegularExpression blank(QStringLiteral("[ \\x{a0}\\x{202f}]"));
-    return grouped.match(text).hasMatch() ? QString(text).remove(blank) : text;
 }
 
 QString translated(const char* key)
@@ -151,7 +143,7 @@ NumberEntry::Reading NumberEntry::read(QString text) const
     }
     if (isMinus && least() >= 0)
         return {{}, translated("typed_negative").arg(told), false};
-    text = withoutGroups(text);
+    text = withoutThousandsBlanks(text);
     const int point = static_cast<int>(std::ranges::find_if(text, isDecimalSign) - text.cbegin());
     const QString whole = text.left(point);
     QString fraction = text.mid(point + 1);

@@ -16,8 +16,6 @@
 #include <QClipboard>
 #include <QKeyEvent>
 
-#include <cstdlib>
-
 namespace {
 
 constexpr double kTopAddedVolume = 3276.7;
@@ -90,6 +88,7 @@ void VLK_Form_Fuel_Sensor::addClipboardActions()
 void VLK_Form_Fuel_Sensor::setKind(int kind)
 {
     kind_ = kind;
+    reading_.setKind(kind);
     ui_->tableWidget->setKind(kind);
     showCaptions();
 }
@@ -123,7 +122,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
     takeBack_->setText(tr("cfgt6_421"));
-    markLiveValue();
+    markReading();
     offerName(offeredName_);
     showCaptions();
     markDoubtful();
@@ -162,30 +161,26 @@ void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)
 {
-    const bool isSteady = !live_ || std::abs(raw - *live_) <= vlk::fuelKind(kind_).steady;
-    liveBefore_ = isSteady ? std::nullopt : live_;
-    live_ = raw;
-    ui_->lineEdit_Param->setText(liveText(raw));
-    markLiveValue();
-}
-
-QString VLK_Form_Fuel_Sensor::liveText(int raw) const
-{
-    return vlk::fuelKind(kind_).millivolts ? QString::number(raw / 1000.0, 'f', 2) : QString::number(raw);
-}
-
-void VLK_Form_Fuel_Sensor::markLiveValue()
-{
-    vlk::markField(ui_->lineEdit_Param, vlk::MarkReason::value, vlk::Mark::advice,
-                   liveBefore_ ? tr("cfgt6_422").arg(liveText(*liveBefore_), liveText(*live_)) : QString());
+    reading_.take(raw);
+    showReading();
 }
 
 void VLK_Form_Fuel_Sensor::clearLiveValue()
 {
-    live_.reset();
-    liveBefore_.reset();
-    ui_->lineEdit_Param->clear();
-    markLiveValue();
+    reading_.clear();
+    showReading();
+}
+
+void VLK_Form_Fuel_Sensor::showReading()
+{
+    ui_->lineEdit_Param->setText(reading_.text());
+    markReading();
+}
+
+void VLK_Form_Fuel_Sensor::markReading()
+{
+    vlk::markField(ui_->lineEdit_Param, vlk::MarkReason::value, vlk::Mark::advice,
+                   reading_.isSteady() ? QString() : tr("cfgt6_422").arg(reading_.before(), reading_.text()));
 }
 
 void VLK_Form_Fuel_Sensor::clearAll()
@@ -377,8 +372,8 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     addRows({row});
-    if (liveBefore_) {
-        ui_->tableWidget->noteUnsteady(liveText(*liveBefore_), liveText(*live_));
+    if (!reading_.isSteady()) {
+        ui_->tableWidget->noteUnsteady(reading_.before(), reading_.text());
         markDoubtful();
     }
     ui_->tableWidget->showAdded();

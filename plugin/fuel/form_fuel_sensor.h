@@ -9,6 +9,7 @@
 // file. "Edited" is a table without such rows in which cells were changed, single rows removed or the name
 // typed since it was saved or loaded.
 
+#include "fuel/live_reading.h"
 #include "fuel/table/fuel_text.h"
 
 #include <QIcon>
@@ -114,8 +115,8 @@ private:
     void forgetPaste();
     // In the place of those that are there.
     void showRows(const vlk::FuelRows& rows);
-    QString liveText(int raw) const;
-    void markLiveValue();
+    void showReading();
+    void markReading();
     void markDoubtful();
     void clearRows();
     void askForVolume();
@@ -143,8 +144,7 @@ private:
         bool isEdited;
     };
     std::optional<BeforePaste> beforePaste_;
-    std::optional<int> live_;
-    std::optional<int> liveBefore_; // while it differs from the one after it
+    vlk::LiveReading reading_;
     int kind_;
     QString name_;
     QString offeredName_;

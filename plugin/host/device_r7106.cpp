@@ -219,6 +219,10 @@ VLK_Widget_Tmi_Page* VLK_Device_R7106::browser()
             recordsWindow()->raise();
             recordsWindow()->activateWindow();
         });
+        connect(tmiPage_, &VLK_Widget_Tmi_Page::recordShown, this, [this](const auto& contents, int record) {
+            if (tmiTable_)
+                tmiTable_->follow(contents, record);
+        });
     }
     return tmiPage_;
 }
@@ -230,6 +234,11 @@ VLK_Widget_Tmi_Table* VLK_Device_R7106::recordsWindow()
         connect(tmiTable_, &VLK_Widget_Tmi_Table::recordOpened, this,
                 [this](const auto& contents, const QString& name, int record) {
                     showIn(browser(), contents, name, record);
+                });
+        connect(tmiTable_, &VLK_Widget_Tmi_Table::recordChosen, this,
+                [this](const auto& contents, int record) {
+                    if (tmiPage_)
+                        tmiPage_->follow(contents, record);
                 });
     }
     return tmiTable_;

@@ -59,6 +59,7 @@ private Q_SLOTS:
             .row("cannot be told", "12,34,10\n", "=12.34.10")
             .row("spaces", " 12 ; 1\u00a0000,5 \n", "1000.5=12")
             .row("missing cells", "12\n;10\n", "=12 10=")
+            .row("spaces elsewhere", "1\u00a02;1\u202f00\n12;1\u202f000\n", "1\u202f00=1\u00a02 1000=12")
             .row("blank lines", "\n\r\n;\n12;10\n\n", "10=12")
             .row("no line end", "12;10", "10=12")
             .row("no number", "abc;nan\n", "nan=abc")
@@ -104,6 +105,8 @@ private Q_SLOTS:
                  "7:volume,number")
             .row("blanks between thousands", "1 000\t2,5\n1\u00A0100,5\t3\n1 00\t4\n", "1000=2.5 1100.5=3",
                  "3:volume,number")
+            .row("blanks elsewhere", "10\t2\n12\u00a034\t2\n1\u202f0000\t3\n", "10=2",
+                 "2:volume,number 3:volume,number")
             .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2", "2:volume,number")
             .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", "2:volume,number 4:value,number");
         for (const QString& language : kLanguages) {

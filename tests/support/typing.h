@@ -14,8 +14,9 @@
 inline void type(QWidget* field, const QString& keys)
 {
     static const QHash<QString, Qt::Key> named{
-        {"Tab", Qt::Key_Tab}, {"Enter", Qt::Key_Return},   {"Esc", Qt::Key_Escape}, {"Up", Qt::Key_Up},
-        {"End", Qt::Key_End}, {"Back", Qt::Key_Backspace}, {"Home", Qt::Key_Home},
+        {"Tab", Qt::Key_Tab},   {"Enter", Qt::Key_Return},    {"Esc", Qt::Key_Escape},
+        {"Up", Qt::Key_Up},     {"End", Qt::Key_End},         {"Back", Qt::Key_Backspace},
+        {"Home", Qt::Key_Home}, {"Backtab", Qt::Key_Backtab}, {"Shift", Qt::Key_Shift},
     };
     if (!field->hasFocus())
         field->setFocus(Qt::TabFocusReason);

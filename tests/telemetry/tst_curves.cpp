@@ -390,6 +390,16 @@ void TestCurves::showsWhatThereIs()
     QTest::keyClick(presets, Qt::Key_Home);
     QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("Tank, l; ")));
     QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
+    // Without a value in any record they are shown to who chose them alone.
+    records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, kNone)}});
+    model.show({"*", "Speed"}, CurvesModel::Choice::offered);
+    QCOMPARE(model.shownNames(), QStringList("Speed"));
+    model.show({"*"}, CurvesModel::Choice::chosen);
+    QCOMPARE(model.shownNames(), QStringList("litres"));
+    QVERIFY(model.extremesAt(0, records_->wholeTime()).isEmpty());
+    QImage image(600, 300, QImage::Format_RGB32);
+    QPainter painter(&image);
+    paintCurves(painter, image.size(), model, records_->wholeTime(), {});
 }
 
 void TestCurves::tellsStatesWithoutRoom()
@@ -611,6 +621,7 @@ void TestCurves::survivesOddRecords_data()
         .row("back and forth", {{kTruckStart, 1}, {kTruckStart - 100, 2}, {kTruckStart + 100, 3}, {0, 7}})
         .row("as far as it goes", {{1, 1}, {0xFFFF'FFFF, 2}})
         .row("huge values", {{kTruckStart, 3e38}, {kTruckStart + 1, -3e38}, {kTruckStart + 2, kNone}})
+        .row("no value", {{kTruckStart, kNone}, {kTruckStart + 1, kNone}, {kTruckStart + 2, kNone}})
         .row("ten thousand at once", std::vector<Sample>(10'000, {kTruckStart, 5}));
 }
 

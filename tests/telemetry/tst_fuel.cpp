@@ -2,6 +2,7 @@
 // that stay and steps that do not, and the figures of a journey.
 
 #include "base/windows1251.h"
+#include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
 #include "telemetry/fuel/calibration.h"
@@ -90,6 +91,7 @@ std::vector<Item> operator+(std::vector<Item> one, const std::vector<Item>& othe
 } // namespace
 
 Q_DECLARE_METATYPE(std::vector<Told>)
+Q_DECLARE_METATYPE(vlk::RecordParts)
 
 class FuelTest : public QObject
 {
@@ -331,6 +333,43 @@ private Q_SLOTS:
         QCOMPARE(days[0].records + days[1].records, sum.records);
         QCOMPARE(days[0].records, 34);
         QCOMPARE(journey.summary(0, 1).records, 0);
+    }
+
+    // What no record tells is no 0.
+    void journeyOfNothing_data()
+    {
+        const auto speed = [](float kmh) { return quint64(std::bit_cast<quint32>(kmh)); };
+        const quint64 none = speed(std::numeric_limits<float>::quiet_NaN());
+        DataTable<RecordParts, QString>({"told", "known"})
+            .row("nothing", {}, "")
+            .row("no speed", {{"Speed", none}}, "")
+            .row("speed", {{"Speed", speed(60)}}, "moving standing")
+            .row("engine", {{"Module1", 0}}, "engine")
+            .row("no fix", {{"Latitude", 600'000}, {"Longitude", 0}, {"StateNGauge", 0}}, "fix")
+            .row("fix", {{"Latitude", 600'000}, {"Longitude", 0}, {"StateNGauge", 2}}, "metres fix");
+    }
+    void journeyOfNothing()
+    {
+        QFETCH(RecordParts, told);
+        RecordStore store;
+        for (quint32 i = 0; i < 3; ++i) {
+            told.put(element("Time"), kStart + i * 60);
+            store.add(30, told.mask, told.block);
+        }
+        RecordColumns columns(store);
+        const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
+        QCOMPARE(sum.records, 3);
+        QStringList known;
+        for (const auto& [name, value] : {std::pair("moving", sum.moving),
+                                          {"standing", sum.standing},
+                                          {"engine", sum.engine},
+                                          {"metres", sum.metres},
+                                          {"fix", sum.withoutFix},
+                                          {"before", sum.fuelBefore}}) {
+            if (!std::isnan(value))
+                known << name;
+        }
+        QTEST(known.join(' '), "known");
     }
 
     // A straight line over records that are missing is no way, one over a time without records is the least.

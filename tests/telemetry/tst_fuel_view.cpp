@@ -357,6 +357,19 @@ private Q_SLOTS:
         QCOMPARE(model->index(0, 13).data(), QVariant("34"));
         records_->setContents(TelemetryContents{});
         QCOMPARE(model->rowCount(), 0);
+        // What no record tells is a dash, not 0.
+        TelemetryContents silent;
+        for (quint32 i = 0; i < 3; ++i) {
+            const RecordParts parts{{"NumPage", i}, {"Time", kStart + i * 60}};
+            silent.records.add(30, parts.mask, parts.block);
+        }
+        QTest::keyClick(over, Qt::Key_Home);
+        records_->setContents(std::move(silent));
+        summary.setFuel({}, {});
+        for (const char* key : {"Distance, km", "Moving, h:min", "Standing, h:min", "Ignition on, h:min",
+                                "Refuellings: count and l", "Drains: count and l", "Without a fix, h:min"})
+            QCOMPARE(value(key), QStringLiteral("–"));
+        QCOMPARE(value("Records"), QString("3"));
     }
 
 private:

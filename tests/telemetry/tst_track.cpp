@@ -29,7 +29,7 @@ struct Fix
     double latitude;
     double longitude;
     quint64 state = 2;
-    quint32 speed = 0;
+    float speed = 0;
 };
 
 RecordStore storeOf(const std::vector<Fix>& fixes)
@@ -41,7 +41,7 @@ RecordStore storeOf(const std::vector<Fix>& fixes)
                                 {"Latitude", raw(fix.latitude)},
                                 {"Longitude", raw(fix.longitude)},
                                 {"StateNGauge", fix.state},
-                                {"Speed", std::bit_cast<quint32>(float(fix.speed))}};
+                                {"Speed", std::bit_cast<quint32>(fix.speed)}};
         store.add(30, parts.mask, parts.block);
     }
     return store;
@@ -286,6 +286,16 @@ void TestTrack::showsAndMoves()
     const QTemporaryDir folder;
     view.saveTo(folder.filePath(QStringLiteral("t.svg")));
     QVERIFY(readFile(folder.filePath(QStringLiteral("t.svg"))).contains("rec_194"));
+    // Coloured by what no record tells it has no classes to explain.
+    constexpr float none = std::numeric_limits<float>::quiet_NaN();
+    QVERIFY(readFile(folder.filePath(QStringLiteral("t.svg"))).contains("tmizta_"));
+    TelemetryContents silent;
+    silent.records = storeOf({{kStart, 55, 37, 2, none}, {kStart + 60, 55, 37.2, 2, none}});
+    records.setContents(std::move(silent));
+    records.setCurrent(1);
+    QVERIFY(place->text().endsWith(QChar(0x2013)));
+    view.saveTo(folder.filePath(QStringLiteral("n.svg")));
+    QVERIFY(!readFile(folder.filePath(QStringLiteral("n.svg"))).contains("tmizta_"));
 }
 
 void TestTrack::survivesOddTracks_data()

@@ -89,6 +89,7 @@ private Q_SLOTS:
             .row("two signs", "en", 1, 0, 9999, "<All>1.234,5<Tab>", 20, 20, "typed_number")
             .row("group of thousands", "en", 0, 0, 9999, "<All>1,234<Tab>", 20, 20, "typed_whole")
             .row("blank between thousands", "ru", 1, 0, 9999, "<All>1 234,5<Tab>", 20, 1234.5, "")
+            .row("no-break blanks", "ru", 0, 0, 9'999'999, "<All>1\u00a0234\u202f567<Tab>", 20, 1'234'567, "")
             .row("blank elsewhere", "ru", 0, 0, 9999, "<All>12 34<Tab>", 20, 20, "typed_number")
             .row("fraction in a whole one", "ru", 0, 0, 99, "<All>2,5<Tab>", 20, 20, "typed_whole")
             .row("too many decimals", "ru", 1, 0, 99, "<All>2,55<Tab>", 20, 20, "typed_decimals")
@@ -243,6 +244,38 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible() && pressed_ == 0);
         type(date_, "<All>03.04.2026 05:06:07<Tab>");
         QCOMPARE(date_->text() + date_->toolTip(), QString("03.04.2026 05:06:07"));
+    }
+
+    // Tab behind the day leads to the time, behind a whole moment to the next field; a section that was full
+    // has led on already. What follows goes where the focus is.
+    void tabsInDates_data()
+    {
+        DataTable<QString, QString, QString>({"keys", "further", "value"})
+            .row("day over all", "<All>03.11.2026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
+            .row("day in figures over all", "<All>03112026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
+            .row("day by sections", "03.11.2026<Tab>", "10:15<Enter>", "03.11.2026 10:15:44")
+            .row("colon by Shift", "<Tab><Tab><Tab>10<Shift>:15", "<Enter>", "20.11.2026 10:15:44")
+            .row("short sections", "3<Tab>1<Tab>", "2025<Enter>", "03.01.2025 08:29:44")
+            .row("full sections", "03<Tab>12<Tab>2025<Tab>10<Tab>", "15<Tab>16<Enter>", "03.12.2025 10:15:16")
+            .row("back to the month", "03.12.<Backtab>", "04<Enter>", "03.04.2026 08:29:44")
+            .row("minutes over all", "<All>03.11.2026 10:15<Tab>", "", "03.11.2026 10:15:00")
+            .row("moment over all", "<All>03.11.2026 10:15:16<Tab>", "", "03.11.2026 10:15:16")
+            .row("moment by sections", "03.11.2026 10:15:16<Tab>", "", "03.11.2026 10:15:16")
+            .row("over all and back", "<All>03.11.2026 10:15:16<Backtab>", "", "03.11.2026 10:15:16")
+            .row("refused", "<All>31.02.2026<Tab>", "", "20.11.2026 08:29:44");
+    }
+    void tabsInDates()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QString, further);
+        type(date_, keys);
+        const QWidget* next = date_;
+        if (further.isEmpty())
+            next = keys.endsWith("<Tab>") ? static_cast<QWidget*>(line_) : real_;
+        QCOMPARE(QApplication::focusWidget(), next);
+        if (!further.isEmpty())
+            type(date_, further);
+        QTEST(date_->dateTime().toString("dd.MM.yyyy HH:mm:ss"), "value");
     }
 
     // What is told of a value is not told of the one that is being typed.

@@ -12,15 +12,20 @@ namespace {
 Q_LOGGING_CATEGORY(typing, "vlk.settings.typing")
 Q_LOGGING_CATEGORY(retyped, "vlk.settings.retyped")
 
-// Takes the next file dialog that comes up and gives it the name, or cancels it.
-void chooseNext(const QString& path)
+// Takes the next file dialog that comes up, notes where it begins and gives it the name; an empty one cancels
+// it.
+void chooseNext(const QString& path, QString* begins = nullptr)
 {
     auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, path] {
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, path, begins] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (!dialog)
             return;
         timer->deleteLater();
+        if (begins)
+            *begins = dialog->directory().dirName();
+        if (path.isEmpty())
+            return dialog->reject();
         dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
         QMetaObject::invokeMethod(dialog, "accept");
     });
@@ -57,6 +62,49 @@ private Q_SLOTS:
         QFile::remove(edited);
         QVERIFY(messageDuring([&] { bench.window.openFile(edited); }).contains(edited));
         QVERIFY(bench.settings.recentFiles().isEmpty());
+    }
+
+    void beginsWhereItOpenedLast_data()
+    {
+        DataTable<QString, QString>({"action", "folder"})
+            .row("telemetry", "action_Table", "telemetry files")
+            .row("any file", "action_Open", "configuration files");
+    }
+    void beginsWhereItOpenedLast()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, folder);
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        OpenedWorkbench bench;
+        QDir root(bench.root.path());
+        for (const char* each : {"telemetry files", "configuration files", "others", "stick"})
+            root.mkpath(each);
+        const QString file = writeFile(root.filePath(QStringLiteral("stick/a.xml")), kTelemetry);
+        const auto choose = [&](const QString& path) {
+            bench.settings.setFolders(root.filePath(QStringLiteral("telemetry files")),
+                                      root.filePath(QStringLiteral("configuration files")));
+            QString begins;
+            chooseNext(path, &begins);
+            bench.action(qPrintable(action))->trigger();
+            return begins;
+        };
+        QVERIFY(bench.start(VLK_ECHO_PLUGIN));
+        QCOMPARE(choose(file), folder);
+        QCOMPARE(choose({}), QStringLiteral("stick"));
+        // In the next run too, until it is gone or the user wants others.
+        const auto next = [&] {
+            const workbench::Settings settings(bench.folder.settingsFile());
+            return QDir(settings.openingFolder(action == "action_Open" ? workbench::DataKind::Configuration
+                                                                       : workbench::DataKind::Telemetry))
+                .dirName();
+        };
+        QCOMPARE(next(), QStringLiteral("stick"));
+        QVERIFY(root.rename(QStringLiteral("stick"), QStringLiteral("away")));
+        QCOMPARE(choose({}), folder);
+        QVERIFY(root.rename(QStringLiteral("away"), QStringLiteral("stick")));
+        bench.settings.setFolders(root.filePath(QStringLiteral("others")),
+                                  root.filePath(QStringLiteral("others")));
+        QCOMPARE(next(), QStringLiteral("others"));
     }
 
     // A preset is applied to what the user chooses, and is not opened itself.

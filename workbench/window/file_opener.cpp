@@ -72,8 +72,12 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 
 QString FileOpener::askConfiguration()
 {
-    return QFileDialog::getOpenFileName(mainWindow_, text("wb_open_caption"), settings_.configurationFolder(),
-                                        text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    const QString path = QFileDialog::getOpenFileName(
+        mainWindow_, text("wb_open_caption"), settings_.openingFolder(DataKind::Configuration),
+        text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    if (!path.isEmpty())
+        settings_.setOpenedFrom(DataKind::Configuration, path);
+    return path;
 }
 
 void FileOpener::chooseConfiguration()
@@ -85,9 +89,10 @@ void FileOpener::chooseConfiguration()
 
 void FileOpener::chooseTelemetry(TelemetryWindow window)
 {
-    const QString path = askTelemetryPath(mainWindow_, settings_.telemetryFolder());
+    const QString path = askTelemetryPath(mainWindow_, settings_.openingFolder(DataKind::Telemetry));
     if (path.isEmpty())
         return;
+    settings_.setOpenedFrom(DataKind::Telemetry, path);
     switch (storedFileKind(path)) {
     case StoredFile::Telemetry:
         openTelemetry(path, window);

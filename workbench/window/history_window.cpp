@@ -226,14 +226,17 @@ void HistoryWindow::offerOthers()
 void HistoryWindow::chooseOther(int index)
 {
     if (other_->itemData(index).toInt() == AFile) {
-        const QString chosen = QFileDialog::getOpenFileName(
-            this, text("wb_open_caption"), settings_.configurationFolder(), text("wb_history_file_filter"));
+        const QString chosen = QFileDialog::getOpenFileName(this, text("wb_open_caption"),
+                                                            settings_.openingFolder(DataKind::Configuration),
+                                                            text("wb_history_file_filter"));
         if (chosen.isEmpty() && file_.isEmpty()) {
             other_->setCurrentIndex(other_->findData(compared_.other));
             return;
         }
-        if (!chosen.isEmpty())
+        if (!chosen.isEmpty()) {
             file_ = chosen;
+            settings_.setOpenedFrom(DataKind::Configuration, chosen);
+        }
         other_->setItemText(index, file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName());
     }
     compare();

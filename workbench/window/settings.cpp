@@ -19,8 +19,15 @@ const QString kReviewKey = QStringLiteral("reviewAlways");
 const QString kBackupDaysKey = QStringLiteral("backupDays");
 const QString kTelemetryKey = QStringLiteral("folders/telemetry");
 const QString kConfigurationKey = QStringLiteral("folders/configuration");
+const QString kOpenedTelemetryKey = QStringLiteral("folders/openedTelemetry");
+const QString kOpenedConfigurationKey = QStringLiteral("folders/openedConfiguration");
 const QString kRecentKey = QStringLiteral("recentFiles");
 const QString kTableKey = QStringLiteral("recentFilesInTable");
+
+const QString& openedKey(DataKind kind)
+{
+    return kind == DataKind::Telemetry ? kOpenedTelemetryKey : kOpenedConfigurationKey;
+}
 
 QString layoutKey(const QString& name)
 {
@@ -137,8 +144,25 @@ QString Settings::configurationFolder() const
 
 void Settings::setFolders(const QString& telemetry, const QString& configuration)
 {
+    if (telemetry != telemetryFolder())
+        store_->remove(kOpenedTelemetryKey);
+    if (configuration != configurationFolder())
+        store_->remove(kOpenedConfigurationKey);
     store_->setValue(kTelemetryKey, telemetry);
     store_->setValue(kConfigurationKey, configuration);
+}
+
+QString Settings::openingFolder(DataKind kind) const
+{
+    const QString last = store_->value(openedKey(kind)).toString();
+    if (!last.isEmpty() && QFileInfo(last).isDir())
+        return last;
+    return kind == DataKind::Telemetry ? telemetryFolder() : configurationFolder();
+}
+
+void Settings::setOpenedFrom(DataKind kind, const QString& path)
+{
+    store_->setValue(openedKey(kind), QFileInfo(path).absolutePath());
 }
 
 QVector<RecentFile> Settings::recentFiles() const

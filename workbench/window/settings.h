@@ -17,6 +17,7 @@ namespace workbench {
 
 // What a file of telemetry is shown in.
 enum class TelemetryWindow { Browser = 0, Table = 1 };
+enum class DataKind { Telemetry, Configuration };
 struct RecentFile
 {
     QString path; // absolute
@@ -62,6 +63,11 @@ public:
     QString telemetryFolder() const;
     QString configurationFolder() const;
     void setFolders(const QString& telemetry, const QString& configuration);
+
+    // Where a file of a kind was chosen last to be opened: its data folder until then, after another data
+    // folder was chosen, and when it is gone.
+    QString openingFolder(DataKind kind) const;
+    void setOpenedFrom(DataKind kind, const QString& path);
 
     // The last used first.
     QVector<RecentFile> recentFiles() const;

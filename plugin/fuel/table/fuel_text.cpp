@@ -1,6 +1,7 @@
 #include "fuel/table/fuel_text.h"
 
 #include "base/windows1251.h"
+#include "typing/thousands.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -42,14 +43,6 @@ QStringList split(const QString& line, QChar separator)
     return cells;
 }
 
-// Spaces within a number stand between its thousands.
-QString number(const QString& cell)
-{
-    QString text = withDecimalPoint(cell.trimmed());
-    text.remove(QChar(QChar::Nbsp)).remove(QChar(0x202f));
-    return text;
-}
-
 bool isDigits(const QString& cell)
 {
     return !cell.isEmpty() && std::ranges::all_of(cell, [](QChar c) { return c.isDigit(); });
@@ -79,17 +72,13 @@ Cells headsOf(const QString& line)
     return {cells.value(0).trimmed(), cells.value(1).trimmed()};
 }
 
-// Two cells say where one number ends: blanks within it stand between its thousands too.
-QString withoutBlanks(const QString& number)
-{
-    static const QRegularExpression groups(QStringLiteral("^\\d{1,3}( \\d{3})+(\\.\\d*)?$"));
-    return groups.match(number).hasMatch() ? QString(number).remove(QLatin1Char(' ')) : number;
-}
-
+// Only two cells say where one number ends: blanks within it stand between its thousands then.
 Cells numbersOf(const Cells& texts)
 {
-    const Cells cells(number(texts.first), number(texts.second));
-    return cells.second.isEmpty() ? cells : Cells(withoutBlanks(cells.first), withoutBlanks(cells.second));
+    const Cells cells(withDecimalPoint(texts.first), withDecimalPoint(texts.second));
+    return cells.second.isEmpty()
+               ? cells
+               : Cells(withoutThousandsBlanks(cells.first), withoutThousandsBlanks(cells.second));
 }
 
 Cells cellsOf(const QString& line)

@@ -101,7 +101,7 @@ void Journey::takeStretches(Making& making, int first, int behind)
         const bool standsNext = !isLast && speed[records[i + 1]] < kMovesFrom;
         stretches_.push_back({time, columns.recordNumbers()[record], static_cast<float>(speed[record]), 0,
                               speed[record] >= kMovesFrom && !isGap, stands && (!isGap || standsNext),
-                              ignition[record] == Ignition::On, true, !isGap});
+                              ignition[record], false, false, !isGap});
     }
 }
 
@@ -130,6 +130,7 @@ void Journey::measureWay(Making& making, int first, int behind)
             stretches_[i].isWithoutFix = raw && !std::isnan(itemNumber(*raw, item("Latitude")));
             continue;
         }
+        stretches_[i].isPoint = true;
         // The coordinates of a vehicle that stands wander.
         if (before >= 0) {
             const Stretch& last = stretches_[before];
@@ -152,6 +153,15 @@ JourneySummary Journey::summary(double from, double until) const
     sum.fuelBefore = sum.fuelAfter = sum.greatestSpeed = kNoNumber;
     if (first == end)
         return sum;
+    const auto isAny = [&](auto is) { return std::any_of(first, end, is); };
+    if (!isAny([](const Stretch& stretch) { return !std::isnan(stretch.speed); }))
+        sum.moving = sum.standing = kNoNumber;
+    if (!isAny([](const Stretch& stretch) { return stretch.engine != Ignition::Unknown; }))
+        sum.engine = kNoNumber;
+    if (!isAny([](const Stretch& stretch) { return stretch.isPoint; }))
+        sum.metres = kNoNumber;
+    if (!isAny([](const Stretch& stretch) { return stretch.isPoint || stretch.isWithoutFix; }))
+        sum.withoutFix = kNoNumber;
     sum.from = first->time;
     sum.until = end[-1].time;
     sum.records = static_cast<int>(end - first);
@@ -163,7 +173,7 @@ JourneySummary Journey::summary(double from, double until) const
         sum.metres += stretch->metres;
         sum.moving += stretch->moves ? seconds : 0;
         sum.standing += stretch->stands ? seconds : 0;
-        sum.engine += stretch->engine && stretch->isCounted ? seconds : 0;
+        sum.engine += stretch->engine == Ignition::On && stretch->isCounted ? seconds : 0;
         sum.withoutFix += stretch->isWithoutFix && stretch->isCounted ? seconds : 0;
         const quint32 skipped = stretch[1].number - stretch->number - 1;
         sum.missing += skipped < kMostMissing ? skipped : 0;

@@ -4,30 +4,32 @@
 
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/level_medians.h"
+#include "telemetry/fuel/vehicle_times.h"
 
 #include <functional>
 
 namespace vlk {
 
+// What no record of the span tells is NaN, or a count beside NaN litres.
 struct JourneySummary
 {
     double from = 0; // seconds since 1970; the first and the last record
     double until = 0;
     int records = 0;
-    double metres = 0; // NaN where geodesics cannot be had
+    double metres = 0; // NaN also where geodesics cannot be had
     // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it. The way
     // over a gap is the straight one, and none where its records are missing.
     double moving = 0;
     double standing = 0;
     double engine = 0; // ignition on
     double withoutFix = 0;
-    double fuelBefore; // litres, NaN for none
+    double fuelBefore; // litres
     double fuelAfter;
     int refuellings = 0;
     int drains = 0;
     double refuelled = 0; // litres
     double drained = 0;
-    double greatestSpeed; // km/h, NaN for none
+    double greatestSpeed; // km/h
     qint64 missing = 0;   // records, by their numbers
 
     double fuelUsed() const { return fuelBefore + refuelled - drained - fuelAfter; }
@@ -61,7 +63,8 @@ private:
         float metres;
         bool moves;
         bool stands;
-        bool engine;
+        Ignition engine;
+        bool isPoint; // of the track
         bool isWithoutFix;
         bool isCounted; // the time to the next record
     };

@@ -46,6 +46,8 @@ QString placeText(double latitude, double longitude)
 
 QString hoursText(double seconds)
 {
+    if (std::isnan(seconds))
+        return kDash;
     const auto minutes = static_cast<qint64>(std::lround(seconds / 60));
     return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }

@@ -5,6 +5,7 @@
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
 
+#include <cmath>
 #include <iterator>
 
 namespace vlk {
@@ -13,8 +14,10 @@ namespace {
 
 using Summary = JourneySummary;
 
-QString pouredText(int count, double litres)
+QString pouredText(const Summary& summary, int count, double litres)
 {
+    if (count == 0 && std::isnan(summary.fuelBefore))
+        return numberText(summary.fuelBefore);
     return count == 0 ? numberText(0) : QStringLiteral("%1: %2").arg(count).arg(numberText(litres));
 }
 
@@ -36,8 +39,8 @@ constexpr Figure kFigures[] = {
     {"rec_283", [](const Summary& s, qint32) { return numberText(s.fuelAfter); }},
     {"rec_284", [](const Summary& s, qint32) { return numberText(s.fuelUsed(), 1); }},
     {"rec_285", [](const Summary& s, qint32) { return numberText(s.per100Km(), 1); }},
-    {"rec_286", [](const Summary& s, qint32) { return pouredText(s.refuellings, s.refuelled); }},
-    {"rec_287", [](const Summary& s, qint32) { return pouredText(s.drains, s.drained); }},
+    {"rec_286", [](const Summary& s, qint32) { return pouredText(s, s.refuellings, s.refuelled); }},
+    {"rec_287", [](const Summary& s, qint32) { return pouredText(s, s.drains, s.drained); }},
     {"rec_288", [](const Summary& s, qint32) { return numberText(s.greatestSpeed); }},
     {"rec_289", [](const Summary& s, qint32) { return numberText(s.records); }},
     {"rec_290", [](const Summary& s, qint32) { return numberText(static_cast<double>(s.missing)); }},

@@ -131,6 +131,20 @@ void VLK_Widget_Tmi_Page::open(std::shared_ptr<const TelemetryContents> contents
     ui_->horizontalSlider->setValue(record);
 }
 
+void VLK_Widget_Tmi_Page::follow(const std::shared_ptr<const TelemetryContents>& contents, int record)
+{
+    if (contents != contents_ || !isVisible())
+        return;
+    // The table may have got live records since.
+    if (record > ui_->horizontalSlider->maximum()) {
+        const int last = lastPosition(records());
+        ui_->pushButton_End->setText(QString::number(last));
+        ui_->horizontalSlider->setMaximum(last);
+        ui_->spinBox_Go->setMaximum(last);
+    }
+    ui_->horizontalSlider->setValue(record);
+}
+
 void VLK_Widget_Tmi_Page::takeContents(std::shared_ptr<const TelemetryContents> contents)
 {
     contents_ = std::move(contents);
@@ -215,6 +229,8 @@ void VLK_Widget_Tmi_Page::slot_valueChanged_horizontalSlider(int position)
 {
     ui_->spinBox_Go->setValue(position);
     goTo(position);
+    if (position < records().size())
+        Q_EMIT recordShown(contents_, position);
 }
 
 void VLK_Widget_Tmi_Page::slot_valueChanged_spinBox_Go(int position)

@@ -35,11 +35,14 @@ public:
     void open(const QString& path);
     // Shows records that another window has read, beginning with the one at that place.
     void open(std::shared_ptr<const vlk::TelemetryContents> contents, const QString& name, int record);
+    // Goes along where these records are on show.
+    void follow(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
     void retranslate();
 
 Q_SIGNALS:
     // Of the file on show; empty where the records come from the table.
     void tableWanted(const QString& path);
+    void recordShown(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
 
 private Q_SLOTS:
     void slot_valueChanged_horizontalSlider(int position);

@@ -102,6 +102,8 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(table_, &RecordsTable::menuWanted, this, &VLK_Widget_Tmi_Table::showMenu);
     connect(table_, &RecordsTable::recordOpened, this,
             [this](int record) { Q_EMIT recordOpened(shown_->contents(), name_, record); });
+    connect(shown_, &ShownRecords::currentChanged, this,
+            [this](int record) { Q_EMIT recordChosen(shown_->contents(), record); });
     connect(shown_, &ShownRecords::wentOn, this, [this](double share) {
         work_->setText(share < 1 ? tr("rec_471").arg(static_cast<int>(100 * share)) : QString());
     });
@@ -220,6 +222,12 @@ void VLK_Widget_Tmi_Table::takeLive(const QByteArray& record, quint32 number)
     shown_->append(bytesAt(record.constData(), record.size()), table_->areSeveralSelected()
                                                                    ? ShownRecords::Current::stays
                                                                    : ShownRecords::Current::follows);
+}
+
+void VLK_Widget_Tmi_Table::follow(const std::shared_ptr<const TelemetryContents>& contents, int record)
+{
+    if (contents == shown_->contents())
+        shown_->setCurrent(record);
 }
 
 void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>& contents)

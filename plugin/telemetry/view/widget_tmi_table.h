@@ -41,12 +41,16 @@ public:
     // From its type byte on; takes part where it is newer than all on show, until the growth ends.
     void takeLive(const QByteArray& record, quint32 number);
     void endGrowth() { growth_ = Growth::none; }
+    // Goes to a record that another window shows, where these records are on show.
+    void follow(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
     void retranslate();
 
 Q_SIGNALS:
     // A record is to be looked at closely; the contents are shared.
     void recordOpened(const std::shared_ptr<const vlk::TelemetryContents>& contents, const QString& name,
                       int record);
+    // It is looked at now.
+    void recordChosen(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
