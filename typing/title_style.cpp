@@ -1,5 +1,6 @@
 #include "typing/title_style.h"
 
+#include "typing/grid.h"
 #include "typing/kept_palette.h"
 
 #include <QApplication>
@@ -85,6 +86,12 @@ void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option,
     painter.setBrush(Qt::NoBrush);
     isRound ? painter.drawEllipse(outline) : painter.drawRect(outline);
     painter.restore();
+}
+
+int TitleStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const std::optional<int> own = grid::metric(metric);
+    return own ? *own : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 void dressGroup(QGroupBox* group)

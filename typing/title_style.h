@@ -1,7 +1,8 @@
 #pragma once
 
 // Titles of groups that stand out and are whole, whatever the style measures: in DemiBold, with the room that
-// the letters take in it. Boxes to tick can be seen in dark windows too.
+// the letters take in it. Boxes to tick can be seen in dark windows too, and the margins of layouts are
+// those of the grid.
 
 #include <QProxyStyle>
 
@@ -23,6 +24,8 @@ public:
                        const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                    const QWidget* widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget = nullptr) const override;
 };

@@ -3,6 +3,7 @@
 #include "base/translated.h"
 #include "review/value_text.h"
 #include "settings/table_layout.h"
+#include "typing/grid.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,7 +20,6 @@ namespace vlk {
 namespace {
 
 // Low, so that the longest list fits into a small window.
-constexpr int kBetweenBoxes = 1;
 
 // What the positions of a field hold while its widget is in this state.
 QString stateOf(const MaskField& field, const QWidget* widget)
@@ -40,9 +40,8 @@ MaskVersion versionAt(const MaskField& field, int position)
 DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title, QWidget* parent)
     : VLK_Form_Config_Set_Zeta3_Tab(index, parent), titleKey_(title)
 {
-    // The titles of the groups keep them apart.
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(0);
+    grid->setVerticalSpacing(grid::group);
     for (const DataSetGroup& row : kDataSetGroups) {
         if (row.tab != which)
             continue;
@@ -50,7 +49,7 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
         box->setObjectName(QString::fromLatin1(row.name));
         groups_.push_back({&row, box, new QGridLayout(box), {}});
         Group& group = groups_.back();
-        group.grid->setVerticalSpacing(kBetweenBoxes);
+        group.grid->setVerticalSpacing(grid::row);
         bool shown = false;
         for (const DataSetBox& one : kDataSetBoxes) {
             if (one.tab != which || QLatin1String(one.group) != box->objectName())
@@ -147,7 +146,7 @@ void DataSetBoxesTab::place(const DataSetBox& row, QWidget* widget, Group& group
             frame->setEnabled(false);
             auto* inside = new QVBoxLayout(frame);
             inside->setContentsMargins({});
-            inside->setSpacing(kBetweenBoxes);
+            inside->setSpacing(grid::row);
             group.grid->addWidget(frame, group.nextRow++, 0);
         }
         frame->layout()->addWidget(widget);

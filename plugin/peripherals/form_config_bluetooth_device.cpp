@@ -2,6 +2,7 @@
 
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "settings/bluetooth_sensor_types.h"
+#include "typing/grid.h"
 #include "windows/binder/page_settings.h"
 #include "windows/disabled_reason.h"
 #include "windows/named_widget.h"
@@ -23,7 +24,7 @@ VLK_Form_Config_Bluetooth_Device::VLK_Form_Config_Bluetooth_Device(vlk::PageSett
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    layout->setSpacing(vlk::grid::group);
     for (int number = 1; number <= kSensors; ++number) {
         sensors_[number - 1] = makeSensor(number);
         layout->addWidget(sensors_[number - 1].box);

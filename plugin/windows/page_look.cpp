@@ -1,5 +1,6 @@
 #include "windows/page_look.h"
 
+#include "typing/grid.h"
 #include "windows/folding_grid.h"
 #include "windows/page_style.h"
 
@@ -25,13 +26,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kPageMargin = 9;
-constexpr int kRowGap = 6;
-constexpr int kColumnGap = 8;
-constexpr int kGapOfPairs = 16;
-constexpr int kEmptyColumns = 3 * kColumnGap; // of a second pair that nothing but what stands across uses
-constexpr int kGroupGap = 12;
-constexpr int kGroupIndent = 16;
+constexpr int kEmptyColumns = 3 * grid::column; // of a second pair that nothing but what stands across uses
 constexpr int kWidestCaption = 260;
 constexpr int kDigits[] = {6, 10, 16}; // widths of number boxes
 constexpr int kLettersOfText = 18;     // what a line of text shows at least
@@ -155,11 +150,10 @@ void PageLook::refresh()
 
 void PageLook::dressGroups()
 {
-    constexpr QMargins margins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
-    if (QLayout* layout = page_->layout(); layout && layout->contentsMargins() != margins) {
-        layout->setContentsMargins(margins);
+    if (QLayout* layout = page_->layout(); layout && layout->contentsMargins() != grid::aroundPage) {
+        layout->setContentsMargins(grid::aroundPage);
         if (auto* box = qobject_cast<QBoxLayout*>(layout))
-            box->setSpacing(kGroupGap);
+            box->setSpacing(grid::group);
     }
     for (QGroupBox* group : page_->findChildren<QGroupBox*>()) {
         if (group->style() == style_.get())
@@ -167,8 +161,8 @@ void PageLook::dressGroups()
         group->setStyle(style_.get());
         QLayout* layout = group->layout();
         if (layout && !group->title().isEmpty())
-            layout->setContentsMargins(kGroupIndent, kRowGap, isInnerGroup(group) ? 0 : kPageMargin,
-                                       isInnerGroup(group) ? 0 : kPageMargin);
+            layout->setContentsMargins(grid::indent, grid::row, isInnerGroup(group) ? 0 : grid::page,
+                                       isInnerGroup(group) ? 0 : grid::page);
     }
 }
 
@@ -202,8 +196,8 @@ void PageLook::findGrids()
             const bool byColumns = grid->parentWidget()->property("byColumns").toBool();
             const auto order = byColumns ? FoldingGrid::Order::columns : FoldingGrid::Order::rows;
             grids_.emplace(grid, FoldingGrid(grid, order));
-            grid->setHorizontalSpacing(kColumnGap);
-            grid->setVerticalSpacing(kRowGap);
+            grid->setHorizontalSpacing(grid::column);
+            grid->setVerticalSpacing(grid::row);
         }
     }
     for (auto& [key, grid] : grids_)
@@ -307,16 +301,17 @@ void PageLook::lineUp()
         }
     }
     const auto pairWidth = [&](int pair) {
-        return std::max(captions[pair] + kColumnGap + fields[pair], across[pair]);
+        return std::max(captions[pair] + grid::column + fields[pair], across[pair]);
     };
-    const bool folds = pairWidth(0) + kGapOfPairs + pairWidth(1) + right > all;
+    const bool folds = pairWidth(0) + grid::pair + pairWidth(1) + right > all;
     const int first = folds ? std::max(captions[0], captions[1]) : captions[0];
     for (auto& [key, grid] : grids_) {
         grid.fold(folds);
         const int caption = first - insetOf(key, page_).left();
         if (folds || !hasPairs)
-            grid.setOnePair(
-                caption, all - right - first - kColumnGap - kEmptyColumns > kWidestField ? kWidestField : 0);
+            grid.setOnePair(caption, all - right - first - grid::column - kEmptyColumns > kWidestField
+                                         ? kWidestField
+                                         : 0);
         else
             grid.setTwoPairs(caption, fields[0], captions[1]);
         // Left alone, one that wraps takes as much of the room as its words need on one line.
@@ -361,7 +356,7 @@ void PageLook::stackBoxes(QBoxLayout* row, int width)
     if (row->direction() == direction)
         return;
     row->setDirection(direction);
-    row->setSpacing(stacks && !hasGroups ? kRowGap : spacing);
+    row->setSpacing(stacks && !hasGroups ? grid::row : spacing);
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 // sideways, and what only shows does not look like a field.
 
 #include "support/data_table.h"
+#include "support/distances.h"
 #include "support/scripted_host.h"
+#include "window/house_style.h"
 #include "window/languages.h"
 
 #include <QtTest>
@@ -342,7 +344,7 @@ private:
 
     QStringList faults() const
     {
-        QStringList found;
+        QStringList found = oddDistances(window_);
         for (QWidget* widget : window_->findChildren<QWidget*>()) {
             if (!widget->isVisible())
                 continue;
@@ -377,5 +379,13 @@ private:
     QTabWidget* tabs_ = nullptr;
 };
 
-QTEST_MAIN(ConfigLooksTest)
+// With the style that the windows have in the workbench.
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    workbench::HouseStyle::setUp();
+    ConfigLooksTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_config_looks.moc"

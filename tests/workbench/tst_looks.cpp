@@ -1,8 +1,10 @@
 // What a person sees of the windows of the workbench and of those of telemetry and calibration: nothing is
-// cut and nothing scrolls sideways, in either language, on screens as small as they come.
+// cut, nothing scrolls sideways and the distances are those of the house, in either language, on screens as
+// small as they come.
 
 #include "opened_workbench.h"
 #include "support/data_table.h"
+#include "support/distances.h"
 #include "support/files.h"
 #include "window/folders_dialog.h"
 #include "window/house_style.h"
@@ -77,7 +79,7 @@ QString cutIn(const QWidget* window)
         if (table && table->verticalHeader()->defaultSectionSize() != table->fontMetrics().height() + 8)
             cut << table->objectName() + " is high";
     }
-    return cut.join("; ");
+    return (cut + oddDistances(window)).join("; ");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "window/faults_window.h"
 
+#include "typing/grid.h"
 #include "typing/title_style.h"
 #include "window/faults_panel.h"
 #include "window/scrolling.h"
@@ -39,6 +40,7 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
         inside->setAlignment(tanks, Qt::AlignTop);
     }
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(vlk::grid::aroundPage);
     column->addWidget(scrolling(content), 1);
     column->addWidget(trouble_);
     retranslate();

@@ -1,5 +1,6 @@
 #include "window/folders_dialog.h"
 
+#include "typing/grid.h"
 #include "window/languages.h"
 #include "window/line_icon.h"
 #include "window/scrolling.h"
@@ -28,6 +29,7 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(vlk::grid::aroundPage);
     column->addLayout(form);
     column->addWidget(buttons);
     resizeWithin(this, QSize(640, sizeHint().height()));

@@ -2,6 +2,7 @@
 
 #include "plugin_names.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/kept_palette.h"
 #include "typing/title_style.h"
 #include "window/line_icon.h"
@@ -51,6 +52,12 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     outlineOnDark(element, *option, *painter);
+}
+
+int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const std::optional<int> own = vlk::grid::metric(metric);
+    return own ? *own : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -212,7 +212,7 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
     connect(view, &WriteReportView::leaving, dialog, &QWidget::hide);
     connect(view, &WriteReportView::leaving, dialog, &QObject::deleteLater);
     auto* column = new QVBoxLayout(dialog);
-    column->setContentsMargins(3, 3, 3, 3);
+    column->setContentsMargins({});
     column->addWidget(view, 1);
     const bool keys = !report.settings.isEmpty();
     view->table_->setVisible(keys);

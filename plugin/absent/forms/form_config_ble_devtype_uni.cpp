@@ -1,6 +1,7 @@
 #include "absent/forms/form_config_ble_devtype_uni.h"
 
 #include "absent/params/sensor_offers.h"
+#include "typing/grid.h"
 #include "windows/binder/page_settings.h"
 #include "windows/eliding_combobox.h"
 
@@ -102,8 +103,8 @@ QGroupBox* makeTable(const Table& table)
     auto* box = new QGroupBox;
     box->setObjectName(QString::fromLatin1(table.group));
     auto* grid = new QGridLayout(box);
-    grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(4);
+    grid->setHorizontalSpacing(vlk::grid::column);
+    grid->setVerticalSpacing(vlk::grid::row);
     grid->addWidget(makeLabel(QString::fromLatin1(table.numberTitle)), 0, 0);
     for (int row = 1; row <= table.rows; ++row)
         grid->addWidget(table.result ? makeLabel(QString::fromLatin1(table.result).arg(row))

@@ -5,6 +5,7 @@
 #include "telemetry/curves/curves_plot.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
+#include "typing/grid.h"
 
 #include <QBuffer>
 #include <QLabel>
@@ -34,7 +35,7 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     auto* const plot = new CurvesPlot(&model, &sheet, span);
     auto* const strip = new BandsStrip(&model, plot, &sheet);
     auto* const layout = new QVBoxLayout(&sheet);
-    layout->setSpacing(4);
+    layout->setSpacing(grid::row);
     layout->addWidget(heading);
     layout->addWidget(legend);
     layout->addWidget(plot, 1);

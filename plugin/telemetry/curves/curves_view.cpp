@@ -9,6 +9,7 @@
 #include "telemetry/curves/curves_table.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/span_moves.h"
+#include "typing/grid.h"
 #include "windows/named_widget.h"
 
 #include <QComboBox>
@@ -30,8 +31,6 @@ namespace {
 
 constexpr int kLeastPlot = 60;
 constexpr int kLowCurves = 300;
-constexpr int kToolSpacing = 8;
-constexpr int kSideMargin = 6;
 constexpr QSize kCurvesSize(640, 240);
 constexpr int kStripShare = 3; // of the height, one in
 
@@ -74,7 +73,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     kept.setRetainSizeWhenHidden(true);
     legend_->setSizePolicy(kept);
     auto* const tools = new QHBoxLayout;
-    tools->setSpacing(kToolSpacing);
+    tools->setSpacing(grid::column);
     tools->addWidget(presets_);
     tools->addWidget(choose_);
     tools->addWidget(legend_, 1);
@@ -82,14 +81,14 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     tools->addWidget(cursorB_);
     tools->addWidget(handOverMenu_);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
-    layout->setSpacing(2);
+    layout->setContentsMargins(grid::window, 0, grid::window, 0);
+    layout->setSpacing(grid::row);
     layout->addLayout(tools);
     layout->addWidget(longLegend_);
     layout->addWidget(plot_, 1);
     layout->addWidget(strip_);
     auto* const told = new QHBoxLayout;
-    told->setSpacing(kToolSpacing);
+    told->setSpacing(grid::column);
     told->addWidget(line_, 1);
     told->addWidget(allStates_);
     layout->addLayout(told);
@@ -140,10 +139,10 @@ void CurvesView::fitLegend()
 {
     const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
                       cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
-                      handOverMenu_->sizeHint().width() + 5 * kToolSpacing;
+                      handOverMenu_->sizeHint().width() + 5 * grid::column;
     const int needed = height() < kLowCurves ? std::min(legend_->leastWidth(), legend_->widthOfAll())
                                              : legend_->widthOfAll();
-    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * kSideMargin;
+    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::window;
     legend_->setVisible(hasRoom);
     longLegend_->setHidden(hasRoom);
 }

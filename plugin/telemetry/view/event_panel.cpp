@@ -6,6 +6,7 @@
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_rows.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/kept_palette.h"
 #include "typing/title_style.h"
 
@@ -48,7 +49,7 @@ EventPanel::EventPanel(QWidget* parent)
     frame->addWidget(group_);
 
     auto* grid = new QGridLayout(group_);
-    grid->setHorizontalSpacing(12);
+    grid->setHorizontalSpacing(grid::column);
     grid->addWidget(numberText_, 0, 0);
     grid->addWidget(number_, 0, 1);
     grid->addWidget(timeText_, 0, 2);

@@ -7,6 +7,7 @@
 #include "telemetry/view/latest_filters.h"
 #include "telemetry/view/records_model.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/line_icon.h"
 
 #include <QAbstractItemView>
@@ -87,9 +88,9 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     completer_->setCompletionMode(QCompleter::PopupCompletion);
     completer_->setWidget(line_);
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(6, 6, 6, 6);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(3);
+    grid->setContentsMargins(grid::aroundWindow);
+    grid->setHorizontalSpacing(grid::column);
+    grid->setVerticalSpacing(grid::row);
     grid->addWidget(caption_, 0, 0);
     grid->addWidget(line_, 0, 1);
     grid->addWidget(fault_, 1, 1);

@@ -1,6 +1,7 @@
 #include "telemetry/view/find_bar.h"
 
 #include "telemetry/view/record_finder.h"
+#include "typing/grid.h"
 #include "typing/line_icon.h"
 
 #include <QHBoxLayout>
@@ -29,8 +30,8 @@ FindBar::FindBar(RecordFinder* finder, QWidget* parent)
     told_->setObjectName(QStringLiteral("label_Find"));
     told_->setTextFormat(Qt::PlainText);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 3, 6, 3);
-    row->setSpacing(8);
+    row->setContentsMargins(grid::aroundWindow);
+    row->setSpacing(grid::column);
     row->addWidget(caption_);
     row->addWidget(words_, 1);
     const std::tuple<QToolButton*, const char*, LineIcon, int> steps[] = {

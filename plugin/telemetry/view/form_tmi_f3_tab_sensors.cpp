@@ -57,7 +57,7 @@ VLK_Form_Tmi_F3_Tab_Sensors::VLK_Form_Tmi_F3_Tab_Sensors(QWidget* parent)
     on_->setObjectName(QStringLiteral("pushButton_Out_On"));
     off_->setObjectName(QStringLiteral("pushButton_Out_Off"));
     auto* row = new QHBoxLayout(commands_);
-    row->setContentsMargins(0, 4, 0, 0);
+    row->setContentsMargins({});
     row->addWidget(output_);
     row->addWidget(on_);
     row->addWidget(off_);

@@ -1,6 +1,7 @@
 #include "telemetry/view/form_tmi_zetaext.h"
 
 #include "telemetry/text/key_text.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "typing/title_style.h"
 
@@ -59,7 +60,8 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
     groupBox_NaviMain_->setObjectName(QStringLiteral("groupBox_NaviMain"));
     dressGroup(groupBox_NaviMain_);
     auto* grid = new QGridLayout(groupBox_NaviMain_);
-    grid->setHorizontalSpacing(12);
+    grid->setContentsMargins(grid::inGroup);
+    grid->setHorizontalSpacing(grid::column);
     rows_.add(grid, kPlace);
     rows_.add(grid, kPacketMotion, 2);
 

@@ -5,6 +5,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/grid.h"
 #include "typing/present_value.h"
 #include "typing/title_style.h"
 
@@ -17,8 +18,6 @@ namespace {
 // Bounds in characters for a name that the user gave.
 constexpr int kLeastCharacters = 12;
 constexpr int kMostCharacters = 24;
-constexpr int kListSpacing = 8;
-constexpr int kTableSpacing = 10;
 constexpr int kColumnsOfList = 4; // caption, title, value, room
 
 QString numbered(const char* key, int number)
@@ -52,9 +51,9 @@ RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* 
 {
     setObjectName(QLatin1String(objectName));
     dressGroup(this);
-    grid_->setContentsMargins(6, 4, 4, 6);
-    grid_->setHorizontalSpacing(kListSpacing);
-    grid_->setVerticalSpacing(3);
+    grid_->setContentsMargins(grid::inGroup);
+    grid_->setHorizontalSpacing(grid::column);
+    grid_->setVerticalSpacing(grid::row);
 }
 
 int RecordGroup::startBelow() const
@@ -147,7 +146,6 @@ void RecordGroup::addCaptions(std::span<const char* const> keys, int row, int co
 
 void RecordGroup::addColumns(std::span<const ValueSeries> columns, int rowsBelow)
 {
-    grid_->setHorizontalSpacing(kTableSpacing);
     const int first = startBelow();
     const int width = static_cast<int>(columns.size()) + 2; // the number in front, room behind
     for (int i = 0; i < columns[0].count; ++i) {

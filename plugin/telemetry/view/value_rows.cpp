@@ -3,6 +3,7 @@
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/value_label.h"
 #include "telemetry/view/value_width.h"
+#include "typing/grid.h"
 #include "typing/present_value.h"
 
 #include <QCoreApplication>
@@ -36,7 +37,7 @@ int widthOfTime(const QLabel* label)
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
 {
     auto* layout = new QHBoxLayout;
-    layout->setSpacing(kBesideSpacing);
+    layout->setSpacing(grid::column);
     for (QLabel* label : labels) {
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         label->setMinimumWidth(0);

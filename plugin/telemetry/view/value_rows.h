@@ -64,7 +64,6 @@ ValueLabel* makeValue(const QString& name);
 int widthOfTime(const QLabel* label);
 
 // Captions and values in one line, each as wide as its text and this far apart.
-inline constexpr int kBesideSpacing = 8;
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels);
 
 // The parts of a text around its "<val>" markers.

@@ -19,6 +19,7 @@
 #include "telemetry/view/work_progress.h"
 #include "typing/area_keys.h"
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
 
@@ -133,8 +134,8 @@ void VLK_Widget_Tmi_Table::layOut()
     places_ = new RecordsPlaces(place, makeRecordsParts(shown_, notices_, this), this);
     auto* status = new QWidget(this);
     auto* line = new QHBoxLayout(status);
-    line->setContentsMargins(6, 3, 6, 3);
-    line->setSpacing(16);
+    line->setContentsMargins(grid::aroundWindow);
+    line->setSpacing(grid::pair);
     line->addWidget(count_);
     line->addWidget(work_);
     line->addStretch(1);

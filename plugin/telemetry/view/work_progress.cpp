@@ -1,5 +1,7 @@
 #include "telemetry/view/work_progress.h"
 
+#include "typing/grid.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -26,8 +28,8 @@ WorkProgress::WorkProgress(QWidget* parent)
     cancel_->setObjectName(QStringLiteral("pushButton_CancelWork"));
     cancel_->setAutoDefault(false);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 3, 6, 3);
-    row->setSpacing(8);
+    row->setContentsMargins(grid::aroundWindow);
+    row->setSpacing(grid::column);
     row->addWidget(text_);
     row->addWidget(bar_, 1);
     row->addWidget(left_);
