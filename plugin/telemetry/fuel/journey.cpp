@@ -106,7 +106,7 @@ void Journey::takeStretches(Making& making, int first, int behind)
                               .moves = speed[record] >= kMovesFrom && !isGap,
                               .stands = stands && (!isGap || standsNext),
                               .engine = ignition[record] == Ignition::On,
-                              .isWithoutFix = true,
+                              .isWithoutFix = false,
                               .isCounted = !isGap});
     }
 }
