@@ -1,6 +1,7 @@
 // A million records, 1.0 GB of XML, opened in the window of records until its table, its curves and the
 // track, the summary or the fuel show them: how long it takes, how much memory the records and their views
-// take, and the longest turn of the event loop, with the painting in it.
+// take, and the longest turn of the event loop, with the painting in it: by the clock, and by the time that a
+// core worked on it.
 
 #include "bench/drive.h"
 #include "telemetry/files/telemetry_file.h"
@@ -22,6 +23,14 @@
 using namespace vlk;
 
 namespace {
+
+// Of this thread, whatever else the machine does meanwhile.
+double workedMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
+}
 
 double residentBytes()
 {
@@ -45,6 +54,7 @@ void openMillion(benchmark::State& state)
     for ([[maybe_unused]] auto _ : state) {
         const double before = residentBytes();
         double longest = 0;
+        double longestWork = 0;
         QElapsedTimer clock;
         clock.start();
         window.open(path);
@@ -52,8 +62,11 @@ void openMillion(benchmark::State& state)
         // Columns with rare values are looked for longer, in turns that are short.
         for (int idle = 0; idle < 20; ++idle) {
             const double from = static_cast<double>(clock.nsecsElapsed());
+            const double workedBefore = workedMilliseconds();
             QCoreApplication::processEvents();
             const double took = static_cast<double>(clock.nsecsElapsed()) - from;
+            const double worked = workedMilliseconds() - workedBefore;
+            longestWork = std::max(longestWork, worked);
             longest = std::max(longest, took);
             if (table->model()->rowCount() == 0 || took > 15e6) {
                 idle = 0;
@@ -62,6 +75,7 @@ void openMillion(benchmark::State& state)
         }
         state.counters["MB"] = (residentBytes() - before) / 1e6;
         state.counters["longest_turn_ms"] = longest / 1e6;
+        state.counters["longest_turn_working_ms"] = longestWork;
         state.SetIterationTime(opened / 1e9);
     }
 }

@@ -315,6 +315,21 @@ private Q_SLOTS:
         QVERIFY(asked.contains(kStart + 20 * 60));
     }
 
+    // Records that come meanwhile count, with fuel in them or without.
+    void summaryGrows()
+    {
+        SummaryView summary(records_.get());
+        connect(view_.get(), &FuelView::fuelChanged, &summary,
+                [&] { summary.setFuel(view_->litres(), view_->events()); });
+        summary.show();
+        const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
+        const auto counted = [model] { return model->index(13, 1).data().toString(); };
+        QCOMPARE(counted(), QString("40"));
+        const QByteArray record = RecordParts{{"NumPage", 41}, {"Time", kStart + 40 * 60}}.bytes();
+        records_->append(bytesAt(record.constData(), record.size()));
+        QCOMPARE(counted(), QString("41"));
+    }
+
     void summary()
     {
         choose(good_);

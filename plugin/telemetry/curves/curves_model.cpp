@@ -70,15 +70,17 @@ void CurvesModel::restart()
     moving_ = Cursor::a;
     Q_EMIT changed();
     records_->later([this] { records_->columns().numbers(item("Speed")); });
-    records_->later([this] { look(); });
+    records_->later([this] { findStops(); });
+    records_->later([this] { findEvents(); });
 }
 
-// At what does not depend on what is shown.
-void CurvesModel::look()
+void CurvesModel::findStops()
 {
-    runs_.clear();
-    changingBits_.clear();
     stops_ = stopRuns(*records_);
+}
+
+void CurvesModel::findEvents()
+{
     events_ = rareEvents(records_->columns(), records_->byTime());
 }
 
@@ -99,7 +101,10 @@ void CurvesModel::grow(int first)
         if (isLatest)
             addTo(*curve.series, curve.column, std::span(byTime).last(added));
     }
-    look();
+    runs_.clear();
+    changingBits_.clear();
+    findStops();
+    findEvents();
     rebuild();
 }
 
@@ -252,7 +257,11 @@ void CurvesModel::makeMarks()
     for (const FoundEvent& event : records_->found())
         events.push_back(event.record);
     const std::vector<quint32>& times = records_->columns().times();
-    std::ranges::sort(events, {}, [&](int record) { return std::pair(times[record], record); });
+    const auto moment = [&](int record) { return std::pair(times[record], record); };
+    // There may be a million of the others, which are in their order.
+    const auto found = events.begin() + static_cast<std::ptrdiff_t>(events_.size());
+    std::ranges::sort(found, events.end(), {}, moment);
+    std::ranges::inplace_merge(events.begin(), found, events.end(), {}, moment);
     events.erase(std::unique(events.begin(), events.end()), events.end());
     if (!events.empty())
         marks_.push_back({translated("rec_166"), std::move(events)});

@@ -98,7 +98,8 @@ private:
     void addCurve(CurveColumn column);
     bool changes(const CurveColumn& state);
     void addBand(const CurveColumn& column);
-    void look();
+    void findStops();
+    void findEvents();
     void makeMarks();
     std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
     std::shared_ptr<const StateRuns> runsOf(ItemIndex state);

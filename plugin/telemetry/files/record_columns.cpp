@@ -19,6 +19,12 @@ const NumberColumn& RecordColumns::numbers(ElementIndex element)
                   [type = kElements[element].type](std::uint64_t raw) { return numberOf(raw, type); });
 }
 
+bool RecordColumns::areAny(ElementIndex element) const
+{
+    return std::ranges::any_of(store_.layouts(),
+                               [element](const RecordLayout& layout) { return layout.has(element); });
+}
+
 template <class Number>
 void RecordColumns::leaveOutDamaged(std::vector<Number>& column, int first, Number number) const
 {
@@ -30,8 +36,7 @@ template <class ToNumber>
 const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex element, ToNumber toNumber)
 {
     // Most of the elements that can be asked for are in no record: they share a column.
-    const auto has = [element](const RecordLayout& layout) { return layout.has(element); };
-    if (std::ranges::none_of(store_.layouts(), has)) {
+    if (!areAny(element)) {
         absent_.resize(store_.size(), std::numeric_limits<double>::quiet_NaN());
         return absent_;
     }
@@ -40,7 +45,7 @@ const NumberColumn& RecordColumns::filled(NumberColumn& column, ElementIndex ele
         return column;
     column.resize(store_.size());
     forEachRaw(
-        store_, element, has,
+        store_, element, [element](const RecordLayout& layout) { return layout.has(element); },
         [&](int record, std::optional<std::uint64_t> raw) {
             column[record] = raw ? toNumber(*raw) : std::numeric_limits<double>::quiet_NaN();
         },

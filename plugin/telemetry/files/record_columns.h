@@ -38,6 +38,9 @@ public:
     }
 
     const NumberColumn& numbers(ItemIndex item);
+    // Whether any record can have a number of it; what asks first needs no column where none has.
+    bool areAny(ElementIndex element) const;
+    bool areAny(ItemIndex item) const { return areAny(kItems[item].element); }
     // The whole number of an element, whatever it means.
     const NumberColumn& numbers(ElementIndex element);
     // From the head of every record and packet, also where its mask does not tell it: seconds since 1970 in

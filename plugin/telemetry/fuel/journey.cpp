@@ -15,8 +15,6 @@ namespace {
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr float kMovesFrom = 3; // km/h
 constexpr qint64 kDay = 24 * 3600;
-// A tracker that counts on from elsewhere has lost nothing.
-constexpr quint32 kMostMissing = 1'000'000;
 constexpr double kLeastWay = 1000; // metres, for what is burnt on a hundred kilometres
 
 } // namespace
@@ -87,21 +85,31 @@ Journey::Steps Journey::stepsToMake(RecordColumns& columns, const NumberColumn& 
 // Of the records by time from `first` to before `behind`, as the others.
 void Journey::takeStretches(Making& making, int first, int behind)
 {
-    RecordColumns& columns = making.columns;
+    const std::vector<quint32>& times = making.columns.times();
+    const std::vector<quint32>& numbers = making.columns.recordNumbers();
     const std::vector<int>& records = making.records;
     const NumberColumn& speed = making.speed;
     const std::vector<Ignition>& ignition = making.ignition;
     const std::size_t end = std::min(static_cast<std::size_t>(behind), records.size());
     for (auto i = static_cast<std::size_t>(first); i < end; ++i) {
         const int record = records[i];
-        const quint32 time = columns.times()[record];
         const bool isLast = i + 1 == records.size();
-        const bool isGap = isLast || isGapBetween(time, columns.times()[records[i + 1]]);
+        const int next = isLast ? record : records[i + 1];
+        const bool isGap = isLast || isGapBetween(times[record], times[next]);
         const bool stands = speed[record] < kMovesFrom;
-        const bool standsNext = !isLast && speed[records[i + 1]] < kMovesFrom;
-        stretches_.push_back({time, columns.recordNumbers()[record], static_cast<float>(speed[record]), 0,
-                              speed[record] >= kMovesFrom && !isGap, stands && (!isGap || standsNext),
-                              ignition[record], false, false, !isGap});
+        const bool standsNext = !isLast && speed[next] < kMovesFrom;
+        const quint32 skipped = numbers[next] - numbers[record] - 1;
+        stretches_.push_back({.time = times[record],
+                              .speed = static_cast<float>(speed[record]),
+                              .metres = 0,
+                              .missing = skipped < kMostMissing ? skipped : 0,
+                              .moves = speed[record] >= kMovesFrom && !isGap,
+                              .stands = stands && (!isGap || standsNext),
+                              .engine = ignition[record] == Ignition::On,
+                              .isEngineKnown = ignition[record] != Ignition::Unknown,
+                              .isPoint = false,
+                              .isWithoutFix = false,
+                              .isCounted = !isGap});
     }
 }
 
@@ -120,6 +128,7 @@ void Journey::measureWay(Making& making, int first, int behind)
 {
     const std::vector<int>& records = making.records;
     const std::vector<Making::Place>& places = making.places;
+    const std::vector<quint32>& numbers = making.columns.recordNumbers();
     const RawValues latitudes(making.columns.store(), element("Latitude"));
     int& before = making.before;
     const std::size_t end = std::min(static_cast<std::size_t>(behind), records.size());
@@ -136,7 +145,7 @@ void Journey::measureWay(Making& making, int first, int behind)
             const Stretch& last = stretches_[before];
             const bool isGap = isGapBetween(last.time, stretches_[i].time);
             // Where records are missing nobody knows the way, but that it is not the straight one.
-            const bool isKnown = !isGap || stretches_[i].number - last.number == i - before;
+            const bool isKnown = !isGap || numbers[records[i]] - numbers[records[before]] == i - before;
             if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))
                 stretches_[before].metres =
                     static_cast<float>(metresBetween(places[records[before]].point(), place.point()));
@@ -156,11 +165,11 @@ JourneySummary Journey::summary(double from, double until) const
     const auto isAny = [&](auto is) { return std::any_of(first, end, is); };
     if (!isAny([](const Stretch& stretch) { return !std::isnan(stretch.speed); }))
         sum.moving = sum.standing = kNoNumber;
-    if (!isAny([](const Stretch& stretch) { return stretch.engine != Ignition::Unknown; }))
+    if (!isAny([](const Stretch& stretch) { return stretch.isEngineKnown != 0; }))
         sum.engine = kNoNumber;
-    if (!isAny([](const Stretch& stretch) { return stretch.isPoint; }))
+    if (!isAny([](const Stretch& stretch) { return stretch.isPoint != 0; }))
         sum.metres = kNoNumber;
-    if (!isAny([](const Stretch& stretch) { return stretch.isPoint || stretch.isWithoutFix; }))
+    if (!isAny([](const Stretch& stretch) { return (stretch.isPoint | stretch.isWithoutFix) != 0; }))
         sum.withoutFix = kNoNumber;
     sum.from = first->time;
     sum.until = end[-1].time;
@@ -173,10 +182,9 @@ JourneySummary Journey::summary(double from, double until) const
         sum.metres += stretch->metres;
         sum.moving += stretch->moves ? seconds : 0;
         sum.standing += stretch->stands ? seconds : 0;
-        sum.engine += stretch->engine == Ignition::On && stretch->isCounted ? seconds : 0;
+        sum.engine += stretch->engine && stretch->isCounted ? seconds : 0;
         sum.withoutFix += stretch->isWithoutFix && stretch->isCounted ? seconds : 0;
-        const quint32 skipped = stretch[1].number - stretch->number - 1;
-        sum.missing += skipped < kMostMissing ? skipped : 0;
+        sum.missing += stretch->missing;
     }
     const auto level = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
     const auto levelEnd = std::ranges::upper_bound(level, medians_.end(), until, {}, &LevelMedian::from);

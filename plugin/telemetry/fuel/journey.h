@@ -54,20 +54,24 @@ public:
     std::vector<JourneySummary> days(qint32 utcOffset) const;
 
 private:
-    // A record with what came up to the next one.
+    // A record with what came up to the next one, in 16 bytes, since there may be a million.
     struct Stretch
     {
         quint32 time;
-        quint32 number;
         float speed;
         float metres;
-        bool moves;
-        bool stands;
-        Ignition engine;
-        bool isPoint; // of the track
-        bool isWithoutFix;
-        bool isCounted; // the time to the next record
+        quint32 missing : 20; // records
+        quint32 moves : 1;
+        quint32 stands : 1;
+        quint32 engine : 1;
+        quint32 isEngineKnown : 1;
+        quint32 isPoint : 1; // of the track
+        quint32 isWithoutFix : 1;
+        quint32 isCounted : 1; // the time to the next record
     };
+    // A tracker that counts on from elsewhere has lost nothing.
+    static constexpr quint32 kMostMissing = 1'000'000;
+    static_assert(kMostMissing <= 1U << 20);
 
     struct Making;
 

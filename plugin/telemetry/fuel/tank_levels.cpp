@@ -15,9 +15,10 @@ double tankLitresOf(const TankSensor& tank, double level)
     return tank.curve ? tank.curve->litres(level) : std::numeric_limits<double>::quiet_NaN();
 }
 
-bool saysAnything(const NumberColumn& column)
+bool isAnythingSaid(RecordColumns& columns, ItemIndex item)
 {
-    return std::ranges::any_of(column, [](double number) { return number > 0; });
+    return columns.areAny(item) &&
+           std::ranges::any_of(columns.numbers(item), [](double number) { return number > 0; });
 }
 
 } // namespace
@@ -52,8 +53,8 @@ std::vector<const LevelSensor*> sensorsIn(RecordColumns& columns)
 {
     std::vector<const LevelSensor*> sensors;
     for (const LevelSensor& sensor : kLevelSensors) {
-        if (saysAnything(columns.numbers(sensor.item)) ||
-            (sensor.kind == LevelKind::Can && saysAnything(columns.numbers(sensor.litres))))
+        if (isAnythingSaid(columns, sensor.item) ||
+            (sensor.kind == LevelKind::Can && isAnythingSaid(columns, sensor.litres)))
             sensors.push_back(&sensor);
     }
     return sensors;

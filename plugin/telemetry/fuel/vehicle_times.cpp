@@ -1,6 +1,7 @@
 #include "telemetry/fuel/vehicle_times.h"
 
 #include "telemetry/files/raw_values.h"
+#include "telemetry/text/item_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +60,8 @@ NumberColumn speeds(RecordColumns& columns)
 {
     NumberColumn speeds = columns.numbers(item("Speed"));
     for (const ItemIndex further : {item("NaviSpeed"), item("CAN_Speed")}) {
+        if (!columns.areAny(further))
+            continue;
         if (std::ranges::none_of(speeds, [](double speed) { return std::isnan(speed); }))
             break;
         const NumberColumn& others = columns.numbers(further);
@@ -79,9 +82,14 @@ std::vector<Ignition> ignitions(RecordColumns& columns, const std::vector<int>& 
                          [&codes](int record) { return isOfIgnition(codes[record]); });
     const int input = events.empty() ? -1 : ignitionInput(columns, events);
     if (input >= 0 || events.empty()) {
-        const NumberColumn& column =
-            columns.numbers(input >= 0 ? item("StateIn1.0") + input : item("Module1.7"));
-        std::ranges::transform(column, states.begin(), ignitionOf);
+        // Not as a column, which would stay and take eight times as much.
+        const ItemIndex state = input >= 0 ? item("StateIn1.0") + input : item("Module1.7");
+        const ItemNumbers toNumber(state, columns.userTypes());
+        const RawValues values(columns.store(), kItems[state].element);
+        for (const int record : byTime) {
+            if (const std::optional<std::uint64_t> raw = values.at(record))
+                states[record] = ignitionOf(toNumber(*raw));
+        }
         return states;
     }
     // Before the first event it was the other way round.

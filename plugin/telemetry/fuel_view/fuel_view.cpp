@@ -161,7 +161,10 @@ void FuelView::refreshLater()
     litres_.clear();
     medians_.clear();
     for (const LevelSensor& sensor : kLevelSensors)
-        records_.later([this, &sensor] { records_.columns().numbers(sensor.item); });
+        records_.later([this, &sensor] {
+            if (records_.columns().areAny(sensor.item))
+                records_.columns().numbers(sensor.item);
+        });
     records_.later([this] { takeSensors(); });
     records_.later([this] { takeLitres(); });
     records_.later([this] { takeMedians(); });

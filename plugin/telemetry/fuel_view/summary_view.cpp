@@ -64,6 +64,10 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
 
 void SummaryView::setFuel(const NumberColumn& litres, const std::vector<FuelEvent>& events)
 {
+    // None as before: what was summed up of the same records stays, half a second of work on a million.
+    const bool isNone = litres.empty() && litres_.empty() && events.empty() && events_.empty();
+    if (isNone && summedUp_ == records_.records().size())
+        return;
     litres_ = litres;
     events_ = events;
     forget();
@@ -108,6 +112,7 @@ void SummaryView::makeJourney()
     if (making_)
         return;
     making_ = std::make_shared<Journey>();
+    summedUp_ = records_.records().size();
     model_->setSelection({}, records_.utcOffset());
     tellEmpty();
     for (auto& step : making_->stepsToMake(records_.columns(), litres_, events_))

@@ -50,6 +50,7 @@ private:
     std::vector<FuelEvent> events_;
     std::shared_ptr<Journey> making_;
     std::shared_ptr<const Journey> journey_; // made when it is looked at
+    int summedUp_ = 0;                       // records
     SummaryModel* model_;
     QLabel* overLabel_;
     QComboBox* over_;

@@ -198,7 +198,7 @@ int TrackCanvas::nearestTo(const QPointF& pixel) const
     for (int point = 0; point < static_cast<int>(path.points().size()); ++point) {
         const QPointF way = path.place(point) - place;
         const double distance = QPointF::dotProduct(way, way);
-        if (distance > least || !model_->isShown(path.points()[point]))
+        if (distance > least || !model_->isShown(point))
             continue;
         least = distance;
         nearest = point;

@@ -37,7 +37,13 @@ void TrackModel::restart()
     const auto path = std::make_shared<TrackPath>();
     for (auto& step : path->stepsToAdd(records_->columns()))
         records_->later(std::move(step));
-    records_->later([this] { findMarks(); });
+    records_->later([this] { findStops(); });
+    records_->later([this] { findEvents(); });
+    // The first distance waits for PROJ to be loaded, which the first drawing is not to do.
+    records_->later([path] {
+        if (!path->isEmpty())
+            metresBetween({}, {});
+    });
     records_->later([this, path] {
         path_ = std::move(*path);
         isBeingMade_ = false;
@@ -60,7 +66,8 @@ void TrackModel::grow(int first)
 void TrackModel::describe()
 {
     chooseColumn();
-    findMarks();
+    findStops();
+    findEvents();
     classify();
 }
 
@@ -72,11 +79,17 @@ void TrackModel::chooseColumn()
     column_ = found != columns.end() ? std::optional(*found) : std::nullopt;
 }
 
-void TrackModel::findMarks()
+void TrackModel::findStops()
 {
     stops_ = stopsOf(records_->columns(), records_->byTime());
+}
+
+void TrackModel::findEvents()
+{
     events_ = rareEvents(records_->columns(), records_->byTime());
-    std::ranges::sort(events_);
+    // Mostly they are.
+    if (!std::ranges::is_sorted(events_))
+        std::ranges::sort(events_);
 }
 
 void TrackModel::classify()
@@ -122,10 +135,11 @@ TimeSpan TrackModel::shownTime() const
 
 QRectF TrackModel::bounds() const
 {
+    const TimeSpan shown = shownTime();
     QRectF bounds;
     bool isFirst = true;
     for (int point = 0; point < static_cast<int>(path_.points().size()); ++point) {
-        if (!isShown(path_.points()[point]))
+        if (!shown.contains(path_.time(point)))
             continue;
         unite(bounds, path_.place(point), std::exchange(isFirst, false));
     }

@@ -39,7 +39,7 @@ public:
     void setSpanOnly(bool only);
     // The time whose points are shown.
     TimeSpan shownTime() const;
-    bool isShown(const TrackPoint& point) const { return shownTime().contains(point.time); }
+    bool isShown(int point) const { return shownTime().contains(path_.time(point)); }
     // The bounds of what is shown; a place where nothing is.
     QRectF bounds() const;
 
@@ -53,7 +53,8 @@ private:
     void grow(int first);
     void describe();
     void chooseColumn();
-    void findMarks();
+    void findStops();
+    void findEvents();
     void classify();
 
     ShownRecords* records_;

@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <set>
 
 namespace vlk {
 
@@ -70,14 +69,13 @@ private:
     void addLine(int from, int to)
     {
         const TrackPath& path = model_.path();
-        const TrackPoint& point = path.points()[to];
-        if (!span_.contains(point.time))
+        if (!span_.contains(path.time(to)))
             return;
         const QPointF end = sight_.toPixel(path.place(to), size_);
-        const bool isAlone = from < 0 || point.startsSegment || !span_.contains(path.points()[from].time);
+        const bool isAlone = from < 0 || path.startsSegment(to) || !span_.contains(path.time(from));
         // A place alone is a point of its own.
         const QPointF start = isAlone ? end : sight_.toPixel(path.place(from), size_);
-        const int bin = binOf(point.record);
+        const int bin = binOf(path.records()[to]);
         std::uint8_t* const here = cell(end);
         const std::uint8_t* const there = cell(start);
         const auto mark = static_cast<std::uint8_t>(bin + 1);
@@ -114,17 +112,25 @@ private:
     std::array<QVector<QLineF>, kBins> lines_;
 };
 
-// Finds room for marks: one is drawn of those that would cover each other.
+// Finds room for marks that are seen: one is drawn of those that would cover each other.
 class Crowd
 {
 public:
+    explicit Crowd(const QSizeF& size)
+        : across_(cell(size.width() + kMargin) + 1), taken_(across_ * (cell(size.height() + kMargin) + 1))
+    {
+    }
+
     bool hasRoomAt(const QPointF& pixel)
     {
-        return taken_.emplace(std::lround(pixel.x() / kMarkRoom), std::lround(pixel.y() / kMarkRoom)).second;
+        return !std::exchange(taken_[cell(pixel.y()) * across_ + cell(pixel.x())], true);
     }
 
 private:
-    std::set<std::pair<long, long>> taken_;
+    static std::size_t cell(double pixel) { return static_cast<std::size_t>((pixel + kMargin) / kMarkRoom); }
+
+    const std::size_t across_;
+    std::vector<std::uint8_t> taken_;
 };
 
 class TrackDrawing
@@ -160,7 +166,12 @@ private:
     std::optional<QPointF> pixelOf(int record) const
     {
         const int point = model_.path().pointOf(record);
-        if (point < 0 || !span_.contains(model_.path().points()[point].time))
+        return point < 0 ? std::nullopt : pixelOfPoint(point);
+    }
+
+    std::optional<QPointF> pixelOfPoint(int point) const
+    {
+        if (!span_.contains(model_.path().time(point)))
             return std::nullopt;
         return sight_.toPixel(model_.path().place(point), size_);
     }
@@ -186,7 +197,7 @@ private:
 
     void drawStops()
     {
-        Crowd crowd;
+        Crowd crowd(size_);
         for (const Stop& stop : model_.stops()) {
             const std::optional<QPointF> pixel = pixelOf(stop.first);
             if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
@@ -200,11 +211,19 @@ private:
 
     void drawEvents()
     {
-        Crowd crowd;
+        Crowd crowd(size_);
         painter_.setPen(QPen(base_, 1));
         painter_.setBrush(text_);
+        // Of a million events nobody looks for the place of each: events and points rise together, and of
+        // those at one place the first is drawn.
+        const std::vector<int>& records = model_.path().records();
+        auto behind = records.begin();
         for (const int record : model_.events()) {
-            const std::optional<QPointF> pixel = pixelOf(record);
+            const auto before = behind;
+            behind = std::find_if(behind, records.end(), [record](int other) { return other > record; });
+            if (behind == before)
+                continue;
+            const std::optional<QPointF> pixel = pixelOfPoint(static_cast<int>(behind - records.begin()) - 1);
             if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
                 continue;
             painter_.drawPolygon(
@@ -328,7 +347,8 @@ private:
 
     bool isSeen(const QPointF& pixel) const
     {
-        return QRectF(QPointF(), size_).adjusted(-kMargin, -kMargin, kMargin, kMargin).contains(pixel);
+        return pixel.x() >= -kMargin && pixel.x() <= size_.width() + kMargin && pixel.y() >= -kMargin &&
+               pixel.y() <= size_.height() + kMargin;
     }
 
     QPainter& painter_;

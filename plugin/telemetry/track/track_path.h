@@ -37,8 +37,10 @@ public:
 
     bool isEmpty() const { return records_.empty(); }
     Points points() const { return Points(*this); }
-    // The record of each point.
+    // The record of each point, rising.
     const std::vector<int>& records() const { return records_; }
+    quint32 time(int point) const { return times_[point]; }
+    bool startsSegment(int point) const { return startsSegment_[point]; }
     const QPointF& place(int point) const { return places_[point]; }
     // The point that is drawn there, as latitude and longitude.
     TrackPoint at(const QPointF& place) const;

@@ -22,6 +22,7 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     passes_ = {};
     chosen_.clear();
     byTime_.clear();
+    byTime_.reserve(times.size());
     std::ranges::copy_if(passing_, std::back_inserter(byTime_),
                          [&](int record) { return times[record] != 0; });
     const auto timeOfRecord = [&](int record) { return times[record]; };

@@ -13,7 +13,7 @@ class QPushButton;
 namespace vlk {
 
 // How long a slice of work lasts. What takes less than kQuietMs is done at one go.
-inline constexpr int kSliceMs = 40;
+inline constexpr int kSliceMs = 20;
 inline constexpr int kQuietMs = 200;
 
 class WorkProgress : public QWidget
