@@ -2609,6 +2609,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_bring"><translation>Bring back…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
+    <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
+    <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
+    <message id="wb_history_drop_verb"><translation>Delete</translation></message>
     <message id="wb_history_file"><translation>File…</translation></message>
     <message id="wb_history_file_filter"><translation>Configurations (*.xml);;All files (*)</translation></message>
     <message id="wb_history_filter"><translation>Filter: number, name, note</translation></message>

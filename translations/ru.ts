@@ -2609,6 +2609,9 @@
     <message id="wb_history_bring"><translation>Вернуть…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
+    <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
+    <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
+    <message id="wb_history_drop_verb"><translation>Удалить</translation></message>
     <message id="wb_history_file"><translation>Файл…</translation></message>
     <message id="wb_history_file_filter"><translation>Конфигурации (*.xml);;Все файлы (*)</translation></message>
     <message id="wb_history_filter"><translation>Фильтр: номер, имя, заметка</translation></message>

@@ -493,6 +493,61 @@ private Q_SLOTS:
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
     }
+
+    // Nothing brings back what is dropped here.
+    void asksBeforeItDropsBackups()
+    {
+        Bench bench;
+        workbench::Backups& backups = bench.session().backups();
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        for (const int days : {500, 400, 200, 1})
+            QVERIFY(backups.add({"R-7106", "1", {}}, "<DEVICE/>", now.addDays(-days), nullptr) > 0);
+        QVERIFY(backups.setNote(1, "before the tank"));
+        bench.action("action_History")->trigger();
+        auto* keep = Bench::find<QComboBox>("comboBox_Keep");
+        QApplication::setActiveWindow(keep->window());
+        QString asked;
+        const auto choose = [&](const QString& period, Qt::Key answer) {
+            asked.clear();
+            QTimer::singleShot(0, [&asked, answer] {
+                if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    asked = box->text();
+                    if (answer == Qt::Key_Delete)
+                        box->buttons().first()->click();
+                    QTest::keyClick(box, answer);
+                }
+            });
+            keep->setFocus();
+            QTest::keyClicks(keep, period);
+            QCoreApplication::processEvents();
+        };
+        const auto turn = [](QComboBox* box) {
+            const QPoint middle = box->rect().center();
+            QWheelEvent wheel(middle, box->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(box, &wheel);
+        };
+        Bench::find("treeWidget_Backups")->setFocus();
+        for (const char* name : {"comboBox_Keep", "comboBox_Backup", "comboBox_Against"}) {
+            auto* box = Bench::find<QComboBox>(name);
+            const int before = box->currentIndex();
+            turn(box);
+            QVERIFY2(box->currentIndex() == before && !box->hasFocus(), name);
+        }
+        QCOMPARE(backups.all().size(), 4);
+
+        choose("3 m", Qt::Key_Return); // on Cancel
+        QCOMPARE(asked, QString("Backups older than 3\u00A0months: 2. Delete them for good?\n\n"
+                                "Those with a note stay (1 of the older ones), and the last one of each "
+                                "tracker."));
+        QCOMPARE(keep->currentText() + QString::number(backups.all().size()), QString("always4"));
+        choose("3 y", Qt::Key_Return);
+        QCOMPARE(asked + keep->currentText(), QString("3\u00A0years")); // loses nothing
+        choose("1", Qt::Key_Delete);
+        QVERIFY(asked.startsWith("Backups older than 1\u00A0year: 1."));
+        QCOMPARE(keep->currentText(), QString("1\u00A0year"));
+        QVERIFY(backups.all().size() == 3 && backups.find(1) && backups.find(3) && backups.find(4));
+    }
 };
 
 QTEST_MAIN(RoadWindowsTest)
