@@ -2608,6 +2608,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_always"><translation>always</translation></message>
     <message id="wb_history_bring"><translation>Bring back…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Bring chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
@@ -2780,7 +2781,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or was not read from this tracker is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>

@@ -2608,6 +2608,7 @@
     <message id="wb_history_always"><translation>всегда</translation></message>
     <message id="wb_history_bring"><translation>Вернуть…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Вернуть отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
@@ -2780,7 +2781,7 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или прочитано не из этого трекера, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>

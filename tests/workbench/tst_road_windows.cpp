@@ -261,6 +261,8 @@ private Q_SLOTS:
         bench.action("action_Read")->trigger();
         bench.write("Van 1");
         bench.session().link().send(vlk::Message::CloseWindows);
+        // Asked, whatever the switch says: it takes back what is there.
+        bench.action("action_ReviewAlways")->trigger();
         bench.action("action_Previous")->trigger();
         QTRY_VERIFY(Bench::isReviewed());
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("kept before the last write"));
@@ -456,6 +458,11 @@ private Q_SLOTS:
         against->setFocus();
         QTest::keyClick(against, Qt::Key_End);
         QCOMPARE(against->currentText(), compared);
+        // The button says which of the two goes into the tracker, and asks in any case.
+        const auto captionOf = [](const char* name) { return Bench::find<QPushButton>(name)->text(); };
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Bring back No.\u00A01…"));
+        QCOMPARE(captionOf("pushButton_BringChosen"), QString("Bring chosen back from No.\u00A01…"));
+        bench.action("action_ReviewAlways")->trigger();
         for (const char* end : {"pushButton_Cancel", "pushButton_Write"}) {
             Bench::press("pushButton_BringChosen");
             QTRY_VERIFY(Bench::isReviewed());
@@ -492,6 +499,7 @@ private Q_SLOTS:
                          "cable and try again."));
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Вернуть №\u00A03…"));
     }
 
     // Nothing brings back what is dropped here.

@@ -315,6 +315,10 @@ void HistoryWindow::updateButtons()
 {
     const bool any = selected() != 0;
     const bool attached = session_.tracker().attached();
+    // Two columns are compared, and one of them goes into the tracker.
+    whole_->setText(any ? text("wb_report_bring_back").arg(number(selected())) : text("wb_history_bring"));
+    chosen_->setText(any ? text("wb_history_bring_chosen_of").arg(number(selected()))
+                         : text("wb_history_bring_chosen"));
     note_->setEnabled(any);
     whole_->setEnabled(any && attached);
     chosen_->setEnabled(any && attached && !model_.chosen().isEmpty());

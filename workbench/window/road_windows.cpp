@@ -64,7 +64,7 @@ void RoadWindows::showProgress()
 void RoadWindows::review(const WriteReview& review)
 {
     WriteRoad* road = &session_.road();
-    if (!settings_.reviewAlways() && !review.mustBeSeen()) {
+    if (!settings_.reviewAlways() && !review.isAlwaysAsked()) {
         road->approve();
         return;
     }
