@@ -515,7 +515,7 @@ private Q_SLOTS:
         auto* keep = Bench::find<QComboBox>("comboBox_Keep");
         QApplication::setActiveWindow(keep->window());
         QString asked;
-        const auto choose = [&](const QString& period, Qt::Key answer) {
+        const auto choose = [&](Qt::Key key, Qt::Key answer) {
             asked.clear();
             QTimer::singleShot(0, [&asked, answer] {
                 if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
@@ -526,7 +526,7 @@ private Q_SLOTS:
                 }
             });
             keep->setFocus();
-            QTest::keyClicks(keep, period);
+            QTest::keyClick(keep, key);
             QCoreApplication::processEvents();
         };
         const auto turn = [](QComboBox* box) {
@@ -540,18 +540,16 @@ private Q_SLOTS:
             auto* box = Bench::find<QComboBox>(name);
             const int before = box->currentIndex();
             turn(box);
-            QVERIFY2(box->currentIndex() == before && !box->hasFocus(), name);
+            QVERIFY2(box->currentIndex() == before && !box->hasFocus() && backups.all().size() == 4, name);
         }
-        QCOMPARE(backups.all().size(), 4);
-
-        choose("3 m", Qt::Key_Return); // on Cancel
+        choose(Qt::Key_Down, Qt::Key_Return); // on Cancel
         QCOMPARE(asked, QString("Backups older than 3\u00A0months: 2. Delete them for good?\n\n"
                                 "Those with a note stay (1 of the older ones), and the last one of each "
                                 "tracker."));
         QCOMPARE(keep->currentText() + QString::number(backups.all().size()), QString("always4"));
-        choose("3 y", Qt::Key_Return);
+        choose(Qt::Key_End, Qt::Key_Return);
         QCOMPARE(asked + keep->currentText(), QString("3\u00A0years")); // loses nothing
-        choose("1", Qt::Key_Delete);
+        choose(Qt::Key_Up, Qt::Key_Delete);
         QVERIFY(asked.startsWith("Backups older than 1\u00A0year: 1."));
         QCOMPARE(keep->currentText(), QString("1\u00A0year"));
         QVERIFY(backups.all().size() == 3 && backups.find(1) && backups.find(3) && backups.find(4));
