@@ -196,6 +196,46 @@ private Q_SLOTS:
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
     }
 
+    // The field is red, and what is written is not what was typed into it.
+    void tellsWhatWasRefusedAsLongAsItIs()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
+        const auto type = [box](const QString& keys) {
+            QApplication::setActiveWindow(box->window());
+            box->setFocus();
+            box->selectAll();
+            QTest::keyClicks(box, keys);
+            QTest::keyClick(box, Qt::Key_Tab);
+        };
+        const QString refused = "Only whole numbers fit here, not \"3,5\".";
+        const auto isAdvised = [&refused] {
+            const auto* list = Bench::find("dialog_Review")->findChild<QListWidget*>("listWidget_Advice");
+            return list && !list->findItems(refused, Qt::MatchContains).isEmpty();
+        };
+        const QString port = box->cleanText();
+        type("3,5");
+        for (const char* name : {"Van 1", "Van 2"}) {
+            bench.editName(name);
+            QTRY_VERIFY(Bench::isReviewed());
+            QVERIFY2(isAdvised(), name);
+            Bench::press("pushButton_Write");
+            QTRY_VERIFY(Bench::find("dialog_Report"));
+            QVERIFY2(bench.text("label_Report").contains(refused), name);
+            Bench::press("pushButton_Close");
+        }
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Cancel");
+        // With what stands there already nothing is red any more.
+        type(port);
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(!isAdvised());
+        Bench::press("pushButton_Cancel");
+    }
+
     // However long the values are, and however narrow the window.
     void keepsNamesReadable()
     {
