@@ -1496,6 +1496,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_328"><translation>model</translation></message>
     <message id="cli_329"><translation>left out unless --tracker names it: %1</translation></message>
     <message id="cli_330"><translation>it is closed</translation></message>
+    <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
+    <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -2608,7 +2610,11 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_always"><translation>always</translation></message>
     <message id="wb_history_bring"><translation>Bring back…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Bring chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
+    <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
+    <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
+    <message id="wb_history_drop_verb"><translation>Delete</translation></message>
     <message id="wb_history_file"><translation>File…</translation></message>
     <message id="wb_history_file_filter"><translation>Configurations (*.xml);;All files (*)</translation></message>
     <message id="wb_history_filter"><translation>Filter: number, name, note</translation></message>
@@ -2777,7 +2783,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or was not read from this tracker is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>

@@ -1496,6 +1496,8 @@
     <message id="cli_328"><translation>модель</translation></message>
     <message id="cli_329"><translation>не попало в файл, без --tracker туда не попадёт: %1</translation></message>
     <message id="cli_330"><translation>закрыт</translation></message>
+    <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
+    <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -2608,7 +2610,11 @@
     <message id="wb_history_always"><translation>всегда</translation></message>
     <message id="wb_history_bring"><translation>Вернуть…</translation></message>
     <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Вернуть отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
+    <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
+    <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
+    <message id="wb_history_drop_verb"><translation>Удалить</translation></message>
     <message id="wb_history_file"><translation>Файл…</translation></message>
     <message id="wb_history_file_filter"><translation>Конфигурации (*.xml);;Все файлы (*)</translation></message>
     <message id="wb_history_filter"><translation>Фильтр: номер, имя, заметка</translation></message>
@@ -2777,7 +2783,7 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или прочитано не из этого трекера, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>

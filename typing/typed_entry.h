@@ -39,6 +39,8 @@ public:
     void giveUp();
     // What was not taken as it was typed since this was asked the last time; empty if all was.
     QString takeNews();
+    // Why the box is marked as wrong: what was typed last was refused. Empty when it was not.
+    QString refusal() const { return refusal_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -80,6 +82,7 @@ private:
     bool taking_ = false;
     bool isMarked_ = false;
     QString news_;
+    QString refusal_;
 };
 
 } // namespace vlk

@@ -148,9 +148,9 @@ private Q_SLOTS:
         QTest::keyClick(window, Qt::Key_Escape);
         QCOMPARE(readFile(path), saved);
         open(source, full);
-        QCOMPARE(offer(), isOfTracker ? QString("rev_140: 1") : QString());
+        QCOMPARE(offer(), isOfTracker ? QString("rev_345: 1") : QString());
         host_.open(path, full, true);
-        QCOMPARE(offer(), isOfTracker ? QString() : QString("rev_140: 1"));
+        QCOMPARE(offer(), isOfTracker ? QString() : QString("rev_345: 1"));
     }
 
     // From then on the tracker has what was written; a file that was opened stays as it is.

@@ -371,7 +371,10 @@ private Q_SLOTS:
         QCOMPARE(first.made, day.addDays(-200));
         const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
         QVERIFY(!(QFile::permissions(first.path) & others));
-        // The newest of each tracker stays however old it is.
+        // The newest of each tracker stays however old it is, and what has a note.
+        backups.keepFor(90, day);
+        QCOMPARE(backups.all().size(), 3);
+        QVERIFY(backups.setNote(1, {}));
         backups.keepFor(90, day);
         QCOMPARE(backups.all().size(), 2);
         QVERIFY(!backups.find(1) && backups.document(2) == kNew && backups.document(1).isEmpty());

@@ -131,6 +131,12 @@ private Q_SLOTS:
                  R"("text":"100 km/h","lacking":true})"
                  "\n",
                  "")
+            .row("what a preset has", "get TRACK/POINTS/maxSpeed good.xml", 0, "80\n", "")
+            .row("what a preset leaves alone", "get TRACK/POINTS/dist good.xml", 2, "",
+                 "good.xml: is a preset that does not have this setting\n")
+            .row("a sheet of a preset", "report good.xml", 2, "",
+                 "good.xml: is a preset, not the configuration of a tracker: apply it to one and report "
+                 "that\n")
             .row("a secret", "get TRANS/AP1/pass secret.xml", 0, "•••\n", masked)
             .row("a secret on demand", "get --secrets TRANS/AP1/pass secret.xml", 0, "geheim\n", "")
             .row("no such path", "get TRACK/POINTS/bend a.xml", 2, "",

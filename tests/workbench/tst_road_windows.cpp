@@ -196,6 +196,46 @@ private Q_SLOTS:
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
     }
 
+    // The field is red, and what is written is not what was typed into it.
+    void tellsWhatWasRefusedAsLongAsItIs()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
+        const auto type = [box](const QString& keys) {
+            QApplication::setActiveWindow(box->window());
+            box->setFocus();
+            box->selectAll();
+            QTest::keyClicks(box, keys);
+            QTest::keyClick(box, Qt::Key_Tab);
+        };
+        const QString refused = "Only whole numbers fit here, not \"3,5\".";
+        const auto isAdvised = [&refused] {
+            const auto* list = Bench::find("dialog_Review")->findChild<QListWidget*>("listWidget_Advice");
+            return list && !list->findItems(refused, Qt::MatchContains).isEmpty();
+        };
+        const QString port = box->cleanText();
+        type("3,5");
+        for (const char* name : {"Van 1", "Van 2"}) {
+            bench.editName(name);
+            QTRY_VERIFY(Bench::isReviewed());
+            QVERIFY2(isAdvised(), name);
+            Bench::press("pushButton_Write");
+            QTRY_VERIFY(Bench::find("dialog_Report"));
+            QVERIFY2(bench.text("label_Report").contains(refused), name);
+            Bench::press("pushButton_Close");
+        }
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Cancel");
+        // With what stands there already nothing is red any more.
+        type(port);
+        bench.editName("Van 3");
+        QTRY_VERIFY(Bench::isReviewed());
+        QVERIFY(!isAdvised());
+        Bench::press("pushButton_Cancel");
+    }
+
     // However long the values are, and however narrow the window.
     void keepsNamesReadable()
     {
@@ -261,6 +301,8 @@ private Q_SLOTS:
         bench.action("action_Read")->trigger();
         bench.write("Van 1");
         bench.session().link().send(vlk::Message::CloseWindows);
+        // Asked, whatever the switch says: it takes back what is there.
+        bench.action("action_ReviewAlways")->trigger();
         bench.action("action_Previous")->trigger();
         QTRY_VERIFY(Bench::isReviewed());
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("kept before the last write"));
@@ -456,6 +498,11 @@ private Q_SLOTS:
         against->setFocus();
         QTest::keyClick(against, Qt::Key_End);
         QCOMPARE(against->currentText(), compared);
+        // The button says which of the two goes into the tracker, and asks in any case.
+        const auto captionOf = [](const char* name) { return Bench::find<QPushButton>(name)->text(); };
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Bring back No.\u00A01…"));
+        QCOMPARE(captionOf("pushButton_BringChosen"), QString("Bring chosen back from No.\u00A01…"));
+        bench.action("action_ReviewAlways")->trigger();
         for (const char* end : {"pushButton_Cancel", "pushButton_Write"}) {
             Bench::press("pushButton_BringChosen");
             QTRY_VERIFY(Bench::isReviewed());
@@ -492,6 +539,60 @@ private Q_SLOTS:
                          "cable and try again."));
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Вернуть №\u00A03…"));
+    }
+
+    // Nothing brings back what is dropped here.
+    void asksBeforeItDropsBackups()
+    {
+        Bench bench;
+        workbench::Backups& backups = bench.session().backups();
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        for (const int days : {500, 400, 200, 1})
+            QVERIFY(backups.add({"R-7106", "1", {}}, "<DEVICE/>", now.addDays(-days), nullptr) > 0);
+        QVERIFY(backups.setNote(1, "before the tank"));
+        bench.action("action_History")->trigger();
+        auto* keep = Bench::find<QComboBox>("comboBox_Keep");
+        QApplication::setActiveWindow(keep->window());
+        QString asked;
+        const auto choose = [&](Qt::Key key, Qt::Key answer) {
+            asked.clear();
+            QTimer::singleShot(0, [&asked, answer] {
+                if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    asked = box->text();
+                    if (answer == Qt::Key_Delete)
+                        box->buttons().first()->click();
+                    QTest::keyClick(box, answer);
+                }
+            });
+            keep->setFocus();
+            QTest::keyClick(keep, key);
+            QCoreApplication::processEvents();
+        };
+        const auto turn = [](QComboBox* box) {
+            const QPoint middle = box->rect().center();
+            QWheelEvent wheel(middle, box->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(box, &wheel);
+        };
+        Bench::find("treeWidget_Backups")->setFocus();
+        for (const char* name : {"comboBox_Keep", "comboBox_Backup", "comboBox_Against"}) {
+            auto* box = Bench::find<QComboBox>(name);
+            const int before = box->currentIndex();
+            turn(box);
+            QVERIFY2(box->currentIndex() == before && !box->hasFocus() && backups.all().size() == 4, name);
+        }
+        choose(Qt::Key_Down, Qt::Key_Return); // on Cancel
+        QCOMPARE(asked, QString("Backups older than 3\u00A0months: 2. Delete them for good?\n\n"
+                                "Those with a note stay (1 of the older ones), and the last one of each "
+                                "tracker."));
+        QCOMPARE(keep->currentText() + QString::number(backups.all().size()), QString("always4"));
+        choose(Qt::Key_End, Qt::Key_Return);
+        QCOMPARE(asked + keep->currentText(), QString("3\u00A0years")); // loses nothing
+        choose(Qt::Key_Up, Qt::Key_Delete);
+        QVERIFY(asked.startsWith("Backups older than 1\u00A0year: 1."));
+        QCOMPARE(keep->currentText(), QString("1\u00A0year"));
+        QVERIFY(backups.all().size() == 3 && backups.find(1) && backups.find(3) && backups.find(4));
     }
 };
 

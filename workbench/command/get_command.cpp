@@ -7,6 +7,7 @@
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "review/file_state.h"
+#include "review/preset.h"
 #include "review/value_text.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
@@ -83,7 +84,11 @@ int get(const Call& call, Output& output)
         call.files,
         [&](const File& file) {
             return withConfiguration(call, file, [&](const QByteArray&, vlk::XmlDocument& document) {
-                return Outcome{told(file, settingAt(key, document, call)), {}, nothing};
+                const Setting setting = settingAt(key, document, call);
+                // It leaves alone what it lacks: a default would be no value of it.
+                if (setting.isLacking && vlk::review::saysPreset(*document.root()))
+                    return refusal(call, file.name, text("cli_332"));
+                return Outcome{told(file, setting), {}, nothing};
             });
         },
         output);

@@ -5,6 +5,7 @@
 #include "command/configuration_input.h"
 #include "command/file_names.h"
 #include "command/output.h"
+#include "review/preset.h"
 #include "review/report.h"
 #include "settings/all_settings.h"
 #include "window/languages.h"
@@ -42,11 +43,14 @@ QString html(const Call& call, vlk::XmlDocument& document)
 QString reportHtml(const Call& call, int* status)
 {
     QString made;
-    const Outcome outcome = withConfiguration(call, {call.files.first(), true},
-                                              [&](const QByteArray&, vlk::XmlDocument& document) {
-                                                  made = html(call, document);
-                                                  return Outcome{};
-                                              });
+    const Outcome outcome = withConfiguration(
+        call, {call.files.first(), true}, [&](const QByteArray&, vlk::XmlDocument& document) {
+            // All that it lacks would stand there as defaults.
+            if (vlk::review::saysPreset(*document.root()))
+                return refusal(call, call.files.first(), text("cli_331"));
+            made = html(call, document);
+            return Outcome{};
+        });
     writeError(outcome.told + outcome.complaints);
     *status = outcome.status;
     return made;

@@ -8,7 +8,6 @@
 #include <QJsonObject>
 #include <QLoggingCategory>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <algorithm>
 
@@ -149,23 +148,33 @@ void Backups::keepFor(int days, const QDateTime& now)
     Q_EMIT changed();
 }
 
-void Backups::dropOld(const QDateTime& now)
+Backups::Expired Backups::expired(int days, const QDateTime& now) const
 {
-    if (days_ <= 0)
-        return;
+    Expired expired;
     QSet<QString> trackers;
-    const auto isOld = [&](const Backup& backup) {
+    for (const Backup& backup : all_) {
         const bool isNewest = !trackers.contains(backup.tracker);
         trackers.insert(backup.tracker);
-        if (isNewest || backup.made.daysTo(now) <= days_ || !QFile::remove(backup.path))
-            return false;
-        QFile::remove(wordsOf(backup.path));
-        return true;
-    };
+        if (days <= 0 || isNewest || backup.made.daysTo(now) <= days)
+            continue;
+        if (backup.note.isEmpty())
+            expired.dropped.insert(backup.number);
+        else
+            ++expired.noted;
+    }
+    return expired;
+}
+
+void Backups::dropOld(const QDateTime& now)
+{
+    const QSet<int> old = expired(days_, now).dropped;
     QVector<Backup> kept;
-    for (const Backup& backup : std::as_const(all_))
-        if (!isOld(backup))
+    for (const Backup& backup : std::as_const(all_)) {
+        if (old.contains(backup.number) && QFile::remove(backup.path))
+            QFile::remove(wordsOf(backup.path));
+        else
             kept.append(backup);
+    }
     all_ = kept;
 }
 

@@ -9,6 +9,7 @@
 #include "road/tracker_port.h"
 
 #include <QDateTime>
+#include <QSet>
 #include <QVector>
 
 #include <optional>
@@ -43,7 +44,14 @@ public:
     int add(const TrackerIdentity& tracker, const QByteArray& document, const QDateTime& now,
             QString* reason);
     bool setNote(int number, const QString& note);
-    // Drops what is older, but the newest of each tracker, and keeps no longer from now on. 0: for ever.
+    // What is older than so many days, but the newest of each tracker. 0: nothing is.
+    struct Expired
+    {
+        QSet<int> dropped;
+        int noted = 0; // with a note: they stay
+    };
+    Expired expired(int days, const QDateTime& now) const;
+    // Drops what is expired, and keeps no longer from now on.
     void keepFor(int days, const QDateTime& now);
 
 Q_SIGNALS:

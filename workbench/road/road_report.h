@@ -47,6 +47,12 @@ struct WriteReview
                 along.append(change);
         return along;
     }
+    // Nobody has edited what is brought back: the review is the one look at it.
+    bool isAlwaysAsked() const
+    {
+        return mustBeSeen() || request.origin == WriteRequest::Origin::backup ||
+               request.origin == WriteRequest::Origin::previous;
+    }
     // It loses something, brings something unasked, is known to be wrong, or replaces what nobody has seen.
     bool mustBeSeen() const
     {

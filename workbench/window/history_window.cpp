@@ -5,6 +5,7 @@
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/table_look.h"
+#include "typing/wheel_guard.h"
 #include "window/backup_list.h"
 #include "window/host_session.h"
 #include "window/message_box.h"
@@ -84,6 +85,7 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
         if (other_->currentData() == TheTracker)
             compare();
     });
+    vlk::guardFromWheel(this);
     resizeWithin(this, historySize);
     fill();
     list_->setFocus();
@@ -141,10 +143,7 @@ QWidget* HistoryWindow::buildButtons()
         for (int row = 0; row < keep_->count(); ++row)
             keep_->setItemText(row, text(kKeepRows[row].key));
     });
-    connect(keep_, QOverload<int>::of(&QComboBox::activated), this, [this] {
-        settings_.setBackupDays(keep_->currentData().toInt());
-        session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
-    });
+    connect(keep_, QOverload<int>::of(&QComboBox::activated), this, &HistoryWindow::chooseKeeping);
     line->addWidget(label);
     line->addWidget(keep_);
     line->addStretch(1);
@@ -168,6 +167,23 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
         connect(button, &QPushButton::clicked, this, act);
     line->addWidget(button);
     return button;
+}
+
+// What is dropped here is gone: the number is told before, and no stays as it was.
+void HistoryWindow::chooseKeeping()
+{
+    const int days = keep_->currentData().toInt();
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const Backups::Expired old = session_.backups().expired(days, now);
+    if (!old.dropped.isEmpty() &&
+        !agrees(text("wb_history_drop").arg(keep_->currentText(), number(old.dropped.size())) +
+                    QLatin1String("\n\n") + text("wb_history_drop_not").arg(number(old.noted)),
+                text("wb_history_drop_verb"), QStringLiteral("messageBox_Keep"), this)) {
+        keep_->setCurrentIndex(qMax(0, keep_->findData(settings_.backupDays())));
+        return;
+    }
+    settings_.setBackupDays(days);
+    session_.backups().keepFor(days, now);
 }
 
 void HistoryWindow::fill()
@@ -299,6 +315,10 @@ void HistoryWindow::updateButtons()
 {
     const bool any = selected() != 0;
     const bool attached = session_.tracker().attached();
+    // Two columns are compared, and one of them goes into the tracker.
+    whole_->setText(any ? text("wb_report_bring_back").arg(number(selected())) : text("wb_history_bring"));
+    chosen_->setText(any ? text("wb_history_bring_chosen_of").arg(number(selected()))
+                         : text("wb_history_bring_chosen"));
     note_->setEnabled(any);
     whole_->setEnabled(any && attached);
     chosen_->setEnabled(any && attached && !model_.chosen().isEmpty());

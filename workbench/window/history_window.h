@@ -58,6 +58,7 @@ private:
     void offerOthers();
     void chooseOther(int index);
     void compare();
+    void chooseKeeping();
     void updateButtons();
     void note();
     void bringBack();

@@ -16,8 +16,10 @@ constexpr int kNoticeMs = 200;
 
 } // namespace
 
-RoadWindows::RoadWindows(HostSession& session, Settings& settings, QWidget* mainWindow)
-    : QObject(mainWindow), session_(session), settings_(settings), mainWindow_(mainWindow)
+RoadWindows::RoadWindows(HostSession& session, Settings& settings, std::function<QStringList()> typed,
+                         QWidget* mainWindow)
+    : QObject(mainWindow), session_(session), settings_(settings), typed_(std::move(typed)),
+      mainWindow_(mainWindow)
 {
     notice_.setSingleShot(true);
     notice_.setInterval(kNoticeMs);
@@ -61,10 +63,14 @@ void RoadWindows::showProgress()
     progress_->show();
 }
 
-void RoadWindows::review(const WriteReview& review)
+void RoadWindows::review(WriteReview review)
 {
+    // Only what comes from the configuration window was typed.
+    if (!review.request.file.isEmpty())
+        for (const QString& line : typed_())
+            review.advice.append({.isError = false, .page = {}, .caption = {}, .text = line});
     WriteRoad* road = &session_.road();
-    if (!settings_.reviewAlways() && !review.mustBeSeen()) {
+    if (!settings_.reviewAlways() && !review.isAlwaysAsked()) {
         road->approve();
         return;
     }

@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <functional>
+
 class QDialog;
 
 namespace workbench {
@@ -21,7 +23,9 @@ class RoadWindows : public QObject
     Q_OBJECT
 
 public:
-    RoadWindows(HostSession& session, Settings& settings, QWidget* mainWindow);
+    // The function tells what of the typing is not written as it was meant.
+    RoadWindows(HostSession& session, Settings& settings, std::function<QStringList()> typed,
+                QWidget* mainWindow);
     ~RoadWindows() override;
 
     // The report as a dialog, where the one in the main window would not be seen.
@@ -29,12 +33,13 @@ public:
 
 private:
     void follow(RoadReport::Step step);
-    void review(const WriteReview& review);
+    void review(WriteReview review);
     void showProgress();
     void hideProgress();
 
     HostSession& session_;
     Settings& settings_;
+    std::function<QStringList()> typed_;
     QWidget* mainWindow_;
     QTimer notice_; // until progress is worth a window
     QPointer<QDialog> progress_;

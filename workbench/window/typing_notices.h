@@ -19,6 +19,8 @@ public:
 
     // A file is saved or written: what is to be told with it, one text for the user. Empty for most.
     QString take();
+    // What take() would tell, a line a field.
+    const QStringList& lines() const { return lines_; }
     // Another configuration opens.
     void forget() { lines_.clear(); }
 

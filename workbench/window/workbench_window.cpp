@@ -59,7 +59,8 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
       start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(session_, this)),
       trackerPanel_(new TrackerPanel(session_.tracker(), this)),
-      road_(new RoadWindows(session_, settings, this))
+      road_(new RoadWindows(
+          session_, settings, [this] { return saveNotices_->typing().lines(); }, this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);

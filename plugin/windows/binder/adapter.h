@@ -55,6 +55,8 @@ public:
     // What was not taken as it was typed since this was asked the last time, and what is doubtful about the
     // value; empty texts where there is nothing.
     virtual QStringList takeNews() { return {}; }
+    // Why a widget is marked as wrong for what was typed and refused; empty when none is.
+    virtual QString refusal() const { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
     // The value as the widgets hold it, for checks that they can hold what the configuration does.

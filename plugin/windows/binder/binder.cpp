@@ -334,12 +334,16 @@ void Binder::logNews()
         const int row = adapter->row();
         const QString caption = captionText(values_.setting(row));
         QStringList allNews = adapter->takeNews();
+        // Told every time: what is written is not what was wanted, as long as the field is red.
+        const QString refusal = adapter->refusal();
+        if (!refusal.isEmpty() && !allNews.contains(refusal))
+            allNews << refusal;
         allNews.removeAll(QString());
         for (const QString& news : std::as_const(allNews))
             qCWarning(lcTyping).noquote() << caption + QStringLiteral(": ") + news;
         const auto told = told_.find(row);
         if (!allNews.isEmpty()) {
-            told_[row] = values_.value(row);
+            told_[row] = refusal.isEmpty() ? std::optional(values_.value(row)) : std::nullopt;
         } else if (told != told_.end() && told->second != values_.value(row)) {
             told_.erase(told);
             qCWarning(lcRetyped).noquote() << caption;

@@ -17,6 +17,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -129,7 +130,9 @@ private:
     std::vector<Target> targets_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
-    std::map<int, QString> told_; // rows of which something was logged, with the value that they had
+    // Rows of which something was logged, with the value that they had; without it that holds no longer than
+    // the refusal that was logged.
+    std::map<int, std::optional<QString>> told_;
     int showing_ = 0;
 };
 

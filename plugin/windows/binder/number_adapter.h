@@ -23,6 +23,7 @@ public:
     void forget() override { remembered_ = 0; }
     void finishTyping() override { box_.finishTyping(); }
     QStringList takeNews() override { return {box_.takeNews(), complaint_}; }
+    QString refusal() const override { return box_.refusal(); }
 
 private:
     void take();

@@ -72,6 +72,11 @@ QString NumberBox::takeNews()
     return entry_ ? entry_->takeNews() : QString();
 }
 
+QString NumberBox::refusal() const
+{
+    return entry_ ? entry_->refusal() : QString();
+}
+
 void NumberBox::setRange(double least, double most)
 {
     // Each setting of a range lays the box out anew, and asking the box for the one it has is not cheap

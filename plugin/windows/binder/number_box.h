@@ -34,6 +34,7 @@ public:
     void finishTyping();
     // What was not taken as it was typed since this was asked the last time, empty if all was.
     QString takeNews();
+    QString refusal() const;
     void setRange(double least, double most);
     void setSuffix(const QString& suffix);
     void onChanged(QObject* context, std::function<void()> action) const;

@@ -71,6 +71,15 @@ QStringList PeriodAdapter::takeNews()
     return news;
 }
 
+QString PeriodAdapter::refusal() const
+{
+    QStringList refusals;
+    for (const NumberBox& box : boxes_)
+        refusals << box.refusal();
+    refusals.removeAll(QString());
+    return refusals.join(QLatin1Char(' '));
+}
+
 QString PeriodAdapter::held() const
 {
     qint64 seconds = 0;

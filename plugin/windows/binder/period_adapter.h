@@ -20,6 +20,7 @@ public:
     QString held() const override;
     void finishTyping() override;
     QStringList takeNews() override;
+    QString refusal() const override;
 
 private:
     void take();
