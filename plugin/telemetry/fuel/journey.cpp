@@ -178,19 +178,42 @@ JourneySummary Journey::summary(double from, double until) const
         const quint32 skipped = stretch[1].number - stretch->number - 1;
         sum.missing += skipped < kMostMissing ? skipped : 0;
     }
-    const auto level = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
-    const auto levelEnd = std::ranges::upper_bound(level, medians_.end(), until, {}, &LevelMedian::from);
-    if (level != levelEnd) {
-        sum.fuelBefore = level->litres;
-        sum.fuelAfter = levelEnd[-1].litres;
+    takeFuel(sum, from, until);
+    return sum;
+}
+
+// What is left of an event that began before `from` is not used in this time, nor does it come from nowhere:
+// the level starts and ends beside events, not on their way.
+void Journey::takeFuel(JourneySummary& sum, double from, double until) const
+{
+    const auto first = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
+    const auto end = std::ranges::upper_bound(first, medians_.end(), until, {}, &LevelMedian::from);
+    const bool isAny = first != end;
+    if (isAny) {
+        sum.fuelBefore = first->litres;
+        sum.fuelAfter = end[-1].litres;
     }
+    bool isFirst = true;
     for (const FuelEvent& event : events_) {
-        if (event.time < from || event.until > until)
+        const bool isBefore = event.time < from;
+        const bool isBehind = event.time >= until && event.until > until;
+        if (isBefore && event.until <= from)
+            continue;
+        if (isBehind) {
+            if (isAny && event.time < end[-1].until)
+                sum.fuelAfter = event.before;
+            break;
+        }
+        if (isFirst && (isBefore || !isAny || event.time < first->until))
+            sum.fuelBefore = isBefore ? event.after : event.before;
+        isFirst = false;
+        if (!isAny || event.until >= end[-1].from)
+            sum.fuelAfter = event.after;
+        if (isBefore)
             continue;
         ++(event.isRefuelling() ? sum.refuellings : sum.drains);
         (event.isRefuelling() ? sum.refuelled : sum.drained) += std::abs(event.litres());
     }
-    return sum;
 }
 
 std::vector<JourneySummary> Journey::days(qint32 utcOffset) const

@@ -48,7 +48,7 @@ public:
     Journey() = default;
     Steps stepsToMake(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
 
-    // Both ends in it. No records where there are none.
+    // Both ends in it. No records where there are none. A refuelling or drain counts whole where it begins.
     JourneySummary summary(double from, double until) const;
     // A summary of each day with records, from midnight to midnight; seconds east of UTC.
     std::vector<JourneySummary> days(qint32 utcOffset) const;
@@ -74,6 +74,7 @@ private:
     void takeStretches(Making& making, int first, int behind);
     void takePoints(Making& making, int first, int behind);
     void measureWay(Making& making, int first, int behind);
+    void takeFuel(JourneySummary& sum, double from, double until) const;
 
     std::vector<Stretch> stretches_; // by time
     std::vector<LevelMedian> medians_;
