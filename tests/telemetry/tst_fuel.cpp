@@ -425,6 +425,18 @@ private Q_SLOTS:
         }
     }
 
+    // Who is elsewhere behind a gap did not stand in it, however slow before and after.
+    void standingOverAGap()
+    {
+        for (const double way : {0.0, 0.0001, 0.05}) {
+            const RecordStore store = storeOf({{0, 9}, {60, 9}, {9000, 9, 0, 2, true, 30 + way, 100}});
+            RecordColumns columns(store);
+            const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
+            QCOMPARE(sum.standing, way > 0.01 ? 60.0 : 9000.0);
+            QCOMPARE(sum.moving, 0.0);
+        }
+    }
+
     void remembersByVehicle()
     {
         const QTemporaryDir folder;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace vlk {
 
@@ -140,9 +141,22 @@ void Journey::measureWay(Making& making, int first, int behind)
             if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))
                 stretches_[before].metres =
                     static_cast<float>(metresBetween(places[records[before]].point(), place.point()));
+            const Making::Place& was = places[records[before]];
+            if (isGap && !isSamePlace(was.latitude, was.longitude, place.latitude, place.longitude))
+                noStandingInGaps(before, static_cast<int>(i));
         }
         before = static_cast<int>(i);
     }
+}
+
+// Of a vehicle that is elsewhere afterwards, unless it was seen to move in between.
+void Journey::noStandingInGaps(int first, int behind)
+{
+    const auto between = std::span(stretches_).subspan(first, behind - first);
+    if (std::ranges::any_of(between, [](const Stretch& each) { return each.speed >= kMovesFrom; }))
+        return;
+    for (Stretch& stretch : between)
+        stretch.stands = stretch.stands && stretch.isCounted;
 }
 
 JourneySummary Journey::summary(double from, double until) const
