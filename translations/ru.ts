@@ -1710,6 +1710,7 @@
     <message id="rec_470"><translation>Формат выбран по расширению имени: %1.</translation></message>
     <message id="rec_471"><translation>Подготовка графиков и трека: %1&#160;%</translation></message>
     <message id="rec_472"><translation>Часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3).</translation></message>
+    <message id="rec_473"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края, и рост или падение не видны.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

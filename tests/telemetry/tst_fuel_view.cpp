@@ -267,6 +267,17 @@ private Q_SLOTS:
         QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
     }
 
+    // Its end hides the drain: the list tells of it, not that nothing happened alone.
+    void saysThatATableIsTooShort()
+    {
+        choose(file("short.csv", "Level;Volume, l\n0;0\n2510;251\n"));
+        QCOMPARE(table()->model()->rowCount(), 0);
+        const auto* news = view_->findChild<QLabel*>("label_FuelNews");
+        QVERIFY(news->isVisible());
+        QVERIFY2(news->text().startsWith("20 of 40 readings of RS-485 Fuel level 1 are beyond the ends"),
+                 qPrintable(news->text()));
+    }
+
     // Its scale ends at 1023, all that is above it is an error.
     void saysThatATableGivesNoVolume()
     {
