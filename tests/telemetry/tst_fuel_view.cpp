@@ -341,7 +341,8 @@ private Q_SLOTS:
             return QString();
         };
         QCOMPARE(value("Standing, h:min"), QString("0:39"));
-        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Drains"), QString("1"));
+        QCOMPARE(value("Drained, l"), QString("61"));
         QCOMPARE(value("Used, l"), QString("0.0"));
         QCOMPARE(value("Records"), QString("40"));
         QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_CopySummary"), Qt::LeftButton);
@@ -362,10 +363,10 @@ private Q_SLOTS:
         QVERIFY(note->isVisible() && note->text().startsWith("Choose several rows"));
         records_->setChosen({19, 7, 21});
         QCOMPARE(value("Records"), QString("15"));
-        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Drained, l"), QString("61"));
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
-        QCOMPARE(model->index(0, 13).data(), QVariant("34"));
+        QCOMPARE(model->index(0, 15).data(), QVariant("34"));
         records_->setContents(TelemetryContents{});
         QCOMPARE(model->rowCount(), 0);
         // What no record tells is a dash, not 0.
@@ -377,10 +378,18 @@ private Q_SLOTS:
         QTest::keyClick(over, Qt::Key_Home);
         records_->setContents(std::move(silent));
         summary.setFuel({}, {});
-        for (const char* key : {"Distance, km", "Moving, h:min", "Standing, h:min", "Ignition on, h:min",
-                                "Refuellings: count and l", "Drains: count and l", "Without a fix, h:min"})
+        for (const char* key :
+             {"Distance, km", "Moving, h:min", "Standing, h:min", "Ignition on, h:min", "Refuellings",
+              "Refuelled, l", "Drains", "Drained, l", "Without a fix, h:min"})
             QCOMPARE(value(key), QStringLiteral("–"));
         QCOMPARE(value("Records"), QString("3"));
+        // A number of four figures is one in a spreadsheet, too.
+        records_->setContents(drained(1200));
+        QCOMPARE(value("Records"), QString("1,200"));
+        answerFile(folder_.filePath("long"));
+        QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_SaveSummary"), Qt::LeftButton);
+        const QByteArray csv = readFile(folder_.filePath("long.csv"));
+        QVERIFY2(csv.contains("Records;1200\r") && csv.contains("Used, l;\r"), csv.constData());
     }
 
 private:
