@@ -1671,8 +1671,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_283"><translation>Fuel at the end, l</translation></message>
     <message id="rec_284"><translation>Used, l</translation></message>
     <message id="rec_285"><translation>Per 100&#160;km, l</translation></message>
-    <message id="rec_286"><translation>Refuellings: count and l</translation></message>
-    <message id="rec_287"><translation>Drains: count and l</translation></message>
+    <message id="rec_286"><translation>Refuellings</translation></message>
+    <message id="rec_287"><translation>Drains</translation></message>
     <message id="rec_288"><translation>Greatest speed, km/h</translation></message>
     <message id="rec_289"><translation>Records</translation></message>
     <message id="rec_290"><translation>Records missing by number</translation></message>
@@ -1712,6 +1712,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_470"><translation>The form follows the ending of the name: %1.</translation></message>
     <message id="rec_471"><translation>Preparing curves and track: %1&#160;%</translation></message>
     <message id="rec_472"><translation>Part of a period: in front of the last record %1 are missing, between No.&#160;%2 and No.&#160;%3.</translation></message>
+    <message id="rec_473"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken, and a rise or fall goes unseen.</translation></message>
+    <message id="rec_474"><translation>Refuelled, l</translation></message>
+    <message id="rec_475"><translation>Drained, l</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

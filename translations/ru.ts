@@ -1671,8 +1671,8 @@
     <message id="rec_283"><translation>Топливо в конце, л</translation></message>
     <message id="rec_284"><translation>Израсходовано, л</translation></message>
     <message id="rec_285"><translation>На 100&#160;км, л</translation></message>
-    <message id="rec_286"><translation>Заправки: число и объём, л</translation></message>
-    <message id="rec_287"><translation>Сливы: число и объём, л</translation></message>
+    <message id="rec_286"><translation>Заправки</translation></message>
+    <message id="rec_287"><translation>Сливы</translation></message>
     <message id="rec_288"><translation>Наибольшая скорость, км/ч</translation></message>
     <message id="rec_289"><translation>Записей</translation></message>
     <message id="rec_290"><translation>Пропущено записей по номерам</translation></message>
@@ -1712,6 +1712,9 @@
     <message id="rec_470"><translation>Формат выбран по расширению имени: %1.</translation></message>
     <message id="rec_471"><translation>Подготовка графиков и трека: %1&#160;%</translation></message>
     <message id="rec_472"><translation>Часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3).</translation></message>
+    <message id="rec_473"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края, и рост или падение не видны.</translation></message>
+    <message id="rec_474"><translation>Заправлено, л</translation></message>
+    <message id="rec_475"><translation>Слито, л</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

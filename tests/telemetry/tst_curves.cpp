@@ -352,17 +352,18 @@ void TestCurves::comparesTwoMoments()
     QCOMPARE(line().count(QLatin1Char('|')), 2);
 }
 
-// Among the events below the curves, where a press near the mark goes to its record.
+// Among the events below the curves, where a press near the mark goes to its record, though the mark of an
+// earlier event is under it.
 void TestCurves::marksWhatWasFound()
 {
     open(truckRecords(3000));
-    records_->setFound({{1500, true, "Refuelling 60 l"}});
+    records_->setFound({{1495, false, "Drain 9 l"}, {1500, true, "Refuelling 60 l"}});
     QCoreApplication::processEvents();
-    const QPoint below = view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->pos() - QPoint(0, 6);
+    const QPoint below = view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->pos() - QPoint(0, 12);
     const TimeSpan whole = records_->inSight();
     const double share = (records_->columns().times()[1500] - whole.from) / (whole.to - whole.from);
     const int left = canvas()->mapTo(view_.get(), QPoint()).x();
-    const QPoint place(left + qRound(share * canvas()->width()) + 3, below.y());
+    const QPoint place(left + qRound(share * canvas()->width()), below.y());
     QWidget* const strip = view_->childAt(place);
     QTest::mouseClick(strip, Qt::LeftButton, {}, strip->mapFrom(view_.get(), place));
     QCOMPARE(records_->current(), 1500);

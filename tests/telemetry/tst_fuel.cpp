@@ -335,6 +335,46 @@ private Q_SLOTS:
         QCOMPARE(journey.summary(0, 1).records, 0);
     }
 
+    // A drain belongs whole to the part of the time in which it begins, and what is left of it in another
+    // part is not used there. It goes from the 1800th to the 2160th second, over midnight by the clock three
+    // hours ahead.
+    void fuelOfParts_data()
+    {
+        DataTable<int, int, QString>({"from", "until", "told"})
+            .row("whole", 0, 4000, "300-250 1:50")
+            .row("cut at its end", 0, 2000, "300-250 1:50")
+            .row("from its record on", 1800, 2000, "300-250 1:50")
+            .row("up to its record", 0, 1800, "300-300 0:0")
+            .row("inside", 1900, 2100, "250-250 0:0")
+            .row("cut at its beginning", 1900, 4000, "250-250 0:0")
+            .row("behind", 2160, 4000, "250-250 0:0");
+    }
+    void fuelOfParts()
+    {
+        QFETCH(int, from);
+        QFETCH(int, until);
+        const RecordStore store =
+            storeOf(standing(times(31, 300) + std::vector<double>{292, 284, 276, 268, 260} + times(30, 250)));
+        RecordColumns columns(store);
+        const NumberColumn litres = tankLitres(columns, tenfold());
+        const Journey journey(columns, litres,
+                              findFuelEvents(columns, litres, levelMedians(columns, litres), {}));
+        const auto told = [](const JourneySummary& sum) {
+            return QStringLiteral("%1-%2 %3:%4")
+                .arg(qRound(sum.fuelBefore))
+                .arg(qRound(sum.fuelAfter))
+                .arg(sum.drains)
+                .arg(qRound(sum.drained));
+        };
+        const JourneySummary sum = journey.summary(kStart + from, kStart + until);
+        QTEST(told(sum), "told");
+        QVERIFY(std::abs(sum.fuelUsed()) < 0.5);
+        const std::vector<JourneySummary> days = journey.days(3 * 3600);
+        QCOMPARE(days.size(), std::size_t(2));
+        QCOMPARE(told(days[0]), QString("300-250 1:50"));
+        QCOMPARE(told(days[1]), QString("250-250 0:0"));
+    }
+
     // What no record tells is no 0.
     void journeyOfNothing_data()
     {
@@ -382,6 +422,18 @@ private Q_SLOTS:
             const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
             QCOMPARE(sum.missing, qint64(missing));
             QVERIFY(std::isnan(sum.metres) || (sum.metres < 600) == (missing > 0));
+        }
+    }
+
+    // Who is elsewhere behind a gap did not stand in it, however slow before and after.
+    void standingOverAGap()
+    {
+        for (const double way : {0.0, 0.0001, 0.05}) {
+            const RecordStore store = storeOf({{0, 9}, {60, 9}, {9000, 9, 0, 2, true, 30 + way, 100}});
+            RecordColumns columns(store);
+            const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
+            QCOMPARE(sum.standing, way > 0.01 ? 60.0 : 9000.0);
+            QCOMPARE(sum.moving, 0.0);
         }
     }
 

@@ -267,6 +267,17 @@ private Q_SLOTS:
         QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
     }
 
+    // Its end hides the drain: the list tells of it, not that nothing happened alone.
+    void saysThatATableIsTooShort()
+    {
+        choose(file("short.csv", "Level;Volume, l\n0;0\n2510;251\n"));
+        QCOMPARE(table()->model()->rowCount(), 0);
+        const auto* news = view_->findChild<QLabel*>("label_FuelNews");
+        QVERIFY(news->isVisible());
+        QVERIFY2(news->text().startsWith("20 of 40 readings of RS-485 Fuel level 1 are beyond the ends"),
+                 qPrintable(news->text()));
+    }
+
     // Its scale ends at 1023, all that is above it is an error.
     void saysThatATableGivesNoVolume()
     {
@@ -345,7 +356,8 @@ private Q_SLOTS:
             return QString();
         };
         QCOMPARE(value("Standing, h:min"), QString("0:39"));
-        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Drains"), QString("1"));
+        QCOMPARE(value("Drained, l"), QString("61"));
         QCOMPARE(value("Used, l"), QString("0.0"));
         QCOMPARE(value("Records"), QString("40"));
         QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_CopySummary"), Qt::LeftButton);
@@ -366,10 +378,10 @@ private Q_SLOTS:
         QVERIFY(note->isVisible() && note->text().startsWith("Choose several rows"));
         records_->setChosen({19, 7, 21});
         QCOMPARE(value("Records"), QString("15"));
-        QCOMPARE(value("Drains: count and l"), QString("1: 61"));
+        QCOMPARE(value("Drained, l"), QString("61"));
         QTest::keyClick(over, Qt::Key_Down);
         QCOMPARE(model->rowCount(), 2); // midnight in between, by the zone of the records
-        QCOMPARE(model->index(0, 13).data(), QVariant("34"));
+        QCOMPARE(model->index(0, 15).data(), QVariant("34"));
         records_->setContents(TelemetryContents{});
         QCOMPARE(model->rowCount(), 0);
         // What no record tells is a dash, not 0.
@@ -381,10 +393,18 @@ private Q_SLOTS:
         QTest::keyClick(over, Qt::Key_Home);
         records_->setContents(std::move(silent));
         summary.setFuel({}, {});
-        for (const char* key : {"Distance, km", "Moving, h:min", "Standing, h:min", "Ignition on, h:min",
-                                "Refuellings: count and l", "Drains: count and l", "Without a fix, h:min"})
+        for (const char* key :
+             {"Distance, km", "Moving, h:min", "Standing, h:min", "Ignition on, h:min", "Refuellings",
+              "Refuelled, l", "Drains", "Drained, l", "Without a fix, h:min"})
             QCOMPARE(value(key), QStringLiteral("–"));
         QCOMPARE(value("Records"), QString("3"));
+        // A number of four figures is one in a spreadsheet, too.
+        records_->setContents(drained(1200));
+        QCOMPARE(value("Records"), QString("1,200"));
+        answerFile(folder_.filePath("long"));
+        QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_SaveSummary"), Qt::LeftButton);
+        const QByteArray csv = readFile(folder_.filePath("long.csv"));
+        QVERIFY2(csv.contains("Records;1200\r") && csv.contains("Used, l;\r"), csv.constData());
     }
 
 private:

@@ -24,7 +24,6 @@
 #include <QFile>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <map>
 #include <set>
@@ -300,22 +299,15 @@ private:
         }
     }
 
-    // Beyond the ends of its table a tank has the volume of the end, whatever becomes of the level.
     void warnOfEnds(const File& file, vlk::RecordColumns& columns)
     {
-        using Place = vlk::FuelCurve::Place;
         for (const TankSensor& tank : tanks_) {
-            if (!tank.curve)
-                continue;
-            std::array<int, 4> counts{};
-            for (const double level : vlk::sensorLevels(columns, *tank.sensor))
-                ++counts[tank.curve->read(level).place];
-            const int beyond = counts[Place::Below] + counts[Place::Above];
-            if (beyond > 0)
+            const vlk::ReadingsBeyond readings = vlk::readingsBeyond(columns, tank);
+            if (readings.beyond > 0)
                 outcome_.complaints +=
                     complaint(file.name, text("cli_311")
-                                             .arg(beyond)
-                                             .arg(beyond + counts[Place::Within])
+                                             .arg(readings.beyond)
+                                             .arg(readings.all)
                                              .arg(QLatin1String(tank.sensor->element().data())));
         }
     }

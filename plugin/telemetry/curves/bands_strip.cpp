@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 namespace vlk {
 
@@ -214,6 +215,13 @@ int BandsStrip::markAt(const QPoint& place) const
         return -1;
     const std::vector<quint32>& times = model_->records().columns().times();
     const std::vector<int>& records = model_->marks()[row].records;
+    // The arrows lie on top, the last one highest.
+    if (row == 0) {
+        for (const FoundEvent& event : model_->records().found() | std::views::reverse) {
+            if (std::abs(plot_->xOf(times[event.record]) - place.x()) <= kMarkReach)
+                return event.record;
+        }
+    }
     const double from = plot_->timeAtPixel(place.x() - kMarkReach);
     const auto found =
         std::ranges::lower_bound(records, from, {}, [&](int record) { return double(times[record]); });

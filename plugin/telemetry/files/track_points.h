@@ -5,6 +5,7 @@
 
 #include "telemetry/files/record_columns.h"
 
+#include <cmath>
 #include <functional>
 #include <vector>
 
@@ -16,6 +17,14 @@ inline constexpr qint64 kGapSeconds = 5 * 60;
 inline bool isGapBetween(quint32 time, quint32 other)
 {
     return qAbs(qint64{other} - time) > kGapSeconds;
+}
+
+// Degrees; some hundred metres, since the coordinates of a vehicle that stands wander. False without a place.
+inline bool isSamePlace(double latitude, double longitude, double otherLatitude, double otherLongitude)
+{
+    constexpr double near = 0.005;
+    return std::abs(latitude - otherLatitude) < near &&
+           std::abs(std::remainder(longitude - otherLongitude, 360.0)) < near;
 }
 
 struct TrackPoint

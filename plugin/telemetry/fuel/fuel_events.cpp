@@ -40,9 +40,8 @@ constexpr double kShortestStop = 120;
 // Litres by which a level that is the same may differ, and the share of the change by which it may.
 constexpr double kSameLevel = 0.5;
 constexpr double kSameShare = 0.05;
-// From here on a pause between records may hide a drive. Seconds, degrees.
+// Seconds from which on a pause between records may hide a drive.
 constexpr double kLongPause = 900;
-constexpr double kSamePlace = 0.005;
 constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
 
 constexpr int kBackwards = -1;
@@ -129,8 +128,7 @@ private:
     {
         const LevelMedian& one = medians_[i];
         const LevelMedian& other = medians_[i + 1];
-        return std::abs(one.latitude - other.latitude) < kSamePlace &&
-               std::abs(std::remainder(one.longitude - other.longitude, 360.0)) < kSamePlace;
+        return vlk::isSamePlace(one.latitude, one.longitude, other.latitude, other.longitude);
     }
 
     double burntBetween(int i) const

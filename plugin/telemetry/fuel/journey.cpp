@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace vlk {
 
@@ -149,9 +150,22 @@ void Journey::measureWay(Making& making, int first, int behind)
             if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))
                 stretches_[before].metres =
                     static_cast<float>(metresBetween(places[records[before]].point(), place.point()));
+            const Making::Place& was = places[records[before]];
+            if (isGap && !isSamePlace(was.latitude, was.longitude, place.latitude, place.longitude))
+                noStandingInGaps(before, static_cast<int>(i));
         }
         before = static_cast<int>(i);
     }
+}
+
+// Of a vehicle that is elsewhere afterwards, unless it was seen to move in between.
+void Journey::noStandingInGaps(int first, int behind)
+{
+    const auto between = std::span(stretches_).subspan(first, behind - first);
+    if (std::ranges::any_of(between, [](const Stretch& each) { return each.speed >= kMovesFrom; }))
+        return;
+    for (Stretch& stretch : between)
+        stretch.stands = stretch.stands && stretch.isCounted;
 }
 
 JourneySummary Journey::summary(double from, double until) const
@@ -186,19 +200,42 @@ JourneySummary Journey::summary(double from, double until) const
         sum.withoutFix += stretch->isWithoutFix && stretch->isCounted ? seconds : 0;
         sum.missing += stretch->missing;
     }
-    const auto level = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
-    const auto levelEnd = std::ranges::upper_bound(level, medians_.end(), until, {}, &LevelMedian::from);
-    if (level != levelEnd) {
-        sum.fuelBefore = level->litres;
-        sum.fuelAfter = levelEnd[-1].litres;
+    takeFuel(sum, from, until);
+    return sum;
+}
+
+// What is left of an event that began before `from` is not used in this time, nor does it come from nowhere:
+// the level starts and ends beside events, not on their way.
+void Journey::takeFuel(JourneySummary& sum, double from, double until) const
+{
+    const auto first = std::ranges::lower_bound(medians_, from, {}, &LevelMedian::from);
+    const auto end = std::ranges::upper_bound(first, medians_.end(), until, {}, &LevelMedian::from);
+    const bool isAny = first != end;
+    if (isAny) {
+        sum.fuelBefore = first->litres;
+        sum.fuelAfter = end[-1].litres;
     }
+    bool isFirst = true;
     for (const FuelEvent& event : events_) {
-        if (event.time < from || event.until > until)
+        const bool isBefore = event.time < from;
+        const bool isBehind = event.time >= until && event.until > until;
+        if (isBefore && event.until <= from)
+            continue;
+        if (isBehind) {
+            if (isAny && event.time < end[-1].until)
+                sum.fuelAfter = event.before;
+            break;
+        }
+        if (isFirst && (isBefore || !isAny || event.time < first->until))
+            sum.fuelBefore = isBefore ? event.after : event.before;
+        isFirst = false;
+        if (!isAny || event.until >= end[-1].from)
+            sum.fuelAfter = event.after;
+        if (isBefore)
             continue;
         ++(event.isRefuelling() ? sum.refuellings : sum.drains);
         (event.isRefuelling() ? sum.refuelled : sum.drained) += std::abs(event.litres());
     }
-    return sum;
 }
 
 std::vector<JourneySummary> Journey::days(qint32 utcOffset) const

@@ -17,8 +17,8 @@ struct JourneySummary
     double until = 0;
     int records = 0;
     double metres = 0; // NaN also where geodesics cannot be had
-    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it. The way
-    // over a gap is the straight one, and none where its records are missing.
+    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it at one
+    // place. The way over a gap is the straight one, and none where its records are missing.
     double moving = 0;
     double standing = 0;
     double engine = 0; // ignition on
@@ -48,7 +48,7 @@ public:
     Journey() = default;
     Steps stepsToMake(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
 
-    // Both ends in it. No records where there are none.
+    // Both ends in it. No records where there are none. A refuelling or drain counts whole where it begins.
     JourneySummary summary(double from, double until) const;
     // A summary of each day with records, from midnight to midnight; seconds east of UTC.
     std::vector<JourneySummary> days(qint32 utcOffset) const;
@@ -78,6 +78,8 @@ private:
     void takeStretches(Making& making, int first, int behind);
     void takePoints(Making& making, int first, int behind);
     void measureWay(Making& making, int first, int behind);
+    void noStandingInGaps(int first, int behind);
+    void takeFuel(JourneySummary& sum, double from, double until) const;
 
     std::vector<Stretch> stretches_; // by time
     std::vector<LevelMedian> medians_;

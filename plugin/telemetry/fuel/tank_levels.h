@@ -17,6 +17,13 @@ struct TankSensor
 const NumberColumn& sensorLevels(RecordColumns& columns, const LevelSensor& sensor);
 // NaN where one of the sensors gives no level.
 NumberColumn tankLitres(RecordColumns& columns, const std::vector<TankSensor>& tanks);
+// Beyond the ends of its table a tank has the volume of the end, whatever becomes of the level.
+struct ReadingsBeyond
+{
+    int beyond = 0;
+    int all = 0;
+};
+ReadingsBeyond readingsBeyond(RecordColumns& columns, const TankSensor& tank);
 // "LevelRS485_1+LevelRS485_2".
 QString elementsOf(const std::vector<TankSensor>& tanks);
 

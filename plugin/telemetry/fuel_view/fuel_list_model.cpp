@@ -4,10 +4,7 @@
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
 
-#include <QLocale>
-
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 namespace vlk {
@@ -17,14 +14,6 @@ namespace {
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
 constexpr const char* kHeads[] = {"rec_242", "rec_243", "rec_244", "rec_245", "rec_246", "rec_264"};
 static_assert(std::size(kHeads) == FuelListModel::ColumnCount);
-
-// For a spreadsheet, which wants no groups.
-QString sheetNumber(double number, int decimals)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return std::isnan(number) ? QString() : locale.toString(number, 'f', decimals);
-}
 
 } // namespace
 

@@ -20,6 +20,13 @@ QString numberText(double number, int decimals)
     return std::isnan(number) ? kDash : QLocale().toString(number, 'f', decimals);
 }
 
+QString sheetNumber(double number, int decimals)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return std::isnan(number) ? QString() : locale.toString(number, 'f', decimals);
+}
+
 QString signedText(double number, int decimals)
 {
     return number > 0 ? QLatin1Char('+') + numberText(number, decimals) : numberText(number, decimals);

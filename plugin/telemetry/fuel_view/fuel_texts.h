@@ -8,6 +8,8 @@ namespace vlk {
 
 // A dash for no number.
 QString numberText(double number, int decimals = 0);
+// For a spreadsheet, which wants no groups; nothing for no number.
+QString sheetNumber(double number, int decimals);
 QString signedText(double number, int decimals = 0);
 // "20.11.2026 09:40", with seconds behind where they are asked for.
 QString listTime(double seconds, qint32 utcOffset, bool withSeconds = false);

@@ -159,6 +159,7 @@ void FuelView::refreshRecords()
 void FuelView::refreshLater()
 {
     litres_.clear();
+    beyond_.clear();
     medians_.clear();
     for (const LevelSensor& sensor : kLevelSensors)
         records_.later([this, &sensor] {
@@ -191,6 +192,9 @@ void FuelView::computeLitres()
 void FuelView::takeLitres()
 {
     litres_ = tanks_->tanks().empty() ? NumberColumn() : tankLitres(records_.columns(), tanks_->tanks());
+    beyond_.clear();
+    for (const TankSensor& tank : tanks_->tanks())
+        beyond_.push_back(readingsBeyond(records_.columns(), tank));
 }
 
 void FuelView::takeMedians()
@@ -316,9 +320,22 @@ QStringList FuelView::markLowThresholds() const
     return texts;
 }
 
+// Readings for which the table of their tank has no volume of their own.
+QStringList FuelView::tellReadingsBeyond() const
+{
+    QStringList texts;
+    const std::vector<TankSensor>& tanks = tanks_->tanks();
+    for (std::size_t i = 0; i < beyond_.size() && i < tanks.size(); ++i) {
+        if (beyond_[i].beyond > 0)
+            texts << tr("rec_473").arg(numberText(beyond_[i].beyond), numberText(beyond_[i].all),
+                                       levelSensorCaption(*tanks[i].sensor));
+    }
+    return texts;
+}
+
 void FuelView::showState()
 {
-    QStringList news = markLowThresholds();
+    QStringList news = tellReadingsBeyond() + markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)

@@ -74,6 +74,7 @@ private:
     void showState();
     // Thresholds that are too low for the sensor, with a mark on their fields.
     QStringList markLowThresholds() const;
+    QStringList tellReadingsBeyond() const;
     TimeSpan spanOfSheet() const;
 
     ShownRecords& records_;
@@ -94,8 +95,9 @@ private:
     Picture curve_;
     Picture track_;
     NumberColumn litres_;
-    std::vector<LevelMedian> medians_; // of them
-    double noise_ = 0;                 // of them
+    std::vector<ReadingsBeyond> beyond_; // by tank
+    std::vector<LevelMedian> medians_;   // of them
+    double noise_ = 0;                   // of them
     bool isRefreshing_ = false;
 };
 

@@ -12,42 +12,65 @@ namespace vlk {
 
 namespace {
 
+// What a spreadsheet takes as a number.
+constexpr int kSheetRole = Qt::UserRole;
+
 using Summary = JourneySummary;
 
-QString pouredText(const Summary& summary, int count, double litres)
+// None of nothing where no record tells of fuel.
+double poured(const Summary& summary, int count, double number)
 {
-    if (count == 0 && std::isnan(summary.fuelBefore))
-        return numberText(summary.fuelBefore);
-    return count == 0 ? numberText(0) : QStringLiteral("%1: %2").arg(count).arg(numberText(litres));
+    return count == 0 && std::isnan(summary.fuelBefore) ? summary.fuelBefore : number;
 }
+
+enum class Kind : std::uint8_t { Moment, Hours, Whole, Tenths };
 
 struct Figure
 {
     const char* caption; // key
-    QString (*text)(const Summary& summary, qint32 utcOffset);
+    Kind kind;
+    double (*number)(const Summary& summary);
 };
 
 // clang-format off
 constexpr Figure kFigures[] = {
-    {"rec_276", [](const Summary& s, qint32 offset) { return listTime(s.from, offset); }},
-    {"rec_277", [](const Summary& s, qint32 offset) { return listTime(s.until, offset); }},
-    {"rec_278", [](const Summary& s, qint32) { return numberText(s.metres / 1000, 1); }},
-    {"rec_279", [](const Summary& s, qint32) { return hoursText(s.moving); }},
-    {"rec_280", [](const Summary& s, qint32) { return hoursText(s.standing); }},
-    {"rec_281", [](const Summary& s, qint32) { return hoursText(s.engine); }},
-    {"rec_282", [](const Summary& s, qint32) { return numberText(s.fuelBefore); }},
-    {"rec_283", [](const Summary& s, qint32) { return numberText(s.fuelAfter); }},
-    {"rec_284", [](const Summary& s, qint32) { return numberText(s.fuelUsed(), 1); }},
-    {"rec_285", [](const Summary& s, qint32) { return numberText(s.per100Km(), 1); }},
-    {"rec_286", [](const Summary& s, qint32) { return pouredText(s, s.refuellings, s.refuelled); }},
-    {"rec_287", [](const Summary& s, qint32) { return pouredText(s, s.drains, s.drained); }},
-    {"rec_288", [](const Summary& s, qint32) { return numberText(s.greatestSpeed); }},
-    {"rec_289", [](const Summary& s, qint32) { return numberText(s.records); }},
-    {"rec_290", [](const Summary& s, qint32) { return numberText(static_cast<double>(s.missing)); }},
-    {"rec_291", [](const Summary& s, qint32) { return hoursText(s.withoutFix); }},
+    {"rec_276", Kind::Moment, [](const Summary& s) { return s.from; }},
+    {"rec_277", Kind::Moment, [](const Summary& s) { return s.until; }},
+    {"rec_278", Kind::Tenths, [](const Summary& s) { return s.metres / 1000; }},
+    {"rec_279", Kind::Hours, [](const Summary& s) { return s.moving; }},
+    {"rec_280", Kind::Hours, [](const Summary& s) { return s.standing; }},
+    {"rec_281", Kind::Hours, [](const Summary& s) { return s.engine; }},
+    {"rec_282", Kind::Whole, [](const Summary& s) { return s.fuelBefore; }},
+    {"rec_283", Kind::Whole, [](const Summary& s) { return s.fuelAfter; }},
+    {"rec_284", Kind::Tenths, [](const Summary& s) { return s.fuelUsed(); }},
+    {"rec_285", Kind::Tenths, [](const Summary& s) { return s.per100Km(); }},
+    {"rec_286", Kind::Whole, [](const Summary& s) { return poured(s, s.refuellings, s.refuellings); }},
+    {"rec_474", Kind::Whole, [](const Summary& s) { return poured(s, s.refuellings, s.refuelled); }},
+    {"rec_287", Kind::Whole, [](const Summary& s) { return poured(s, s.drains, s.drains); }},
+    {"rec_475", Kind::Whole, [](const Summary& s) { return poured(s, s.drains, s.drained); }},
+    {"rec_288", Kind::Whole, [](const Summary& s) { return s.greatestSpeed; }},
+    {"rec_289", Kind::Whole, [](const Summary& s) { return double(s.records); }},
+    {"rec_290", Kind::Whole, [](const Summary& s) { return double(s.missing); }},
+    {"rec_291", Kind::Hours, [](const Summary& s) { return s.withoutFix; }},
 };
 // clang-format on
 constexpr int kFigureCount = static_cast<int>(std::size(kFigures));
+
+QString figureText(const Figure& figure, const Summary& summary, qint32 utcOffset, bool isForSheet)
+{
+    const double number = figure.number(summary);
+    const int decimals = figure.kind == Kind::Tenths ? 1 : 0;
+    if (isForSheet && std::isnan(number))
+        return {};
+    switch (figure.kind) {
+    case Kind::Moment:
+        return listTime(number, utcOffset);
+    case Kind::Hours:
+        return hoursText(number);
+    default:
+        return isForSheet ? sheetNumber(number, decimals) : numberText(number, decimals);
+    }
+}
 
 } // namespace
 
@@ -103,12 +126,12 @@ QVariant SummaryModel::data(const QModelIndex& index, int role) const
     const bool isCaption = !areDays_ && index.column() == 0;
     if (role == Qt::TextAlignmentRole)
         return QVariant((isCaption ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole && role != kSheetRole)
         return {};
     if (isCaption)
         return translated(kFigures[figure].caption);
     const Summary& summary = summaries_[areDays_ ? static_cast<std::size_t>(index.row()) : 0];
-    return kFigures[figure].text(summary, utcOffset_);
+    return figureText(kFigures[figure], summary, utcOffset_, role == kSheetRole);
 }
 
 QVariant SummaryModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -134,7 +157,7 @@ QString SummaryModel::csv() const
     for (int row = 0; row < rowCount(); ++row) {
         cells.clear();
         for (int column = 0; column < columnCount(); ++column)
-            cells << index(row, column).data().toString();
+            cells << index(row, column).data(kSheetRole).toString();
         csv += csvLine(cells);
     }
     return csv;
