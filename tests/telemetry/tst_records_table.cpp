@@ -7,6 +7,8 @@
 
 using namespace vlk;
 
+Q_DECLARE_METATYPE(std::function<void()>)
+
 namespace {
 
 const QString kNone(QChar(0x2013));
@@ -95,6 +97,58 @@ private Q_SLOTS:
         const QString first = cells(0, {"NumPage"}).value(0);
         QVERIFY(first == "1039" || first == "1000");
         window->resize(1024, 680);
+    }
+
+    // Number and time stand beside the values of their record, whatever comes before the filter's end.
+    void panesInStep_data()
+    {
+        using Act = std::function<void()>;
+        const auto chosen = [this](const char* item) {
+            return Act([this, item] {
+                table_->setCurrentIndex(cell(table_->currentIndex().row(), "Latitude"));
+                choose(item);
+            });
+        };
+        DataTable<Act>({"change"})
+            .row("none", [] {})
+            .row("column moved", chosen("rec_067"))
+            .row("column hidden", chosen("rec_065"))
+            .row("column narrower", [this] { table_->setColumnWidth(column("Latitude"), 40); })
+            .row("window smaller", [this] { window->resize(600, 420); });
+    }
+    void panesInStep()
+    {
+        QFETCH(std::function<void()>, change);
+        TelemetryPages pages;
+        for (int i = 0; i < 3000; ++i)
+            pages.push_back(recordOf({{"NumPage", quint64(i)},
+                                      {"Time", quint64(1738400400 + 60 * i)},
+                                      {"Power", 12000},
+                                      {"Latitude", 33900000}}));
+        show(pages);
+        auto* frozen = child<QTableView>("tableWidget_Frozen");
+        const auto areInStep = [&] {
+            QCoreApplication::processEvents();
+            const int bottom = table_->viewport()->height() - 1;
+            return frozen->rowAt(1) >= 0 && frozen->rowAt(1) == table_->rowAt(1) &&
+                   frozen->rowAt(bottom) == table_->rowAt(bottom) &&
+                   table_->currentIndex().row() >= table_->rowAt(1) &&
+                   table_->currentIndex().row() <= table_->rowAt(bottom);
+        };
+        table_->setCurrentIndex(cell(2000, "Latitude"));
+        QVERIFY(areInStep());
+        choose("rec_425");
+        QCOMPARE(table_->model()->rowCount(), 61);
+        QVERIFY(areInStep());
+        change();
+        QVERIFY(areInStep());
+        QTest::keyClick(table_, Qt::Key_Escape);
+        QCOMPARE(table_->model()->rowCount(), 3000);
+        QVERIFY(areInStep());
+        QTest::keyClick(table_, Qt::Key_PageUp);
+        QVERIFY(areInStep());
+        window->resize(1024, 680);
+        menuAction(nullptr, "rec_013")->trigger();
     }
 
     void chosenColumns()

@@ -20,9 +20,13 @@ bool OutputBuffer::makeRoom(std::string_view text)
 
 void OutputBuffer::write(const char* bytes, std::size_t size)
 {
-    const auto length = static_cast<qint64>(size);
-    if (!failed_ && length > 0)
-        failed_ = device_.write(bytes, length) != length;
+    // A full disk takes a part first, and says why only when it is given the rest.
+    for (auto left = static_cast<qint64>(size); !failed_ && left > 0;) {
+        const qint64 written = device_.write(bytes, left);
+        failed_ = written <= 0;
+        bytes += written;
+        left -= written;
+    }
 }
 
 } // namespace vlk

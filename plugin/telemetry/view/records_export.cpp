@@ -21,7 +21,8 @@ void RecordsExport::start(const QString& path, const std::shared_ptr<const Telem
 {
     stop();
     file_ = std::make_unique<QSaveFile>(path);
-    if (!file_->open(QIODevice::WriteOnly)) {
+    // What goes out is in large pieces already, and the buffer of the file would lose why one failed.
+    if (!file_->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         const QString reason = file_->errorString();
         file_.reset();
         Q_EMIT failed(path, reason);

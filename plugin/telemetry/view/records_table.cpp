@@ -89,10 +89,18 @@ void RecordsTable::setUpFrozen()
     frozen_->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     frozen_->installEventFilter(this);
     connect(frozen_, &QTableView::doubleClicked, this, &RecordsTable::open);
-    connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
-            &QScrollBar::setValue);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, frozen_->verticalScrollBar(),
-            &QScrollBar::setValue);
+    // The views take a change of rows one after the other. As long as only one of them knows all rows, the
+    // place of the frozen columns is cut to what they know: the rows beside them are not moved there.
+    const auto isInStep = [this] {
+        return frozen_->verticalScrollBar()->maximum() == verticalScrollBar()->maximum();
+    };
+    connect(frozen_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this, isInStep](int place) {
+        if (isInStep())
+            verticalScrollBar()->setValue(place);
+    });
+    const auto follow = [this] { frozen_->verticalScrollBar()->setValue(verticalScrollBar()->value()); };
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, follow);
+    connect(frozen_->verticalScrollBar(), &QScrollBar::rangeChanged, this, follow);
     // Either head sorts, both show by what.
     for (const auto& [from, to] : {std::pair(this->horizontalHeader(), frozen_->horizontalHeader()),
                                    std::pair(frozen_->horizontalHeader(), this->horizontalHeader())}) {
