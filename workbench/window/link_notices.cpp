@@ -10,6 +10,9 @@
 #include "window/request_table.h"
 #include "window/trouble_text.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace workbench {
 
 namespace {
