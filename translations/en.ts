@@ -2824,7 +2824,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_silence_cancelled"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s. The save was cancelled and ends with its answer.</translation></message>
     <message id="wb_silence_command"><translation>No answer from the tracker since %1. Whether it has done what was asked is not known. Check the cable.</translation></message>
     <message id="wb_silence_mute"><translation>No answer from the tracker since %1. It may hold nothing of the kind; else check the cable and ask again.</translation></message>
-    <message id="wb_silence_save"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s, and the save goes on by itself when it answers.</translation></message>
+    <message id="wb_silence_save"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; then the save goes on by itself.</translation></message>
     <message id="wb_silence_write"><translation>No answer from the tracker since %1. If none comes, the write ends by itself. Check the cable.</translation></message>
     <message id="wb_start_attached"><translation>%1 %2 is attached</translation></message>
     <message id="wb_start_detached"><translation>No tracker is attached</translation></message>
