@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace vlk {
 
@@ -217,10 +216,13 @@ int BandsStrip::markAt(const QPoint& place) const
     const std::vector<int>& records = model_->marks()[row].records;
     // The arrows lie on top, the last one highest.
     if (row == 0) {
-        for (const FoundEvent& event : model_->records().found() | std::views::reverse) {
-            if (std::abs(plot_->xOf(times[event.record]) - place.x()) <= kMarkReach)
-                return event.record;
-        }
+        const std::vector<FoundEvent>& arrows = model_->records().found();
+        const auto isHit = [&](const FoundEvent& event) {
+            return std::abs(plot_->xOf(times[event.record]) - place.x()) <= kMarkReach;
+        };
+        const auto hit = std::find_if(arrows.rbegin(), arrows.rend(), isHit);
+        if (hit != arrows.rend())
+            return hit->record;
     }
     const double from = plot_->timeAtPixel(place.x() - kMarkReach);
     const auto found =
