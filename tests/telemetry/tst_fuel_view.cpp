@@ -334,7 +334,7 @@ private Q_SLOTS:
                 [&] { summary.setFuel(view_->litres(), view_->events()); });
         summary.show();
         const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
-        const auto counted = [model] { return model->index(13, 1).data().toString(); };
+        const auto counted = [model] { return model->index(15, 1).data().toString(); };
         QCOMPARE(counted(), QString("40"));
         const QByteArray record = RecordParts{{"NumPage", 41}, {"Time", kStart + 40 * 60}}.bytes();
         records_->append(bytesAt(record.constData(), record.size()));

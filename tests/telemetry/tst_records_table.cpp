@@ -299,7 +299,7 @@ private Q_SLOTS:
         QVERIFY(views->hasFocus() || views->tabBar()->hasFocus());
         child<QComboBox>("comboBox_SummaryOver")->setCurrentIndex(2);
         const auto* summary = child<QTableView>("tableView_Summary")->model();
-        QCOMPARE(summary->index(13, 1).data().toString(), QString("40"));
+        QCOMPARE(summary->index(15, 1).data().toString(), QString("40"));
         QTest::keyClick(table_, Qt::Key_Down);
         QTRY_COMPARE(summary->rowCount(), 0);
         table_->selectAll();
