@@ -303,7 +303,7 @@ private Q_SLOTS:
         QTest::keyClick(table_, Qt::Key_Down);
         QTRY_COMPARE(summary->rowCount(), 0);
         table_->selectAll();
-        QTRY_COMPARE(summary->rowCount(), 16);
+        QTRY_COMPARE(summary->rowCount(), 18);
         type("lineEdit_Filter", "Code = 35");
         pressInFilter(Qt::Key_Return);
         QTRY_COMPARE(summary->rowCount(), 0);
