@@ -2,6 +2,7 @@
 
 // Records with the fields of the default mask, 10 s apart, along a road.
 
+#include "telemetry/record/record_store.h"
 #include "tests/support/records.h"
 
 #include <bit>

@@ -59,6 +59,15 @@ void tellBelow(QWidget* widget, const QString& text)
     QToolTip::showText(widget->mapToGlobal(QPoint(0, widget->height())), text, widget);
 }
 
+// Where the eyes are: below the field in which it was looked for, else in the middle of the form.
+void tellWhereLookedFor(QWidget* form, const QString& text)
+{
+    if (QWidget* typed = qobject_cast<QLineEdit*>(QApplication::focusWidget()))
+        tellBelow(typed, text);
+    else if (form)
+        QToolTip::showText(form->mapToGlobal(form->rect().center()), text, form);
+}
+
 constexpr int kMostNeeded = 4; // that wait for each other
 
 QString sentenceOf(const char* key)
@@ -168,17 +177,12 @@ void SettingPlaces::goTo(int table, int row, int part)
     if (!page) {
         const std::vector<PageSettings*> pages = pages_();
         QWidget* form = pages.empty() ? nullptr : pages.front()->binder().forms().first();
-        // Where the eyes are: below the field in which it was looked for.
-        if (QWidget* typed = qobject_cast<QLineEdit*>(QApplication::focusWidget()))
-            tellBelow(typed, sentenceOf("rev_259"));
-        else if (form)
-            QToolTip::showText(form->mapToGlobal(form->rect().center()), sentenceOf("rev_259"), form);
-        return;
+        return tellWhereLookedFor(form, sentenceOf("rev_259"));
     }
     if (isShownNowhere(table, row, part)) {
         QWidget* form = page->binder().forms().first();
         showTabs(form);
-        return QToolTip::showText(form->mapToGlobal(QPoint()), sentenceOf("rev_331"), form);
+        return tellWhereLookedFor(form, sentenceOf("rev_331"));
     }
     QString told;
     for (int step = 0; step < kMostNeeded; ++step) {

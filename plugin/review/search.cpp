@@ -1,5 +1,6 @@
 #include "review/search.h"
 
+#include "base/alike_letters.h"
 #include "base/shown_text.h"
 #include "review/search_words.h"
 #include "review/setting_parts.h"
@@ -21,16 +22,12 @@ namespace {
 // "T1" in Latin, and typed on either keyboard.
 void useOneAlphabet(QString& text)
 {
-    static const QString cyrillic = QString::fromUtf8("авекмнорстух");
-    static const QString latin = QStringLiteral("abekmhopctyx");
     for (int begin = 0, end = 0; begin < text.size(); begin = end + 1) {
         bool hasDigit = false;
         for (end = begin; end < text.size() && text[end].isLetterOrNumber(); ++end)
             hasDigit = hasDigit || text[end].isDigit();
-        for (int i = begin; hasDigit && i < end; ++i) {
-            if (const int letter = cyrillic.indexOf(text[i]); letter >= 0)
-                text[i] = latin[letter];
-        }
+        for (int i = begin; hasDigit && i < end; ++i)
+            text[i] = latinAlike(text[i]);
     }
 }
 

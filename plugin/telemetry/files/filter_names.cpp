@@ -1,5 +1,6 @@
 #include "telemetry/files/filter_names.h"
 
+#include "base/alike_letters.h"
 #include "telemetry/files/csv_columns.h"
 
 #include <algorithm>
@@ -58,16 +59,11 @@ const Word* wordOf(const Rule& rule, quint32 code)
 
 QString foldedForFilter(const QString& text)
 {
-    // Cyrillic letters that look like Latin ones, which some headings have in their place, and those.
-    static const QString cyrillic = QStringLiteral("авекмнорстхё");
-    static const QString latin = QStringLiteral("abekmhopctxe");
+    constexpr QChar io(0x451); // "ё"
     QString folded = text;
     for (QChar& sign : folded) {
         sign = sign.toLower();
-        if (const int alike = cyrillic.indexOf(sign); alike >= 0)
-            sign = latin[alike];
-        else if (sign.isSpace())
-            sign = QLatin1Char(' ');
+        sign = sign.isSpace() ? QChar(QLatin1Char(' ')) : latinAlike(sign == io ? QChar(0x435) : sign);
     }
     return folded;
 }
