@@ -1715,6 +1715,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_473"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken, and a rise or fall goes unseen.</translation></message>
     <message id="rec_474"><translation>Refuelled, l</translation></message>
     <message id="rec_475"><translation>Drained, l</translation></message>
+    <message id="rec_490"><translation>Records are still being exported. End the export? No file is written then.</translation></message>
+    <message id="rec_491"><translation>End the export</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

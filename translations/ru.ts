@@ -1715,6 +1715,8 @@
     <message id="rec_473"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края, и рост или падение не видны.</translation></message>
     <message id="rec_474"><translation>Заправлено, л</translation></message>
     <message id="rec_475"><translation>Слито, л</translation></message>
+    <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
+    <message id="rec_491"><translation>Прекратить</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

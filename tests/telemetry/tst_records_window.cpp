@@ -413,6 +413,23 @@ private Q_SLOTS:
         open(large);
         QTRY_COMPARE_WITH_TIMEOUT(rows(), pages, 60'000);
         QCOMPARE(text("label_Damage"), QString());
+
+        // An export does not go on unseen.
+        const QString out = folder_.filePath("all.xml");
+        exportTo(ExportForm::xml, out);
+        for (const bool ends : {false, true}) {
+            QTRY_VERIFY(bar->isVisible());
+            ScriptedHost::whenModal([ends](QWidget* box) {
+                QCOMPARE(box->objectName(), QString("messageBox_EndExport"));
+                if (ends)
+                    QTest::keyClick(box, Qt::Key_Tab);
+                QTest::keyClick(box->focusWidget(), Qt::Key_Space);
+            });
+            window->close();
+            QCOMPARE(window->isVisible(), !ends);
+        }
+        QTest::qWait(100);
+        QVERIFY(!QFile::exists(out));
     }
 
     // Two pages of which the first has no end: the second is in it, until it is brought back.
@@ -452,16 +469,7 @@ private Q_SLOTS:
         QTest::keyClick(table_, Qt::Key_C, Qt::ControlModifier);
         QVERIFY(QApplication::clipboard()->text().split('\n').value(1).trimmed().isEmpty());
         const QString csv = folder_.filePath("damaged.csv");
-        ScriptedHost::whenModal([&](QWidget* dialog) {
-            auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
-            forms->setCurrentIndex(forms->findData(static_cast<int>(ExportForm::csv)));
-            ScriptedHost::whenModal([&](QWidget* files) {
-                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(csv);
-                QMetaObject::invokeMethod(files, "accept");
-            });
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        press("pushButton_Export");
+        exportTo(ExportForm::csv, csv);
         QVERIFY2(text("label_Damage").endsWith("rec_461"), qPrintable(text("label_Damage")));
         QCOMPARE(readFile(csv).count('\n'), 40); // the head and 39 records
         for (const char* typed : {"NumPage < 1003", "not NumPage > 1002"}) {
@@ -515,6 +523,22 @@ private Q_SLOTS:
         window->close();
         open();
         QVERIFY(qAbs(share().second - chosen) < 0.02);
+    }
+
+private:
+    // Of what the window offers first.
+    void exportTo(ExportForm form, const QString& path)
+    {
+        ScriptedHost::whenModal([&](QWidget* dialog) {
+            auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
+            forms->setCurrentIndex(forms->findData(static_cast<int>(form)));
+            ScriptedHost::whenModal([&](QWidget* files) {
+                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
+                QMetaObject::invokeMethod(files, "accept");
+            });
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        press("pushButton_Export");
     }
 };
 

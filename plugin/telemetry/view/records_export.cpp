@@ -35,7 +35,6 @@ void RecordsExport::start(const QString& path, const std::shared_ptr<const Telem
     goOn(kQuietMs);
 }
 
-// What is not committed is removed.
 void RecordsExport::stop()
 {
     if (!work_)

@@ -26,6 +26,10 @@ public:
     void start(const QString& path, const std::shared_ptr<const TelemetryContents>& contents,
                std::vector<int> records, ExportForm form, const ExportOptions& options);
 
+    bool isRunning() const { return work_ != nullptr; }
+    // What is not written to the end is removed.
+    void stop();
+
 Q_SIGNALS:
     void written(const QString& path);
     // Why, as the system words it.
@@ -34,7 +38,6 @@ Q_SIGNALS:
 
 private:
     void goOn(int milliseconds);
-    void stop();
 
     WorkProgress* progress_;
     std::shared_ptr<const TelemetryContents> contents_;

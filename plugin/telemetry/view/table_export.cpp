@@ -13,6 +13,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 #include <numeric>
@@ -42,6 +44,24 @@ void TableExport::ask()
     const QString path = ExportDialog::askPath(choice_.form, QFileInfo(name_).completeBaseName(), window_);
     if (!path.isEmpty())
         start(path);
+}
+
+bool TableExport::endBeforeClosing()
+{
+    if (!export_->isRunning())
+        return true;
+    QMessageBox box(QMessageBox::Question, window_->windowTitle(), tr("rec_490"), QMessageBox::NoButton,
+                    window_);
+    box.setObjectName(QStringLiteral("messageBox_EndExport"));
+    const auto* const end = box.addButton(tr("rec_491"), QMessageBox::AcceptRole);
+    auto* const cancel = box.addButton(tr("wrd_031"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() != end || !export_->isRunning())
+        return false;
+    export_->stop();
+    return true;
 }
 
 void TableExport::start(const QString& path)

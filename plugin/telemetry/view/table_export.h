@@ -28,6 +28,9 @@ public:
     // Of records that are called so, by the name of their file.
     void setName(const QString& name) { name_ = name; }
     void ask();
+    // Before the window closes: ends an export that is under way, if the user agrees. False where the window
+    // is to stay, also since the export ended meanwhile and its bar tells how.
+    bool endBeforeClosing();
     // Takes the decimal sign of the language.
     void retranslate();
 

@@ -25,6 +25,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCloseEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -271,6 +272,14 @@ void VLK_Widget_Tmi_Table::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Escape || !stepBack())
         QDialog::keyPressEvent(event);
+}
+
+void VLK_Widget_Tmi_Table::closeEvent(QCloseEvent* event)
+{
+    if (export_->endBeforeClosing())
+        QDialog::closeEvent(event);
+    else
+        event->ignore();
 }
 
 // What was opened, typed or put on the records last goes first; false where nothing is left of it.
