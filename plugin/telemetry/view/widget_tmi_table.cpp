@@ -114,6 +114,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
     connect(helpButton_, &QPushButton::clicked, this,
             [] { requests::showHelp(QStringLiteral("r-7106records.html")); });
+    connect(opening_, &FileOpening::wholeRead, shown_, &ShownRecords::prepare);
     connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
     connect(opening_, &FileOpening::cancelled, this, [this] {
