@@ -267,6 +267,11 @@ void CurvesPlot::dress()
     setCanvasBackground(colours.brush(QPalette::Base));
     for (int axis = 0; axis < axisCnt; ++axis)
         setAxisFont(axis, font());
+    // Labels end at their digits, but a comma hangs lower: cut off at the end of an axis it would be a point.
+    const QFontMetrics metrics(font());
+    const int room = metrics.ascent() / 2 + metrics.descent();
+    for (const int axis : {yLeft, yRight})
+        axisWidget(axis)->setMinBorderDist(room, room);
     outerLeft_->setFont(font());
     outerRight_->setFont(font());
     QPalette ofCanvas = colours;
