@@ -293,6 +293,17 @@ void TestCurves::handsOver()
     const QByteArray svg = readFile(folder.filePath(QStringLiteral("p.svg")));
     QVERIFY(svg.contains(">KAMAZ") && svg.contains("18.11.2026 03:01:00") && svg.contains("</svg>"));
     QVERIFY(!svg.contains(">A ")); // no cursor is there
+    // Lines end where the picture of them does, though there are records beyond.
+    static const QRegularExpression lines(QStringLiteral("<polyline[^>]*points=\"([^\"]*)"));
+    int points = 0;
+    for (auto line = lines.globalMatch(QString::fromUtf8(svg)); line.hasNext();) {
+        for (const QString& point : line.next().captured(1).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const double x = point.section(QLatin1Char(','), 0, 0).toDouble();
+            QVERIFY2(x >= 0 && x <= 1200, qPrintable(point));
+            ++points;
+        }
+    }
+    QVERIFY(points > 4);
     view_->saveTo(folder.filePath(QStringLiteral("p.png")));
     QCOMPARE(QImage(folder.filePath(QStringLiteral("p.png"))).size(), QSize(2400, 1200));
     NoticeBar bar(view_.get(), QStringLiteral("label_Saved"));

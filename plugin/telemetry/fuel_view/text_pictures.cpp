@@ -3,7 +3,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
 #include <QTextDocument>
-#include <QTextFrame>
 
 namespace vlk {
 
@@ -11,6 +10,8 @@ namespace {
 
 constexpr int kPicture = QTextFormat::UserObject + 1;
 constexpr int kPlace = QTextFormat::UserProperty + 1; // among all
+
+constexpr double kTextWidth = 610; // pixels of the screen
 
 } // namespace
 
@@ -33,12 +34,10 @@ const TextPictures::Picture& TextPictures::pictureOf(const QTextFormat& format) 
     return pictures_[static_cast<std::size_t>(format.intProperty(kPlace))];
 }
 
-QSizeF TextPictures::intrinsicSize(QTextDocument* document, int /*position*/, const QTextFormat& format)
+QSizeF TextPictures::intrinsicSize(QTextDocument* /*document*/, int /*position*/, const QTextFormat& format)
 {
     const QSizeF size = pictureOf(format).size;
-    const double page = document->pageSize().width();
-    const double width = page - 2 * document->rootFrame()->frameFormat().margin();
-    return page > 0 && width > 0 ? size * (width / size.width()) : size;
+    return size * (kTextWidth / size.width());
 }
 
 void TextPictures::drawObject(QPainter* painter, const QRectF& place, QTextDocument* /*document*/,

@@ -1,7 +1,7 @@
 #pragma once
 
 // Pictures in a document that goes to a printer. They are painted there, so that their lines stay lines
-// however fine the paper is, and are as wide as the text.
+// however fine the paper is, and are as wide as the text of an A4 page.
 
 #include "telemetry/curves/hand_over.h"
 
