@@ -18,7 +18,7 @@ namespace {
 // Together they have room on one page.
 constexpr QSize kCurvePicture(820, 360);
 constexpr QSize kTrackPicture(820, 430);
-constexpr int kLinesBesidePictures = 12;
+constexpr int kLinesBesidePictures = 13;
 
 QString cells(const QStringList& texts, const char* tag)
 {
