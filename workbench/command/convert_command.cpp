@@ -144,8 +144,7 @@ public:
     Conversions(const Conversion& asked, Filter filter, vlk::ExportOptions options, RecordSource& source,
                 Output& output, Progress& progress)
         : form_(formOf(asked)), asked_(asked), filter_(std::move(filter)), options_(std::move(options)),
-          source_(source), output_(output), progress_(progress),
-          isMarked_(form_.form == ExportForm::csv && output.isSpreadsheet())
+          source_(source), output_(output), progress_(progress)
     {
     }
 
@@ -325,8 +324,6 @@ private:
         if (writer_)
             return;
         setOrigin(batch);
-        if (isMarked_)
-            put("\xEF\xBB\xBF");
         writer_ = exportWriter(form_.form, ahead_, first_ ? optionsFor(*first_) : options_);
         put(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
     }
@@ -348,7 +345,6 @@ private:
     RecordSource& source_;
     Output& output_;
     Progress& progress_;
-    const bool isMarked_; // as UTF-8, for spreadsheets
     const bool isOnTerminal_ =
         !output_.isFile() && isatty(STDOUT_FILENO) != 0; // what comes is progress enough
     std::size_t done_ = 0;                               // records of this walk
@@ -441,6 +437,7 @@ int convert(const Call& call, Output& output)
     if (asked.form == QLatin1String("ndjson"))
         options.eventText = tracker::eventText;
     options.decimalComma = asked.decimalComma;
+    options.isMarked = formOf(asked).form == ExportForm::csv && output.isSpreadsheet();
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");
     if (asked.decimalComma && !formOf(asked).hasDecimalSign)
