@@ -439,8 +439,12 @@ bool WorkbenchWindow::mayClose()
         tellOpened([] { return text("wb_close_writing"); });
         return false;
     }
-    return !session_.link().runningWork().saving ||
-           agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this);
+    if (session_.link().runningWork().saving &&
+        !agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this))
+        return false;
+    // It asks over an export.
+    QWidget* records = PluginWindows::records();
+    return !records || records->close();
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
