@@ -118,8 +118,10 @@ void SettingPlaces::pointAt(QWidget* widget)
     if (!widget->isVisible())
         return;
     outline(widget->parentWidget(), widget->geometry());
+    // Beside it: below may stand the field that is being edited.
+    constexpr int ownDrop = 16; // of a tip, below where it is asked for
     if (QApplication::mouseButtons() == Qt::NoButton)
-        tellBelow(widget, widget->toolTip());
+        QToolTip::showText(widget->mapToGlobal({widget->width(), -ownDrop}), widget->toolTip(), widget);
 }
 
 void SettingPlaces::keepInSight(QWidget* widget)
