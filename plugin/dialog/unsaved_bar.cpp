@@ -66,7 +66,7 @@ void UnsavedBar::tellDamaged(const QStringList& paths)
 {
     if (paths.isEmpty())
         return end(kDamaged);
-    tell(kDamaged, [path = QDir::toNativeSeparators(paths.last())] {
+    tell(kDamaged, [path = QDir::toNativeSeparators(QDir::cleanPath(paths.last()))] {
         return Notice{Mark::invalid, words("rev_350").arg(path), {}};
     });
 }
