@@ -1770,6 +1770,7 @@
     <message id="rev_345"><translation>Несохранённые изменения</translation></message>
     <message id="rev_346"><translation>На одной странице это не помещается: даже самым мелким шрифтом страниц будет %1.</translation></message>
     <message id="rev_347"><translation>Сюда ничего не вводят: пользуйтесь кнопками рядом</translation></message>
+    <message id="rev_350"><translation>Несохранённые изменения этой конфигурации повреждены, вернуть их нельзя. Что от них осталось: %1</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>

@@ -240,7 +240,11 @@ QString WorkbenchWindow::lasting()
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const QString unit = tracker.attached() ? tracker.model() + QLatin1Char(' ') + tracker.text2()
                                             : text("wb_device_detached");
-    return QStringLiteral("%1  |  %2").arg(unit, text(DevicePanel::modeKey(settings_.mode())));
+    QStringList lasting{unit, text(DevicePanel::modeKey(settings_.mode()))};
+    // Behind the open configuration no tool tip of theirs would show.
+    if (isConfigurationOpen())
+        lasting.prepend(text("wb_language_later"));
+    return lasting.join(QStringLiteral("  |  "));
 }
 
 bool WorkbenchWindow::isConfigurationOpen() const
