@@ -1498,6 +1498,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_330"><translation>it is closed</translation></message>
     <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
+    <message id="cli_340"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -2764,6 +2765,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
+    <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
     <message id="wb_report_close"><translation>Close</translation></message>
     <message id="wb_report_confirmed"><translation>Written and confirmed: %1 of %2 settings</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
@@ -2773,6 +2777,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
+    <message id="wb_report_left"><translation>The last write to tracker %1 (%2) was not confirmed: the program ended before. What the tracker holds is not known.</translation></message>
+    <message id="wb_report_left_do"><translation>Read the configuration from the tracker; then try again or bring the backup back.</translation></message>
     <message id="wb_report_missed"><translation>Not taken: %1 of %2 settings</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
@@ -2808,6 +2814,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_table"><translation>What will change in the tracker</translation></message>
     <message id="wb_review_title"><translation>Write to tracker %1</translation></message>
     <message id="wb_review_title_name"><translation>Write to tracker %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
+    <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
+    <message id="wb_review_why_lost"><translation>unknown keys of the file are not written</translation></message>
+    <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
+    <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>
+    <message id="wb_review_why_removes"><translation>settings are removed</translation></message>
     <message id="wb_review_write"><translation>&amp;Write to tracker</translation></message>
     <message id="wb_road_incomparable"><translation>The configuration cannot be compared with what the tracker holds.</translation></message>
     <message id="wb_road_no_backup"><translation>What the tracker holds could not be backed up, so nothing was sent.</translation></message>

@@ -1498,6 +1498,7 @@
     <message id="cli_330"><translation>закрыт</translation></message>
     <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
+    <message id="cli_340"><translation>этот вызов не пишет .%1; пишет: %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -2764,6 +2765,9 @@
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
+    <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
     <message id="wb_report_close"><translation>Закрыть</translation></message>
     <message id="wb_report_confirmed"><translation>Записано и подтверждено: %1 из %2 параметров</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
@@ -2773,6 +2777,8 @@
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
+    <message id="wb_report_left"><translation>Последняя запись в трекер %1 (%2) не подтверждена: программа завершилась раньше. Что в трекере, неизвестно.</translation></message>
+    <message id="wb_report_left_do"><translation>Прочитайте конфигурацию из трекера, затем повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_missed"><translation>Не принято: %1 из %2 параметров</translation></message>
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
@@ -2808,6 +2814,13 @@
     <message id="wb_review_table"><translation>Что изменится в трекере</translation></message>
     <message id="wb_review_title"><translation>Запись в трекер %1</translation></message>
     <message id="wb_review_title_name"><translation>Запись в трекер %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
+    <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
+    <message id="wb_review_why_lost"><translation>неизвестные ключи файла не записываются</translation></message>
+    <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
+    <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>
+    <message id="wb_review_why_removes"><translation>удаляются параметры</translation></message>
     <message id="wb_review_write"><translation>&amp;Записать в трекер</translation></message>
     <message id="wb_road_incomparable"><translation>Отправляемую конфигурацию не удалось сравнить с той, что в трекере.</translation></message>
     <message id="wb_road_no_backup"><translation>Резервную копию того, что в трекере, сохранить не удалось, поэтому ничего не отправлено.</translation></message>
