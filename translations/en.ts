@@ -2519,6 +2519,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_device_plugin"><translation>Plug-in</translation></message>
     <message id="wb_device_text1"><translation>Firmware</translation></message>
     <message id="wb_device_text2"><translation>Number</translation></message>
+    <message id="wb_do_again"><translation>Write once more.</translation></message>
     <message id="wb_do_attach"><translation>Attach the tracker and try again.</translation></message>
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
@@ -2825,6 +2826,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_road_incomparable"><translation>The configuration cannot be compared with what the tracker holds.</translation></message>
     <message id="wb_road_no_backup"><translation>What the tracker holds could not be backed up, so nothing was sent.</translation></message>
     <message id="wb_road_other"><translation>Another tracker has been attached meanwhile.</translation></message>
+    <message id="wb_road_reattached"><translation>The tracker was detached and attached again meanwhile, so it may hold something else now.</translation></message>
     <message id="wb_road_request"><translation>What is to be written is no whole configuration.</translation></message>
     <message id="wb_save_ended"><translation>The save was ended. No record was saved; save the period again when the tracker answers.</translation></message>
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>

@@ -2519,6 +2519,7 @@
     <message id="wb_device_plugin"><translation>Модуль</translation></message>
     <message id="wb_device_text1"><translation>Прошивка</translation></message>
     <message id="wb_device_text2"><translation>Номер</translation></message>
+    <message id="wb_do_again"><translation>Запишите ещё раз.</translation></message>
     <message id="wb_do_attach"><translation>Подключите трекер и повторите.</translation></message>
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
@@ -2825,7 +2826,8 @@
     <message id="wb_road_incomparable"><translation>Отправляемую конфигурацию не удалось сравнить с той, что в трекере.</translation></message>
     <message id="wb_road_no_backup"><translation>Резервную копию того, что в трекере, сохранить не удалось, поэтому ничего не отправлено.</translation></message>
     <message id="wb_road_other"><translation>Тем временем подключили другой трекер.</translation></message>
-    <message id="wb_road_request"><translation>То, что нужно записать, не целая конфигурация.</translation></message>
+    <message id="wb_road_reattached"><translation>Тем временем трекер отключили и подключили снова, в нём может быть уже другое.</translation></message>
+    <message id="wb_road_request"><translation>Файл, который нужно записать, не целая конфигурация.</translation></message>
     <message id="wb_save_ended"><translation>Сохранение прекращено. Ни одной записи не сохранено; сохраните период ещё раз, когда трекер будет отвечать.</translation></message>
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>

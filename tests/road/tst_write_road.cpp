@@ -206,7 +206,9 @@ private Q_SLOTS:
             .row("read, garbage", Step::reading, Wrong::Garbage, Outcome::notWritten, Fault::badAnswer, false)
             .row("read, unplugged", Step::reading, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
                  false)
-            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::detached, false)
+            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::reattached, false)
+            .row("review, detached", Step::review, Wrong::Unplugged, Outcome::notWritten, Fault::detached,
+                 false)
             .row("review, other", Step::review, Wrong::OtherTracker, Outcome::notWritten, Fault::otherTracker,
                  false)
             .row("write, silence", Step::writing, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
@@ -240,6 +242,8 @@ private Q_SLOTS:
             QCOMPARE(bench.review().changes.size(), 3);
             if (wrong == Wrong::OtherTracker)
                 bench.port.number = "860000000071078";
+            if (wrong == Wrong::Unplugged && at == Step::review)
+                bench.port.number.clear();
             if (wrong == Wrong::Gone)
                 Q_EMIT bench.port.gone();
             bench.road.approve();

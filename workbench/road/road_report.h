@@ -86,6 +86,7 @@ struct RoadReport
         unsaved,      // the file for the tracker was not saved
         incomparable, // nobody can tell the two apart
         detached,
+        reattached, // what was compared may be there no longer
         otherTracker,
         unplugged,
         silent,

@@ -229,9 +229,8 @@ void WriteRoad::approve()
         fail(Fault::otherTracker);
         return;
     }
-    // What was compared may be there no longer.
     if (!now.isAttached() || wasGone_) {
-        fail(Fault::detached);
+        fail(now.isAttached() ? Fault::reattached : Fault::detached);
         return;
     }
     setStep(Step::backup);

@@ -33,6 +33,7 @@ constexpr FaultRow kFaultRows[] = {
     {Fault::unsaved, "wb_refused_unsaved", kDisk},
     {Fault::incomparable, "wb_road_incomparable", nullptr},
     {Fault::detached, "wb_refused_detached", "wb_do_attach"},
+    {Fault::reattached, "wb_road_reattached", "wb_do_again"},
     {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
     {Fault::unplugged, "wb_why_unplugged", "wb_do_attach"},
     {Fault::silent, "wb_refused_silence", "wb_do_cable"},
