@@ -2724,7 +2724,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_problem_damaged"><translation>It is no configuration, or a damaged one: error in line %1, column %2.</translation></message>
     <message id="wb_problem_empty"><translation>It holds nothing.</translation></message>
     <message id="wb_problem_first_record"><translation>It ends within its first record, after %1&#160;B.</translation></message>
-    <message id="wb_problem_large"><translation>It is larger than any configuration: %1&#160;B.</translation></message>
+    <message id="wb_problem_large"><translation>It is larger than %1&#160;B, and no configuration is.</translation></message>
     <message id="wb_problem_model"><translation>It is the configuration of another model: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>It holds no record.</translation></message>
     <message id="wb_problem_records"><translation>None of its records is whole.</translation></message>

@@ -2724,7 +2724,7 @@
     <message id="wb_problem_damaged"><translation>Это не конфигурация, или она повреждена: ошибка в строке %1, столбце %2.</translation></message>
     <message id="wb_problem_empty"><translation>В нём ничего нет.</translation></message>
     <message id="wb_problem_first_record"><translation>Он обрывается на первой записи, после %1&#160;байт.</translation></message>
-    <message id="wb_problem_large"><translation>Он больше любой конфигурации: %1&#160;байт.</translation></message>
+    <message id="wb_problem_large"><translation>Он больше %1&#160;байт, таких больших конфигураций не бывает.</translation></message>
     <message id="wb_problem_model"><translation>Это конфигурация другой модели: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>В нём нет ни одной записи.</translation></message>
     <message id="wb_problem_records"><translation>В нём нет ни одной целой записи.</translation></message>

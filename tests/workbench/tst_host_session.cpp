@@ -141,6 +141,17 @@ private Q_SLOTS:
         }
     }
 
+    // No more of it is read than shows that.
+    void saysThatAFileIsTooLarge()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QFile file(bench.root.filePath("large.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{1} << 30));
+        const QString said = bench.session.whyNotOpened(file.fileName())();
+        QVERIFY2(said.contains("It is larger than 4,000,000\u00A0B"), qPrintable(said));
+    }
+
     // Room on the disk is asked for where that is what is missing, and the reason is in the user's language.
     void saysWhatTheDiskRefuses()
     {

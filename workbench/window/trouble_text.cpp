@@ -24,7 +24,7 @@ QString reasonOf(const ConfigurationProblem& problem)
     case ConfigurationProblem::Empty:
         return text("wb_problem_empty");
     case ConfigurationProblem::TooLarge:
-        return text("wb_problem_large").arg(number(problem.bytes));
+        return text("wb_problem_large").arg(number(kLargestConfiguration));
     case ConfigurationProblem::CutShort:
         return text("wb_problem_cut")
             .arg(number(problem.bytes), number(problem.line), number(problem.column));
