@@ -85,7 +85,7 @@ QString whyOtherEnding(const Call& call)
     }
     if (isReport(call))
         return text("cli_024");
-    return writers.isEmpty() ? QString() : text("cli_340").arg(ending, writers.join(QStringLiteral(", ")));
+    return writers.isEmpty() ? QString() : text("cli_333").arg(ending, writers.join(QStringLiteral(", ")));
 }
 
 } // namespace workbench::command
