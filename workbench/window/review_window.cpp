@@ -219,6 +219,7 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
     list->setObjectName(QStringLiteral("listWidget_Advice"));
     list->setAccessibleName(text("wb_review_advice_list"));
     list->setWordWrap(true);
+    list->setIconSize({kMarkSize, kMarkSize});
     for (const SettingAdvice& advice : review_.advice) {
         QStringList place{advice.page, advice.caption};
         place.removeAll(QString());
