@@ -1498,6 +1498,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_330"><translation>it is closed</translation></message>
     <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
+    <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -2527,6 +2528,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_device_plugin"><translation>Plug-in</translation></message>
     <message id="wb_device_text1"><translation>Firmware</translation></message>
     <message id="wb_device_text2"><translation>Number</translation></message>
+    <message id="wb_do_again"><translation>Write once more.</translation></message>
     <message id="wb_do_attach"><translation>Attach the tracker and try again.</translation></message>
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
@@ -2731,7 +2733,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_problem_damaged"><translation>It is no configuration, or a damaged one: error in line %1, column %2.</translation></message>
     <message id="wb_problem_empty"><translation>It holds nothing.</translation></message>
     <message id="wb_problem_first_record"><translation>It ends within its first record, after %1&#160;B.</translation></message>
-    <message id="wb_problem_large"><translation>It is larger than any configuration: %1&#160;B.</translation></message>
+    <message id="wb_problem_large"><translation>It is larger than %1&#160;B, and no configuration is.</translation></message>
     <message id="wb_problem_model"><translation>It is the configuration of another model: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>It holds no record.</translation></message>
     <message id="wb_problem_records"><translation>None of its records is whole.</translation></message>
@@ -2773,6 +2775,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
+    <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
     <message id="wb_report_close"><translation>Close</translation></message>
     <message id="wb_report_confirmed"><translation>Written and confirmed: %1 of %2 settings</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
@@ -2782,6 +2787,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
+    <message id="wb_report_left"><translation>The last write to tracker %1 (%2) was not confirmed: the program ended before. What the tracker holds is not known.</translation></message>
+    <message id="wb_report_left_do"><translation>Read the configuration from the tracker; then try again or bring the backup back.</translation></message>
     <message id="wb_report_missed"><translation>Not taken: %1 of %2 settings</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
@@ -2817,10 +2824,18 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_table"><translation>What will change in the tracker</translation></message>
     <message id="wb_review_title"><translation>Write to tracker %1</translation></message>
     <message id="wb_review_title_name"><translation>Write to tracker %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
+    <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
+    <message id="wb_review_why_lost"><translation>unknown keys of the file are not written</translation></message>
+    <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
+    <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>
+    <message id="wb_review_why_removes"><translation>settings are removed</translation></message>
     <message id="wb_review_write"><translation>&amp;Write to tracker</translation></message>
     <message id="wb_road_incomparable"><translation>The configuration cannot be compared with what the tracker holds.</translation></message>
     <message id="wb_road_no_backup"><translation>What the tracker holds could not be backed up, so nothing was sent.</translation></message>
     <message id="wb_road_other"><translation>Another tracker has been attached meanwhile.</translation></message>
+    <message id="wb_road_reattached"><translation>The tracker was detached and attached again meanwhile, so it may hold something else now.</translation></message>
     <message id="wb_road_request"><translation>What is to be written is no whole configuration.</translation></message>
     <message id="wb_save_ended"><translation>The save was ended. No record was saved; save the period again when the tracker answers.</translation></message>
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>

@@ -1498,6 +1498,7 @@
     <message id="cli_330"><translation>закрыт</translation></message>
     <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
+    <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -2527,6 +2528,7 @@
     <message id="wb_device_plugin"><translation>Модуль</translation></message>
     <message id="wb_device_text1"><translation>Прошивка</translation></message>
     <message id="wb_device_text2"><translation>Номер</translation></message>
+    <message id="wb_do_again"><translation>Запишите ещё раз.</translation></message>
     <message id="wb_do_attach"><translation>Подключите трекер и повторите.</translation></message>
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
@@ -2731,7 +2733,7 @@
     <message id="wb_problem_damaged"><translation>Это не конфигурация, или она повреждена: ошибка в строке %1, столбце %2.</translation></message>
     <message id="wb_problem_empty"><translation>В нём ничего нет.</translation></message>
     <message id="wb_problem_first_record"><translation>Он обрывается на первой записи, после %1&#160;байт.</translation></message>
-    <message id="wb_problem_large"><translation>Он больше любой конфигурации: %1&#160;байт.</translation></message>
+    <message id="wb_problem_large"><translation>Он больше %1&#160;байт, таких больших конфигураций не бывает.</translation></message>
     <message id="wb_problem_model"><translation>Это конфигурация другой модели: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>В нём нет ни одной записи.</translation></message>
     <message id="wb_problem_records"><translation>В нём нет ни одной целой записи.</translation></message>
@@ -2773,6 +2775,9 @@
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
+    <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
     <message id="wb_report_close"><translation>Закрыть</translation></message>
     <message id="wb_report_confirmed"><translation>Записано и подтверждено: %1 из %2 параметров</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
@@ -2782,6 +2787,8 @@
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
+    <message id="wb_report_left"><translation>Последняя запись в трекер %1 (%2) не подтверждена: программа завершилась раньше. Что в трекере, неизвестно.</translation></message>
+    <message id="wb_report_left_do"><translation>Прочитайте конфигурацию из трекера, затем повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_missed"><translation>Не принято: %1 из %2 параметров</translation></message>
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
@@ -2817,11 +2824,19 @@
     <message id="wb_review_table"><translation>Что изменится в трекере</translation></message>
     <message id="wb_review_title"><translation>Запись в трекер %1</translation></message>
     <message id="wb_review_title_name"><translation>Запись в трекер %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
+    <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
+    <message id="wb_review_why_lost"><translation>неизвестные ключи файла не записываются</translation></message>
+    <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
+    <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>
+    <message id="wb_review_why_removes"><translation>удаляются параметры</translation></message>
     <message id="wb_review_write"><translation>&amp;Записать в трекер</translation></message>
     <message id="wb_road_incomparable"><translation>Отправляемую конфигурацию не удалось сравнить с той, что в трекере.</translation></message>
     <message id="wb_road_no_backup"><translation>Резервную копию того, что в трекере, сохранить не удалось, поэтому ничего не отправлено.</translation></message>
     <message id="wb_road_other"><translation>Тем временем подключили другой трекер.</translation></message>
-    <message id="wb_road_request"><translation>То, что нужно записать, не целая конфигурация.</translation></message>
+    <message id="wb_road_reattached"><translation>Тем временем трекер отключили и подключили снова, в нём может быть уже другое.</translation></message>
+    <message id="wb_road_request"><translation>Файл, который нужно записать, не целая конфигурация.</translation></message>
     <message id="wb_save_ended"><translation>Сохранение прекращено. Ни одной записи не сохранено; сохраните период ещё раз, когда трекер будет отвечать.</translation></message>
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>

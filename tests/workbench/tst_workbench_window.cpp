@@ -227,7 +227,7 @@ private Q_SLOTS:
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
             const workbench::FoldersDialog folders({}, {}, &bench.window);
-            workbench::WriteReportView::showDialog(bench.window.session(), {}, {}, &bench.window);
+            workbench::WriteReportView::showDialog(bench.window.session(), {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }

@@ -24,11 +24,6 @@ enum Column { Moment, Number, Changes, Note, ColumnCount };
 constexpr const char* kColumnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
                                                   "wb_history_changes", "wb_history_note_head"};
 
-QString momentText(const QDateTime& made)
-{
-    return made.toLocalTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
-
 int numberOf(const QTreeWidgetItem* item)
 {
     return item ? item->data(0, Qt::UserRole).toInt() : 0;
@@ -117,7 +112,7 @@ void BackupList::fill()
             tracker->setExpanded(true);
         }
         auto* item =
-            new QTreeWidgetItem(tracker, {momentText(backup.made), number(backup.number), {}, backup.note});
+            new QTreeWidgetItem(tracker, {moment(backup.made), number(backup.number), {}, backup.note});
         item->setData(0, Qt::UserRole, backup.number);
         for (const int column : {Number, Changes})
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);

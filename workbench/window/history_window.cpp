@@ -173,8 +173,7 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
 void HistoryWindow::chooseKeeping()
 {
     const int days = keep_->currentData().toInt();
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const Backups::Expired old = session_.backups().expired(days, now);
+    const Backups::Expired old = session_.backups().expired(days, QDateTime::currentDateTimeUtc());
     if (!old.dropped.isEmpty() &&
         !agrees(text("wb_history_drop").arg(keep_->currentText(), number(old.dropped.size())) +
                     QLatin1String("\n\n") + text("wb_history_drop_not").arg(number(old.noted)),
@@ -183,7 +182,7 @@ void HistoryWindow::chooseKeeping()
         return;
     }
     settings_.setBackupDays(days);
-    session_.backups().keepFor(days, now);
+    session_.keepFor(days);
 }
 
 void HistoryWindow::fill()

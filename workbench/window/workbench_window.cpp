@@ -59,8 +59,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
       start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(session_, this)),
       trackerPanel_(new TrackerPanel(session_.tracker(), this)),
-      road_(new RoadWindows(
-          session_, settings, [this] { return saveNotices_->typing().lines(); }, this))
+      road_(new RoadWindows(session_, settings, this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);
@@ -68,7 +67,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connectCommands();
     connectSession();
     connectNotices();
-    session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
+    session_.keepFor(settings_.backupDays());
     showEdited();
     device_->setMode(settings_.mode());
     updateCommands();
@@ -190,6 +189,7 @@ void WorkbenchWindow::connectNotices()
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
+    session_.setTyped([this] { return saveNotices_->typing().lines(); });
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
@@ -218,6 +218,8 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     device_->refresh();
     updateCommands();
     start_->takeFocus();
+    if (loaded)
+        session_.road().tellLeft();
     return loaded;
 }
 
@@ -349,16 +351,16 @@ void WorkbenchWindow::showReport(const RoadReport& report)
         return;
     }
     // What was refused is not written with those numbers yet.
-    const bool isWritten =
-        report.outcome == RoadReport::Outcome::confirmed || report.outcome == RoadReport::Outcome::notTaken;
-    const QString typed = isWritten ? saveNotices_->typing().take() : QString();
-    reportView_->setReport(report, typed);
+    const QString typed = typedText(report);
+    if (!typed.isEmpty())
+        saveNotices_->typing().forget();
+    reportView_->setReport(report);
     tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command, [report, typed] {
         const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
-    road_->showReport(report, typed);
+    road_->showReport(report);
 }
 
 void WorkbenchWindow::showHistory()
