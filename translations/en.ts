@@ -2075,6 +2075,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_311"><translation>End the save</translation></message>
+    <message id="tmiw_312"><translation>Go on saving</translation></message>
+    <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -2075,6 +2075,10 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
+    <message id="tmiw_312"><translation>Продолжить</translation></message>
+    <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
