@@ -2079,6 +2079,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_311"><translation>End the save</translation></message>
     <message id="tmiw_312"><translation>Go on saving</translation></message>
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
+    <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2509,7 +2510,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_command_saving"><translation>The command was not sent: a period is being saved. Try again when the save has ended.</translation></message>
     <message id="wb_data_in_use"><translation>Another workbench is open on the data folder %1. Use that one, or start this one with --data and another folder.</translation></message>
     <message id="wb_data_temporary"><translation>The data folder cannot be written (%1). A temporary folder serves until the program ends.</translation></message>
-    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1. Start the workbench with --data and another folder.</translation></message>
     <message id="wb_description"><translation>Workbench for the R-7106 tracker: configuration, telemetry, message log, simulated tracker.</translation></message>
     <message id="wb_detach"><translation>Detach the trac&amp;ker</translation></message>
     <message id="wb_device"><translation>Tracker</translation></message>
@@ -2599,7 +2600,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_file_unwritable"><translation>Cannot write the file %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Choose a folder</translation></message>
     <message id="wb_folder_configurations"><translation>Configurations</translation></message>
+    <message id="wb_folder_replaced"><translation>The folder %1 cannot be used: %2. Until the program ends files go to %3. Choose another one under Data folders.</translation></message>
     <message id="wb_folder_telemetry"><translation>Telemetry</translation></message>
+    <message id="wb_folder_unusable"><translation>No file can be put into %1: %2. Choose another folder.</translation></message>
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>

@@ -2079,6 +2079,7 @@
     <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
     <message id="tmiw_312"><translation>Продолжить</translation></message>
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
+    <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2509,7 +2510,7 @@
     <message id="wb_command_saving"><translation>Команда не отправлена: сохраняется период. Повторите, когда сохранение закончится.</translation></message>
     <message id="wb_data_in_use"><translation>С папкой данных %1 уже работает другое рабочее место. Перейдите в него или запустите это с ключом --data и другой папкой.</translation></message>
     <message id="wb_data_temporary"><translation>В папку данных нельзя писать (%1). До закрытия программы служит временная папка.</translation></message>
-    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1. Запустите программу с --data и другой папкой.</translation></message>
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
     <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Трекер</translation></message>
@@ -2599,7 +2600,9 @@
     <message id="wb_file_unwritable"><translation>Не удалось записать файл %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Выбрать папку</translation></message>
     <message id="wb_folder_configurations"><translation>Конфигурации</translation></message>
+    <message id="wb_folder_replaced"><translation>Папку %1 использовать нельзя: %2. До конца работы программы файлы попадают в %3. Выберите другую в меню «Папки данных».</translation></message>
     <message id="wb_folder_telemetry"><translation>Телеметрия</translation></message>
+    <message id="wb_folder_unusable"><translation>В папку %1 нельзя записать файл: %2. Выберите другую папку.</translation></message>
     <message id="wb_folders"><translation>Папки данных</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Папки данных…</translation></message>
     <message id="wb_folders_use"><translation>Использовать эти папки</translation></message>

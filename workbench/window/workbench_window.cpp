@@ -1,6 +1,7 @@
 #include "window/workbench_window.h"
 
 #include "plugin_names.h"
+#include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
@@ -279,12 +280,23 @@ void WorkbenchWindow::chooseFolders()
 
 void WorkbenchWindow::applyFolders()
 {
-    const auto orOwn = [](const QString& chosen, const QString& own) {
-        return !chosen.isEmpty() && QDir().mkpath(chosen) ? chosen : own;
-    };
+    const auto orOwn = [](const QString& chosen, const QString& own) { return chosen.isEmpty() ? own : chosen; };
     settings_.setFolders(orOwn(settings_.telemetryFolder(), folder_.telemetryFolder()),
                          orOwn(settings_.configurationFolder(), folder_.configurationFolder()));
-    session_.link().setPaths(settings_.telemetryFolder(), settings_.configurationFolder());
+    // One on a drive that is not there stays chosen, for the day when it is.
+    const auto inThisRun = [this](const QString& chosen, const QString& own) {
+        const QString reason = whyNotWritable(chosen);
+        if (reason.isEmpty())
+            return chosen;
+        tellOfRun([chosen, own, reason] {
+            return text("wb_folder_replaced")
+                .arg(QDir::toNativeSeparators(chosen), vlk::fileErrorText(reason),
+                     QDir::toNativeSeparators(own));
+        });
+        return own;
+    };
+    session_.link().setPaths(inThisRun(settings_.telemetryFolder(), folder_.telemetryFolder()),
+                             inThisRun(settings_.configurationFolder(), folder_.configurationFolder()));
 }
 
 void WorkbenchWindow::setMode(int mode)
