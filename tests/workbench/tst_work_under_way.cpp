@@ -100,6 +100,27 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled(), 20'000);
     }
 
+    // Nor in the configuration, where a window is not too low for it.
+    void movesNoPage()
+    {
+        Bench bench;
+        bench.prepare(Write);
+        QWidget* configuration = Bench::configuration();
+        const auto* field = configuration->findChild<QWidget*>(QStringLiteral("lineEdit_Name"));
+        for (const int height : {600, 500}) {
+            configuration->setMinimumSize(0, 0);
+            configuration->resize(1024, height);
+            QCoreApplication::processEvents();
+            const QPoint before = field->mapToGlobal(QPoint());
+            Bench::press(configuration, "pushButton_SaveToFile");
+            QTRY_VERIFY(Bench::notice().startsWith(QLatin1String("Saved: ")));
+            QCoreApplication::processEvents();
+            QCOMPARE(field->mapToGlobal(QPoint()) == before, height == 600);
+            Bench::press(configuration, "label_WindowNotice_Close");
+            QTRY_COMPARE(field->mapToGlobal(QPoint()), before);
+        }
+    }
+
     void refusesWhatDestroys_data()
     {
         DataTable<int, QString>({"during", "said"})
