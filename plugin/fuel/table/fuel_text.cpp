@@ -308,13 +308,17 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
         const Cells cells = pastedCellsOf(line);
         if (cells.first.isEmpty() && cells.second.isEmpty())
             return true;
-        const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, order));
-        if (mayBeHeading) {
-            if (const auto headings = headingsOf(line, captions))
+        if (std::exchange(isFirst, false) && !isPoint(rowOf(cells, order))) {
+            if (const auto headings = headingsOf(line, captions)) {
                 order = headings->order;
-            return true;
+                return true;
+            }
         }
         FuelRow row = rowOf(cells, order);
+        // Beside an empty cell its blanks may be those between two numbers; with one number it is the other
+        // cell that is at fault.
+        if (row.value.isEmpty())
+            row.volume = withoutThousandsBlanks(row.volume);
         if (const auto ofVolume = fit(row.volume, kVolumeLimit))
             pasted.leftOut.push_back({lineNumber, *ofVolume, true});
         else if (const auto ofValue = fit(row.value, valueLimit(kind)))
