@@ -1013,6 +1013,7 @@
     <message id="cfgt6_450"><translation>No tracker is attached.</translation></message>
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
+    <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
