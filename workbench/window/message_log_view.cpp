@@ -122,10 +122,12 @@ void MessageLogView::buildTable()
         table_->setColumnWidth(column, vlk::cellWidth(*table_, QString::fromUtf8(samples[column])));
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MessageLogView::showDetails);
-    connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] {
-        const QScrollBar* bar = table_->verticalScrollBar();
-        if (bar->value() == bar->maximum())
-            QMetaObject::invokeMethod(table_, "scrollToBottom", Qt::QueuedConnection);
+    // The range changes with the rows, with the filter and with the height of the list.
+    QScrollBar* bar = table_->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar] { follows_ = bar->value() == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (follows_)
+            bar->setValue(bar->maximum());
     });
 
     details_->setObjectName(QStringLiteral("plainTextEdit_LogDetails"));
@@ -148,8 +150,13 @@ void MessageLogView::buildTable()
 
 void MessageLogView::applyFilter()
 {
+    // A line that is looked at stays in sight among those that come back.
+    const QModelIndex current = table_->currentIndex();
+    const bool isLookedAt = table_->viewport()->rect().intersects(table_->visualRect(current));
     filter_->setWords(words_->text());
     filter_->setDirections(MessageLogFilter::Directions(directions_->currentIndex()));
+    if (isLookedAt && table_->currentIndex().isValid())
+        table_->scrollTo(table_->currentIndex(), QAbstractItemView::PositionAtCenter);
     showCount();
 }
 
@@ -234,11 +241,13 @@ bool MessageLogView::saveTo(const QString& path, QString* error) const
 
 void MessageLogView::save()
 {
-    const QString path = QFileDialog::getSaveFileName(this, save_->toolTip(),
-                                                      QDir::home().filePath(QStringLiteral("messages.txt")),
-                                                      text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    QFileDialog dialog(this, save_->toolTip(), QDir::homePath(),
+                       text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    dialog.selectFile(QStringLiteral("messages.txt"));
     QString error;
-    if (!path.isEmpty() && !saveTo(path, &error))
+    if (dialog.exec() == QDialog::Accepted && !saveTo(dialog.selectedFiles().value(0), &error))
         QMessageBox::warning(this, text("wb_title"), error);
 }
 
