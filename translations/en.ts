@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>No server is in use: data are sent nowhere.</translation></message>
     <message id="adv_067"><translation>There is an encryption key, but data are encrypted for no server.</translation></message>
     <message id="adv_068"><translation>Only operators of the list are allowed in roaming, but the list is empty: no data are sent.</translation></message>
+    <message id="adv_190"><translation>Row %1 of the access point (APN) list: %2 is no operator code, which has 5 or 6 digits.</translation></message>
+    <message id="adv_191"><translation>Rows %1 and %2 of the access point (APN) list have the same operator code: %3.</translation></message>
     <message id="cfgt10_001"><translation>Output lines</translation></message>
     <message id="cfgt10_002"><translation>General purpose</translation></message>
     <message id="cfgt10_003"><translation>Buzzer</translation></message>

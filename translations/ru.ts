@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>Ни один сервер не используется: данные никуда не передаются.</translation></message>
     <message id="adv_067"><translation>Ключ шифрования задан, но данные не шифруются ни для одного сервера.</translation></message>
     <message id="adv_068"><translation>В роуминге разрешены только операторы из списка, но список пуст: данные не передаются.</translation></message>
+    <message id="adv_190"><translation>Строка %1 списка точек доступа (APN): %2 — не код оператора, в нём 5 или 6 цифр.</translation></message>
+    <message id="adv_191"><translation>В строках %1 и %2 списка точек доступа (APN) один и тот же код оператора: %3.</translation></message>
     <message id="cfgt10_001"><translation>Выходные линии</translation></message>
     <message id="cfgt10_002"><translation>Общего назначения</translation></message>
     <message id="cfgt10_003"><translation>Зуммер</translation></message>
