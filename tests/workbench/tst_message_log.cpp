@@ -218,8 +218,8 @@ private Q_SLOTS:
         QTEST(filter.rowCount(), "shown");
     }
 
-    // The newest line is whole and in sight until the user scrolls away; a line that was chosen behind a filter
-    // stays in sight when the filter goes.
+    // The newest line is whole and in sight until the user scrolls away; a line that was chosen behind a
+    // filter stays in sight when the filter goes.
     void followsTheNewest()
     {
         workbench::MessageLogModel model;

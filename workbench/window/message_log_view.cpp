@@ -4,6 +4,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/file_error.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/find_field.h"
 #include "window/line_icon.h"
@@ -42,7 +43,7 @@ MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
 {
     filter_->setSourceModel(model_);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
+    column->setContentsMargins(vlk::grid::kAroundWindow);
     buildBar();
     buildTable();
 
@@ -86,6 +87,7 @@ void MessageLogView::buildBar()
             &MessageLogView::applyFilter);
 
     auto* bar = new QHBoxLayout;
+    bar->setSpacing(vlk::grid::kColumn);
     bar->addWidget(words_, 1);
     bar->addWidget(directions_);
     bar->addWidget(count_);
@@ -155,8 +157,10 @@ void MessageLogView::applyFilter()
     const bool isLookedAt = table_->viewport()->rect().intersects(table_->visualRect(current));
     filter_->setWords(words_->text());
     filter_->setDirections(MessageLogFilter::Directions(directions_->currentIndex()));
-    if (isLookedAt && table_->currentIndex().isValid())
+    if (isLookedAt && table_->currentIndex().isValid()) {
+        table_->doItemsLayout(); // which takes the range from the rows that there are now
         table_->scrollTo(table_->currentIndex(), QAbstractItemView::PositionAtCenter);
+    }
     showCount();
 }
 
