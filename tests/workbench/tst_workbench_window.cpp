@@ -225,6 +225,8 @@ private Q_SLOTS:
         QVERIFY(bench.start());
         QVERIFY2(bench.text("label_Status").contains(unusable), qPrintable(bench.text("label_Status")));
         QCOMPARE(bench.settings.configurationFolder(), unusable);
+        const auto* bar = bench.window.findChild<QFrame*>("noticeBar");
+        QVERIFY(bar->isVisible() && bar->findChild<QLabel*>("label_Notice")->text().contains(unusable));
         workbench::FoldersDialog dialog({}, unusable, &bench.window);
         dialog.show();
         dialog.accept();
