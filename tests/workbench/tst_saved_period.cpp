@@ -9,7 +9,11 @@ class SavedPeriodTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        failOnUnfilledTexts();
+    }
 
     // How much there is of the period stands in the window of telemetry, in a box and in the status line.
     void savedInPart_data()

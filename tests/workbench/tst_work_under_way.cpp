@@ -8,7 +8,11 @@ class WorkUnderWayTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        failOnUnfilledTexts();
+    }
 
     // A notice that was closed is not the last word of a silence in which the user asks on.
     void comesBackInTheSameSilence()
@@ -112,6 +116,7 @@ private Q_SLOTS:
             configuration->resize(1024, height);
             QCoreApplication::processEvents();
             const QPoint before = field->mapToGlobal(QPoint());
+            QFile::remove(bench.file());
             Bench::press(configuration, "pushButton_SaveToFile");
             QTRY_VERIFY(Bench::notice().startsWith(QLatin1String("Saved: ")));
             QCoreApplication::processEvents();
