@@ -80,6 +80,7 @@ private Q_SLOTS:
         pressInBar("cfgt6_406");
         QCOMPARE(rows("A3"), QString("10.5=12.34"));
         // So is what is doubtful of it.
+        host.send(Message::AnalogRecord, liveRecord().constData());
         add("A3", "20", 15000, 1);
         const auto* shown = table("A3");
         QCOMPARE(shown->item(1, 1)->toolTip(), QString("cfgt6_423"));
