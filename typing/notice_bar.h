@@ -58,8 +58,8 @@ public:
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
-    // and go while the user presses buttons, nothing may move under the mouse. A window too low for that takes
-    // the place back.
+    // and go while the user presses buttons, nothing may move under the mouse. A window too low for that
+    // takes the place back.
     void keepPlace(bool keeps = true);
     bool isTelling() const { return worst() != nullptr; }
     // The property in which the host says how many pixels its own notice wants. A bar with a kept place has

@@ -62,9 +62,9 @@ workbench::CommandLine readCommandLine(int& argc, char* argv[], QString& noDispl
 // Without a usable data folder there is nothing to run with.
 int complain(const workbench::DataFolder& folder, bool withBox)
 {
-    const QString sentence = folder.isInUse() ? workbench::text("wb_data_in_use").arg(folder.error())
-                                              : workbench::text("wb_data_unwritable")
-                                                    .arg(vlk::fileErrorText(folder.error()));
+    const QString sentence =
+        folder.isInUse() ? workbench::text("wb_data_in_use").arg(folder.error())
+                         : workbench::text("wb_data_unwritable").arg(vlk::fileErrorText(folder.error()));
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     if (withBox)
         QMessageBox::warning(nullptr, workbench::text("wb_title"), sentence);
@@ -122,7 +122,8 @@ int main(int argc, char* argv[])
     window.show();
     const bool started = window.start(workbench::pluginPath());
     if (folder.isTemporary())
-        window.tellOfRun([&] { return workbench::text("wb_data_temporary").arg(vlk::fileErrorText(folder.error())); });
+        window.tellOfRun(
+            [&] { return workbench::text("wb_data_temporary").arg(vlk::fileErrorText(folder.error())); });
     else if (settings.wasDamaged() && started)
         window.tellOfRun([] { return workbench::text("wb_settings_damaged"); });
 

@@ -33,7 +33,7 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(vlk::grid::aroundPage);
+    column->setContentsMargins(vlk::grid::kAroundPage);
     bar_->keepPlace();
     column->addWidget(bar_);
     column->addLayout(form);
@@ -48,10 +48,10 @@ void FoldersDialog::accept()
         const QString reason = path.isEmpty() ? QString() : whyNotWritable(path);
         if (reason.isEmpty())
             continue;
-        bar_->tell(0, {vlk::Mark::invalid,
-                       text("wb_folder_unusable")
-                           .arg(QDir::toNativeSeparators(path), vlk::fileErrorText(reason)),
-                       {}});
+        bar_->tell(
+            0, {vlk::Mark::invalid,
+                text("wb_folder_unusable").arg(QDir::toNativeSeparators(path), vlk::fileErrorText(reason)),
+                {}});
         folder->setFocus();
         folder->selectAll();
         return;
@@ -74,6 +74,7 @@ QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const c
             edit->setText(chosen + QLatin1Char('/'));
     });
     auto* row = new QHBoxLayout;
+    row->setSpacing(vlk::grid::kColumn);
     row->addWidget(edit, 1);
     row->addWidget(choose);
     auto* label = new QLabel(text(key), this);

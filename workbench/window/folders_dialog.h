@@ -1,7 +1,7 @@
 #pragma once
 
-// Asks for the two data folders of the plug-in: telemetry and configurations. One that no file can be put into
-// is refused with its reason; an empty one stands for the workbench's own.
+// Asks for the two data folders of the plug-in: telemetry and configurations. One that no file can be put
+// into is refused with its reason; an empty one stands for the workbench's own.
 
 #include <QDialog>
 
