@@ -2032,7 +2032,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>

@@ -2032,7 +2032,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>

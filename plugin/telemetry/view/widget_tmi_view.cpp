@@ -14,7 +14,6 @@
 #include "typing/title_style.h"
 #include "windows/fit_to_screen.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -27,6 +26,15 @@ namespace {
 
 constexpr int kFirstProductionMode = 1;
 enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken, kCancelled };
+
+// Both ends of a name, which tell the vehicle and the end of the period: the bar has two lines.
+QString nameForBar(const QString& name)
+{
+    constexpr int kBegin = 18;
+    constexpr int kEnd = 16;
+    return name.size() <= kBegin + 1 + kEnd ? name
+                                            : name.left(kBegin) + QStringLiteral("…") + name.right(kEnd);
+}
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -186,7 +194,7 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
         const QLocale locale;
         QString held = tr("tmiw_186")
                            .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)),
-                                part.until, QDir::toNativeSeparators(part.path));
+                                part.until, nameForBar(QFileInfo(part.path).fileName()));
         if (!part.earlier.isEmpty())
             held += QLatin1Char(' ') + tr("tmiw_294").arg(QFileInfo(part.earlier).fileName());
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
