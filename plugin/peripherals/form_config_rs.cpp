@@ -5,6 +5,7 @@
 #include "peripherals/form_config_rs_param_canlog.h"
 #include "peripherals/rs_owner_forms.h"
 #include "settings/rs_settings.h"
+#include "windows/tab_order.h"
 #include "windows/wnd_config_full.h"
 #include "xml/xml_section.h"
 
@@ -180,6 +181,8 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         // Last, as after a change of language: some forms shorten what the settings call a widget.
         form->retranslate();
         connected_ ? form->deviceConnected() : form->deviceDisconnected();
+        // It is made later than all else in the window.
+        vlk::tabThrough(ui_->comboBox_RS485_StopBit, form);
     }
     return &*made;
 }

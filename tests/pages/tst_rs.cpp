@@ -122,8 +122,20 @@ private Q_SLOTS:
         QVERIFY(!test_.isChecked("checkBox_Fuel_D1"));
     }
 
-    // A tracker that has both families: the one with doors brings its values to the record and takes them
-    // away.
+    // Although a form is made later than what stands behind the page.
+    void tabGoesThroughTheDevicesForm()
+    {
+        WindowParts parts;
+        QWidget window;
+        parts.window = &window;
+        VLK_Form_Config_RS page(&window);
+        QPushButton behind(&window);
+        for (const char* owner : {"FLDS", "RFID", "TACH"})
+            page.settings().edit("OPTIONS/owner1", owner);
+        QCOMPARE(parts.fieldsBehind("comboBox_RS485_StopBit", 2),
+                 QStringList({"comboBox_Type", "lineEdit_ID"}));
+    }
+
     void tabGoesThroughTheCounters()
     {
         VLK_Form_Config_RS_Param_Pcnt form;
@@ -133,6 +145,8 @@ private Q_SLOTS:
         QCOMPARE(parts.fieldsBehind("spinBox_ACode_Passager_1", 1), QStringList("checkBox_ACode_Door_1"));
     }
 
+    // A tracker that has both families: the one with doors brings its values to the record and takes them
+    // away.
     void counterFamilies()
     {
         vlk::PageSettings settings(vlk::kRsSettings, nullptr);
