@@ -1717,6 +1717,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_475"><translation>Drained, l</translation></message>
     <message id="rec_490"><translation>Records are still being exported. End the export? No file is written then.</translation></message>
     <message id="rec_491"><translation>End the export</translation></message>
+    <message id="rec_510"><translation>The name ends with .%1, but the form is: %2.</translation></message>
+    <message id="rec_511"><translation>%1, by the filter: %2</translation></message>
+    <message id="rec_540"><translation>Type the volume and the reading of a point above and press Enter, or paste rows of a spreadsheet: the volume first, unless headings tell otherwise.</translation></message>
+    <message id="rec_541"><translation>The columns have no headings. The first one is taken as: %1.</translation></message>
+    <message id="rec_542"><translation>Swap the columns</translation></message>
+    <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
+    <message id="rec_544"><translation>Not read in between: %1.</translation></message>
+    <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
@@ -1762,6 +1770,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_345"><translation>Unsaved changes</translation></message>
     <message id="rev_346"><translation>This is more than one page holds: even in the smallest letters it takes %1.</translation></message>
     <message id="rev_347"><translation>Nothing can be typed here: use the buttons beside it</translation></message>
+    <message id="rev_350"><translation>Unsaved changes of this configuration are damaged and cannot be brought back. What is left of them: %1</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>

@@ -1717,6 +1717,14 @@
     <message id="rec_475"><translation>Слито, л</translation></message>
     <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
+    <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
+    <message id="rec_511"><translation>%1 по фильтру: %2</translation></message>
+    <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
+    <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
+    <message id="rec_542"><translation>Поменять столбцы местами</translation></message>
+    <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1. В файле их нет.</translation></message>
+    <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
+    <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
@@ -1762,6 +1770,7 @@
     <message id="rev_345"><translation>Несохранённые изменения</translation></message>
     <message id="rev_346"><translation>На одной странице это не помещается: даже самым мелким шрифтом страниц будет %1.</translation></message>
     <message id="rev_347"><translation>Сюда ничего не вводят: пользуйтесь кнопками рядом</translation></message>
+    <message id="rev_350"><translation>Несохранённые изменения этой конфигурации повреждены, вернуть их нельзя. Что от них осталось: %1</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>

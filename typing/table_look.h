@@ -2,10 +2,11 @@
 
 // How tables look in the windows of either program: low rows that alternate, texts with room on both sides, a
 // grid only where cells are edited, no row numbers. A text that has no room is told by its tool tip. Where
-// nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none can be
+// nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none is
 // chosen.
 
 #include <QString>
+#include <qnamespace.h>
 
 class QAbstractItemView;
 class QTableView;
@@ -31,6 +32,9 @@ void wrapTexts(QTableView* table);
 
 // How wide a cell of a text is.
 int cellWidth(const QAbstractItemView& table, const QString& text);
+
+// What a copy has in the place of what a cell shows, where a model tells one.
+inline constexpr int kCopiedRole = Qt::UserRole + 0xC0;
 
 // What Ctrl+C takes where nothing is edited: cells with a tab between them, each row on a line; the heads
 // first.

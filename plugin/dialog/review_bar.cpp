@@ -187,6 +187,14 @@ void ReviewBar::addLast(QWidget* widget)
     setTabOrder(advice_, widget);
 }
 
+void ReviewBar::begin()
+{
+    const QSignalBlocker noSearch(changedOnly_);
+    changedOnly_->setChecked(false);
+    find_->clear();
+    closeHits();
+}
+
 void ReviewBar::focusFind()
 {
     find_->setFocus(Qt::ShortcutFocusReason);

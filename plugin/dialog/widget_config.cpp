@@ -293,6 +293,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull)
         lightWindow_->prepare();
     review_.begin(path.isEmpty() ? nullptr : document.root());
+    bar_->begin();
     if (vlkDevice) {
         const QString folder = vlkDevice->xmlFolder();
         const QString subject = vlk::editSubject(path, request.fromFile == 1);

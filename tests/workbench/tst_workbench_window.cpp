@@ -129,7 +129,9 @@ private Q_SLOTS:
                 QVERIFY(bench.action(name)->toolTip().startsWith(QString::fromUtf8(why)));
                 QVERIFY(bench.action(name)->statusTip().startsWith(QString::fromUtf8(why)));
             }
+            QVERIFY(bench.text("label_StatusLasting").startsWith(QString::fromUtf8(why)));
             configuration.close();
+            QVERIFY(!bench.text("label_StatusLasting").contains(QString::fromUtf8(why)));
             QVERIFY(bench.action("action_Language_ru")->isEnabled());
             QVERIFY(bench.action("action_Language_ru")->statusTip().isEmpty());
         }

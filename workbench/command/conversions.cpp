@@ -51,7 +51,6 @@ Conversions::Conversions(const Conversion& asked, vlk::Filter filter, vlk::Expor
                          RecordSource& source, Output& output, Progress& progress)
     : form_(formOf(asked)), asked_(asked), filter_(std::move(filter)), options_(std::move(options)),
       source_(source), output_(output), progress_(progress),
-      isMarked_(form_.form == ExportForm::csv && output.isSpreadsheet()),
       isOnTerminal_(!output.isFile() && isatty(STDOUT_FILENO) != 0)
 {
 }
@@ -261,8 +260,6 @@ void Conversions::begin(const RecordBatch& batch)
     if (writer_)
         return;
     setOrigin(batch);
-    if (isMarked_)
-        put("\xEF\xBB\xBF");
     writer_ = exportWriter(form_.form, ahead_, first_ ? optionsFor(*first_) : options_);
     put(bytesOf([this](vlk::OutputBuffer& out) { writer_->begin(out); }));
 }

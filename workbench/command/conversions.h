@@ -77,7 +77,6 @@ private:
     RecordSource& source_;
     Output& output_;
     Progress& progress_;
-    const bool isMarked_;     // as UTF-8, for spreadsheets
     const bool isOnTerminal_; // what comes is progress enough
     std::size_t done_ = 0;    // records of this walk
     std::size_t number_ = 0;  // of its next batch
