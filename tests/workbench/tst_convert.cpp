@@ -15,6 +15,8 @@
 #include <QTextCodec>
 #include <QtTest>
 
+#include <sched.h>
+
 using namespace vlk;
 
 namespace {
@@ -27,6 +29,28 @@ QByteArray fileOf(ExportForm form, const RecordStore& store, const TelemetryOrig
     options.origin = origin;
     return exportRecords(buffer, store, form, options) ? buffer.data() : QByteArray("failed");
 }
+
+// For this program and those that it starts.
+class OneCore
+{
+public:
+    OneCore()
+    {
+        sched_getaffinity(0, sizeof all_, &all_);
+        int core = 0;
+        while (!CPU_ISSET(core, &all_))
+            ++core;
+        cpu_set_t one;
+        CPU_ZERO(&one);
+        CPU_SET(core, &one);
+        sched_setaffinity(0, sizeof one, &one);
+    }
+    ~OneCore() { sched_setaffinity(0, sizeof all_, &all_); }
+    Q_DISABLE_COPY_MOVE(OneCore)
+
+private:
+    cpu_set_t all_{};
+};
 
 } // namespace
 
@@ -227,6 +251,16 @@ private Q_SLOTS:
         for (int i = 0; i < 3; ++i)
             QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
         QCOMPARE(one.count('\n'), 3002);
+        {
+            const OneCore alone;
+            QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
+        }
+        // Where nothing can be kept beside the memory, files are read twice.
+        const QByteArray table = std::get<1>(run({"convert", "many.xml", "--to", "csv"}));
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/none");
+        QVERIFY(std::get<1>(run({"convert", "many.xml", "--to", "csv"})) == table);
+        before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
     }
 

@@ -67,8 +67,10 @@ public:
             return fromFile();
         std::optional<RecordBatch> batch = records_.next();
         isWhole_ = isWhole_ || !batch;
-        if (batch && isKept_)
-            isKept_ = keep(*batch);
+        if (batch && isKept_ && !keep(*batch)) {
+            isKept_ = false;
+            file_.resize(0); // others may need the room
+        }
         return batch;
     }
 

@@ -16,8 +16,6 @@ struct BatchNumber
 {
     std::size_t number = 0;
     std::size_t records = 0; // in it
-
-    auto operator<=>(const BatchNumber&) const = default;
 };
 
 class EarlyWrites
@@ -35,14 +33,16 @@ public:
     void keep(BatchNumber batch, const vlk::ExportAhead& ahead, QByteArray bytes)
     {
         size_ += bytes.size();
-        kept_.insert_or_assign(batch, Kept{ahead, std::move(bytes)});
+        kept_.insert_or_assign(batch.number, Kept{ahead, batch.records, std::move(bytes)});
     }
 
     // Null where there is none that holds.
     QByteArray take(BatchNumber batch, const vlk::ExportAhead& all)
     {
-        const auto kept = kept_.extract(batch);
-        return kept && kept.mapped().ahead.hasFieldsOf(all) ? kept.mapped().bytes : QByteArray();
+        const auto kept = kept_.extract(batch.number);
+        const bool holds =
+            kept && kept.mapped().records == batch.records && kept.mapped().ahead.hasFieldsOf(all);
+        return holds ? kept.mapped().bytes : QByteArray();
     }
 
 private:
@@ -51,12 +51,13 @@ private:
     struct Kept
     {
         vlk::ExportAhead ahead;
+        std::size_t records;
         QByteArray bytes;
     };
 
     std::mutex mutex_;
     std::atomic<qint64> size_ = 0;
-    std::map<BatchNumber, Kept> kept_;
+    std::map<std::size_t, Kept> kept_;
 };
 
 } // namespace workbench::command
