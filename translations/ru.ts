@@ -1717,6 +1717,8 @@
     <message id="rec_475"><translation>Слито, л</translation></message>
     <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
+    <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
+    <message id="rec_511"><translation>%1 по фильтру: %2</translation></message>
     <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
     <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
     <message id="rec_542"><translation>Поменять столбцы местами</translation></message>

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -161,10 +162,21 @@ void NoticeBar::changeEvent(QEvent* event)
         setCross();
 }
 
-// The first click of a double click may have put another button, or another notice, under the mouse.
+// Enter presses a button of the bar as Space does. The first click of a double click may have put another
+// button, or another notice, under the mouse.
 bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
 {
-    return watched->parent() == this && event->type() == QEvent::MouseButtonDblClick;
+    auto* const button = qobject_cast<QAbstractButton*>(watched);
+    if (!button || button->parent() != this)
+        return QFrame::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const pressed = static_cast<QKeyEvent*>(event);
+        const bool isEnter = pressed->key() == Qt::Key_Return || pressed->key() == Qt::Key_Enter;
+        if (isEnter && !pressed->isAutoRepeat())
+            button->click();
+        return isEnter;
+    }
+    return event->type() == QEvent::MouseButtonDblClick;
 }
 
 void NoticeBar::put(Told told)

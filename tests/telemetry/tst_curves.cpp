@@ -415,6 +415,17 @@ void TestCurves::leavesTurnsToOthers()
     QCOMPARE(made(), 3);
     QVERIFY(!records_->isLeftToDo());
 
+    // What was found out in front of them counts for its own contents alone.
+    const auto later = std::make_shared<TelemetryContents>();
+    later->records = few;
+    records_->prepare(later);
+    open(many);
+    QCOMPARE(records_->byTime().size(), std::size_t(many.size()));
+    records_->prepare(later);
+    records_->setContents(later);
+    QCOMPARE(records_->byTime().size(), std::size_t(few.size()));
+    QCOMPARE(made(), 3);
+
     // What lasts longer than a moment tells how far it is, to its end or until others are opened.
     for (const RecordStore* next : {&few, static_cast<const RecordStore*>(nullptr)}) {
         const QSignalSpy told(records_.get(), &ShownRecords::wentOn);

@@ -21,6 +21,17 @@ using namespace vlk;
 
 namespace {
 
+class CapitalTexts : public QTranslator
+{
+public:
+    CapitalTexts() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* key, const char*, int) const override
+    {
+        return QString::fromLatin1(key).toUpper();
+    }
+};
+
 constexpr quint32 kStart = 1'763'625'600; // 20.11.2025 08:00 UTC
 
 struct Fix
@@ -230,6 +241,17 @@ void TestTrack::showsAndMoves()
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {canvas->width() - 40, canvas->height() / 2});
     QCOMPARE(records.current(), 1);
     QVERIFY(place->text().startsWith(QLatin1String("55.000000, 37.200000   60.00")));
+    const QString told = place->text();
+    const QImage before = canvas->grab().toImage();
+    {
+        // In another language its unit and its legend are other ones.
+        const CapitalTexts texts;
+        view.retranslate();
+        QCOMPARE(place->text(), told.toUpper());
+        QVERIFY(canvas->grab().toImage() != before);
+    }
+    view.retranslate();
+    QCOMPARE(place->text(), told);
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {40, canvas->height() / 2});
     QCOMPARE(records.current(), 0);
     QTest::keyClick(canvas, Qt::Key_PageDown);

@@ -2,6 +2,7 @@
 
 #include "faulty_tracker.h"
 #include "support/data_table.h"
+#include "support/files.h"
 
 class WorkUnderWayTest : public QObject
 {
@@ -98,6 +99,32 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), save->isEnabled()), 20'000);
         bench.tracker().setFaults({});
         QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled(), 20'000);
+    }
+
+    // The program does not end over an export unasked.
+    void asksOverAnExport()
+    {
+        Bench bench;
+        const QByteArray page =
+            "<Page type=\"176\" ver=\"30\" format=\"1\">\n<NumPage>1</NumPage>\n</Page>\n";
+        constexpr int kPages = 300'000;
+        const QString large =
+            writeFile(bench.root.filePath(QStringLiteral("large.xml")), page.repeated(kPages));
+        bench.window.session().link().showStoredFile(large, 1);
+        QWidget* records = Bench::pluginWindow("VLK_Widget_Tmi_Table");
+        QVERIFY(records);
+        const auto* table = records->findChild<QTableView*>(QStringLiteral("tableWidget"));
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->rowCount(), kPages, 60'000);
+        QTimer::singleShot(0, [] { Bench::press(QApplication::activeModalWidget(), "pushButton_SaveAs"); });
+        Bench::press(records, "pushButton_Export");
+        QTRY_VERIFY(records->findChild<QWidget*>(QStringLiteral("progressBar_Work"))->isVisible());
+        bench.agrees = false;
+        QVERIFY(!bench.window.close());
+        QVERIFY(bench.window.isVisible() && records->isVisible());
+        QCOMPARE(bench.over, records);
+        bench.agrees = true;
+        QVERIFY(bench.window.close());
+        QVERIFY(!QFile::exists(bench.file()));
     }
 
     void refusesWhatDestroys_data()

@@ -12,7 +12,7 @@ class QwtScaleWidget;
 
 namespace vlk {
 
-class CurvesPlot : public QwtPlot
+class CurvesPlot final : public QwtPlot
 {
     Q_OBJECT
 

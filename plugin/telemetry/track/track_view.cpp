@@ -147,6 +147,7 @@ void TrackView::retranslate()
     });
     menu->addAction(tr("rec_189"), this, [this, painted] { handOver_->print(painted); });
     handOverMenu_->setMenu(menu);
+    model_->retranslate();
     fillColumns();
     showPlace();
     canvas_->update();

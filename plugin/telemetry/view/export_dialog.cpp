@@ -1,5 +1,6 @@
 #include "telemetry/view/export_dialog.h"
 
+#include "base/last_folder.h"
 #include "link/device.h"
 #include "windows/save_dialog.h"
 
@@ -100,11 +101,15 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
 {
     const ExportFormRow& row = rowOf(form);
     const QString suffix = QLatin1String(row.suffix);
-    SaveDialog dialog(parent, tr("rec_085"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
-                      QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix), suffix);
+    const QString folder = lastFolder(FileKind::records, vlkDevice ? vlkDevice->tmiFolder() : QString());
+    SaveDialog dialog(parent, tr("rec_085"), folder, QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix),
+                      suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
-    return dialog.ask();
+    const QString path = dialog.ask();
+    if (!path.isEmpty())
+        rememberFolder(FileKind::records, path);
+    return path;
 }
 
 } // namespace vlk
