@@ -84,6 +84,7 @@ private Q_SLOTS:
     void handsOver();
     void printsAsItShows();
     void grows();
+    void leavesOutDamagedTimes();
     void leavesTurnsToOthers();
     void survivesOddRecords_data();
     void survivesOddRecords();
@@ -376,6 +377,22 @@ void TestCurves::grows()
         return image;
     };
     QCOMPARE(picture(*view_), picture(anew));
+}
+
+// A damaged time squeezes no curve into a corner: its record is none of them, but stays where one can go.
+void TestCurves::leavesOutDamagedTimes()
+{
+    RecordStore store = truckRecords(50);
+    for (const quint32 second : {100'000'000U, 1500U, 1530U, 1560U}) {
+        const RecordParts parts{{"Time", kTruckStart + second}};
+        store.add(30, parts.mask, parts.block);
+    }
+    open(std::move(store));
+    QCOMPARE(records_->wholeTime(), (TimeSpan{double(kTruckStart), kTruckStart + 1560.0}));
+    records_->setCurrent(50);
+    QCOMPARE(records_->inSight(), records_->wholeTime());
+    key(Qt::Key_Left);
+    QCOMPARE(records_->current(), 53);
 }
 
 // Of many records no view is made before the event loop had its turn; others, or one more, may come between.

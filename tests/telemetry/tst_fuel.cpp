@@ -414,6 +414,19 @@ private Q_SLOTS:
         QTEST(known.join(' '), "known");
     }
 
+    // A time that is damaged takes its record to no other year, and makes no event there.
+    void damagedTimes()
+    {
+        std::vector<Told> strayed = standing(std::vector<double>(40, 300));
+        strayed[10].second = 8'000'000;
+        strayed[30].second = 60'000'000;
+        const RecordStore store = storeOf(strayed);
+        RecordColumns columns(store);
+        const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
+        QCOMPARE(sum.records, 38);
+        QCOMPARE(sum.until, kStart + 39 * 60.0);
+    }
+
     // A straight line over records that are missing is no way, one over a time without records is the least.
     void wayOverAGap()
     {

@@ -39,6 +39,24 @@ Ignition ignitionOf(double state)
     return std::isnan(state) ? Ignition::Unknown : state != 0 ? Ignition::On : Ignition::Off;
 }
 
+// Of records in the order of the store.
+void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records)
+{
+    const auto areFar = [&times](int record, int other) {
+        constexpr qint64 far = 24 * 3600;
+        return std::abs(qint64{times[record]} - times[other]) > far;
+    };
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const int record = records[i];
+        const bool isStrayed = kept > 0 && i + 1 < records.size() && areFar(record, records[kept - 1]) &&
+                               areFar(record, records[i + 1]) && !areFar(records[kept - 1], records[i + 1]);
+        if (!isStrayed)
+            records[kept++] = record;
+    }
+    records.resize(kept);
+}
+
 } // namespace
 
 std::vector<int> recordsByTime(RecordColumns& columns)
@@ -50,6 +68,7 @@ std::vector<int> recordsByTime(RecordColumns& columns)
         if (times[record] != 0)
             records.push_back(record);
     }
+    leaveOutStrayed(times, records);
     const auto time = [&times](int record) { return times[record]; };
     if (!std::ranges::is_sorted(records, {}, time))
         std::ranges::stable_sort(records, {}, time);

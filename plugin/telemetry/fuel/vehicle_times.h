@@ -6,7 +6,9 @@
 
 namespace vlk {
 
-// Records that have a time, by it; of one time in the order of the store. The clock of a tracker may jump.
+// Records that have a time, by it; of one time in the order of the store. The clock of a tracker may jump; a
+// record alone that is far in time from both records beside it, which are near each other, has a damaged one
+// and is left out.
 std::vector<int> recordsByTime(RecordColumns& columns);
 
 // km/h, of the first of the speeds that a record tells: navigation, precise navigation, CAN.
