@@ -112,6 +112,20 @@ private Q_SLOTS:
         QVERIFY(!Bench::notice().contains(QLatin1String("cancelled")));
     }
 
+    // Where a question has ended it, nothing is waited for any more either.
+    void endedByKeyInSilence()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.tracker().setFaults({.silence = true});
+        QTRY_VERIFY_WITH_TIMEOUT(Bench::notice().contains(QLatin1String("goes on by itself")), 10'000);
+        QTest::keyClick(Bench::telemetry(), Qt::Key_Escape);
+        QVERIFY(bench.boxes.constFirst().contains(QLatin1String("records have come")));
+        QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Saved in part: ")),
+                     qPrintable(bench.everything()));
+        QVERIFY2(!Bench::notice().contains(QLatin1String("No answer")), qPrintable(Bench::notice()));
+    }
+
     // Before there is a file there is nothing to be saved.
     void endsASaveThatNeverBegan()
     {

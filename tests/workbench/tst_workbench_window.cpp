@@ -239,6 +239,14 @@ private Q_SLOTS:
         dialog.accept();
         QVERIFY(!dialog.isVisible() && QFileInfo(usable).isDir());
         QVERIFY(QDir(usable).isEmpty());
+        // Once they are chosen well nothing is told any more.
+        QTimer::singleShot(0, [&usable] {
+            auto* folders = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            folders->findChild<QLineEdit*>("lineEdit_FolderConfigurations")->setText(usable);
+            folders->accept();
+        });
+        bench.action("action_Folders")->trigger();
+        QVERIFY(!bar->isVisible() && !bench.text("label_Status").contains(unusable));
     }
 
     void fitsTheScreen()

@@ -255,8 +255,8 @@ void LinkNotices::saveEnded()
 {
     if (!std::exchange(isSaving_, false))
         return;
-    // What was cancelled and ended without an answer waits for none.
-    if (isCancelled_)
+    // What ended without an answer waits for none.
+    if (isCancelled_ || watch_.isSilent())
         endWait();
     else
         setTrouble(trouble_);

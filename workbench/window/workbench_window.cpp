@@ -36,6 +36,9 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+#include <vector>
+
 namespace workbench {
 
 namespace {
@@ -257,9 +260,14 @@ bool WorkbenchWindow::isConfigurationOpen() const
 
 void WorkbenchWindow::tellOfRun(const Sentence& text)
 {
+    constexpr int kOfRun = 0;
+    if (!text) {
+        status_->clear(StatusLine::Program);
+        bar_->end(kOfRun);
+        return;
+    }
     status_->tell(StatusLine::Program, text);
     // Of a long sentence the line shows the beginning.
-    constexpr int kOfRun = 0;
     bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::advice, text(), {}}; });
 }
 
@@ -310,8 +318,12 @@ void WorkbenchWindow::applyFolders()
     const QString telemetry = inThisRun(settings_.telemetryFolder(), folder_.telemetryFolder());
     const QString configuration = inThisRun(settings_.configurationFolder(), folder_.configurationFolder());
     session_.link().setPaths(telemetry, configuration);
-    if (told.empty())
+    const bool wasTold = std::exchange(areFoldersTold_, !told.empty());
+    if (told.empty()) {
+        if (wasTold)
+            tellOfRun({});
         return;
+    }
     tellOfRun([told] {
         QStringList lines;
         for (const Sentence& sentence : told)

@@ -63,7 +63,8 @@ public:
     // A configuration opens in the configuration window, telemetry in this one.
     void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);
-    // What holds for the whole run, in the status line and, until it is closed, in the bar.
+    // What holds for the whole run, in the status line and, until it is closed, in the bar; null when it does
+    // no longer.
     void tellOfRun(const Sentence& text);
 
 protected:
@@ -124,6 +125,7 @@ private:
     std::unique_ptr<SaveNotices> saveNotices_;
     std::unique_ptr<FileNotices> fileNotices_;
     RoadWindows* road_;
+    bool areFoldersTold_ = false; // one of them cannot be used
 };
 
 } // namespace workbench
