@@ -85,6 +85,11 @@ private Q_SLOTS:
             bench.text("label_Report")
                 .contains("\nThe chosen settings of backup No.\u00A01 were brought back."),
             Bench::kPatienceMs);
+        // The report has the keys, also where the system gives them to the window below it.
+        QVERIFY(Bench::comes("dialog_Report"));
+        QApplication::setActiveWindow(list->window());
+        QTRY_COMPARE(QApplication::activeWindow(), Bench::find("dialog_Report"));
+        QVERIFY(Bench::find("pushButton_Close")->hasFocus());
         // What the tracker holds now is what was brought back.
         QTRY_VERIFY_WITH_TIMEOUT(!bench.session().road().isBusy(), Bench::kPatienceMs);
         QCOMPARE(Bench::find<QComboBox>("comboBox_Against")->currentText(), QString("In the tracker now"));
