@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>No server is in use: data are sent nowhere.</translation></message>
     <message id="adv_067"><translation>There is an encryption key, but data are encrypted for no server.</translation></message>
     <message id="adv_068"><translation>Only operators of the list are allowed in roaming, but the list is empty: no data are sent.</translation></message>
+    <message id="adv_190"><translation>Row %1 of the access point (APN) list: %2 is no operator code, which has 5 or 6 digits.</translation></message>
+    <message id="adv_191"><translation>Rows %1 and %2 of the access point (APN) list have the same operator code: %3.</translation></message>
     <message id="cfgt10_001"><translation>Output lines</translation></message>
     <message id="cfgt10_002"><translation>General purpose</translation></message>
     <message id="cfgt10_003"><translation>Buzzer</translation></message>
@@ -1013,6 +1015,7 @@
     <message id="cfgt6_450"><translation>No tracker is attached.</translation></message>
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
+    <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -2039,7 +2042,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
@@ -2085,6 +2088,11 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_311"><translation>End the save</translation></message>
+    <message id="tmiw_312"><translation>Go on saving</translation></message>
+    <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
+    <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2515,7 +2523,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_command_saving"><translation>The command was not sent: a period is being saved. Try again when the save has ended.</translation></message>
     <message id="wb_data_in_use"><translation>Another workbench is open on the data folder %1. Use that one, or start this one with --data and another folder.</translation></message>
     <message id="wb_data_temporary"><translation>The data folder cannot be written (%1). A temporary folder serves until the program ends.</translation></message>
-    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1. Start the workbench with --data and another folder.</translation></message>
     <message id="wb_description"><translation>Workbench for the R-7106 tracker: configuration, telemetry, message log, simulated tracker.</translation></message>
     <message id="wb_detach"><translation>Detach the trac&amp;ker</translation></message>
     <message id="wb_device"><translation>Tracker</translation></message>
@@ -2606,7 +2614,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_file_unwritable"><translation>Cannot write the file %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Choose a folder</translation></message>
     <message id="wb_folder_configurations"><translation>Configurations</translation></message>
+    <message id="wb_folder_replaced"><translation>The folder %1 cannot be used: %2. Until the program ends files go to %3. Choose another one under Data folders.</translation></message>
     <message id="wb_folder_telemetry"><translation>Telemetry</translation></message>
+    <message id="wb_folder_unusable"><translation>No file can be put into %1: %2. Choose another folder.</translation></message>
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>

@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>Ни один сервер не используется: данные никуда не передаются.</translation></message>
     <message id="adv_067"><translation>Ключ шифрования задан, но данные не шифруются ни для одного сервера.</translation></message>
     <message id="adv_068"><translation>В роуминге разрешены только операторы из списка, но список пуст: данные не передаются.</translation></message>
+    <message id="adv_190"><translation>Строка %1 списка точек доступа (APN): %2 — не код оператора, в нём 5 или 6 цифр.</translation></message>
+    <message id="adv_191"><translation>В строках %1 и %2 списка точек доступа (APN) один и тот же код оператора: %3.</translation></message>
     <message id="cfgt10_001"><translation>Выходные линии</translation></message>
     <message id="cfgt10_002"><translation>Общего назначения</translation></message>
     <message id="cfgt10_003"><translation>Зуммер</translation></message>
@@ -1013,6 +1015,7 @@
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
+    <message id="cfgt6_460"><translation>Добавлено, пока показание ещё менялось. Измерьте снова, когда уровень установится.</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -2039,7 +2042,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
@@ -2085,6 +2088,11 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
+    <message id="tmiw_312"><translation>Продолжить</translation></message>
+    <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
+    <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2515,7 +2523,7 @@
     <message id="wb_command_saving"><translation>Команда не отправлена: сохраняется период. Повторите, когда сохранение закончится.</translation></message>
     <message id="wb_data_in_use"><translation>С папкой данных %1 уже работает другое рабочее место. Перейдите в него или запустите это с ключом --data и другой папкой.</translation></message>
     <message id="wb_data_temporary"><translation>В папку данных нельзя писать (%1). До закрытия программы служит временная папка.</translation></message>
-    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1. Запустите программу с --data и другой папкой.</translation></message>
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
     <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Трекер</translation></message>
@@ -2606,7 +2614,9 @@
     <message id="wb_file_unwritable"><translation>Не удалось записать файл %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Выбрать папку</translation></message>
     <message id="wb_folder_configurations"><translation>Конфигурации</translation></message>
+    <message id="wb_folder_replaced"><translation>Папку %1 использовать нельзя: %2. До конца работы программы файлы попадают в %3. Выберите другую в меню «Папки данных».</translation></message>
     <message id="wb_folder_telemetry"><translation>Телеметрия</translation></message>
+    <message id="wb_folder_unusable"><translation>В папку %1 нельзя записать файл: %2. Выберите другую папку.</translation></message>
     <message id="wb_folders"><translation>Папки данных</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Папки данных…</translation></message>
     <message id="wb_folders_use"><translation>Использовать эти папки</translation></message>

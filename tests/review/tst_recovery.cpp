@@ -127,7 +127,7 @@ private:
     }
     static QString keep(const QTemporaryDir& folder, const Unsaved& unsaved)
     {
-        const QString path = vlk::review::recoveryPath(folder.path(), unsaved.subject);
+        QString path = vlk::review::recoveryPath(folder.path(), unsaved.subject);
         QString reason;
         if (!keepUnsaved(path, unsaved, &reason))
             qFatal("%s", qPrintable(reason));

@@ -2,6 +2,7 @@
 
 #include "plugin_names.h"
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/find_field.h"
 #include "window/host_session.h"
@@ -51,7 +52,7 @@ BackupList::BackupList(HostSession& session, QWidget* parent)
     buildTree();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(vlk::grid::kRow);
     column->addWidget(filter_);
     column->addWidget(tree_, 1);
     setFocusProxy(tree_);

@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/languages.h"
 #include "window/scrolling.h"
@@ -113,8 +114,8 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(titleOf(review.tracker));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(9, 9, 9, 9);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    column->setSpacing(vlk::grid::kRow);
     addOrigin(column);
     addCounts(column);
     addTable(column);
@@ -165,7 +166,7 @@ void ReviewWindow::addCount(QHBoxLayout* line, int mark, const QString& text, co
 void ReviewWindow::addCounts(QVBoxLayout* column)
 {
     auto* line = new QHBoxLayout;
-    line->setSpacing(6);
+    line->setSpacing(vlk::grid::kColumn);
     addCount(line, -1,
              review_.changes.isEmpty()
                  ? text("wb_review_same")

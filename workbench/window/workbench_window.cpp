@@ -1,6 +1,7 @@
 #include "window/workbench_window.h"
 
 #include "plugin_names.h"
+#include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
@@ -257,6 +258,9 @@ bool WorkbenchWindow::isConfigurationOpen() const
 void WorkbenchWindow::tellOfRun(const Sentence& text)
 {
     status_->tell(StatusLine::Program, text);
+    // Of a long sentence the line shows the beginning.
+    constexpr int kOfRun = 0;
+    bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::advice, text(), {}}; });
 }
 
 void WorkbenchWindow::tellOpened(const Sentence& failure)
@@ -286,11 +290,34 @@ void WorkbenchWindow::chooseFolders()
 void WorkbenchWindow::applyFolders()
 {
     const auto orOwn = [](const QString& chosen, const QString& own) {
-        return !chosen.isEmpty() && QDir().mkpath(chosen) ? chosen : own;
+        return chosen.isEmpty() ? own : chosen;
     };
     settings_.setFolders(orOwn(settings_.telemetryFolder(), folder_.telemetryFolder()),
                          orOwn(settings_.configurationFolder(), folder_.configurationFolder()));
-    session_.link().setPaths(settings_.telemetryFolder(), settings_.configurationFolder());
+    // One on a drive that is not there stays chosen, for the day when it is.
+    std::vector<Sentence> told;
+    const auto inThisRun = [&told](const QString& chosen, const QString& own) {
+        const QString reason = whyNotWritable(chosen);
+        if (reason.isEmpty())
+            return chosen;
+        told.emplace_back([chosen, own, reason] {
+            return text("wb_folder_replaced")
+                .arg(QDir::toNativeSeparators(chosen), vlk::fileErrorText(reason),
+                     QDir::toNativeSeparators(own));
+        });
+        return own;
+    };
+    const QString telemetry = inThisRun(settings_.telemetryFolder(), folder_.telemetryFolder());
+    const QString configuration = inThisRun(settings_.configurationFolder(), folder_.configurationFolder());
+    session_.link().setPaths(telemetry, configuration);
+    if (told.empty())
+        return;
+    tellOfRun([told] {
+        QStringList lines;
+        for (const Sentence& sentence : told)
+            lines << sentence();
+        return lines.join(QLatin1Char('\n'));
+    });
 }
 
 void WorkbenchWindow::setMode(int mode)

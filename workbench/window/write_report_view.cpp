@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/host_session.h"
 #include "window/line_icon.h"
@@ -62,13 +63,15 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     back_ = addButton("pushButton_BringBack", &WriteReportView::bringBack);
 
     auto* line = new QHBoxLayout;
+    for (QHBoxLayout* row : {line, buttons_})
+        row->setSpacing(vlk::grid::kColumn);
     line->addWidget(symbol_, 0, Qt::AlignTop);
     line->addWidget(summary_, 1, Qt::AlignTop);
     line->addWidget(time_, 0, Qt::AlignTop);
     line->addWidget(copy_, 0, Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundWindow);
+    column->setSpacing(vlk::grid::kRow);
     column->addLayout(line);
     column->addWidget(table_, 1);
     column->addLayout(buttons_);
