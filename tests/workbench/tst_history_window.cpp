@@ -28,6 +28,8 @@ private Q_SLOTS:
                    table->model()->index(0, 2).data().toString();
         };
         QCOMPARE(values(), before + ">Van 1");
+        const auto tracker = [list] { return list->topLevelItem(0)->text(0); };
+        QCOMPARE(tracker(), QString("860000000071060 Van 2")); // as it is called now
         QTRY_COMPARE_WITH_TIMEOUT(list->topLevelItem(0)->child(0)->text(2), QString("1"), Bench::kPatienceMs);
         QApplication::setActiveWindow(list->window());
         QTest::keyClick(list, Qt::Key_Down);
@@ -85,6 +87,12 @@ private Q_SLOTS:
             bench.text("label_Report")
                 .contains("\nThe chosen settings of backup No.\u00A01 were brought back."),
             Bench::kPatienceMs);
+        // The report has the keys, also where the system gives them to the window below it.
+        QVERIFY(Bench::comes("dialog_Report"));
+        QApplication::setActiveWindow(list->window());
+        QTRY_COMPARE(QApplication::activeWindow(), Bench::find("dialog_Report"));
+        QVERIFY(Bench::find("pushButton_Close")->hasFocus());
+        QCOMPARE(tracker(), "860000000071060 " + before);
         // What the tracker holds now is what was brought back.
         QTRY_VERIFY_WITH_TIMEOUT(!bench.session().road().isBusy(), Bench::kPatienceMs);
         QCOMPARE(Bench::find<QComboBox>("comboBox_Against")->currentText(), QString("In the tracker now"));

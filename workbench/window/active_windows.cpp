@@ -5,6 +5,19 @@
 
 namespace workbench {
 
+namespace {
+
+bool liesBelow(const QWidget* window, const QWidget* dialog)
+{
+    for (const QWidget* below = dialog->parentWidget(); below; below = below->parentWidget()) {
+        if (below == window)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 ActiveWindows::ActiveWindows(QObject* application) : QObject(application)
 {
     application->installEventFilter(this);
@@ -38,6 +51,17 @@ bool ActiveWindows::eventFilter(QObject* object, QEvent* event)
     auto* window = static_cast<QWidget*>(object);
     if (!window->isWindow() || window->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus))
         return false;
+    // One below a dialog takes no keys: where the system gives it the keyboard all the same, as windows come
+    // and go within moments, nothing would take them.
+    QPointer<QWidget> dialog = QApplication::activeModalWidget();
+    if (dialog && liesBelow(window, dialog))
+        QMetaObject::invokeMethod(
+            this,
+            [dialog] {
+                if (dialog && dialog->isVisible() && dialog == QApplication::activeModalWidget())
+                    dialog->activateWindow();
+            },
+            Qt::QueuedConnection);
     windows_.removeAll(nullptr);
     windows_.removeAll(window);
     windows_.append(window);

@@ -20,6 +20,7 @@ namespace workbench {
 namespace {
 
 constexpr int kListIndent = 12;
+constexpr int kTrackerRole = Qt::UserRole + 1; // its number
 
 enum Column { Moment, Number, Changes, Note, ColumnCount };
 constexpr const char* kColumnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
@@ -108,6 +109,7 @@ void BackupList::fill()
         QTreeWidgetItem*& tracker = trackers[backup.tracker];
         if (!tracker) {
             tracker = new QTreeWidgetItem({backup.tracker + QLatin1Char(' ') + backup.name});
+            tracker->setData(0, kTrackerRole, backup.tracker);
             tree_->insertTopLevelItem(backup.tracker == attached ? 0 : tree_->topLevelItemCount(), tracker);
             tracker->setFirstColumnSpanned(true);
             tracker->setExpanded(true);
@@ -123,9 +125,21 @@ void BackupList::fill()
             uncounted_.append(backup.number);
     }
     tree_->resizeColumnToContents(Number);
+    nameAttached();
     filter();
     if (!uncounted_.isEmpty())
         counting_.start();
+}
+
+// A backup holds what its tracker was called before.
+void BackupList::nameAttached()
+{
+    const TrackerIdentity attached = session_.attachedTracker();
+    for (int top = 0; top < tree_->topLevelItemCount(); ++top) {
+        QTreeWidgetItem* tracker = tree_->topLevelItem(top);
+        if (attached.isAttached() && tracker->data(0, kTrackerRole) == attached.number)
+            tracker->setText(0, attached.number + QLatin1Char(' ') + attached.name);
+    }
 }
 
 int BackupList::newest() const

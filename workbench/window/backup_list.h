@@ -39,6 +39,8 @@ public:
     // 0 while there is none.
     int newest() const;
     void select(int backup);
+    // It may be called otherwise now.
+    void nameAttached();
     void retranslate() { texts_.apply(); }
 
 Q_SIGNALS:

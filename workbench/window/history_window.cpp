@@ -83,6 +83,7 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     connect(&session_.tracker(), &tracker::SimulatedTracker::attachedChanged, this, &HistoryWindow::fill);
     // It may hold something else now.
     connect(&session_.road(), &WriteRoad::ended, this, [this] {
+        list_->nameAttached();
         if (other_->currentData() == TheTracker)
             compare();
     });

@@ -53,6 +53,7 @@ public:
     // Null when the file is a whole configuration of this model; else it says why it would not open.
     Sentence whyNotOpened(const QString& path) const;
 
+    TrackerIdentity attachedTracker() const { return port_.tracker(); }
     // What the tracker holds now; none, with why, when it does not come.
     std::optional<QByteArray> present(Sentence& why);
     // Put on the write road. Null, or why it is not; what becomes of it there its report tells.

@@ -223,6 +223,7 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
                               qMin(sizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
                       : QSize(kWidthOfWords, dialog->heightForWidth(kWidthOfWords)));
     dialog->open();
+    dialog->activateWindow();
     close->setFocus();
 }
 
