@@ -1718,7 +1718,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_490"><translation>Records are still being exported. End the export? No file is written then.</translation></message>
     <message id="rec_491"><translation>End the export</translation></message>
     <message id="rec_510"><translation>The name ends with .%1, but the form is: %2.</translation></message>
-    <message id="rec_511"><translation>%1, by the filter: %2</translation></message>
+    <message id="rec_511"><translation>On show are the records by the filter: %1</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

@@ -1718,7 +1718,7 @@
     <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
     <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
-    <message id="rec_511"><translation>%1 по фильтру: %2</translation></message>
+    <message id="rec_511"><translation>Показаны записи по фильтру: %1</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

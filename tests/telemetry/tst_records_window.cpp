@@ -83,14 +83,12 @@ private Q_SLOTS:
         QCOMPARE(table_->findChild<QWidget*>("pushButton_Empty")->isVisible(), numbers.isEmpty());
         const auto* frozen = child<QTableView>("tableWidget_Frozen");
         QTRY_COMPARE(frozen->height() > frozen->horizontalHeader()->height(), !numbers.isEmpty());
-        // Of another filter in the field, also one that cannot be read, nothing is shown, which is told.
+        // Of one that cannot be read nothing is shown: what is on show is told with the fault.
         type("lineEdit_Filter", "Power > fast");
         pressInFilter(Qt::Key_Return);
-        QCOMPARE(text("label_FilterFault"), QString("rec_005"));
-        QCOMPARE(text("label_Count"), QString("rec_511"));
-        QCOMPARE(child<QLabel>("label_Count")->toolTip(), typed);
-        type("lineEdit_Filter", typed);
+        QCOMPARE(text("label_FilterFault"), QString("rec_005 rec_511"));
         QCOMPARE(text("label_Count"), QString("rec_052"));
+        type("lineEdit_Filter", typed);
         pressInFilter(Qt::Key_Return);
         // Sorting keeps to them, and Esc gives back what is applied before it closes the window.
         table_->sortByColumn(column("NumPage"), Qt::DescendingOrder);

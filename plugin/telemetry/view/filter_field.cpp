@@ -96,7 +96,6 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     grid->addWidget(fault_, 1, 1);
     grid->setColumnStretch(1, 1);
     connect(line_, &QLineEdit::textEdited, this, &FilterField::offer);
-    connect(line_, &QLineEdit::textChanged, this, &FilterField::edited);
     connect(line_, &QLineEdit::returnPressed, this, &FilterField::applyTyped);
     connect(latest_, &QAction::triggered, this, &FilterField::offerLatest);
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
@@ -194,11 +193,6 @@ void FilterField::complete(const QString& text)
     line_->insert(text + QLatin1Char(' '));
 }
 
-QString FilterField::appliedInstead() const
-{
-    return line_->text() == applied_ ? QString() : applied_;
-}
-
 bool FilterField::giveBack()
 {
     if (line_->text() == applied_)
@@ -224,7 +218,8 @@ void FilterField::applyTyped()
         // In words of the language of the moment.
         tell([this, text] {
             const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
-            return tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            const QString told = tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            return isApplied() ? told + QLatin1Char(' ') + tr("rec_511").arg(applied_) : told;
         });
         return;
     }

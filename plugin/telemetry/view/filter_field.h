@@ -3,7 +3,7 @@
 // The field above the table in which the records to be shown are asked for. Names and words are completed as
 // they are typed; Enter applies, an empty field shows all, and an arrow in it, or Down, gives the filters
 // that were applied last. What cannot be read is told below, with the place and with what was expected there,
-// and changes nothing.
+// and changes nothing: the filter that stays on show is told with it.
 
 #include "telemetry/files/filter_parser.h"
 
@@ -34,8 +34,6 @@ public:
     void apply(const QString& text);
     void clear() { apply({}); }
     bool isApplied() const { return !applied_.isEmpty(); }
-    // What is applied while the field holds something else; empty where it is the same, or nothing.
-    QString appliedInstead() const;
     // What is applied, in place of what was typed since; false where nothing was.
     bool giveBack();
     // The cell as a condition.
@@ -46,7 +44,6 @@ public:
 
 Q_SIGNALS:
     void applied();
-    void edited();
 
 private:
     void offer();
