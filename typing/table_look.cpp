@@ -220,7 +220,11 @@ QString tableText(const QAbstractItemView& table, CopiedRows rows)
     const bool all = rows == CopiedRows::all || table.selectionMode() == QAbstractItemView::NoSelection;
     for (int row = 0; row < model.rowCount(); ++row) {
         if (!isHidden(table, row) && (all || table.selectionModel()->rowIntersectsSelection(row, {})))
-            addLine([&](int column) { return model.index(row, column).data().toString(); });
+            addLine([&](int column) {
+                const QModelIndex index = model.index(row, column);
+                const QVariant copied = index.data(kCopiedRole);
+                return (copied.isValid() ? copied : index.data()).toString();
+            });
     }
     return text;
 }

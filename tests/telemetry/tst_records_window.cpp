@@ -154,6 +154,26 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), child<QLineEdit>("lineEdit_Filter"));
     }
 
+    // F1 tells of the part of the window that has the keyboard.
+    void helpOfEachPart()
+    {
+        show(drive());
+        const auto page = [this] {
+            host_.sent.clear();
+            QTest::keyClick(window->focusWidget(), Qt::Key_F1);
+            return host_.takeSent(Message::ShowHelp).value(0).text2;
+        };
+        QCOMPARE(page(), QString("r-7106records.html"));
+        const auto* views = child<QTabWidget>("tabWidget_Views");
+        for (int view = 0; view < views->count(); ++view) {
+            QTest::keyClick(window->focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+            const bool isTrack = views->tabText(views->currentIndex()) == QLatin1String("rec_199");
+            QCOMPARE(page(), QString(isTrack ? "r-7106records.html" : "r-7106fuelList.html"));
+        }
+        child<QTableView>("tableView_Fuel")->setFocus();
+        QCOMPARE(page(), QString("r-7106fuelList.html"));
+    }
+
     // The latest one first, for all files, in words of the language of the moment.
     void latestFilters()
     {

@@ -325,6 +325,9 @@ private Q_SLOTS:
             send(Message::RecordByNumber, each);
         QCOMPARE(rows(), 4);
         QCOMPARE(number(3), QString("11"));
+        // What the file lacks is told, and which of them nobody has read.
+        const auto told = [records] { return ScriptedHost::child<QLabel>(records, "label_Damage")->text(); };
+        QCOMPARE(told(), QString("rec_543 rec_544"));
         // Where the user is, what is selected and the filter stay.
         table->selectRow(2);
         QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
@@ -348,6 +351,7 @@ private Q_SLOTS:
         QCOMPARE(number(0), QString("16"));
         QCOMPARE(number(table->currentIndex().row()), QString("11"));
         host.send(Message::TrackerDetached);
+        QCOMPARE(told(), QString("rec_543 rec_544 rec_545"));
         open();
         // Nor are they told as those of the tracker that comes next.
         QCOMPARE(text("label_SavedInPart"), QString());
@@ -356,6 +360,7 @@ private Q_SLOTS:
         // It ended before what is already known.
         startSave(7, 8);
         show();
+        QCOMPARE(told(), QString());
         send(Message::RecordByNumber, 18);
         QCOMPARE(rows(), 2);
         // Nor does a part: in front of its last record some are missing.

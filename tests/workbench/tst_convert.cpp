@@ -211,6 +211,24 @@ private Q_SLOTS:
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
     }
 
+    // More than is kept in memory between the two times that they are read; the last one has other fields.
+    void manyRecords()
+    {
+        std::mt19937 random(7106);
+        FieldMask all = FieldMask::fromText(std::string(kFieldCount, '1'));
+        const QByteArray mask(reinterpret_cast<const char*>(all.bytes().data()), FieldMask::kBytes);
+        const QByteArray record = "\xb0\x1e" + mask + randomBytes(random, all.payloadSize());
+        RecordStore store;
+        for (int i = 0; i < 30'000; ++i)
+            store.add(bytesAt(record.constData(), record.size()));
+        const QByteArray packet = packetBytes(kSecondHead + cardEntry("AB 12345"));
+        store.add(bytesAt(packet.constData(), packet.size()));
+        put("large.tmi", fileOf(ExportForm::tmi, store, {}));
+        const auto [status, told, complaints] = run({"convert", "large.tmi", "--to", "tmi"});
+        QCOMPARE(complaints, QByteArray());
+        QVERIFY(told == readFile(path("large.tmi")));
+    }
+
     // What a form has no place for is told, and is no fault.
     void leavesOut_data()
     {

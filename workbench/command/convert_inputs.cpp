@@ -85,16 +85,17 @@ void TelemetryInputs::take(const File& file)
     const bool isDamaged = kind == FileKind::unknown &&
                            file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
                            beginsWithRecords(*device);
+    const bool isXml = !isDamaged && !vlk::looksBinary(vlk::bytesAt(start.constData(), start.size()));
     if (kind == FileKind::telemetry || isDamaged)
-        add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr);
+        add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr, isXml);
     else if (file.isNamed || kind == FileKind::unknown)
         refuse(file, text(isBlank(start) ? "cli_004" : "cli_212"));
 }
 
-void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device)
+void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device, bool isXml)
 {
     folders_.found(file);
-    files_.push_back({file, std::move(device)});
+    files_.push_back({file, std::move(device), isXml});
 }
 
 void TelemetryInputs::refuse(const File& file, const QString& reason)

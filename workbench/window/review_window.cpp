@@ -27,7 +27,7 @@ namespace {
 
 // Nobody has read anything before.
 constexpr int kUnseenMs = 300;
-constexpr QSize usualSize(760, 420);
+constexpr QSize kUsualSize(760, 420);
 constexpr int kLongestNote = 240; // signs; all of it is in the tool tip
 constexpr int kRoomAround = 130;  // what stands above and below the table
 
@@ -94,7 +94,7 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     addAdvice(column);
     addButtons(column);
     const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
-    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), kRoomAround + heightOfRows(*table))});
+    resizeWithin(this, {kUsualSize.width(), qMin(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)

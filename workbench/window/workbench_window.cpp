@@ -43,7 +43,7 @@ enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
 constexpr const char* kTabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
 constexpr int kLeftWidth = 290;
 const QString kCommandQuestion = QStringLiteral("messageBox_Command");
-constexpr QSize usualSize(1024, 600);
+constexpr QSize kUsualSize(1024, 600);
 
 } // namespace
 
@@ -402,7 +402,7 @@ void WorkbenchWindow::retranslate()
 
 void WorkbenchWindow::restoreLayout()
 {
-    resize(usualSize);
+    resize(kUsualSize);
     restoreGeometry(settings_.layout(objectName()));
     if (!isMaximized())
         resizeWithin(this, size());

@@ -14,7 +14,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QImage>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -186,7 +185,7 @@ void CurvesView::retranslate()
     menu->addAction(tr("rec_187"), this, &CurvesView::askPicture);
     menu->addAction(tr("rec_188"), this, &CurvesView::askTable);
     menu->addAction(tr("rec_189"), this, [this] {
-        handOver_->print([this](QPainter& painter, const QSize& size) { paint(painter, size); });
+        handOver_->print([this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
     });
     handOverMenu_->setMenu(menu);
     fillPresets();
@@ -300,9 +299,14 @@ void CurvesView::keepInSight(int record)
         records_->setInSight(holding(records_->inSight(), time, records_->wholeTime()));
 }
 
-void CurvesView::paint(QPainter& painter, const QSize& size) const
+void CurvesView::paint(QPainter& painter, const QSize& size, const TimeSpan& span) const
 {
-    paintCurves(painter, size, *model_, records_->inSight(), title_);
+    paintCurves(painter, size, *model_, span, title_);
+}
+
+void CurvesView::paintInSight(QPainter& painter, const QSize& size) const
+{
+    paint(painter, size, records_->inSight());
 }
 
 bool CurvesView::write(QIODevice& device) const
@@ -310,28 +314,19 @@ bool CurvesView::write(QIODevice& device) const
     return writeCurves(device, *model_, records_->inSight());
 }
 
-QImage CurvesView::picture(const TimeSpan& span, const QSize& size) const
-{
-    QImage image(size * kPicturePixels, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(kPicturePixels, kPicturePixels);
-    paintCurves(painter, size, *model_, span, title_);
-    return image;
-}
-
 void CurvesView::saveTo(const QString& path)
 {
     if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
         handOver_->saveTable(path, [this](QIODevice& device) { return write(device); });
     else
-        handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+        handOver_->savePicture(path,
+                               [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 void CurvesView::askPicture()
 {
     handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, presets_->currentText()).trimmed(),
-                          [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+                          [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 void CurvesView::askTable()

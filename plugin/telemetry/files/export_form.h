@@ -58,6 +58,11 @@ struct ExportAhead
     quint32 crc = 0; // of the records in the binary form
 
     void add(const RecordStore& store, std::span<const int> records, ExportForm form);
+    // Whether forms that have columns have the same ones for both.
+    bool hasFieldsOf(const ExportAhead& other) const
+    {
+        return fields == other.fields && hasPackets == other.hasPackets;
+    }
 };
 
 struct ExportOptions

@@ -18,7 +18,7 @@ public:
     // From the present position of the device, which counts as 0.
     explicit TelemetryBinaryReader(QIODevice& device);
 
-    // A record or a damage; false at the end.
+    // Some records or a damage; false at the end.
     bool step();
     qint64 position() const { return input_.position(); }
     // Between steps what was read so far may be taken out of the records.
@@ -35,6 +35,7 @@ private:
     bool headAhead(std::size_t ahead);
     std::size_t oddRecordHere();
     void takeRecord(std::size_t size);
+    void takeAlike(std::span<const std::uint8_t> head, std::size_t size);
     void passDamage();
     bool recordIsCutHere();
     void report(FileDamage::Kind kind, qint64 offset, qint64 bytes);

@@ -10,7 +10,6 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QImage>
 #include <QLabel>
 #include <QLineF>
 #include <QLocale>
@@ -142,7 +141,7 @@ void TrackView::retranslate()
     canvas_->setWhatsThis(tr("rec_200"));
     delete handOverMenu_->menu();
     auto* const menu = new QMenu(handOverMenu_);
-    const auto painted = [this](QPainter& painter, const QSize& size) { paint(painter, size); };
+    const auto painted = [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); };
     menu->addAction(tr("rec_187"), this, [this, painted] {
         handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, tr("rec_199")).trimmed(), painted);
     });
@@ -186,7 +185,7 @@ void TrackView::showPlace()
     canvas_->setAccessibleDescription(text);
 }
 
-void TrackView::paint(QPainter& painter, const QSize& size) const
+void TrackView::paintInSight(QPainter& painter, const QSize& size) const
 {
     const TimeSpan span = model_->isSpanOnly() ? records_->inSight() : records_->wholeTime();
     const qint32 offset = records_->utcOffset();
@@ -201,20 +200,16 @@ void TrackView::paint(QPainter& painter, const QSize& size) const
     paintTrack(painter, room, *model_, canvas_->sightIn(room), model_->shownTime(), paperPalette());
 }
 
-QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
+void TrackView::paint(QPainter& painter, const QSize& size, const TimeSpan& span) const
 {
-    QImage image(size * kPicturePixels, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(kPicturePixels, kPicturePixels);
     const TrackPart part = partIn(model_->path(), span);
     paintTrack(painter, size, *model_, sightOf(part.bounds, size), part.span, paperPalette());
-    return image;
 }
 
 void TrackView::saveTo(const QString& path)
 {
-    handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+    handOver_->savePicture(path,
+                           [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 } // namespace vlk
