@@ -1719,6 +1719,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_491"><translation>End the export</translation></message>
     <message id="rec_510"><translation>The name ends with .%1, but the form is: %2.</translation></message>
     <message id="rec_511"><translation>On show are the records by the filter: %1</translation></message>
+    <message id="rec_512"><translation>No record holds: %1.</translation></message>
     <message id="rec_540"><translation>Type the volume and the reading of a point above and press Enter, or paste rows of a spreadsheet: the volume first, unless headings tell otherwise.</translation></message>
     <message id="rec_541"><translation>The columns have no headings. The first one is taken as: %1.</translation></message>
     <message id="rec_542"><translation>Swap the columns</translation></message>

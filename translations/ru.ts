@@ -1715,10 +1715,11 @@
     <message id="rec_473"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края, и рост или падение не видны.</translation></message>
     <message id="rec_474"><translation>Заправлено, л</translation></message>
     <message id="rec_475"><translation>Слито, л</translation></message>
-    <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
+    <message id="rec_490"><translation>Экспорт записей ещё идёт. Прекратить его? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
     <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
     <message id="rec_511"><translation>Показаны записи по фильтру: %1</translation></message>
+    <message id="rec_512"><translation>Ни в одной записи нет: %1.</translation></message>
     <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
     <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
     <message id="rec_542"><translation>Поменять столбцы местами</translation></message>

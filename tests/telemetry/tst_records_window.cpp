@@ -60,6 +60,7 @@ private Q_SLOTS:
             .row("event that there is not", "Code = \"events 41\"", {}, "rec_005")
             .row("conditions", "NumPage < 1003 and not IN1 = 1", {"1000", "1002"}, {})
             .row("nothing", "Power < 1", {}, {})
+            .row("column that the file lacks", "Power > 1 or GSM > 1", {}, "rec_512")
             .row("fault", "NumPage < ", {}, "rec_005");
     }
     void filter()

@@ -223,7 +223,7 @@ void FilterField::applyTyped()
         });
         return;
     }
-    tell({});
+    tellAbsent(*parsed.filter);
     applied_ = text;
     keepFilter(parsed.filter->text());
     ShownRecords::Passes passes;
@@ -278,12 +278,34 @@ QString FilterField::hourAround(int record)
     return inWords({nodes::inside(item("Time"), {time - kHalfAnHour, time + kHalfAnHour})});
 }
 
-void FilterField::tell(const std::function<QString()>& fault)
+void FilterField::tell(const std::function<QString()>& sentence, Mark mark)
 {
-    told_ = fault;
-    fault_->setText(fault ? fault() : QString());
-    fault_->setVisible(bool(fault));
-    markField(line_, MarkReason::typing, Mark::invalid, fault_->text());
+    told_ = sentence;
+    mark_ = mark;
+    fault_->setText(sentence ? sentence() : QString());
+    fault_->setVisible(bool(sentence));
+    markField(line_, MarkReason::typing, mark, fault_->text());
+}
+
+// Columns that no record holds: nothing meets a condition on them, which is not what a value says.
+void FilterField::tellAbsent(const Filter& filter)
+{
+    std::vector<FilterColumn> absent = filter.columns();
+    std::erase_if(absent, [this](const FilterColumn& column) {
+        const RecordStore& records = shown_->records();
+        return std::ranges::any_of(records.layouts(),
+                                   [&](const RecordLayout& layout) { return layout.has(elementOf(column)); });
+    });
+    if (absent.empty() || shown_->records().empty())
+        return tell({});
+    tell(
+        [this, absent] {
+            QStringList words;
+            for (const FilterColumn& column : absent)
+                words << columnInWords(column, names(), *model_);
+            return tr("rec_512").arg(words.join(QStringLiteral(", ")));
+        },
+        Mark::advice);
 }
 
 void FilterField::retranslate()
@@ -293,7 +315,7 @@ void FilterField::retranslate()
     line_->setPlaceholderText(tr("rec_002"));
     line_->setToolTip(tr("rec_003"));
     latest_->setToolTip(tr("rec_300"));
-    tell(told_);
+    tell(told_, mark_);
 }
 
 } // namespace vlk

@@ -6,6 +6,7 @@
 // and changes nothing: the filter that stays on show is told with it.
 
 #include "telemetry/files/filter_parser.h"
+#include "typing/field_mark.h"
 
 #include <QWidget>
 
@@ -50,7 +51,8 @@ private:
     void complete(const QString& text);
     void applyTyped();
     void offerLatest();
-    void tell(const std::function<QString()>& fault);
+    void tell(const std::function<QString()>& sentence, Mark mark = Mark::invalid);
+    void tellAbsent(const Filter& filter);
     const FilterNames& names();
     void addEvent(quint32 code);
     // Asks the host for the words of events that this file lacks, where it cannot be read without.
@@ -69,6 +71,7 @@ private:
     std::optional<FilterNames> names_; // of this file, made when they are asked for
     bool hasAllEvents_ = false;
     std::function<QString()> told_;
+    Mark mark_ = Mark::invalid;
     QString applied_;
 };
 
