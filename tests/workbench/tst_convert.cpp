@@ -66,6 +66,7 @@ private Q_SLOTS:
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
         put("headless.tmi", QByteArray(64, '\xA5') + readFile(path("a.tmi")).mid(64));
+        put("frontless.xml", readFile(path("b.xml")).mid(readFile(path("b.xml")).indexOf("<Code>")));
         QDir(folder_.path()).mkdir("foreign");
         for (const char* page : {"page.tmi", "foreign/page.tmi"})
             put(page, "<html><body><p>Not found</p></body></html>");
@@ -192,6 +193,26 @@ private Q_SLOTS:
         run(arguments + QStringList{"-o", "there.csv"}, readFile(path("a.tmi")));
         const QByteArray mark = call.contains("--to csv") && !call.contains("csv-text") ? "\xEF\xBB\xBF" : "";
         QCOMPARE(readFile(path("there.csv")), told.isEmpty() ? QByteArray("before") : mark + told);
+    }
+
+    // What has lost its beginning is what its records say, for each command.
+    void withoutBeginning_data()
+    {
+        DataTable<QString, int>({"file", "records"})
+            .row("XML", "frontless.xml", 2)
+            .row("binary", "headless.tmi", 3);
+    }
+    void withoutBeginning()
+    {
+        QFETCH(QString, file);
+        QFETCH(int, records);
+        const auto [status, told, complaints] = run({"info", "--json", file});
+        QCOMPARE(status, 1);
+        QVERIFY2(told.contains("\"what\":\"telemetry\",\"model\":null"), told.constData());
+        QVERIFY2(told.contains("\"records\":" + QByteArray::number(records)), told.constData());
+        QCOMPARE(std::get<1>(run({"convert", file, "--to", "csv", "--columns", "NumPage"})).count('\n'),
+                 records + 1);
+        QVERIFY(!std::get<2>(run({"fuel", file})).contains("is not telemetry"));
     }
 
     // The same bytes that a save in the windows gives, from either form.
