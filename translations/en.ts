@@ -1498,6 +1498,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_330"><translation>it is closed</translation></message>
     <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
+    <message id="cli_340"><translation>%1: none holds %2</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

@@ -1498,6 +1498,7 @@
     <message id="cli_330"><translation>закрыт</translation></message>
     <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
+    <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

@@ -130,6 +130,8 @@ private Q_SLOTS:
                  "r7106: no record meets the conditions\n")
             .row("no table either", "a.tmi --to csv --where Power>9", 1, "",
                  "r7106: no record meets the conditions\n")
+            .row("a column that there is not", "a.tmi --to csv --where GSM>9_or_Power>9", 1, "",
+                 "r7106: no record meets the conditions: none holds GSM\n")
             .row("no place for a track", "a.tmi --to geojson", 1, "",
                  "r7106: no record has coordinates for a track\n")
             .row("what is foreign", "page.tmi program.tmi a.tmi --to csv --merge --where NumPage=1", 2,

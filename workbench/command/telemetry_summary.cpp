@@ -52,7 +52,8 @@ TelemetrySummary summaryOf(QIODevice& device, const QString& name)
     vlk::TelemetryReader reader(device, name, vlk::TelemetryReading::salvage);
     if (!reader.isBinary())
         summary.model = modelOf(start);
-    else if (vlk::looksBinary(vlk::bytesAt(start.constData(), start.size())))
+    else if (start.size() >= int{vlk::binary::kHeaderBytes} &&
+             vlk::looksBinary(vlk::bytesAt(start.constData(), start.size())))
         summary.model = QString::fromLatin1(
             start.mid(vlk::binary::kModelAt, vlk::binary::kModelBytes).split('\0').first());
     Counter counter(&summary);
