@@ -470,6 +470,13 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(rows(), pages, 60'000);
         QCOMPARE(text("label_Damage"), QString());
 
+        // Esc that comes late for what took a while closes nothing.
+        exportTo(ExportForm::xml, folder_.filePath("late.xml"));
+        QTRY_VERIFY(bar->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!bar->isVisible(), 60'000);
+        QTest::keyClick(table_, Qt::Key_Escape);
+        QVERIFY(window->isVisible());
+
         // An export does not go on unseen.
         const QString out = folder_.filePath("all.xml");
         exportTo(ExportForm::xml, out);

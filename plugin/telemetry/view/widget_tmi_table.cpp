@@ -296,6 +296,8 @@ bool VLK_Widget_Tmi_Table::stepBack()
         qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget());
     if (progress_->isRunning()) {
         Q_EMIT progress_->cancelled();
+    } else if (progress_->hasJustEnded()) {
+        return true;
     } else if (findBar_->isVisible()) {
         findBar_->close();
     } else if (filter_->giveBack()) {
