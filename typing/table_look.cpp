@@ -137,8 +137,11 @@ void dressCells(QAbstractItemView* view)
 void addCopy(QAbstractItemView* view)
 {
     auto* copy = new QShortcut(QKeySequence::Copy, view, nullptr, nullptr, Qt::WidgetShortcut);
-    QObject::connect(copy, &QShortcut::activated, view,
-                     [view] { QApplication::clipboard()->setText(tableText(*view)); });
+    QObject::connect(copy, &QShortcut::activated, view, [view] {
+        // Heads alone would cost what is held there, for nothing.
+        if (const QString text = tableText(*view); text.count(QLatin1Char('\n')) > 1)
+            QApplication::clipboard()->setText(text);
+    });
 }
 
 } // namespace
@@ -217,15 +220,21 @@ QString tableText(const QAbstractItemView& table, CopiedRows rows)
         text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
     };
     addLine([&](int column) { return model.headerData(column, Qt::Horizontal).toString(); });
-    const bool all = rows == CopiedRows::all || table.selectionMode() == QAbstractItemView::NoSelection;
+    QVector<int> shown;
+    QVector<int> chosen;
     for (int row = 0; row < model.rowCount(); ++row) {
-        if (!isHidden(table, row) && (all || table.selectionModel()->rowIntersectsSelection(row, {})))
-            addLine([&](int column) {
-                const QModelIndex index = model.index(row, column);
-                const QVariant copied = index.data(kCopiedRole);
-                return (copied.isValid() ? copied : index.data()).toString();
-            });
+        if (isHidden(table, row))
+            continue;
+        shown << row;
+        if (table.selectionModel()->rowIntersectsSelection(row, {}))
+            chosen << row;
     }
+    for (const int row : rows == CopiedRows::all || chosen.isEmpty() ? shown : chosen)
+        addLine([&](int column) {
+            const QModelIndex index = model.index(row, column);
+            const QVariant copied = index.data(kCopiedRole);
+            return (copied.isValid() ? copied : index.data()).toString();
+        });
     return text;
 }
 

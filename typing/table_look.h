@@ -2,7 +2,7 @@
 
 // How tables look in the windows of either program: low rows that alternate, texts with room on both sides, a
 // grid only where cells are edited, no row numbers. A text that has no room is told by its tool tip. Where
-// nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none can be
+// nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none is
 // chosen.
 
 #include <QString>

@@ -22,27 +22,10 @@ namespace {
 
 constexpr int kPresetDelayMs = 200;
 
-// The quick window reads an access point of no known operator as the automatic choice. Where it has another
-// one than before, the operator is the one that the full window finds.
-void followPresets(const Presets& presets, const Values& before, const Values& read,
-                   const Configuration& configuration, std::vector<QString>* held)
-{
-    const bool isSame = std::ranges::all_of(
-        presets.fields, [&](const Path& field) { return read.value(field.row) == before.value(field.row); });
-    if (!presets.other || isSame)
-        return;
-    const int trigger = presets.trigger.row;
-    (*held)[trigger] = configuration.value(read.row(trigger).path);
-    for (const Sets& rule : read.table().all<Sets>()) {
-        if (rule.when.row == trigger)
-            (*held)[rule.path.row] = read.value(rule.path.row);
-    }
-}
-
 } // namespace
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
-    : QObject(parent), history_(history), isQuick_(std::move(isQuick)), present_(allSettings()),
+    : QObject(parent), history_(history), open_(history, std::move(isQuick)), present_(allSettings()),
       quickAsItCame_(kQuickSettings)
 {
     presetDue_.setSingleShot(true);
@@ -70,7 +53,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     newInFull_.reset();
     if (!root && isQuick()) {
         XmlDocument document(this->document(), QStringLiteral("DEVICE"));
-        Configuration loaded = configuration();
+        Configuration loaded = open_.inFull();
         loaded.read(*document.root());
         newInFull_ = FileState::ofConfiguration(loaded);
     }
@@ -88,7 +71,7 @@ void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asIt
     if (root) {
         readFrom(*root, quickAsItCame_);
     } else if (isQuick()) {
-        quickAsItCame_.putBack(history_.pages().back()->values().held());
+        quickAsItCame_.putBack(open_.quickPage().values().held());
     } else {
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
         asItCame.write(*document.root());
@@ -249,70 +232,6 @@ int ConfigurationReview::edited() const
         std::ranges::count_if(strangers, [this](const auto& stranger) { return !isAnew(stranger); }));
 }
 
-Configuration ConfigurationReview::configuration() const
-{
-    Configuration all(allSettings());
-    for (Values& values : all.tables()) {
-        for (const PageSettings* page : history_.pages()) {
-            if (&page->values().table() == &values.table())
-                values.putBack(page->values().held());
-        }
-    }
-    return all;
-}
-
-void ConfigurationReview::write(CXmlSection& root) const
-{
-    configuration().write(root);
-    if (isQuick())
-        writeTo(root, history_.pages().back()->values());
-    root.commit();
-}
-
-QByteArray ConfigurationReview::document() const
-{
-    XmlDocument document(QString(), QStringLiteral("DEVICE"));
-    write(*document.root());
-    return document.text();
-}
-
-QMap<QString, QString> ConfigurationReview::quickValues() const
-{
-    QMap<QString, QString> texts;
-    if (!isQuick())
-        return texts;
-    const Values& values = history_.pages().back()->values();
-    for (int row = 0; row < values.count(); ++row)
-        texts.insert(values.row(row).path, values.held()[row]);
-    return texts;
-}
-
-Configuration ConfigurationReview::written() const
-{
-    Configuration all = configuration();
-    if (isQuick()) {
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        write(*document.root());
-        review::readAsEdited(all, *document.root());
-    }
-    return all;
-}
-
-PageSettings* ConfigurationReview::pageOf(int table) const
-{
-    for (PageSettings* page : history_.pages()) {
-        if (FileKeys::all().tableOf(page->values().table()) == table)
-            return page;
-    }
-    return nullptr;
-}
-
-const Values* ConfigurationReview::valuesOf(int table) const
-{
-    const PageSettings* page = pageOf(table);
-    return page ? &page->values() : nullptr;
-}
-
 std::vector<int> ConfigurationReview::keysOf(const PageSettings& page, int row)
 {
     const FileKeys& all = FileKeys::all();
@@ -339,7 +258,7 @@ FileState ConfigurationReview::now() const
 {
     FileState state = FileState::ofConfiguration(present_);
     if (isQuick())
-        state.lay(history_.pages().back()->values());
+        state.lay(open_.quickPage().values());
     return state;
 }
 
@@ -425,57 +344,7 @@ void ConfigurationReview::takeOverFrom(const Differences& differences, const std
 {
     Configuration changed = written();
     review::takeOver(changed, differences, keys);
-    put(changed, {}, words);
-}
-
-void ConfigurationReview::bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words)
-{
-    history_.settle();
-    const QByteArray now = document();
-    XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
-    Configuration changed = configuration();
-    review::readAsEdited(changed, *edited.root());
-    XmlDocument unedited(now, QStringLiteral("DEVICE"));
-    Configuration unchanged = configuration();
-    review::readAsEdited(unchanged, *unedited.root());
-    review::keepTheRest(changed, written(), unchanged);
-    // They belong to the configuration on which they were made.
-    put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
-}
-
-void ConfigurationReview::put(const Configuration& changed, const QMap<QString, QString>& quick,
-                              const EditHistory::Words& words)
-{
-    const QByteArray now = document();
-    history_.asOne(words, [&] {
-        for (PageSettings* page : history_.pages()) {
-            const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
-                return &values.table() == &page->values().table();
-            });
-            if (found != changed.tables().end())
-                page->putBack(found->held());
-        }
-        if (!isQuick())
-            return;
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        changed.write(*document.root());
-        document.root()->commit();
-        PageSettings& page = *history_.pages().back();
-        const Values before = page.values();
-        Values unchanged = before;
-        readFrom(*XmlDocument(now, QStringLiteral("DEVICE")).root(), unchanged);
-        page.load(document.root());
-        Values read = page.values();
-        review::keepTheRest(read, before, unchanged);
-        std::vector<QString> held = read.held();
-        for (const Presets& presets : read.table().all<Presets>())
-            followPresets(presets, before, page.values(), changed, &held);
-        for (auto value = quick.begin(); value != quick.end(); ++value) {
-            if (const int row = page.rowAt(value.key()); row >= 0)
-                held[row] = value.value();
-        }
-        page.putBack(held);
-    });
+    open_.put(changed, {}, words);
 }
 
 } // namespace vlk

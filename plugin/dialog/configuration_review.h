@@ -4,7 +4,7 @@
 // read as, or another file; kept up to date with every edit. Values are taken over or back in one step of the
 // history, with those without which they could not be.
 
-#include "dialog/edit_history.h"
+#include "dialog/open_configuration.h"
 #include "review/advice.h"
 #include "review/preset.h"
 #include "review/recovery.h"
@@ -23,8 +23,7 @@ class ConfigurationReview : public QObject
     Q_OBJECT
 
 public:
-    // `isQuick`: whether the quick window is on show, whose values a write lays over the others. The last
-    // page of the history is then that window's.
+    // `isQuick`: whether the quick window is on show.
     ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent = nullptr);
 
     // A configuration has been opened and is compared with its file; a new one, without a file, with what it
@@ -54,7 +53,7 @@ public:
     // In the order of a save; with the quick window on show those of the sections first that it makes anew.
     std::vector<review::Difference> listed() const
     {
-        return isQuick_() ? differences_.allForQuick() : differences_.all();
+        return isQuick() ? differences_.allForQuick() : differences_.all();
     }
     // To the file, whatever is compared: what a person would count, without that which comes along with
     // another setting and that which quick setup makes of any file.
@@ -75,24 +74,23 @@ public:
     // Also to what was there before it was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
-    // What the full window holds; `written` is what a write would bring now.
-    Configuration configuration() const;
-    Configuration written() const;
-    // What a save would write of the settings now.
-    QByteArray document() const;
-    bool isQuick() const { return isQuick_(); }
-    // By path; empty unless it is on show.
-    QMap<QString, QString> quickValues() const;
-    // Null where no page has the table.
-    PageSettings* pageOf(int table) const;
-    const Values* valuesOf(int table) const;
+    // As open_configuration.h tells of them.
+    bool isQuick() const { return open_.isQuick(); }
+    Configuration written() const { return open_.written(); }
+    QByteArray document() const { return open_.document(); }
+    QMap<QString, QString> quickValues() const { return open_.quickValues(); }
+    PageSettings* pageOf(int table) const { return open_.pageOf(table); }
+    const Values* valuesOf(int table) const { return open_.valuesOf(table); }
 
     // From the other side; keys of review::FileKeys.
     void takeOver(const std::vector<int>& keys, const EditHistory::Words& words);
     // From the file as it came, whatever is compared.
     void bringBack(const std::vector<int>& keys, const EditHistory::Words& words);
     // What was edited earlier, as one step.
-    void bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words);
+    void bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words)
+    {
+        open_.bringBack(unsaved, words);
+    }
 
     // Those that hold the setting of a page; none for one that files do not have.
     static std::vector<int> keysOf(const PageSettings& page, int row);
@@ -105,7 +103,7 @@ public:
     bool canMend() const { return !isQuick(); }
     void mend(const std::vector<review::Mend>& mends, const EditHistory::Words& words);
 
-    EditHistory& history() { return history_; }
+    EditHistory& history() const { return history_; }
     void retranslate()
     {
         if (advice_ && !advice_->empty())
@@ -127,10 +125,6 @@ private:
     // An edit may move what the preset would make of the rest: applied anew, but not with each edit.
     void followPreset();
     void compareWith(review::FileState before, Against against, const EditHistory::Words& name);
-    void write(CXmlSection& root) const;
-    // `quick`: values of that window that stand whatever the configuration makes of them.
-    void put(const Configuration& changed, const QMap<QString, QString>& quick,
-             const EditHistory::Words& words);
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
@@ -138,7 +132,7 @@ private:
     void hold(const PageSettings& page);
 
     EditHistory& history_;
-    const std::function<bool()> isQuick_;
+    OpenConfiguration open_;
     Configuration present_; // what the pages of the full window hold since the last step
     review::FileState opened_;
     review::FileState asItCame_;                 // the same, or what has been written since then

@@ -29,6 +29,8 @@ public:
     void retranslate();
     // Behind all others, for the eye and for Tab.
     void addLast(QWidget* widget);
+    // A configuration has been opened, in which nothing was looked for yet.
+    void begin();
     void focusFind();
     // What is on show below.
     enum Panel { None, Differences, Advice };

@@ -1,21 +1,20 @@
 #include "dialog/setting_marks.h"
 
+#include "dialog/mark_text.h"
 #include "dialog/setting_menu.h"
-#include "review/difference_text.h"
+#include "dialog/setting_places.h"
 #include "review/setting_parts.h"
-#include "review/setting_words.h"
-#include "review/value_text.h"
 #include "typing/field_mark.h"
 #include "windows/cell_marks.h"
 
 #include <QContextMenuEvent>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk {
 
@@ -28,11 +27,6 @@ QObject* clickedOf(QWidget* widget)
 {
     auto* tree = qobject_cast<QTreeWidget*>(widget);
     return tree ? static_cast<QObject*>(tree->viewport()) : widget;
-}
-
-QString withColon(const char* key, const QString& told)
-{
-    return QStringLiteral("%1: %2").arg(QCoreApplication::translate("vlk", key), told);
 }
 
 } // namespace
@@ -133,11 +127,11 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
                 Told& told = spots[{row, part}];
                 told.isChanged = true;
                 told.before = before;
-                told.mover = moverText(page, row);
+                told.mover = moverText(review_, page, row);
             }
             break;
         }
-        if (const QString before = choiceBefore(page, row); !before.isNull()) {
+        if (const QString before = choiceBefore(review_, page, row); !before.isNull()) {
             Told& told = spots[{row, -1}];
             told.isChanged = true;
             told.before = before;
@@ -145,35 +139,6 @@ SettingMarks::Spots SettingMarks::spotsOf(const PageSettings& page) const
     }
     addAdvice(page, &spots);
     return spots;
-}
-
-// The settings that it fills may be closed: the change is told where it was made, too.
-QString SettingMarks::choiceBefore(const PageSettings& page, int row) const
-{
-    if (QString before = review_.quickBefore(page, row); !before.isNull())
-        return before;
-    const Values& values = page.values();
-    const review::Differences& edits = review_.edits();
-    const auto keyOf = [&page](int field) {
-        const std::vector<int> keys =
-            field < 0 ? std::vector<int>() : ConfigurationReview::keysOf(page, field);
-        return keys.empty() ? -1 : keys.front();
-    };
-    const auto isChanged = [&](const Path& field) {
-        const int key = keyOf(field.row);
-        return key >= 0 && edits.isDifferent(key);
-    };
-    for (const Presets* presets : values.row(row).presets) {
-        if (!presets->other || keyOf(row) >= 0 || std::ranges::none_of(presets->fields, isChanged))
-            continue;
-        QString before = values.presetFor(*presets, [&](int field) {
-            const int key = keyOf(field);
-            return key < 0 ? values.value(field) : edits.before().at(key).meaning;
-        });
-        if (before != values.value(row))
-            return before;
-    }
-    return {};
 }
 
 void SettingMarks::addAdvice(const PageSettings& page, Spots* spots) const
@@ -214,6 +179,7 @@ void SettingMarks::refresh()
     if (!settings)
         return;
     const bool isNew = learn(*settings);
+    const bool wasOnShow = std::exchange(onShow_, settings) == settings && !isNew;
     Page& page = pages_[settings];
     const Spots before = std::exchange(page.told, spotsOf(*settings));
     QVector<QWidget*> stale;
@@ -231,6 +197,20 @@ void SettingMarks::refresh()
     compare(page.told, before);
     for (QWidget* widget : stale)
         mark(*settings, widget);
+    if (wasOnShow)
+        pointAtMoved(page, before);
+}
+
+// Whoever edits one of several values looks at that one.
+void SettingMarks::pointAtMoved(const Page& page, const Spots& before)
+{
+    for (const auto& [spot, told] : page.told) {
+        const auto earlier = before.find(spot);
+        const QString& mover = earlier == before.end() ? QString() : earlier->second.mover;
+        const auto marked = page.marked.find(spot);
+        if (!told.mover.isEmpty() && told.mover != mover && marked != page.marked.end() && marked->second)
+            SettingPlaces::pointAt(marked->second);
+    }
 }
 
 void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
@@ -245,15 +225,15 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
         const bool isTold = told != page.told.end() && page.marked.at(spot) == widget;
         if (tree) {
             const Shown& shown = *settings.values().setting(spot.first).shown();
-            CellMarks::of(tree).set(shown.numbers.outer - 1, shown.column,
-                                    isTold ? std::optional(Mark::changed) : std::nullopt,
-                                    isTold ? changeText(settings, spot) : QString());
+            CellMarks::of(tree).set(
+                shown.numbers.outer - 1, shown.column, isTold ? std::optional(Mark::changed) : std::nullopt,
+                isTold ? changeText(review_, settings, spot.first, spot.second) : QString());
             continue;
         }
         if (!isTold)
             continue;
         if (told->second.isChanged) {
-            changes << changeText(settings, spot);
+            changes << changeText(review_, settings, spot.first, spot.second);
             if (!told->second.mover.isEmpty())
                 changes << told->second.mover;
         }
@@ -264,58 +244,6 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
         return;
     markField(widget, MarkReason::changed, Mark::changed, changes.join(QLatin1Char('\n')));
     markField(widget, MarkReason::advice, severity, advice.join(QLatin1Char('\n')));
-}
-
-// One of two values that keep their distance pushes the other, which may lie far from what was typed.
-QString SettingMarks::moverText(const PageSettings& page, int row) const
-{
-    const Values& values = page.values();
-    const std::vector<const Distance*>& distances = values.row(row).distances;
-    if (distances.empty())
-        return {};
-    const std::vector<PageSettings*>& pages = review_.history().pages();
-    const int place = static_cast<int>(std::ranges::find(pages, &page) - pages.begin());
-    const int mover = review_.history().moverOf(place, row);
-    const auto rule = std::ranges::find_if(distances, [mover](const Distance* one) {
-        return mover == one->first.row || mover == one->second.row || mover == one->gapFrom.row;
-    });
-    if (mover < 0 || mover == row || rule == distances.end())
-        return {};
-    QString told = review::wordsOf(values.layout(), mover).caption;
-    const auto shown = [&](const Path& path) {
-        return shownNumber(*values.setting(path.row).number(), values.value(path.row));
-    };
-    // What it is worth now explains nothing once it has moved away again.
-    constexpr double tiny = 1e-6;
-    if (shown((*rule)->second) - shown((*rule)->first) <= values.gapOf(**rule) + tiny)
-        told += QLatin1Char(' ') + valueText(values, mover);
-    return withColon("rev_272", told);
-}
-
-QString SettingMarks::changeText(const PageSettings& page, Spot spot) const
-{
-    const std::vector<int> keys = ConfigurationReview::keysOf(page, spot.first);
-    const review::Differences& edits = review_.edits();
-    const auto key = std::ranges::find_if(keys, [&](int one) { return edits.isDifferent(one); });
-    const Setting& setting = page.values().setting(spot.first);
-    if (key == keys.end()) {
-        const QString before = choiceBefore(page, spot.first);
-        return before.isNull() ? QString() : withColon("rev_160", valueText(setting, before, nullptr));
-    }
-    const review::DifferenceText text =
-        review::textOf(edits, edits.differenceAt(*key), *review_.valuesOf(FileKeys::all()[*key].table));
-    QStringList told;
-    if (edits.before().at(*key).isThere) {
-        const QString before =
-            spot.second < 0
-                ? text.beforeText
-                : review::partText(setting, spot.second,
-                                   review::partOf(setting, spot.second, edits.before().at(*key).meaning));
-        told << withColon("rev_160", before.isEmpty() ? QStringLiteral("–") : before);
-    }
-    if (!text.note.isEmpty())
-        told << text.note;
-    return told.join(QLatin1Char('\n'));
 }
 
 void SettingMarks::markTabs()

@@ -68,11 +68,9 @@ private:
     bool learn(PageSettings& page);
     Spots spotsOf(const PageSettings& page) const;
     void addAdvice(const PageSettings& page, Spots* spots) const;
-    // What a list stood at whose choice is worked out from other settings; null where it stands there still.
-    QString choiceBefore(const PageSettings& page, int row) const;
-    QString moverText(const PageSettings& page, int row) const;
     void mark(const PageSettings& page, QWidget* widget);
-    QString changeText(const PageSettings& page, Spot spot) const;
+    // At what another value has moved since.
+    static void pointAtMoved(const Page& page, const Spots& before);
     void markTabs();
 
     bool openMenu(QObject* clicked, QContextMenuEvent* event);
@@ -80,6 +78,7 @@ private:
     ConfigurationReview& review_;
     const std::function<PageSettings*()> pageOnShow_;
     std::map<const PageSettings*, Page> pages_;
+    const PageSettings* onShow_ = nullptr;                        // when it was refreshed last
     std::map<int, std::pair<std::optional<Mark>, QString>> tabs_; // what was told last
 };
 

@@ -23,6 +23,7 @@ namespace vlk {
 namespace {
 
 constexpr int kOutlineMs = 1500;
+constexpr QLatin1String kOutlineName("frame_Found");
 // Parts of what is in sight of a page that stay free above and below a setting.
 constexpr int kMiddle = 2;
 constexpr int kEdge = 8;
@@ -90,22 +91,38 @@ QTreeWidget* chooseCell(QWidget* widget, const Setting& setting)
 
 void outline(QWidget* parent, const QRect& place)
 {
+    constexpr int margin = 3;
+    const QRect around = place.adjusted(-margin, -margin, margin, margin);
+    for (QFrame* earlier : parent->findChildren<QFrame*>(kOutlineName, Qt::FindDirectChildrenOnly)) {
+        if (earlier->geometry() == around)
+            delete earlier;
+    }
     auto* frame = new QFrame(parent);
-    frame->setObjectName(QStringLiteral("frame_Found"));
+    frame->setObjectName(kOutlineName);
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     frame->setFrameShape(QFrame::Box);
     frame->setLineWidth(2);
     QPalette palette = frame->palette();
     palette.setColor(QPalette::WindowText, palette.color(QPalette::Active, QPalette::Highlight));
     frame->setPalette(palette);
-    constexpr int margin = 3;
-    frame->setGeometry(place.adjusted(-margin, -margin, margin, margin));
+    frame->setGeometry(around);
     frame->show();
     frame->raise();
     QTimer::singleShot(kOutlineMs, frame, &QObject::deleteLater);
 }
 
 } // namespace
+
+void SettingPlaces::pointAt(QWidget* widget)
+{
+    if (!widget->isVisible())
+        return;
+    outline(widget->parentWidget(), widget->geometry());
+    // Beside it: below may stand the field that is being edited.
+    constexpr int ownDrop = 16; // of a tip, below where it is asked for
+    if (QApplication::mouseButtons() == Qt::NoButton)
+        QToolTip::showText(widget->mapToGlobal({widget->width(), -ownDrop}), widget->toolTip(), widget);
+}
 
 void SettingPlaces::keepInSight(QWidget* widget)
 {

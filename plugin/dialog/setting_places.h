@@ -30,6 +30,9 @@ public:
     bool isShownNowhere(int table, int row, int part = -1) const;
     // To what has to be set first, where the setting is not on show, saying so.
     void goTo(int table, int row, int part = -1);
+    // Outlines a widget where it stands, and shows its tool tip unless a press of the mouse would take it
+    // away.
+    static void pointAt(QWidget* widget);
     // After the page has lost some of its room.
     static void keepInSight(QWidget* widget);
 

@@ -3,6 +3,7 @@
 #include "xml/xml_document.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLocale>
 
@@ -15,6 +16,7 @@ namespace {
 // Numbers of notices that are no offers.
 constexpr int kFailure = 0;
 constexpr int kFile = -1;
+constexpr int kDamaged = -2;
 
 QString words(const char* key)
 {
@@ -55,8 +57,18 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
         else
             offers_.push_back(std::move(offer));
     }
+    tellDamaged(review::setDamagedAside(folder, subject));
     drop();
     refresh();
+}
+
+void UnsavedBar::tellDamaged(const QStringList& paths)
+{
+    if (paths.isEmpty())
+        return end(kDamaged);
+    tell(kDamaged, [path = QDir::toNativeSeparators(QDir::cleanPath(paths.last()))] {
+        return Notice{Mark::invalid, words("rev_350").arg(path), {}};
+    });
 }
 
 // Brought back once, and kept again with the edits that followed, when the process died.

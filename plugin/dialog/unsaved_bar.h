@@ -55,6 +55,7 @@ private:
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
+    void tellDamaged(const QStringList& paths);
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);

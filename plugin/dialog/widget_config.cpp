@@ -180,6 +180,15 @@ void VLK_Widget_Config::addKeeper()
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
 }
 
+// A page that moves under the mouse is a wrong key or a wrong press. Where the screen is low the page needs
+// the lines more.
+void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
+{
+    constexpr int kRoomy = 560;
+    unsaved_->keepPlace(height() >= kRoomy);
+    QDialog::resizeEvent(event);
+}
+
 void VLK_Widget_Config::showKeptPanel()
 {
     kept_ = vlk::PanelMemory::load();
@@ -293,6 +302,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull)
         lightWindow_->prepare();
     review_.begin(path.isEmpty() ? nullptr : document.root());
+    bar_->begin();
     if (vlkDevice) {
         const QString folder = vlkDevice->xmlFolder();
         const QString subject = vlk::editSubject(path, request.fromFile == 1);

@@ -304,14 +304,12 @@ void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 {
-    const vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
+    vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
+    if (!reading_.isSteady())
+        row.changing = QStringList{reading_.before(), reading_.text()};
     addRows({row});
-    if (!reading_.isSteady()) {
-        ui_->tableWidget->noteUnsteady(reading_.before(), reading_.text());
-        markDoubtful();
-    }
     ui_->tableWidget->showAdded();
     askForVolume();
     setDirty(true);

@@ -14,6 +14,19 @@ inline constexpr Position kIgnition = at<0>;
 inline constexpr Position kEngine = at<1>;
 inline constexpr Position kTachometer = at<2>;
 
+inline constexpr Condition kNoIgnition = every(kLines, isOff("SENSORS/IN%2/ign"));
+
+// The mend is what a new configuration has: line 1 is the ignition, in its own use if it has one.
+constexpr auto withoutIgnition(const char* id, const char* path, auto... conditions)
+{
+    constexpr const char* use = "SENSORS/IN1/normState";
+    constexpr const char* ignition = "SENSORS/IN1/IN1ADIN/ign";
+    const Rule told = rule(id, warning, "adv_044").naming(path, "SENSORS/IN1/ign").telling(captionOf(path));
+    return rulesOf(
+        told.when(conditions..., kNoIgnition, isNot(use, kUnused)).mending(ignition, "1"),
+        told.when(conditions..., kNoIgnition, is(use, kUnused)).mending(use, "NB+").mending(ignition, "1"));
+}
+
 // A point is asked for more often than a pause lets it come.
 constexpr Rule pausedPoints(const char* id, const char* use, const char* path, const char* limitUse,
                             const char* limit)

@@ -8,6 +8,7 @@
 namespace vlk::review::advice {
 
 inline constexpr int kShockSensors = 4;
+inline constexpr const char* kDiscrete = "NS-|NB-|NS+|NB+";
 inline constexpr const char* kColdest = "-50.0";
 inline constexpr const char* kHottest = "120.0";
 

@@ -13,6 +13,12 @@
 
 namespace vlk::review::advice {
 
+constexpr int levelField(int sensor)
+{
+    constexpr int few = 6; // in a group of their own; the others have level and temperature in one field
+    return sensor <= few ? field("LevelRS485_1") + sensor - 1 : field("LevelRS485_7") + sensor - few - 1;
+}
+
 inline constexpr const char* kOwner = "RS485/OPTIONS/owner1";
 inline constexpr Condition kFuelOnLine = is(kOwner, "FLDS");
 inline constexpr Condition kCountersOnLine = is(kOwner, "PCNT");

@@ -120,6 +120,20 @@ std::vector<KeptUnsaved> keptUnsaved(const QString& folder)
     return keptAs(folder, {});
 }
 
+QStringList setDamagedAside(const QString& folder, const QString& subject)
+{
+    QStringList damaged;
+    const QDir files(keptFolder(folder));
+    for (const QString& name :
+         files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files | QDir::Readable)) {
+        const QString path = files.filePath(name);
+        const QString aside = path + QStringLiteral(".damaged");
+        if (!isClaimed(path) && !unsavedIn(path) && QFile::rename(path, aside))
+            damaged << aside;
+    }
+    return damaged;
+}
+
 QString momentOf(const Unsaved& unsaved)
 {
     const bool isToday = unsaved.moment.date() == now().date();

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -40,6 +41,9 @@ std::optional<Unsaved> unsavedIn(const QString& path);
 // The newest first, without those that another program is editing; of one configuration, or of all.
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder);
+// Renames those of a configuration that can be read no more, so that they are found once, and gives their new
+// paths.
+QStringList setDamagedAside(const QString& folder, const QString& subject);
 
 // When edits were made: the time, on another day its date too.
 QString momentOf(const Unsaved& unsaved);

@@ -360,6 +360,10 @@ private Q_SLOTS:
         const QString cell = "<td align=right>%1</td>";
         QVERIFY(html.contains(cell.arg(0) + cell.arg(100) + cell.arg(11) + cell.arg(111)));
         QCOMPARE(html.count("<td align=right></td>"), 2);
+        QVERIFY(!html.contains("cfgt6_460"));
+        sheet.rows.front().changing = QStringList{"90", "100"};
+        const QString doubtful = vlk::sheetHtml(sheet);
+        QVERIFY(doubtful.contains(cell.arg(0) + cell.arg("100 *")) && doubtful.contains("<p>* cfgt6_460"));
         // The name of a file that was not taken is the tank's too.
         QTemporaryDir folder;
         const QString path = folder.filePath("load.xml");

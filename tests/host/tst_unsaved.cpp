@@ -204,6 +204,8 @@ private Q_SLOTS:
         for (const QString& file : files())
             writeFile(file, readFile(file).left(100));
         open("tracker");
+        QCOMPARE(offer(), QString("rev_350"));
+        open("tracker");
         QVERIFY(offer().isEmpty());
     }
 

@@ -106,6 +106,12 @@ private Q_SLOTS:
         const QByteArray before = saved();
         for (const char* last : {"-30", "8"}) {
             type(most, "-30");
+            // The eyes are elsewhere: for a moment it is outlined, and told in a tip.
+            const auto outlines = least->parentWidget()->findChildren<QFrame*>("frame_Found");
+            QVERIFY(std::ranges::any_of(outlines, [&](const QFrame* outline) {
+                return outline->geometry().center() == least->geometry().center();
+            }));
+            QCOMPARE(QToolTip::text(), least->toolTip());
             type(most, last);
             QCOMPARE(least->value(), -36.0);
             QCOMPARE(child<QWidget>("mark_doubleSpinBox_Left_Temp_1")->toolTip().section('\n', 1),
@@ -131,6 +137,7 @@ private Q_SLOTS:
         QTest::keyClick(find, Qt::Key_Return);
         QVERIFY(box->isVisible() && box->hasFocus());
         QTRY_VERIFY(box->parentWidget()->findChild<QFrame*>("frame_Found"));
+        QVERIFY(child<QFrame>("frame_Found"));
         QCOMPARE(child<QFrame>("frame_Found")->geometry().center(), box->geometry().center());
         QTest::keyClick(box, Qt::Key_Space);
         QCoreApplication::processEvents();

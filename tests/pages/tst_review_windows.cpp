@@ -270,6 +270,10 @@ private Q_SLOTS:
         QCOMPARE(list->count(), 1);
         port->setFocus();
         QVERIFY(!list->isVisible());
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        find->setText("port");
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        QVERIFY(find->text().isEmpty() && !child<QCheckBox>("checkBox_ChangedOnly")->isChecked());
     }
 
     // Without texts a caption is its key; the host gives it words of the other language.

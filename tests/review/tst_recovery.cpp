@@ -58,6 +58,11 @@ private Q_SLOTS:
         QTEST(kept.size() == 1, "isFound");
         if (kept.size() == 1)
             QCOMPARE(kept[0].unsaved.after, unsaved().after);
+        // What can be read no more is found once, and stays on the disk.
+        const QStringList aside = vlk::review::setDamagedAside(folder.path(), "file a");
+        QTEST(aside.isEmpty() && QFile::exists(path), "isFound");
+        QVERIFY(aside.isEmpty() || QFile::exists(aside[0]));
+        QCOMPARE(vlk::review::setDamagedAside(folder.path(), "file a"), QStringList());
     }
 
     // Each time of editing stays, and the one under way is written over; others never come.
@@ -122,7 +127,7 @@ private:
     }
     static QString keep(const QTemporaryDir& folder, const Unsaved& unsaved)
     {
-        const QString path = vlk::review::recoveryPath(folder.path(), unsaved.subject);
+        QString path = vlk::review::recoveryPath(folder.path(), unsaved.subject);
         QString reason;
         if (!keepUnsaved(path, unsaved, &reason))
             qFatal("%s", qPrintable(reason));

@@ -284,6 +284,47 @@ private Q_SLOTS:
         QVERIFY(isIdle() && window->isHidden() && asked_.isEmpty() && !QFile::exists(file_));
     }
 
+    // Where records have come, a key or a cross that is pressed by habit ends nothing.
+    void asksBeforeItEnds_data()
+    {
+        DataTable<bool, QString, Numbers>({"byCross", "answer", "saved"})
+            .row("Esc, twice", false, "", Numbers{7, 8, 9, 10})
+            .row("Esc and the verb", false, "tmiw_311", Numbers{7, 8, 10})
+            .row("cross, Esc", true, "", Numbers{7, 8, 9, 10})
+            .row("cross and the verb", true, "tmiw_311", Numbers{7, 8, 10})
+            .row("too late", false, "late", Numbers{7, 8, 9, 10});
+    }
+    void asksBeforeItEnds()
+    {
+        QFETCH(bool, byCross);
+        QFETCH(QString, answer);
+        startSave(7, 10);
+        send(Message::RecordByNumber, 8);
+        bool isAsked = false;
+        ScriptedHost::whenModal([&](QWidget* modal) {
+            auto* box = qobject_cast<QMessageBox*>(modal);
+            isAsked = box && box->text().contains("tmiw_310");
+            for (QAbstractButton* button : box->buttons()) {
+                if (button->text() == answer)
+                    return button->click();
+            }
+            if (answer.isEmpty())
+                return QTest::keyClick(box, Qt::Key_Escape);
+            send(Message::RecordByNumber, 9); // the last that was missing
+            QVERIFY(!box->isVisible());
+        });
+        if (byCross)
+            window->windowHandle()->close();
+        else
+            QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(isAsked);
+        QCOMPARE(window->isVisible(), !byCross || answer.isEmpty());
+        if (answer.isEmpty())
+            send(Message::RecordByNumber, 9);
+        QTEST(saved(), "saved");
+        QVERIFY(isIdle());
+    }
+
     // A period counts as the last one when its file is named.
     void remembersThePeriod()
     {

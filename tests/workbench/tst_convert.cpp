@@ -8,6 +8,8 @@
 #include "telemetry/sample_pages.h"
 
 #include <QBuffer>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -191,30 +193,30 @@ private Q_SLOTS:
         QTEST(complaints, "complaints");
         QTEST(status, "status");
         // A file is written as a whole, or not touched.
-        put("there.csv", "before");
-        run(arguments + QStringList{"-o", "there.csv"}, readFile(path("a.tmi")));
+        const QString there = call.contains("--to csv") ? "there.csv" : "there.txt";
+        put(there, "before");
+        run(arguments + QStringList{"-o", there}, readFile(path("a.tmi")));
         const QByteArray mark = call.contains("--to csv") && !call.contains("csv-text") ? "\xEF\xBB\xBF" : "";
-        QCOMPARE(readFile(path("there.csv")), told.isEmpty() ? QByteArray("before") : mark + told);
+        QCOMPARE(readFile(path(there)), told.isEmpty() ? QByteArray("before") : mark + told);
     }
 
-    // What has lost its beginning is what its records say, for each command.
-    void withoutBeginning_data()
+    // By its records, whichever command looks at it, and without what would stand in its header.
+    void knowsWhatHasLostItsBeginning()
     {
-        DataTable<QString, int>({"file", "records"})
-            .row("XML", "frontless.xml", 2)
-            .row("binary", "headless.tmi", 3);
-    }
-    void withoutBeginning()
-    {
-        QFETCH(QString, file);
-        QFETCH(int, records);
-        const auto [status, told, complaints] = run({"info", "--json", file});
-        QCOMPARE(status, 1);
-        QVERIFY2(told.contains("\"what\":\"telemetry\",\"model\":null"), told.constData());
-        QVERIFY2(told.contains("\"records\":" + QByteArray::number(records)), told.constData());
-        QCOMPARE(std::get<1>(run({"convert", file, "--to", "csv", "--columns", "NumPage"})).count('\n'),
-                 records + 1);
-        QVERIFY(!std::get<2>(run({"fuel", file})).contains("is not telemetry"));
+        put("cut.tmi", readFile(path("a.tmi")).left(10));
+        for (const auto& [name, records] :
+             {std::pair("headless.tmi", 3), {"frontless.xml", 2}, {"cut.tmi", 0}}) {
+            const auto [status, told, complaints] = run({"info", "--json", name});
+            QCOMPARE(status, 1);
+            const QJsonObject line = QJsonDocument::fromJson(told).object();
+            QVERIFY2(line["what"] == "telemetry" && line["model"].isNull(), told.constData());
+            QCOMPARE(line["records"].toInt(), records);
+            QCOMPARE(std::get<1>(run({"convert", name, "--to", "csv", "--columns", "NumPage"})).count('\n'),
+                     records > 0 ? records + 1 : 0);
+        }
+        QVERIFY(std::get<2>(run({"fuel", "--sensor", "CAN_FuelLevel", "headless.tmi"}))
+                    .contains("offset 0: the file does not begin as telemetry does"));
+        QCOMPARE(std::get<0>(run({"convert", "a.tmi", "--to", "csv", "-o", "headless.tmi"})), 2);
     }
 
     // The same bytes that a save in the windows gives, from either form.

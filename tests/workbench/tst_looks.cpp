@@ -192,13 +192,22 @@ private Q_SLOTS:
         QCOMPARE(note->text(), QString("Nothing matches."));
         table->findChild<QPushButton*>("pushButton_Empty")->click();
         QVERIFY(!note->isVisible() && words->text().isEmpty());
-        // Rows go to other programs with their heads.
+        // Rows go to other programs with their heads, all where none is chosen; heads alone do not.
+        const auto copied = [table] {
+            table->setFocus();
+            QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+            return QApplication::clipboard()->text().split('\n');
+        };
         table->selectRow(1);
-        table->setFocus();
-        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
-        const QStringList lines = QApplication::clipboard()->text().split('\n');
+        const QStringList lines = copied();
         QCOMPARE(lines.size(), 3);
         QVERIFY(lines[0].startsWith("Time\t") && lines[1].contains("\t2004\tSetHostMode\t"));
+        table->clearSelection();
+        QCOMPARE(copied().size(), table->model()->rowCount() + 2);
+        QApplication::clipboard()->setText("kept");
+        words->setText("no such message");
+        QCOMPARE(copied(), QStringList("kept"));
+        words->clear();
         QTest::keyClick(words, Qt::Key_Escape);
         QVERIFY(table->hasFocus());
     }

@@ -9,7 +9,11 @@ class WorkUnderWayTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        failOnUnfilledTexts();
+    }
 
     // A notice that was closed is not the last word of a silence in which the user asks on.
     void comesBackInTheSameSilence()
@@ -125,6 +129,28 @@ private Q_SLOTS:
         bench.agrees = true;
         QVERIFY(bench.window.close());
         QVERIFY(!QFile::exists(bench.file()));
+    }
+
+    // Nor in the configuration, where a window is not too low for it.
+    void movesNoPage()
+    {
+        Bench bench;
+        bench.prepare(Write);
+        QWidget* configuration = Bench::configuration();
+        const auto* field = configuration->findChild<QWidget*>(QStringLiteral("lineEdit_Name"));
+        for (const int height : {600, 500}) {
+            configuration->setMinimumSize(0, 0);
+            configuration->resize(1024, height);
+            QCoreApplication::processEvents();
+            const QPoint before = field->mapToGlobal(QPoint());
+            QFile::remove(bench.file());
+            Bench::press(configuration, "pushButton_SaveToFile");
+            QTRY_VERIFY(Bench::notice().startsWith(QLatin1String("Saved: ")));
+            QCoreApplication::processEvents();
+            QCOMPARE(field->mapToGlobal(QPoint()) == before, height == 600);
+            Bench::press(configuration, "label_WindowNotice_Close");
+            QTRY_COMPARE(field->mapToGlobal(QPoint()), before);
+        }
     }
 
     void refusesWhatDestroys_data()

@@ -3,7 +3,6 @@
 // The files of a call that are telemetry. Of the others that are named themselves it complains.
 
 #include "command/each_file.h"
-#include "command/file_kind.h"
 
 #include <QFile>
 
@@ -18,9 +17,6 @@ struct TelemetryInput
         device{}; // of standard input, which is kept; else the file is opened when it is read
     bool isXml = false;
 };
-
-// What a file is by its content; telemetry that has lost its beginning is telemetry too.
-FileKind kindOf(const File& file, QIODevice& device);
 
 class TelemetryInputs
 {

@@ -3,9 +3,9 @@
 #include "command/commands.h"
 
 #include "command/configuration_input.h"
-#include "command/convert_inputs.h"
 #include "command/damage_lines.h"
 #include "command/each_file.h"
+#include "command/file_kind.h"
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "command/record_key.h"
@@ -85,7 +85,7 @@ QString sensorsToChoose(const Call& call)
     while (const std::optional<File> file = walk.next()) {
         QFile device(file->name);
         if (file->isStandardInput() || !device.open(QIODevice::ReadOnly) ||
-            kindOf(*file, device) != FileKind::telemetry)
+            kindOf(device, file->name) != FileKind::telemetry)
             continue;
         vlk::TelemetryReader reader(device, file->name, vlk::TelemetryReading::salvage);
         while (reader.contents().records.size() < mostRecords && reader.step())
@@ -254,7 +254,7 @@ private:
         const QByteArray start = device->peek(kBeginning);
         if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
             return refuse(file, whyUnreadable(plain));
-        const FileKind kind = kindOf(file, *device);
+        const FileKind kind = kindOf(*device, file.name);
         if (kind == FileKind::telemetry)
             return readRecords(file, *device, isOneOfSeveral);
         if (file.isNamed || kind == FileKind::unknown)

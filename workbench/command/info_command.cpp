@@ -3,9 +3,9 @@
 #include "command/commands.h"
 
 #include "command/configuration_input.h"
-#include "command/convert_inputs.h"
 #include "command/damage_lines.h"
 #include "command/each_file.h"
+#include "command/file_kind.h"
 #include "command/file_names.h"
 #include "command/json_line.h"
 #include "command/telemetry_summary.h"
@@ -136,7 +136,7 @@ Outcome factsOf(const Call& call, const File& file)
     const QByteArray start = isOpen ? device.peek(kBeginning) : QByteArray();
     if (start.isEmpty() && device.error() != QFileDevice::NoError)
         return refusal(call, file.name, whyUnreadable(device));
-    const FileKind kind = kindOf(file, device);
+    const FileKind kind = isOpen ? kindOf(device, file.name) : FileKind::unknown;
     if (kind == FileKind::telemetry)
         return telemetryFacts(call, file, device);
     if (isBlank(start))

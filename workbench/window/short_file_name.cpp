@@ -25,7 +25,7 @@ QString shortFileName(const QString& name, const QFontMetrics& metrics, int room
     const QString timesOfYear = timesFrom(5) + ending;
     const QString vehicle = match.captured(1);
     for (const QString& tail : {times, timesOfYear}) {
-        const QString whole = vehicle + QLatin1Char(' ') + tail;
+        QString whole = vehicle + QLatin1Char(' ') + tail;
         if (metrics.horizontalAdvance(whole) <= room)
             return whole;
     }

@@ -316,6 +316,10 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
             return true;
         }
         FuelRow row = rowOf(cells, pasted.order);
+        // Beside an empty cell its blanks may be those between two numbers; with one number it is the other
+        // cell that is at fault.
+        if (row.value.isEmpty())
+            row.volume = withoutThousandsBlanks(row.volume);
         if (const auto ofVolume = fit(row.volume, kVolumeLimit))
             pasted.leftOut.push_back({lineNumber, *ofVolume, true});
         else if (const auto ofValue = fit(row.value, valueLimit(kind)))

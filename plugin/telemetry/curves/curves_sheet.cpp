@@ -35,7 +35,7 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     auto* const plot = new CurvesPlot(&model, &sheet, span);
     auto* const strip = new BandsStrip(&model, plot, &sheet);
     auto* const layout = new QVBoxLayout(&sheet);
-    layout->setSpacing(grid::row);
+    layout->setSpacing(grid::kRow);
     layout->addWidget(heading);
     layout->addWidget(legend);
     layout->addWidget(plot, 1);

@@ -72,7 +72,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     kept.setRetainSizeWhenHidden(true);
     legend_->setSizePolicy(kept);
     auto* const tools = new QHBoxLayout;
-    tools->setSpacing(grid::column);
+    tools->setSpacing(grid::kColumn);
     tools->addWidget(presets_);
     tools->addWidget(choose_);
     tools->addWidget(legend_, 1);
@@ -80,14 +80,14 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     tools->addWidget(cursorB_);
     tools->addWidget(handOverMenu_);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(grid::window, 0, grid::window, 0);
-    layout->setSpacing(grid::row);
+    layout->setContentsMargins(grid::kWindow, 0, grid::kWindow, 0);
+    layout->setSpacing(grid::kRow);
     layout->addLayout(tools);
     layout->addWidget(longLegend_);
     layout->addWidget(plot_, 1);
     layout->addWidget(strip_);
     auto* const told = new QHBoxLayout;
-    told->setSpacing(grid::column);
+    told->setSpacing(grid::kColumn);
     told->addWidget(line_, 1);
     told->addWidget(allStates_);
     layout->addLayout(told);
@@ -138,10 +138,10 @@ void CurvesView::fitLegend()
 {
     const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
                       cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
-                      handOverMenu_->sizeHint().width() + 5 * grid::column;
+                      handOverMenu_->sizeHint().width() + 5 * grid::kColumn;
     const int needed = height() < kLowCurves ? std::min(legend_->leastWidth(), legend_->widthOfAll())
                                              : legend_->widthOfAll();
-    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::window;
+    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::kWindow;
     legend_->setVisible(hasRoom);
     longLegend_->setHidden(hasRoom);
 }

@@ -34,7 +34,7 @@ public:
         if (offset == kAbsent)
             return {};
         const auto bytes = store_.bytes(record);
-        const bool isWhole = bytes.size() >= static_cast<std::size_t>(offset + width_);
+        const bool isWhole = std::ssize(bytes) >= offset + width_;
         return isWhole ? rawAt(bytes.data() + offset, width_) : 0;
     }
 

@@ -7,6 +7,7 @@
 #include "telemetry/fuel_view/tank_button.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/number_entry.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
@@ -70,7 +71,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     empty_ = new EmptyNote(table_);
     const auto rowOf = [](const QWidgetList& left, const QWidgetList& right) {
         auto* row = new QHBoxLayout;
-        row->setSpacing(8);
+        row->setSpacing(vlk::grid::kColumn);
         for (QWidget* widget : left)
             row->addWidget(widget);
         row->addStretch();
@@ -79,10 +80,10 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
         return row;
     };
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setSpacing(vlk::grid::kRow);
     auto* tanks = new QHBoxLayout;
-    tanks->setSpacing(8);
+    tanks->setSpacing(vlk::grid::kColumn);
     tanks->addWidget(vehicleLabel_);
     tanks->addWidget(vehicle_);
     tanks->addWidget(tanks_, 1);

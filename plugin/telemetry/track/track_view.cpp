@@ -4,6 +4,7 @@
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/track/track_canvas.h"
 #include "telemetry/track/track_model.h"
+#include "typing/grid.h"
 #include "windows/named_widget.h"
 
 #include <QCheckBox>
@@ -99,14 +100,16 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     for (QPushButton* const button : {fit_, handOverMenu_})
         button->setAutoDefault(false);
     auto* const layout = new QGridLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setHorizontalSpacing(vlk::grid::kColumn);
+    layout->setVerticalSpacing(vlk::grid::kRow);
     layout->addWidget(columnsLabel_, 0, 0);
     layout->addWidget(columns_, 0, 1);
     layout->addWidget(fit_, 0, 2);
     layout->addWidget(handOverMenu_, 0, 3);
     layout->addWidget(canvas_, 1, 0, 1, 4);
     auto* const below = new QHBoxLayout;
+    below->setSpacing(vlk::grid::kColumn);
     below->addWidget(place_, 1);
     below->addWidget(spanOnly_);
     layout->addLayout(below, 2, 0, 1, 4);

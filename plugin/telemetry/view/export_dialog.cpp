@@ -2,6 +2,7 @@
 
 #include "base/last_folder.h"
 #include "link/device.h"
+#include "typing/grid.h"
 #include "windows/save_dialog.h"
 
 #include <QButtonGroup>
@@ -32,9 +33,9 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     sign_->setObjectName(QStringLiteral("comboBox_Sign"));
     columns_->setObjectName(QStringLiteral("checkBox_Columns"));
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(9, 9, 9, 9);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setContentsMargins(vlk::grid::kAroundPage);
+    grid->setHorizontalSpacing(vlk::grid::kColumn);
+    grid->setVerticalSpacing(vlk::grid::kRow);
     int row = 0;
     const auto addCaption = [&](const char* key, QWidget* field) {
         auto* caption = new QLabel(tr(key), this);
@@ -62,6 +63,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     columns_->setChecked(choice.onlyShownColumns);
     grid->addWidget(columns_, row++, 1);
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(vlk::grid::kColumn);
     auto* save = new QPushButton(tr("rec_094"), this);
     save->setObjectName(QStringLiteral("pushButton_SaveAs"));
     save->setDefault(true);

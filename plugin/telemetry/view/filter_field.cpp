@@ -88,9 +88,9 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     completer_->setCompletionMode(QCompleter::PopupCompletion);
     completer_->setWidget(line_);
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(grid::aroundWindow);
-    grid->setHorizontalSpacing(grid::column);
-    grid->setVerticalSpacing(grid::row);
+    grid->setContentsMargins(grid::kAroundWindow);
+    grid->setHorizontalSpacing(grid::kColumn);
+    grid->setVerticalSpacing(grid::kRow);
     grid->addWidget(caption_, 0, 0);
     grid->addWidget(line_, 0, 1);
     grid->addWidget(fault_, 1, 1);

@@ -139,8 +139,8 @@ void VLK_Widget_Tmi_Table::layOut()
     places_ = new RecordsPlaces(place, makeRecordsParts(shown_, notices_, this), this);
     auto* status = new QWidget(this);
     auto* line = new QHBoxLayout(status);
-    line->setContentsMargins(grid::aroundWindow);
-    line->setSpacing(grid::pair);
+    line->setContentsMargins(grid::kAroundWindow);
+    line->setSpacing(grid::kPair);
     line->addWidget(count_);
     line->addWidget(work_);
     line->addStretch(1);
