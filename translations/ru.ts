@@ -1728,7 +1728,7 @@
     <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
     <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
     <message id="rec_542"><translation>Поменять столбцы местами</translation></message>
-    <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1. В файле их нет.</translation></message>
+    <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1, их нет в файле.</translation></message>
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
