@@ -214,7 +214,7 @@ int convert(const Call& call, Output& output)
     if (asked.form == QLatin1String("ndjson"))
         options.eventText = tracker::eventText;
     options.decimalComma = asked.decimalComma;
-    options.isMarked = formOf(asked).form == ExportForm::csv && output.isSpreadsheet();
+    options.isMarked = formOf(asked).form == vlk::ExportForm::csv && output.isSpreadsheet();
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");
     if (asked.decimalComma && !formOf(asked).hasDecimalSign)
