@@ -1502,6 +1502,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
     <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
+    <message id="cli_340"><translation>%1: none holds %2</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1722,7 +1723,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_490"><translation>Records are still being exported. End the export? No file is written then.</translation></message>
     <message id="rec_491"><translation>End the export</translation></message>
     <message id="rec_510"><translation>The name ends with .%1, but the form is: %2.</translation></message>
-    <message id="rec_511"><translation>%1, by the filter: %2</translation></message>
+    <message id="rec_511"><translation>On show are the records by the filter: %1</translation></message>
+    <message id="rec_512"><translation>No record holds: %1.</translation></message>
     <message id="rec_540"><translation>Type the volume and the reading of a point above and press Enter, or paste rows of a spreadsheet: the volume first, unless headings tell otherwise.</translation></message>
     <message id="rec_541"><translation>The columns have no headings. The first one is taken as: %1.</translation></message>
     <message id="rec_542"><translation>Swap the columns</translation></message>

@@ -1502,6 +1502,7 @@
     <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
     <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
+    <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1719,10 +1720,11 @@
     <message id="rec_473"><translation>%1 из %2 показаний %3 за краями тарировочной таблицы: там взят объём края, и рост или падение не видны.</translation></message>
     <message id="rec_474"><translation>Заправлено, л</translation></message>
     <message id="rec_475"><translation>Слито, л</translation></message>
-    <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
+    <message id="rec_490"><translation>Экспорт записей ещё идёт. Прекратить его? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
     <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
-    <message id="rec_511"><translation>%1 по фильтру: %2</translation></message>
+    <message id="rec_511"><translation>Показаны записи по фильтру: %1</translation></message>
+    <message id="rec_512"><translation>Ни в одной записи нет: %1.</translation></message>
     <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
     <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
     <message id="rec_542"><translation>Поменять столбцы местами</translation></message>

@@ -288,6 +288,7 @@ void TestCurves::handsOver()
     view_->saveTo(table);
     const QList<QByteArray> rows = readFile(table).split('\n');
     QCOMPARE(rows.size(), 4);
+    QVERIFY(rows[0].startsWith("\xEF\xBB\xBFtmizta_123"));
     QCOMPARE(rows[1], QByteArray("100002,2026-11-18T03:01:00+03:00,3200,0\r"));
     view_->setTitle(QStringLiteral("KAMAZ"));
     view_->saveTo(folder.filePath(QStringLiteral("p.svg")));

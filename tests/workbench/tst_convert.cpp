@@ -92,6 +92,7 @@ private Q_SLOTS:
         damaged[128 + 2] = 0; // the type of the first record
         put("damaged.tmi", damaged);
         put("headless.tmi", QByteArray(64, '\xA5') + readFile(path("a.tmi")).mid(64));
+        put("frontless.xml", readFile(path("b.xml")).mid(readFile(path("b.xml")).indexOf("<Code>")));
         QDir(folder_.path()).mkdir("foreign");
         for (const char* page : {"page.tmi", "foreign/page.tmi"})
             put(page, "<html><body><p>Not found</p></body></html>");
@@ -155,6 +156,8 @@ private Q_SLOTS:
                  "r7106: no record meets the conditions\n")
             .row("no table either", "a.tmi --to csv --where Power>9", 1, "",
                  "r7106: no record meets the conditions\n")
+            .row("a column that there is not", "a.tmi --to csv --where GSM>9_or_Power>9", 1, "",
+                 "r7106: no record meets the conditions: none holds GSM\n")
             .row("no place for a track", "a.tmi --to geojson", 1, "",
                  "r7106: no record has coordinates for a track\n")
             .row("what is foreign", "page.tmi program.tmi a.tmi --to csv --merge --where NumPage=1", 2,
@@ -225,12 +228,15 @@ private Q_SLOTS:
     void knowsWhatHasLostItsBeginning()
     {
         put("cut.tmi", readFile(path("a.tmi")).left(10));
-        for (const auto& [name, records] : {std::pair("headless.tmi", 3), {"cut.tmi", 0}}) {
+        for (const auto& [name, records] :
+             {std::pair("headless.tmi", 3), {"frontless.xml", 2}, {"cut.tmi", 0}}) {
             const auto [status, told, complaints] = run({"info", "--json", name});
             QCOMPARE(status, 1);
             const QJsonObject line = QJsonDocument::fromJson(told).object();
             QVERIFY2(line["what"] == "telemetry" && line["model"].isNull(), told.constData());
             QCOMPARE(line["records"].toInt(), records);
+            QCOMPARE(std::get<1>(run({"convert", name, "--to", "csv", "--columns", "NumPage"})).count('\n'),
+                     records > 0 ? records + 1 : 0);
         }
         QVERIFY(std::get<2>(run({"fuel", "--sensor", "CAN_FuelLevel", "headless.tmi"}))
                     .contains("offset 0: the file does not begin as telemetry does"));

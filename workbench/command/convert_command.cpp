@@ -118,6 +118,28 @@ int refused(Output& output, const QString& reason)
     return failed;
 }
 
+// A condition on a column that no record holds is not one that no value meets.
+QString whyNone(const Filter& filter, RecordSource& source)
+{
+    std::vector<vlk::FilterColumn> absent = filter.columns();
+    int records = 0;
+    source.rewind();
+    while (const std::optional<RecordBatch> batch = absent.empty() ? std::nullopt : source.next()) {
+        records += batch->records.size();
+        std::erase_if(absent, [&batch](const vlk::FilterColumn& column) {
+            return std::ranges::any_of(batch->records.layouts(), [&column](const vlk::RecordLayout& layout) {
+                return layout.has(elementOf(column));
+            });
+        });
+    }
+    if (absent.empty() || records == 0)
+        return text("cli_292");
+    QStringList names;
+    for (const vlk::FilterColumn& column : absent)
+        names << QString::fromStdString(std::string(nameOf(column)));
+    return text("cli_340").arg(text("cli_292"), names.join(QStringLiteral(", ")));
+}
+
 int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptions options,
                  const TelemetryInputs& inputs, Output& output)
 {
@@ -172,8 +194,10 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
     if (conversions.isEmpty() || conversions.lacksContent()) {
         // A file that is there has more to tell.
         output.drop();
-        const char* reason = !conversions.isEmpty() ? "cli_303" : filter.root ? "cli_292" : "cli_293";
-        writeError(complaint(QStringLiteral("r7106"), text(reason)));
+        const QString reason = !conversions.isEmpty() ? text("cli_303")
+                               : filter.root          ? whyNone(filter, *files)
+                                                      : text("cli_293");
+        writeError(complaint(QStringLiteral("r7106"), reason));
         return std::max<int>(status, found);
     }
     writeError(losses.lines(conversions.origin()));
@@ -190,7 +214,7 @@ int convert(const Call& call, Output& output)
     if (asked.form == QLatin1String("ndjson"))
         options.eventText = tracker::eventText;
     options.decimalComma = asked.decimalComma;
-    options.isMarked = formOf(asked).form == ExportForm::csv && output.isSpreadsheet();
+    options.isMarked = formOf(asked).form == vlk::ExportForm::csv && output.isSpreadsheet();
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");
     if (asked.decimalComma && !formOf(asked).hasDecimalSign)

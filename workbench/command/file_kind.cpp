@@ -73,12 +73,14 @@ FileKind kindOf(const QByteArray& start)
         return FileKind::tachograph;
     const QString text = textOf(start);
     vlk::XmlScanner scanner(text);
-    if (scanner.next() != vlk::XmlScanner::Token::start)
-        return FileKind::unknown;
+    const bool hasTag = scanner.next() == vlk::XmlScanner::Token::start;
     const auto* found = std::ranges::find_if(kKinds, [&](const KindRow& row) {
-        return row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
+        return hasTag && row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
     });
-    return found == std::end(kKinds) ? FileKind::unknown : found->kind;
+    if (found != std::end(kKinds))
+        return found->kind;
+    // Without its beginning telemetry is known by the first line of a record.
+    return start.contains("<Page type=\"") ? FileKind::telemetry : FileKind::unknown;
 }
 
 FileKind kindOf(QIODevice& device, const QString& name)

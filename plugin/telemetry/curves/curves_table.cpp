@@ -31,7 +31,8 @@ bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& sp
                          QStringLiteral("%1, %2").arg(translated("tmizta_125"), zoneText(offset))};
     for (const Curve& curve : model.curves())
         headings << withUnit(curve.column);
-    QByteArray text = csvLine(headings, separator).toUtf8();
+    // With the mark by which spreadsheets know UTF-8.
+    QByteArray text = "\xEF\xBB\xBF" + csvLine(headings, separator).toUtf8();
     IsoTimes zoned(offset);
     const std::vector<quint32>& times = records.columns().times();
     const std::vector<quint32>& numbers = records.columns().recordNumbers();

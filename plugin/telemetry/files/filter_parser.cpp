@@ -306,8 +306,10 @@ private:
         }
         const std::optional<double> number = typedNumber(text, position, end);
         // Of a date in another form than those that are read it takes the day.
-        if (holdsTimes(column_) && number && *end < text.size() && text[*end].isPunct() &&
-            text[*end] != QLatin1Char(')'))
+        const QString rest = number ? text.mid(*end).trimmed() : QString();
+        const bool goesOn =
+            !rest.isEmpty() && rest[0] != QLatin1Char(')') && (rest[0].isPunct() || rest[0].isDigit());
+        if (holdsTimes(column_) && goesOn)
             return std::nullopt;
         return number ? std::optional(condition(column_, comparison, *number)) : std::nullopt;
     }

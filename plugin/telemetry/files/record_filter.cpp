@@ -205,6 +205,19 @@ QString Filter::text(const FilterWording& wording) const
     return text;
 }
 
+std::vector<FilterColumn> Filter::columns() const
+{
+    std::vector<FilterColumn> columns;
+    const std::function<void(const FilterNode&)> take = [&](const FilterNode& node) {
+        if (node.kind == FilterNode::condition && std::ranges::find(columns, node.column) == columns.end())
+            columns.push_back(node.column);
+        std::ranges::for_each(node.parts, take);
+    };
+    if (root)
+        take(*root);
+    return columns;
+}
+
 std::vector<int> passing(const Filter& filter, RecordColumns& columns, int first)
 {
     const int size = columns.store().size();

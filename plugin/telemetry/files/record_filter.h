@@ -65,6 +65,9 @@ struct Filter
     QString text() const;
     QString text(const FilterWording& wording) const;
 
+    // Of all conditions, each once.
+    std::vector<FilterColumn> columns() const;
+
     bool operator==(const Filter&) const = default;
 };
 

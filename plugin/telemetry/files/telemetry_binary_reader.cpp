@@ -172,15 +172,17 @@ void TelemetryBinaryReader::takeRecord(std::size_t size)
         takeAlike(head, size);
 }
 
-// The next ones with the same head, as most have, as far as they are read already and another one follows
-// each: then they are sound without a closer look.
+// The next ones with the same head, as most have, as far as they are read already and another one that begins
+// alike follows each: then they are sound without a closer look.
 void TelemetryBinaryReader::takeAlike(Bytes head, std::size_t size)
 {
     constexpr int kMost = 64;
+    const Bytes begin = head.first(kLeastToTell);
     Bytes further = input_.buffered();
     int records = 0;
     while (records < kMost && further.size() >= size + kLeastToTell &&
-           std::equal(head.begin(), head.end(), further.begin()) && looksLikeRecord(further.subspan(size))) {
+           std::equal(head.begin(), head.end(), further.begin()) &&
+           std::equal(begin.begin(), begin.end(), further.begin() + static_cast<std::ptrdiff_t>(size))) {
         contents_.records.add(further.subspan(binary::kLengthBytes, size - binary::kLengthBytes));
         further = further.subspan(size);
         ++records;

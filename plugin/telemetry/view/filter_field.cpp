@@ -96,7 +96,6 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     grid->addWidget(fault_, 1, 1);
     grid->setColumnStretch(1, 1);
     connect(line_, &QLineEdit::textEdited, this, &FilterField::offer);
-    connect(line_, &QLineEdit::textChanged, this, &FilterField::edited);
     connect(line_, &QLineEdit::returnPressed, this, &FilterField::applyTyped);
     connect(latest_, &QAction::triggered, this, &FilterField::offerLatest);
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
@@ -194,11 +193,6 @@ void FilterField::complete(const QString& text)
     line_->insert(text + QLatin1Char(' '));
 }
 
-QString FilterField::appliedInstead() const
-{
-    return line_->text() == applied_ ? QString() : applied_;
-}
-
 bool FilterField::giveBack()
 {
     if (line_->text() == applied_)
@@ -224,11 +218,12 @@ void FilterField::applyTyped()
         // In words of the language of the moment.
         tell([this, text] {
             const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
-            return tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            const QString told = tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            return isApplied() ? told + QLatin1Char(' ') + tr("rec_511").arg(applied_) : told;
         });
         return;
     }
-    tell({});
+    tellAbsent(*parsed.filter);
     applied_ = text;
     keepFilter(parsed.filter->text());
     ShownRecords::Passes passes;
@@ -283,12 +278,34 @@ QString FilterField::hourAround(int record)
     return inWords({nodes::inside(item("Time"), {time - kHalfAnHour, time + kHalfAnHour})});
 }
 
-void FilterField::tell(const std::function<QString()>& fault)
+void FilterField::tell(const std::function<QString()>& sentence, Mark mark)
 {
-    told_ = fault;
-    fault_->setText(fault ? fault() : QString());
-    fault_->setVisible(bool(fault));
-    markField(line_, MarkReason::typing, Mark::invalid, fault_->text());
+    told_ = sentence;
+    mark_ = mark;
+    fault_->setText(sentence ? sentence() : QString());
+    fault_->setVisible(bool(sentence));
+    markField(line_, MarkReason::typing, mark, fault_->text());
+}
+
+// Columns that no record holds: nothing meets a condition on them, which is not what a value says.
+void FilterField::tellAbsent(const Filter& filter)
+{
+    std::vector<FilterColumn> absent = filter.columns();
+    std::erase_if(absent, [this](const FilterColumn& column) {
+        const RecordStore& records = shown_->records();
+        return std::ranges::any_of(records.layouts(),
+                                   [&](const RecordLayout& layout) { return layout.has(elementOf(column)); });
+    });
+    if (absent.empty() || shown_->records().empty())
+        return tell({});
+    tell(
+        [this, absent] {
+            QStringList words;
+            for (const FilterColumn& column : absent)
+                words << columnInWords(column, names(), *model_);
+            return tr("rec_512").arg(words.join(QStringLiteral(", ")));
+        },
+        Mark::advice);
 }
 
 void FilterField::retranslate()
@@ -298,7 +315,7 @@ void FilterField::retranslate()
     line_->setPlaceholderText(tr("rec_002"));
     line_->setToolTip(tr("rec_003"));
     latest_->setToolTip(tr("rec_300"));
-    tell(told_);
+    tell(told_, mark_);
 }
 
 } // namespace vlk

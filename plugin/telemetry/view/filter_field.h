@@ -3,9 +3,10 @@
 // The field above the table in which the records to be shown are asked for. Names and words are completed as
 // they are typed; Enter applies, an empty field shows all, and an arrow in it, or Down, gives the filters
 // that were applied last. What cannot be read is told below, with the place and with what was expected there,
-// and changes nothing.
+// and changes nothing: the filter that stays on show is told with it.
 
 #include "telemetry/files/filter_parser.h"
+#include "typing/field_mark.h"
 
 #include <QWidget>
 
@@ -34,8 +35,6 @@ public:
     void apply(const QString& text);
     void clear() { apply({}); }
     bool isApplied() const { return !applied_.isEmpty(); }
-    // What is applied while the field holds something else; empty where it is the same, or nothing.
-    QString appliedInstead() const;
     // What is applied, in place of what was typed since; false where nothing was.
     bool giveBack();
     // The cell as a condition.
@@ -46,14 +45,14 @@ public:
 
 Q_SIGNALS:
     void applied();
-    void edited();
 
 private:
     void offer();
     void complete(const QString& text);
     void applyTyped();
     void offerLatest();
-    void tell(const std::function<QString()>& fault);
+    void tell(const std::function<QString()>& sentence, Mark mark = Mark::invalid);
+    void tellAbsent(const Filter& filter);
     const FilterNames& names();
     void addEvent(quint32 code);
     // Asks the host for the words of events that this file lacks, where it cannot be read without.
@@ -72,6 +71,7 @@ private:
     std::optional<FilterNames> names_; // of this file, made when they are asked for
     bool hasAllEvents_ = false;
     std::function<QString()> told_;
+    Mark mark_ = Mark::invalid;
     QString applied_;
 };
 

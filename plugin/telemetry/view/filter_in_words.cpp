@@ -16,7 +16,25 @@ namespace {
 
 constexpr double kHighestCode = 0xFFFF;
 
-QString headingOf(const FilterColumn& column, const FilterNames& names, const RecordsModel& model)
+QString valueOf(const FilterColumn& column, double number, const FilterNames& names, qint32 utcOffset)
+{
+    if (holdsTimes(column))
+        return momentText(static_cast<qint64>(number), utcOffset);
+    const auto* const item = std::get_if<ItemIndex>(&column);
+    if (item && number >= 0 && number <= kHighestCode && number == std::trunc(number)) {
+        const QString word = *item == vlk::item("Code") ? requests::eventText(static_cast<int>(number))
+                                                        : wordOfCode(*item, static_cast<quint32>(number));
+        if (!word.isEmpty() && names.codesOf(column, word) == std::vector{CodeRange{number, number}})
+            return QStringLiteral("\"%1\"").arg(word);
+    }
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number, 'g', QLocale::FloatingPointShortest);
+}
+
+} // namespace
+
+QString columnInWords(const FilterColumn& column, const FilterNames& names, const RecordsModel& model)
 {
     const auto* const item = std::get_if<ItemIndex>(&column);
     const auto isShown = [item](const CsvColumn& shown) {
@@ -37,29 +55,11 @@ QString headingOf(const FilterColumn& column, const FilterNames& names, const Re
     return names.column(withoutUnit) == column ? withoutUnit : heading;
 }
 
-QString valueOf(const FilterColumn& column, double number, const FilterNames& names, qint32 utcOffset)
-{
-    if (holdsTimes(column))
-        return momentText(static_cast<qint64>(number), utcOffset);
-    const auto* const item = std::get_if<ItemIndex>(&column);
-    if (item && number >= 0 && number <= kHighestCode && number == std::trunc(number)) {
-        const QString word = *item == vlk::item("Code") ? requests::eventText(static_cast<int>(number))
-                                                        : wordOfCode(*item, static_cast<quint32>(number));
-        if (!word.isEmpty() && names.codesOf(column, word) == std::vector{CodeRange{number, number}})
-            return QStringLiteral("\"%1\"").arg(word);
-    }
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(number, 'g', QLocale::FloatingPointShortest);
-}
-
-} // namespace
-
 QString filterInWords(const Filter& filter, const FilterNames& names, const RecordsModel& model,
                       qint32 utcOffset)
 {
     const QString words = filter.text(
-        {[&](const FilterColumn& column) { return headingOf(column, names, model); },
+        {[&](const FilterColumn& column) { return columnInWords(column, names, model); },
          [&](const FilterColumn& column, double number) { return valueOf(column, number, names, utcOffset); },
          translated("rec_110"), translated("rec_111"), translated("rec_424")});
     return parseFilter(words, names, utcOffset).filter == filter ? words : filter.text();

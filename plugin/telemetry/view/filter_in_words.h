@@ -9,6 +9,8 @@ namespace vlk {
 
 class RecordsModel;
 
+// As the head of the column in this file has it, without its unit.
+QString columnInWords(const FilterColumn& column, const FilterNames& names, const RecordsModel& model);
 // The filter in the words of the windows; as it is kept where no words would be read as the same one.
 QString filterInWords(const Filter& filter, const FilterNames& names, const RecordsModel& model,
                       qint32 utcOffset);

@@ -50,7 +50,6 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
-constexpr int kFilterWidth = 240; // of one that is told below the table
 
 } // namespace
 
@@ -114,7 +113,6 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
         work_->setText(share < 1 ? tr("rec_471").arg(static_cast<int>(100 * share)) : QString());
     });
     connect(filter_, &FilterField::applied, this, &VLK_Widget_Tmi_Table::showCount);
-    connect(filter_, &FilterField::edited, this, &VLK_Widget_Tmi_Table::showCount);
     connect(empty_, &EmptyNote::pressed, filter_, &FilterField::clear);
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
     connect(helpButton_, &QPushButton::clicked, this,
@@ -298,6 +296,8 @@ bool VLK_Widget_Tmi_Table::stepBack()
         qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget());
     if (progress_->isRunning()) {
         Q_EMIT progress_->cancelled();
+    } else if (progress_->hasJustEnded()) {
+        return true;
     } else if (findBar_->isVisible()) {
         findBar_->close();
     } else if (filter_->giveBack()) {
@@ -324,13 +324,8 @@ void VLK_Widget_Tmi_Table::showCount()
     const QLocale locale;
     const QString all = locale.toString(shown_->records().size());
     const bool areAllShown = model_->rowCount() == shown_->records().size();
-    QString count =
+    const QString count =
         areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
-    const QString filter = filter_->appliedInstead();
-    if (!filter.isEmpty())
-        count =
-            tr("rec_511").arg(count, count_->fontMetrics().elidedText(filter, Qt::ElideRight, kFilterWidth));
-    count_->setToolTip(filter);
     const auto damaged = std::ranges::count_if(shown_->contents()->damaged,
                                                [this](int record) { return model_->rowOf(record) >= 0; });
     count_->setText(damaged > 0 ? tr("rec_297").arg(count, locale.toString(qlonglong(damaged))) : count);

@@ -64,6 +64,8 @@ void WorkProgress::setShare(double share)
 void WorkProgress::end()
 {
     what_ = nullptr;
+    if (isVisible())
+        ended_.start();
     hide();
 }
 

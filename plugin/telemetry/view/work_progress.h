@@ -28,14 +28,19 @@ public:
     void setShare(double share);
     void end();
     bool isRunning() const { return what_ != nullptr; }
+    // What the user may still believe to be running: whoever cancels it means nothing else.
+    bool hasJustEnded() const { return ended_.isValid() && !ended_.hasExpired(kJustMs); }
     void retranslate();
 
 Q_SIGNALS:
     void cancelled();
 
 private:
+    static constexpr int kJustMs = 1000;
+
     const char* what_ = nullptr;
     QElapsedTimer clock_;
+    QElapsedTimer ended_; // since it was seen
     QLabel* text_;
     QProgressBar* bar_;
     QLabel* left_;
