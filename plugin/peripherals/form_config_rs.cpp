@@ -5,6 +5,7 @@
 #include "peripherals/form_config_rs_param_canlog.h"
 #include "peripherals/rs_owner_forms.h"
 #include "settings/rs_settings.h"
+#include "windows/tab_order.h"
 #include "windows/wnd_config_full.h"
 #include "xml/xml_section.h"
 
@@ -204,6 +205,8 @@ void VLK_Form_Config_RS::showForm()
     ui_->stackedWidget_RS485_Param->setCurrentWidget(ui_->page_RS485);
     ui_->formLayout_RS485->insertRow(0, shown_->form);
     shown_->form->show();
+    // It is made later than all else of the window.
+    vlk::tabThrough(ui_->comboBox_RS485_StopBit, shown_->form);
     if (shown_->entry->offerAll)
         shown_->entry->offerAll(*shown_->form);
 }

@@ -424,6 +424,16 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
         }
+        // Enter presses a button as the space bar does.
+        child<QPushButton>("pushButton_TakeOver")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(child<QSpinBox>("GPRSSrv_spinBox_Port_Main")->value(), 4000);
+        // The form of a device comes later than the window.
+        child<QTabWidget>("tabWidget")->setCurrentIndex(4);
+        auto* last = child<QComboBox>("comboBox_RS485_StopBit");
+        last->setFocus();
+        QTest::keyClick(last, Qt::Key_Tab);
+        QVERIFY(child<QWidget>("FLDS")->isAncestorOf(QApplication::focusWidget()));
     }
 
     // Quick setup has fewer, and sets some without showing them.
