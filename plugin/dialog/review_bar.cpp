@@ -171,14 +171,16 @@ void ReviewBar::showState()
         button->setEnabled(!step.isEmpty());
     }
     const int count = review_.edited();
-    differences_->setText(QLocale().toString(count));
     const bool setsAnew = review_.setsAnew();
+    // More would be written than what was edited.
+    const QString number = QLocale().toString(count) + QLatin1String(setsAnew ? "+" : "");
+    differences_->setText(number);
     setMark(differences_, LineIcon::differences,
             count == 0 ? kNoMark : static_cast<int>(setsAnew ? Mark::advice : Mark::changed));
     const QString told =
         tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
     differences_->setToolTip(setsAnew ? told + QLatin1Char('\n') + tr("rev_293") : told);
-    differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
+    differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108"), number));
 }
 
 void ReviewBar::addLast(QWidget* widget)

@@ -243,6 +243,9 @@ private Q_SLOTS:
         // What full setup makes of it is no edit.
         dialog_->switchToFull();
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
+        // What quick setup makes of any file is not counted, but said to be there.
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0+"));
     }
 
     // What is not chosen stays, in quick setup too.
