@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>No server is in use: data are sent nowhere.</translation></message>
     <message id="adv_067"><translation>There is an encryption key, but data are encrypted for no server.</translation></message>
     <message id="adv_068"><translation>Only operators of the list are allowed in roaming, but the list is empty: no data are sent.</translation></message>
+    <message id="adv_190"><translation>Row %1 of the access point (APN) list: %2 is no operator code, which has 5 or 6 digits.</translation></message>
+    <message id="adv_191"><translation>Rows %1 and %2 of the access point (APN) list have the same operator code: %3.</translation></message>
     <message id="cfgt10_001"><translation>Output lines</translation></message>
     <message id="cfgt10_002"><translation>General purpose</translation></message>
     <message id="cfgt10_003"><translation>Buzzer</translation></message>
@@ -1013,6 +1015,7 @@
     <message id="cfgt6_450"><translation>No tracker is attached.</translation></message>
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
+    <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1498,6 +1501,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_330"><translation>it is closed</translation></message>
     <message id="cli_331"><translation>is a preset, not the configuration of a tracker: apply it to one and report that</translation></message>
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
+    <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1717,6 +1721,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_475"><translation>Drained, l</translation></message>
     <message id="rec_490"><translation>Records are still being exported. End the export? No file is written then.</translation></message>
     <message id="rec_491"><translation>End the export</translation></message>
+    <message id="rec_510"><translation>The name ends with .%1, but the form is: %2.</translation></message>
+    <message id="rec_511"><translation>%1, by the filter: %2</translation></message>
+    <message id="rec_540"><translation>Type the volume and the reading of a point above and press Enter, or paste rows of a spreadsheet: the volume first, unless headings tell otherwise.</translation></message>
+    <message id="rec_541"><translation>The columns have no headings. The first one is taken as: %1.</translation></message>
+    <message id="rec_542"><translation>Swap the columns</translation></message>
+    <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
+    <message id="rec_544"><translation>Not read in between: %1.</translation></message>
+    <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
@@ -2032,7 +2044,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Period saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
@@ -2078,6 +2090,11 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_311"><translation>End the save</translation></message>
+    <message id="tmiw_312"><translation>Go on saving</translation></message>
+    <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
+    <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2508,7 +2525,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_command_saving"><translation>The command was not sent: a period is being saved. Try again when the save has ended.</translation></message>
     <message id="wb_data_in_use"><translation>Another workbench is open on the data folder %1. Use that one, or start this one with --data and another folder.</translation></message>
     <message id="wb_data_temporary"><translation>The data folder cannot be written (%1). A temporary folder serves until the program ends.</translation></message>
-    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>The data folder cannot be written: %1. Start the workbench with --data and another folder.</translation></message>
     <message id="wb_description"><translation>Workbench for the R-7106 tracker: configuration, telemetry, message log, simulated tracker.</translation></message>
     <message id="wb_detach"><translation>Detach the trac&amp;ker</translation></message>
     <message id="wb_device"><translation>Tracker</translation></message>
@@ -2521,6 +2538,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_device_plugin"><translation>Plug-in</translation></message>
     <message id="wb_device_text1"><translation>Firmware</translation></message>
     <message id="wb_device_text2"><translation>Number</translation></message>
+    <message id="wb_do_again"><translation>Write once more.</translation></message>
     <message id="wb_do_attach"><translation>Attach the tracker and try again.</translation></message>
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
@@ -2598,7 +2616,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_file_unwritable"><translation>Cannot write the file %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Choose a folder</translation></message>
     <message id="wb_folder_configurations"><translation>Configurations</translation></message>
+    <message id="wb_folder_replaced"><translation>The folder %1 cannot be used: %2. Until the program ends files go to %3. Choose another one under Data folders.</translation></message>
     <message id="wb_folder_telemetry"><translation>Telemetry</translation></message>
+    <message id="wb_folder_unusable"><translation>No file can be put into %1: %2. Choose another folder.</translation></message>
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>
@@ -2725,7 +2745,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_problem_damaged"><translation>It is no configuration, or a damaged one: error in line %1, column %2.</translation></message>
     <message id="wb_problem_empty"><translation>It holds nothing.</translation></message>
     <message id="wb_problem_first_record"><translation>It ends within its first record, after %1&#160;B.</translation></message>
-    <message id="wb_problem_large"><translation>It is larger than any configuration: %1&#160;B.</translation></message>
+    <message id="wb_problem_large"><translation>It is larger than %1&#160;B, and no configuration is.</translation></message>
     <message id="wb_problem_model"><translation>It is the configuration of another model: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>It holds no record.</translation></message>
     <message id="wb_problem_records"><translation>None of its records is whole.</translation></message>
@@ -2767,6 +2787,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
+    <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
     <message id="wb_report_close"><translation>Close</translation></message>
     <message id="wb_report_confirmed"><translation>Written and confirmed: %1 of %2 settings</translation></message>
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
@@ -2776,6 +2799,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
     <message id="wb_report_key"><translation>Key</translation></message>
+    <message id="wb_report_left"><translation>The last write to tracker %1 (%2) was not confirmed: the program ended before. What the tracker holds is not known.</translation></message>
+    <message id="wb_report_left_do"><translation>Read the configuration from the tracker; then try again or bring the backup back.</translation></message>
     <message id="wb_report_missed"><translation>Not taken: %1 of %2 settings</translation></message>
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
@@ -2811,10 +2836,18 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_table"><translation>What will change in the tracker</translation></message>
     <message id="wb_review_title"><translation>Write to tracker %1</translation></message>
     <message id="wb_review_title_name"><translation>Write to tracker %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
+    <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
+    <message id="wb_review_why_lost"><translation>unknown keys of the file are not written</translation></message>
+    <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
+    <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>
+    <message id="wb_review_why_removes"><translation>settings are removed</translation></message>
     <message id="wb_review_write"><translation>&amp;Write to tracker</translation></message>
     <message id="wb_road_incomparable"><translation>The configuration cannot be compared with what the tracker holds.</translation></message>
     <message id="wb_road_no_backup"><translation>What the tracker holds could not be backed up, so nothing was sent.</translation></message>
     <message id="wb_road_other"><translation>Another tracker has been attached meanwhile.</translation></message>
+    <message id="wb_road_reattached"><translation>The tracker was detached and attached again meanwhile, so it may hold something else now.</translation></message>
     <message id="wb_road_request"><translation>What is to be written is no whole configuration.</translation></message>
     <message id="wb_save_ended"><translation>The save was ended. No record was saved; save the period again when the tracker answers.</translation></message>
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>

@@ -93,6 +93,8 @@
     <message id="adv_066"><translation>Ни один сервер не используется: данные никуда не передаются.</translation></message>
     <message id="adv_067"><translation>Ключ шифрования задан, но данные не шифруются ни для одного сервера.</translation></message>
     <message id="adv_068"><translation>В роуминге разрешены только операторы из списка, но список пуст: данные не передаются.</translation></message>
+    <message id="adv_190"><translation>Строка %1 списка точек доступа (APN): %2 — не код оператора, в нём 5 или 6 цифр.</translation></message>
+    <message id="adv_191"><translation>В строках %1 и %2 списка точек доступа (APN) один и тот же код оператора: %3.</translation></message>
     <message id="cfgt10_001"><translation>Выходные линии</translation></message>
     <message id="cfgt10_002"><translation>Общего назначения</translation></message>
     <message id="cfgt10_003"><translation>Зуммер</translation></message>
@@ -1013,6 +1015,7 @@
     <message id="cfgt6_450"><translation>Трекер не подключён.</translation></message>
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
+    <message id="cfgt6_460"><translation>Добавлено, пока показание ещё менялось. Измерьте снова, когда уровень установится.</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1498,6 +1501,7 @@
     <message id="cli_330"><translation>закрыт</translation></message>
     <message id="cli_331"><translation>это шаблон, а не конфигурация трекера: примените его к конфигурации и сделайте отчёт по ней</translation></message>
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
+    <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1717,6 +1721,14 @@
     <message id="rec_475"><translation>Слито, л</translation></message>
     <message id="rec_490"><translation>Записи ещё выгружаются. Прекратить? Файл тогда не будет записан.</translation></message>
     <message id="rec_491"><translation>Прекратить</translation></message>
+    <message id="rec_510"><translation>Имя файла оканчивается на .%1, а формат другой: %2.</translation></message>
+    <message id="rec_511"><translation>%1 по фильтру: %2</translation></message>
+    <message id="rec_540"><translation>Введите выше объём и показание точки и нажмите Enter или вставьте строки электронной таблицы: сначала объём, если заголовки не говорят иначе.</translation></message>
+    <message id="rec_541"><translation>У столбцов нет заголовков. Первый взят как: %1.</translation></message>
+    <message id="rec_542"><translation>Поменять столбцы местами</translation></message>
+    <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1. В файле их нет.</translation></message>
+    <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
+    <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
@@ -2032,7 +2044,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Период сохранён не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
@@ -2078,6 +2090,11 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
+    <message id="tmiw_312"><translation>Продолжить</translation></message>
+    <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
+    <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2508,7 +2525,7 @@
     <message id="wb_command_saving"><translation>Команда не отправлена: сохраняется период. Повторите, когда сохранение закончится.</translation></message>
     <message id="wb_data_in_use"><translation>С папкой данных %1 уже работает другое рабочее место. Перейдите в него или запустите это с ключом --data и другой папкой.</translation></message>
     <message id="wb_data_temporary"><translation>В папку данных нельзя писать (%1). До закрытия программы служит временная папка.</translation></message>
-    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1</translation></message>
+    <message id="wb_data_unwritable"><translation>В папку данных нельзя писать: %1. Запустите программу с --data и другой папкой.</translation></message>
     <message id="wb_description"><translation>Рабочее место настройщика трекера R-7106: конфигурация, телеметрия, журнал сообщений, имитатор трекера.</translation></message>
     <message id="wb_detach"><translation>Откл&amp;ючить трекер</translation></message>
     <message id="wb_device"><translation>Трекер</translation></message>
@@ -2521,6 +2538,7 @@
     <message id="wb_device_plugin"><translation>Модуль</translation></message>
     <message id="wb_device_text1"><translation>Прошивка</translation></message>
     <message id="wb_device_text2"><translation>Номер</translation></message>
+    <message id="wb_do_again"><translation>Запишите ещё раз.</translation></message>
     <message id="wb_do_attach"><translation>Подключите трекер и повторите.</translation></message>
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
@@ -2598,7 +2616,9 @@
     <message id="wb_file_unwritable"><translation>Не удалось записать файл %1: %2</translation></message>
     <message id="wb_folder_choose"><translation>Выбрать папку</translation></message>
     <message id="wb_folder_configurations"><translation>Конфигурации</translation></message>
+    <message id="wb_folder_replaced"><translation>Папку %1 использовать нельзя: %2. До конца работы программы файлы попадают в %3. Выберите другую в меню «Папки данных».</translation></message>
     <message id="wb_folder_telemetry"><translation>Телеметрия</translation></message>
+    <message id="wb_folder_unusable"><translation>В папку %1 нельзя записать файл: %2. Выберите другую папку.</translation></message>
     <message id="wb_folders"><translation>Папки данных</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Папки данных…</translation></message>
     <message id="wb_folders_use"><translation>Использовать эти папки</translation></message>
@@ -2725,7 +2745,7 @@
     <message id="wb_problem_damaged"><translation>Это не конфигурация, или она повреждена: ошибка в строке %1, столбце %2.</translation></message>
     <message id="wb_problem_empty"><translation>В нём ничего нет.</translation></message>
     <message id="wb_problem_first_record"><translation>Он обрывается на первой записи, после %1&#160;байт.</translation></message>
-    <message id="wb_problem_large"><translation>Он больше любой конфигурации: %1&#160;байт.</translation></message>
+    <message id="wb_problem_large"><translation>Он больше %1&#160;байт, таких больших конфигураций не бывает.</translation></message>
     <message id="wb_problem_model"><translation>Это конфигурация другой модели: %1.</translation></message>
     <message id="wb_problem_no_record"><translation>В нём нет ни одной записи.</translation></message>
     <message id="wb_problem_records"><translation>В нём нет ни одной целой записи.</translation></message>
@@ -2767,6 +2787,9 @@
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
     <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
+    <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
     <message id="wb_report_close"><translation>Закрыть</translation></message>
     <message id="wb_report_confirmed"><translation>Записано и подтверждено: %1 из %2 параметров</translation></message>
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
@@ -2776,6 +2799,8 @@
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
     <message id="wb_report_key"><translation>Ключ</translation></message>
+    <message id="wb_report_left"><translation>Последняя запись в трекер %1 (%2) не подтверждена: программа завершилась раньше. Что в трекере, неизвестно.</translation></message>
+    <message id="wb_report_left_do"><translation>Прочитайте конфигурацию из трекера, затем повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_missed"><translation>Не принято: %1 из %2 параметров</translation></message>
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
@@ -2811,11 +2836,19 @@
     <message id="wb_review_table"><translation>Что изменится в трекере</translation></message>
     <message id="wb_review_title"><translation>Запись в трекер %1</translation></message>
     <message id="wb_review_title_name"><translation>Запись в трекер %1 (%2)</translation></message>
+    <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
+    <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
+    <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
+    <message id="wb_review_why_lost"><translation>неизвестные ключи файла не записываются</translation></message>
+    <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
+    <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>
+    <message id="wb_review_why_removes"><translation>удаляются параметры</translation></message>
     <message id="wb_review_write"><translation>&amp;Записать в трекер</translation></message>
     <message id="wb_road_incomparable"><translation>Отправляемую конфигурацию не удалось сравнить с той, что в трекере.</translation></message>
     <message id="wb_road_no_backup"><translation>Резервную копию того, что в трекере, сохранить не удалось, поэтому ничего не отправлено.</translation></message>
     <message id="wb_road_other"><translation>Тем временем подключили другой трекер.</translation></message>
-    <message id="wb_road_request"><translation>То, что нужно записать, не целая конфигурация.</translation></message>
+    <message id="wb_road_reattached"><translation>Тем временем трекер отключили и подключили снова, в нём может быть уже другое.</translation></message>
+    <message id="wb_road_request"><translation>Файл, который нужно записать, не целая конфигурация.</translation></message>
     <message id="wb_save_ended"><translation>Сохранение прекращено. Ни одной записи не сохранено; сохраните период ещё раз, когда трекер будет отвечать.</translation></message>
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>

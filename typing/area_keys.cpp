@@ -6,6 +6,7 @@
 #include <QShortcut>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk {
 
@@ -85,8 +86,11 @@ void AreaKeys::go(int step)
     }
     const bool isFirst = !round_.isValid() || round_.hasExpired(kRoundMs);
     round_.start();
+    const int before = std::exchange(before_, 0);
     if (isFirst && step > 0 && at > 0 && !areas.front().isEmpty())
-        at = -1;
+        before_ = std::exchange(at, -1);
+    else if (!isFirst && step > 0 && at == 0)
+        at = before;
     for (int i = 0; i < count; ++i) {
         at = (at + step + count) % count;
         if (enter(at, areas[at]))

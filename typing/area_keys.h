@@ -2,8 +2,8 @@
 
 // F6 in a window goes from area to area, Shift+F6 the other way: from its bar of notices over what it shows
 // and its panels to its buttons, and round. The first F6 after a while goes to a bar that is there, wherever
-// the focus is. An area that the focus comes back to has it where it was; one that is hidden, or has nothing
-// for the keyboard, is passed over.
+// the focus is, and the next one on from there. An area that the focus comes back to has it where it was; one
+// that is hidden, or has nothing for the keyboard, is passed over.
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -37,6 +37,7 @@ private:
     QWidget* window_;
     Areas areas_;
     QElapsedTimer round_;                   // since the last step
+    int before_ = 0;                        // the area from which a step led to a bar
     std::map<int, QPointer<QWidget>> left_; // what had the focus in an area
 };
 

@@ -16,7 +16,7 @@ struct ErrorRow
 
 constexpr ErrorRow kErrors[] = {
     {EACCES, "tmiw_271"}, {EPERM, "tmiw_271"},  {ENOSPC, "tmiw_272"},       {EDQUOT, "tmiw_272"},
-    {EROFS, "tmiw_273"},  {ENOENT, "tmiw_274"}, {ENOTDIR, "tmiw_274"},      {EFBIG, "tmiw_275"},
+    {EROFS, "tmiw_273"},  {ENOENT, "tmiw_274"}, {ENOTDIR, "tmiw_314"},      {EFBIG, "tmiw_275"},
     {EIO, "tmiw_276"},    {EISDIR, "tmiw_277"}, {ENAMETOOLONG, "tmiw_278"},
 };
 

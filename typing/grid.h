@@ -9,19 +9,19 @@
 
 namespace vlk::grid {
 
-inline constexpr int window = 6;  // margin around all that a window holds
-inline constexpr int page = 9;    // margin around what stands on a page, and in a group but for its left
-inline constexpr int row = 6;     // between rows
-inline constexpr int column = 8;  // between columns
-inline constexpr int pair = 16;   // between pairs of caption and field in a row
-inline constexpr int group = 12;  // between groups
-inline constexpr int indent = 16; // left margin in a group
+inline constexpr int kWindow = 6;  // margin around all that a window holds
+inline constexpr int kPage = 9;    // margin around what stands on a page, and in a group but for its left
+inline constexpr int kRow = 6;     // between rows
+inline constexpr int kColumn = 8;  // between columns
+inline constexpr int kPair = 16;   // between pairs of caption and field in a row
+inline constexpr int kGroup = 12;  // between groups
+inline constexpr int kIndent = 16; // left margin in a group
 
-inline constexpr QMargins aroundWindow{window, window, window, window};
-inline constexpr QMargins aroundPage{page, page, page, page};
-inline constexpr QMargins inGroup{indent, row, page, page};
+inline constexpr QMargins kAroundWindow{kWindow, kWindow, kWindow, kWindow};
+inline constexpr QMargins kAroundPage{kPage, kPage, kPage, kPage};
+inline constexpr QMargins kInGroup{kIndent, kRow, kPage, kPage};
 
-// The margin of layouts that say nothing of their own.
+// Of layouts that say nothing of their own. What stands in another layout has the distance of that one.
 inline std::optional<int> metric(QStyle::PixelMetric metric)
 {
     switch (metric) {
@@ -29,7 +29,11 @@ inline std::optional<int> metric(QStyle::PixelMetric metric)
     case QStyle::PM_LayoutTopMargin:
     case QStyle::PM_LayoutRightMargin:
     case QStyle::PM_LayoutBottomMargin:
-        return page;
+        return kPage;
+    case QStyle::PM_LayoutHorizontalSpacing:
+        return kColumn;
+    case QStyle::PM_LayoutVerticalSpacing:
+        return kRow;
     default:
         return {};
     }

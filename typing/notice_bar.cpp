@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -63,16 +64,24 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     hide();
 }
 
-void NoticeBar::keepPlace()
+void NoticeBar::keepPlace(bool keeps)
 {
-    // As the label measures two lines, which is more than the font says.
-    text_->setText(QStringLiteral("x x"));
-    keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
-    text_->clear();
+    if (keeps == (keptHeight_ > 0))
+        return;
+    keptHeight_ = 0;
+    if (keeps) {
+        // As the label measures two lines, which is more than the font says.
+        const QString told = text_->text();
+        text_->setText(QStringLiteral("x x"));
+        keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
+        text_->setText(told);
+    }
     QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
+    policy.setRetainSizeWhenHidden(keeps);
     setSizePolicy(policy);
+    setMaximumHeight(QWIDGETSIZE_MAX);
     claimHeight();
+    setVisible(isTelling() || roomBelow_ > 0);
 }
 
 // A layout that asks what height goes with a width asks all its widgets, and a scroll area then takes what
@@ -94,11 +103,13 @@ void NoticeBar::claimHeight()
     margins.setTop(isOnShow ? std::max(0, kRim - frameWidth()) : 0);
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
-    if (keepsPlace)
-        setFixedHeight(
-            std::max({keptHeight_, isOnShow ? layout()->heightForWidth(width()) : 0, wanted - kRoomMargin}));
-    else
+    if (keepsPlace) {
+        const int own = std::max(keptHeight_, isOnShow ? layout()->heightForWidth(width()) : 0);
+        setProperty(kOwnHeight, own);
+        setFixedHeight(std::max(own, wanted - kRoomMargin));
+    } else {
         setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
+    }
     const bool isCovered = keepsPlace && isOnShow && wanted > 0;
     if (std::exchange(isCovered_, isCovered) != isCovered)
         Q_EMIT coverChanged();
@@ -119,7 +130,8 @@ void NoticeBar::showPlace()
 
 bool NoticeBar::event(QEvent* event)
 {
-    if (event->type() == QEvent::DynamicPropertyChange) {
+    if (event->type() == QEvent::DynamicPropertyChange &&
+        static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == kRoomBelow) {
         claimHeight();
         if (!isTelling())
             setVisible(roomBelow_ > 0);
@@ -161,10 +173,21 @@ void NoticeBar::changeEvent(QEvent* event)
         setCross();
 }
 
-// The first click of a double click may have put another button, or another notice, under the mouse.
+// Enter presses a button of the bar as Space does. The first click of a double click may have put another
+// button, or another notice, under the mouse.
 bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
 {
-    return watched->parent() == this && event->type() == QEvent::MouseButtonDblClick;
+    auto* const button = qobject_cast<QAbstractButton*>(watched);
+    if (!button || button->parent() != this)
+        return QFrame::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress) {
+        const auto* const pressed = static_cast<QKeyEvent*>(event);
+        const bool isEnter = pressed->key() == Qt::Key_Return || pressed->key() == Qt::Key_Enter;
+        if (isEnter && !pressed->isAutoRepeat())
+            button->click();
+        return isEnter;
+    }
+    return event->type() == QEvent::MouseButtonDblClick;
 }
 
 void NoticeBar::put(Told told)

@@ -58,14 +58,18 @@ public:
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
-    // and go while the user presses buttons, nothing may move under the mouse.
-    void keepPlace();
+    // and go while the user presses buttons, nothing may move under the mouse. A window too low for that
+    // takes the place back.
+    void keepPlace(bool keeps = true);
     bool isTelling() const { return worst() != nullptr; }
     // The property in which the host says how many pixels its own notice wants. A bar with a kept place has
     // it stand there, over what the bar tells, which waits as in any bar that tells several things. Another
     // bar gives the room below what is on show, or alone.
     static constexpr const char* kRoomBelow = "roomBelow";
     static constexpr int kRoomMargin = 6; // of these pixels, between the two
+    // The property with the height that a bar with a kept place has without the host's notice, which is to
+    // cover it whole.
+    static constexpr const char* kOwnHeight = "ownHeight";
     // So many notices wait behind this bar, in another one.
     void setBehind(int count);
     void retranslate();

@@ -230,7 +230,11 @@ QString tableText(const QAbstractItemView& table, CopiedRows rows)
             chosen << row;
     }
     for (const int row : rows == CopiedRows::all || chosen.isEmpty() ? shown : chosen)
-        addLine([&](int column) { return model.index(row, column).data().toString(); });
+        addLine([&](int column) {
+            const QModelIndex index = model.index(row, column);
+            const QVariant copied = index.data(kCopiedRole);
+            return (copied.isValid() ? copied : index.data()).toString();
+        });
     return text;
 }
 

@@ -6,6 +6,7 @@
 // chosen.
 
 #include <QString>
+#include <qnamespace.h>
 
 class QAbstractItemView;
 class QTableView;
@@ -31,6 +32,9 @@ void wrapTexts(QTableView* table);
 
 // How wide a cell of a text is.
 int cellWidth(const QAbstractItemView& table, const QString& text);
+
+// What a copy has in the place of what a cell shows, where a model tells one.
+inline constexpr int kCopiedRole = Qt::UserRole + 0xC0;
 
 // What Ctrl+C takes where nothing is edited: cells with a tab between them, each row on a line; the heads
 // first.

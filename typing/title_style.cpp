@@ -9,6 +9,8 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace vlk {
 
 namespace {
@@ -70,6 +72,16 @@ QSize TitleStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         return own;
     const QRect title = subControlRect(CC_GroupBox, group, SC_GroupBoxLabel, widget);
     return own.expandedTo({title.width() + kBesideTitle, 0});
+}
+
+QSize withRoomBesideWords(QSize size, const QSize& contents, const QStyleOption* option)
+{
+    constexpr int kBesideWords = 10;
+    constexpr int kLeastButton = 80;
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button && !button->text.isEmpty())
+        size.setWidth(std::max({size.width(), contents.width() + 2 * kBesideWords, kLeastButton}));
+    return size;
 }
 
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)

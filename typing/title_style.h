@@ -30,6 +30,9 @@ public:
                            const QWidget* widget = nullptr) const override;
 };
 
+// The size of a button, of which words need the contents: with room beside them, and wide enough to be hit.
+QSize withRoomBesideWords(QSize size, const QSize& contents, const QStyleOption* option);
+
 // To be called by a style behind its own drawing of a part: outlines a box or a radio button on a dark
 // window.
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter);

@@ -1,3 +1,4 @@
+#include "typing/file_error.h"
 #include "window/command_line.h"
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
@@ -61,8 +62,9 @@ workbench::CommandLine readCommandLine(int& argc, char* argv[], QString& noDispl
 // Without a usable data folder there is nothing to run with.
 int complain(const workbench::DataFolder& folder, bool withBox)
 {
-    const QString sentence = folder.isInUse() ? workbench::text("wb_data_in_use").arg(folder.error())
-                                              : workbench::text("wb_data_unwritable").arg(folder.error());
+    const QString sentence =
+        folder.isInUse() ? workbench::text("wb_data_in_use").arg(folder.error())
+                         : workbench::text("wb_data_unwritable").arg(vlk::fileErrorText(folder.error()));
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     if (withBox)
         QMessageBox::warning(nullptr, workbench::text("wb_title"), sentence);
@@ -109,7 +111,7 @@ int main(int argc, char* argv[])
     workbench::Languages languages;
     if (!folder.isUsable()) {
         languages.set(line.language.value_or(workbench::Languages::ofSystem()));
-        return complain(folder, !isTour && folder.isInUse());
+        return complain(folder, !isTour);
     }
     workbench::Settings settings(folder.settingsFile());
     settings.setForThisRun(line.language, line.mode);
@@ -120,7 +122,8 @@ int main(int argc, char* argv[])
     window.show();
     const bool started = window.start(workbench::pluginPath());
     if (folder.isTemporary())
-        window.tellOfRun([&] { return workbench::text("wb_data_temporary").arg(folder.error()); });
+        window.tellOfRun(
+            [&] { return workbench::text("wb_data_temporary").arg(vlk::fileErrorText(folder.error())); });
     else if (settings.wasDamaged() && started)
         window.tellOfRun([] { return workbench::text("wb_settings_damaged"); });
 

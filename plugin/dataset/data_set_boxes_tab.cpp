@@ -41,7 +41,7 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
     : VLK_Form_Config_Set_Zeta3_Tab(index, parent), titleKey_(title)
 {
     auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(grid::group);
+    grid->setVerticalSpacing(grid::kGroup);
     for (const DataSetGroup& row : kDataSetGroups) {
         if (row.tab != which)
             continue;
@@ -49,7 +49,7 @@ DataSetBoxesTab::DataSetBoxesTab(DataSetTab which, int index, const char* title,
         box->setObjectName(QString::fromLatin1(row.name));
         groups_.push_back({&row, box, new QGridLayout(box), {}});
         Group& group = groups_.back();
-        group.grid->setVerticalSpacing(grid::row);
+        group.grid->setVerticalSpacing(grid::kRow);
         bool shown = false;
         for (const DataSetBox& one : kDataSetBoxes) {
             if (one.tab != which || QLatin1String(one.group) != box->objectName())
@@ -146,7 +146,7 @@ void DataSetBoxesTab::place(const DataSetBox& row, QWidget* widget, Group& group
             frame->setEnabled(false);
             auto* inside = new QVBoxLayout(frame);
             inside->setContentsMargins({});
-            inside->setSpacing(grid::row);
+            inside->setSpacing(grid::kRow);
             group.grid->addWidget(frame, group.nextRow++, 0);
         }
         frame->layout()->addWidget(widget);

@@ -1,6 +1,7 @@
 #include "dialog/list_panel.h"
 
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/line_icon.h"
 #include "typing/table_look.h"
 
@@ -44,13 +45,13 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
     close_->setIcon(lineIcon(LineIcon::cross));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->setSpacing(6);
+    layout->setSpacing(vlk::grid::kRow);
     edge_->setObjectName(QStringLiteral("edge_") + end);
     edge_->setFixedHeight(kEdge);
     edge_->setCursor(Qt::SplitVCursor);
     edge_->installEventFilter(this);
     auto* head = new QHBoxLayout;
-    head->setSpacing(8);
+    head->setSpacing(vlk::grid::kColumn);
     head->addWidget(title_);
     head->addStretch();
     head->addWidget(close_);

@@ -5,6 +5,7 @@
 #include "dialog/file_names.h"
 #include "dialog/report_sheet.h"
 #include "review/report.h"
+#include "typing/grid.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
 #include "windows/named_widget.h"
@@ -64,20 +65,20 @@ ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStr
     preview_->setOpenLinks(false);
     preview_->setPalette(ofPaper(preview_->palette()));
     auto* choice = new QHBoxLayout;
-    choice->setSpacing(8);
+    choice->setSpacing(vlk::grid::kColumn);
     for (QWidget* widget : QWidgetList{of_, contents_, onePage_, secrets_})
         choice->addWidget(widget);
     choice->addStretch();
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
+    buttons->setSpacing(vlk::grid::kColumn);
     buttons->addStretch();
     for (QPushButton* button : {print_, pdf_, saveHtml_, close_}) {
         button->setAutoDefault(false);
         buttons->addWidget(button);
     }
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setSpacing(vlk::grid::kRow);
     layout->addLayout(choice);
     // Below what is chosen, which stays where it is when the bar comes.
     layout->addWidget(bar_);

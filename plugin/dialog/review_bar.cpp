@@ -6,6 +6,7 @@
 #include "review/setting_words.h"
 #include "review/value_text.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/line_icon.h"
 #include "windows/named_widget.h"
 
@@ -100,7 +101,7 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
-    row->setSpacing(8);
+    row->setSpacing(vlk::grid::kColumn);
     for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_, advice_})
         row->addWidget(widget);
     undo_->setIcon(lineIcon(LineIcon::undo));

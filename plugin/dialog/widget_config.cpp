@@ -184,6 +184,15 @@ void VLK_Widget_Config::addKeeper()
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
 }
 
+// A page that moves under the mouse is a wrong key or a wrong press. Where the screen is low the page needs
+// the lines more.
+void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
+{
+    constexpr int kRoomy = 560;
+    unsaved_->keepPlace(height() >= kRoomy);
+    QDialog::resizeEvent(event);
+}
+
 void VLK_Widget_Config::showKeptPanel()
 {
     kept_ = vlk::PanelMemory::load();

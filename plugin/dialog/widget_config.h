@@ -66,6 +66,7 @@ public:
 protected:
     // Esc that no field and no popup has use for closes a panel, then the window.
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void saveToXml(CXmlSection* root);

@@ -63,12 +63,16 @@ QString table(const CalibrationSheet& sheet)
         html += QStringLiteral("<tr>");
         for (int at = row; at < rows * pairs; at += rows) {
             const FuelRow cells = at < count ? sheet.rows[static_cast<std::size_t>(at)] : FuelRow();
-            for (const QString& text : {cells.volume, cells.value})
+            const QLatin1String mark(cells.changing.isEmpty() ? "" : " *");
+            for (const QString& text : {cells.volume, QString(cells.value + mark)})
                 html += QStringLiteral("<td align=right>%1</td>").arg(text.toHtmlEscaped());
         }
         html += QStringLiteral("</tr>");
     }
-    return html + QStringLiteral("</table>");
+    html += QStringLiteral("</table>");
+    const bool anyMarked =
+        std::ranges::any_of(sheet.rows, [](const FuelRow& row) { return !row.changing.isEmpty(); });
+    return anyMarked ? html + QStringLiteral("<p>* %1</p>").arg(fuelWord("cfgt6_460")) : html;
 }
 
 } // namespace

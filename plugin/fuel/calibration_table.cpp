@@ -80,6 +80,8 @@ void CalibrationTable::addRows(const vlk::FuelRows& rows)
             setItem(row, column, item);
             added_ = item;
         }
+        if (!texts.changing.isEmpty())
+            added_->setData(kUnsteady, texts.changing);
         auto* mark = new QTableWidgetItem;
         mark->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         mark->setCheckState(Qt::Unchecked);
@@ -93,12 +95,6 @@ void CalibrationTable::setRows(const vlk::FuelRows& rows)
 {
     setRowCount(0);
     addRows(rows);
-}
-
-void CalibrationTable::noteUnsteady(const QString& from, const QString& to)
-{
-    const QSignalBlocker quiet(this);
-    added_->setData(kUnsteady, QStringList{from, to});
 }
 
 void CalibrationTable::forgetUnsteady(int row)
@@ -134,7 +130,8 @@ vlk::FuelRows CalibrationTable::rows() const
 {
     vlk::FuelRows rows;
     for (int row = 0; row < rowCount(); ++row)
-        rows.push_back({cell(row, Volume)->text(), cell(row, Value)->text()});
+        rows.push_back({cell(row, Volume)->text(), cell(row, Value)->text(),
+                        cell(row, Value)->data(kUnsteady).toStringList()});
     return rows;
 }
 

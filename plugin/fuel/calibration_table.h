@@ -32,9 +32,7 @@ public:
     void sortByVolume() { sortItems(Volume); }
     // Scrolls to the row that was added last.
     void showAdded() { scrollToItem(added_); }
-    // The value that was added last, while the reading went from one number to another.
-    void noteUnsteady(const QString& from, const QString& to);
-    // One that was typed since is no longer that reading.
+    // A value that was typed since is no longer a reading.
     void forgetUnsteady(int row);
     // Marks a volume, or a value at another volume, that repeats the one above it, and a value that was taken
     // while the reading changed (from %1 to %2), with a tool tip.

@@ -5,6 +5,7 @@
 #include "fuel/form_report_fuel.h"
 #include "fuel/fuel_number_line.h"
 #include "fuel/fuelsensor_graph.h"
+#include "fuel/paste_preview.h"
 #include "fuel/question.h"
 #include "fuel/table/fuel_sensors.h"
 #include "typing/empty_note.h"
@@ -13,8 +14,6 @@
 #include "typing/present_value.h"
 
 #include <QAction>
-#include <QClipboard>
-#include <QKeyEvent>
 
 namespace {
 
@@ -69,22 +68,6 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
 
 VLK_Form_Fuel_Sensor::~VLK_Form_Fuel_Sensor() = default;
 
-void VLK_Form_Fuel_Sensor::addClipboardActions()
-{
-    copy_->setShortcut(QKeySequence::Copy);
-    paste_->setShortcut(QKeySequence::Paste);
-    takeBack_->setShortcut(QKeySequence::Undo);
-    takeBack_->setEnabled(false);
-    connect(copy_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::copyTable);
-    connect(paste_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::pasteRows);
-    connect(takeBack_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::takePasteBack);
-    for (QAction* action : {copy_, paste_, takeBack_}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        ui_->tableWidget->addAction(action);
-    }
-    ui_->tableWidget->setContextMenuPolicy(Qt::ActionsContextMenu);
-}
-
 void VLK_Form_Fuel_Sensor::setKind(int kind)
 {
     kind_ = kind;
@@ -118,7 +101,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     ui_->pushButton_Del->setToolTip(tr("cfgt6_048"));
     ui_->pushButton_Clear->setToolTip(tr("cfgt6_049"));
     ui_->tableWidget->setAccessibleName(tr("cfgt6_037"));
-    empty_->tell(tr("tmiw_291"));
+    empty_->tell(tr(emptyKey_));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
     takeBack_->setText(tr("cfgt6_421"));
@@ -157,6 +140,8 @@ void VLK_Form_Fuel_Sensor::setParamEditable(bool editable)
     vlk::showAsPresent(ui_->lineEdit_Param, !editable);
     // While the sensor says nothing.
     ui_->lineEdit_Param->setPlaceholderText(editable ? QString() : QStringLiteral("–"));
+    emptyKey_ = editable ? "rec_540" : "tmiw_291";
+    empty_->tell(tr(emptyKey_));
 }
 
 void VLK_Form_Fuel_Sensor::setLiveValue(int raw)
@@ -224,44 +209,6 @@ void VLK_Form_Fuel_Sensor::offerName(const QString& name)
         name.isEmpty() ? QString() : QStringLiteral("%1 (%2)").arg(name, tr("cfgt6_408")));
 }
 
-bool VLK_Form_Fuel_Sensor::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto* line = qobject_cast<QLineEdit*>(watched);
-    if (!line || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    auto& key = *static_cast<QKeyEvent*>(event);
-    return line == ui_->lineEdit_Name ? takesName(key) : takesKey(*line, key);
-}
-
-bool VLK_Form_Fuel_Sensor::takesName(const QKeyEvent& key)
-{
-    if (key.key() != Qt::Key_Right || offeredName_.isEmpty() || !ui_->lineEdit_Name->text().isEmpty())
-        return false;
-    ui_->lineEdit_Name->setText(offeredName_);
-    return true;
-}
-
-bool VLK_Form_Fuel_Sensor::takesKey(const QLineEdit& number, QKeyEvent& key)
-{
-    // Where nothing was typed there is nothing to take back: the key is the window's.
-    if (key.key() == Qt::Key_Escape && number.text().isEmpty() && !number.isModified()) {
-        key.ignore();
-        return true;
-    }
-    // As soon as a paste into the field is done, this is how it is taken back.
-    if (key.matches(QKeySequence::Undo) && number.text().isEmpty() && beforePaste_) {
-        takePasteBack();
-        return true;
-    }
-    // Several lines are points, not a number.
-    if (key.matches(QKeySequence::Paste) &&
-        QGuiApplication::clipboard()->text().trimmed().contains(QLatin1Char('\n'))) {
-        pasteRows();
-        return true;
-    }
-    return false;
-}
-
 void VLK_Form_Fuel_Sensor::addRow(const QString& volume, const QString& value)
 {
     addRows({{volume, value}});
@@ -307,18 +254,7 @@ void VLK_Form_Fuel_Sensor::rebuildPoints()
 
 void VLK_Form_Fuel_Sensor::showFallingPoints()
 {
-    constexpr std::size_t kNamed = 8;
-    const auto falling = vlk::fallingPoints(points_);
-    QStringList volumes;
-    for (std::size_t i = 0; i < std::min(falling.size(), kNamed); ++i)
-        volumes << QStringLiteral("%1 → %2")
-                       .arg(static_cast<double>(points_[falling[i] - 1].volume))
-                       .arg(static_cast<double>(points_[falling[i]].volume));
-    if (falling.size() > kNamed)
-        volumes << QStringLiteral("…");
-    const QString names = volumes.join(QStringLiteral("; "));
-    ui_->label_Falling->setText(falling.empty() ? QString()
-                                                : tr("cfgt6_403").replace(QLatin1String("%1"), names));
+    ui_->label_Falling->setText(PastePreview::fallingText(points_));
 }
 
 void VLK_Form_Fuel_Sensor::setDirty(bool dirty)
@@ -368,14 +304,12 @@ void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 {
-    const vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
+    vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
+    if (!reading_.isSteady())
+        row.changing = QStringList{reading_.before(), reading_.text()};
     addRows({row});
-    if (!reading_.isSteady()) {
-        ui_->tableWidget->noteUnsteady(reading_.before(), reading_.text());
-        markDoubtful();
-    }
     ui_->tableWidget->showAdded();
     askForVolume();
     setDirty(true);

@@ -111,6 +111,8 @@ private:
     void showCaptions();
     void copyTable() const;
     void pasteRows();
+    // True where the columns are to be read the other way round.
+    bool pasteInOrder(const QString& text, vlk::FuelOrder order);
     void takePasteBack();
     void forgetPaste();
     // In the place of those that are there.
@@ -131,6 +133,7 @@ private:
 
     std::unique_ptr<Ui::VLK_Designer_Form_Fuel_Sensor> ui_;
     vlk::EmptyNote* empty_;
+    const char* emptyKey_ = nullptr;
     VLK_FuelSensor_Graph* graph_;
     VLK_FormReportFuel* report_ = nullptr;
     QAction* copy_;

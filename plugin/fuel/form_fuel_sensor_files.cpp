@@ -85,25 +85,36 @@ void VLK_Form_Fuel_Sensor::copyTable() const
 
 void VLK_Form_Fuel_Sensor::pasteRows()
 {
+    const QString text = QGuiApplication::clipboard()->text();
+    const auto hasRows = [&](vlk::FuelOrder order) {
+        return !vlk::readFuelClipboard(text, captions(), vlk::fuelKind(kind_), order).rows.empty();
+    };
+    // As on the screen, unless only the other way round gives points, until the user is content.
+    bool isSwapped = !hasRows(vlk::FuelOrder::VolumeFirst) && hasRows(vlk::FuelOrder::ValueFirst);
+    while (pasteInOrder(text, isSwapped ? vlk::FuelOrder::ValueFirst : vlk::FuelOrder::VolumeFirst))
+        isSwapped = !isSwapped;
+}
+
+bool VLK_Form_Fuel_Sensor::pasteInOrder(const QString& text, vlk::FuelOrder order)
+{
     const vlk::FuelCaptions texts = captions();
-    const auto pasted =
-        vlk::readFuelClipboard(QGuiApplication::clipboard()->text(), texts, vlk::fuelKind(kind_));
+    const auto pasted = vlk::readFuelClipboard(text, texts, vlk::fuelKind(kind_), order);
     if (pasted.rows.empty()) {
         QString told = tr("cfgt6_411").arg(pasted.leftOut.size());
         if (!pasted.leftOut.empty())
             told += QLatin1Char(' ') + PastePreview::reasons(pasted.leftOut, texts);
         vlk::warn(this, told);
-        return;
+        return false;
     }
     const vlk::FuelRows there = rows();
     const auto joining = vlk::joining(pasted.rows, there);
     if (joining.rows.empty()) {
         vlk::warn(this, tr("cfgt6_420").arg(joining.known));
-        return;
+        return false;
     }
-    PastePreview preview(joining, pasted.leftOut, texts, this);
-    if (preview.exec() != QDialog::Accepted)
-        return;
+    PastePreview preview(joining, pasted, texts, this);
+    if (const int answer = preview.exec(); answer != QDialog::Accepted)
+        return answer == PastePreview::kSwapped;
     BeforePaste before{there, dirty_, edited_};
     if (preview.isToReplace()) {
         vlk::FuelRows kept;
@@ -117,6 +128,7 @@ void VLK_Form_Fuel_Sensor::pasteRows()
     setDirty(true);
     beforePaste_ = std::move(before);
     takeBack_->setEnabled(true);
+    return false;
 }
 
 void VLK_Form_Fuel_Sensor::takePasteBack()

@@ -35,6 +35,16 @@ void addSentence(QVBoxLayout* column, const char* name, const QString& text)
     column->addWidget(sentence);
 }
 
+// By their volume, as the table shows them.
+vlk::FuelPoints pointsOf(const vlk::FuelRows& rows)
+{
+    vlk::FuelPoints points;
+    for (const vlk::FuelRow& row : rows)
+        points.push_back({vlk::fuelNumber(row.volume), vlk::fuelNumber(row.value)});
+    std::ranges::stable_sort(points, {}, &vlk::FuelPoint::volume);
+    return points;
+}
+
 } // namespace
 
 QString PastePreview::reasons(const std::vector<vlk::LeftOutLine>& leftOut, const vlk::FuelCaptions& captions)
@@ -55,7 +65,31 @@ QString PastePreview::reasons(const std::vector<vlk::LeftOutLine>& leftOut, cons
     return tr("cfgt6_424").arg(named(leftOut, told));
 }
 
-PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<vlk::LeftOutLine>& leftOut,
+QString PastePreview::fallingText(const vlk::FuelPoints& points)
+{
+    const auto volumes = [&points](std::size_t point) {
+        return QStringLiteral("%1 → %2")
+            .arg(static_cast<double>(points[point - 1].volume))
+            .arg(static_cast<double>(points[point].volume));
+    };
+    const auto falling = vlk::fallingPoints(points);
+    if (falling.empty())
+        return {};
+    return tr("cfgt6_403").replace(QLatin1String("%1"), named(falling, volumes));
+}
+
+void PastePreview::addOrder(QVBoxLayout* column, vlk::FuelOrder order, const vlk::FuelCaptions& captions)
+{
+    const bool isVolumeFirst = order == vlk::FuelOrder::VolumeFirst;
+    addSentence(column, "label_Order", tr("rec_541").arg(isVolumeFirst ? captions.volume : captions.value));
+    auto* swap = new QPushButton(tr("rec_542"));
+    swap->setObjectName(QStringLiteral("pushButton_Swap"));
+    swap->setAutoDefault(false);
+    connect(swap, &QPushButton::clicked, this, [this] { done(kSwapped); });
+    column->addWidget(swap, 0, Qt::AlignLeft);
+}
+
+PastePreview::PastePreview(const vlk::JoiningRows& joining, const vlk::PastedRows& pasted,
                            const vlk::FuelCaptions& captions, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint)
 {
@@ -84,9 +118,14 @@ PastePreview::PastePreview(const vlk::JoiningRows& joining, const std::vector<vl
     }
     column->addWidget(table);
 
-    if (!leftOut.empty())
+    if (!pasted.areHeaded)
+        addOrder(column, pasted.order, captions);
+    if (const QString falling = fallingText(pointsOf(joining.rows)); !falling.isEmpty())
+        addSentence(column, "label_PastedFalling", falling);
+    if (!pasted.leftOut.empty())
         addSentence(column, "label_LeftOut",
-                    tr("cfgt6_410").arg(leftOut.size()) + QLatin1Char(' ') + reasons(leftOut, captions));
+                    tr("cfgt6_410").arg(pasted.leftOut.size()) + QLatin1Char(' ') +
+                        reasons(pasted.leftOut, captions));
     if (joining.known > 0)
         addSentence(column, "label_Known", tr("cfgt6_417").arg(joining.known));
     if (!joining.others.empty()) {

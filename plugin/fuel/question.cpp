@@ -10,8 +10,11 @@ namespace vlk {
 bool agrees(QWidget* parent, const QString& text, const char* noKey)
 {
     QMessageBox box(QMessageBox::Warning, fuelWord("wrd_005"), text, QMessageBox::NoButton, parent);
-    const auto* yes = box.addButton(fuelWord("wrd_001"), QMessageBox::YesRole);
+    auto* yes = box.addButton(fuelWord("wrd_001"), QMessageBox::YesRole);
     auto* no = box.addButton(fuelWord(noKey), QMessageBox::NoRole);
+    // The words are those of values too, so they name no letter themselves.
+    for (QPushButton* button : {yes, no})
+        button->setShortcut(QKeySequence::mnemonic(QLatin1Char('&') + button->text()));
     box.setDefaultButton(no);
     box.setEscapeButton(no);
     box.exec();

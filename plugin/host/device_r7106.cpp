@@ -22,6 +22,7 @@ void showIn(Window* window, const What&... what)
 {
     window->show();
     window->raise();
+    window->activateWindow();
     window->open(what...);
 }
 

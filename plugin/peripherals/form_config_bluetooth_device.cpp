@@ -24,7 +24,7 @@ VLK_Form_Config_Bluetooth_Device::VLK_Form_Config_Bluetooth_Device(vlk::PageSett
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(vlk::grid::group);
+    layout->setSpacing(vlk::grid::kGroup);
     for (int number = 1; number <= kSensors; ++number) {
         sensors_[number - 1] = makeSensor(number);
         layout->addWidget(sensors_[number - 1].box);
@@ -40,7 +40,7 @@ VLK_Form_Config_Bluetooth_Device::Sensor VLK_Form_Config_Bluetooth_Device::makeS
     sensor.box = vlk::numberedWidget<QGroupBox>("groupBox_Sens_%1", number);
     sensor.name = vlk::numberedWidget<QLineEdit>("lineEdit_Name_Sens_%1", number);
     auto* layout = new QVBoxLayout(sensor.box);
-    layout->setSpacing(6);
+    layout->setSpacing(vlk::grid::kRow);
     auto* grid = new QGridLayout;
     const std::pair<QLabel*, QWidget*> fields[] = {
         {vlk::numberedWidget<QLabel>("label_Type_Sens_%1", number),

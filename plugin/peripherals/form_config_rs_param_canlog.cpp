@@ -1,5 +1,6 @@
 #include "peripherals/form_config_rs_param_canlog.h"
 
+#include "typing/grid.h"
 #include "windows/binder/page_settings.h"
 #include "windows/disabled_reason.h"
 
@@ -17,7 +18,7 @@ VLK_Form_Config_RS_Param_CanLog::VLK_Form_Config_RS_Param_CanLog(QWidget* parent
     get_->setObjectName(QStringLiteral("pushButton_Programm_Get"));
     set_->setObjectName(QStringLiteral("pushButton_Programm_Set"));
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
+    buttons->setSpacing(vlk::grid::kColumn);
     for (QPushButton* button : {get_, set_}) {
         button->setAutoDefault(false);
         buttons->addWidget(button);

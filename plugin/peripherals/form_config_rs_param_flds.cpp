@@ -3,6 +3,7 @@
 #include "fuel/form_fuel_view.h"
 #include "review/value_text.h"
 #include "settings/rs_settings.h"
+#include "typing/grid.h"
 #include "windows/binder/row_inputs.h"
 #include "windows/column_head.h"
 #include "windows/named_widget.h"
@@ -50,8 +51,9 @@ VLK_Form_Config_RS_Param_Flds_RS485::VLK_Form_Config_RS_Param_Flds_RS485(bool si
 {
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(8);
+    whole->setSpacing(vlk::grid::kRow);
     auto* type = new QHBoxLayout;
+    type->setSpacing(vlk::grid::kColumn);
     auto* label = new QLabel;
     auto* types = new QComboBox;
     label->setObjectName(QStringLiteral("label_FuelType"));
@@ -63,8 +65,8 @@ VLK_Form_Config_RS_Param_Flds_RS485::VLK_Form_Config_RS_Param_Flds_RS485(bool si
     whole->addLayout(type);
     whole->addLayout(table_);
     whole->addStretch(1);
-    table_->setHorizontalSpacing(8);
-    table_->setVerticalSpacing(6);
+    table_->setHorizontalSpacing(vlk::grid::kColumn);
+    table_->setVerticalSpacing(vlk::grid::kRow);
     addHead();
     for (int sensor = 1; sensor <= vlk::kRsFuelSensors; ++sensor)
         addRow(sensor);

@@ -1,6 +1,7 @@
 #include "peripherals/rs_rows_form.h"
 
 #include "settings/rs_settings.h"
+#include "typing/grid.h"
 #include "windows/binder/row_inputs.h"
 
 #include <QComboBox>
@@ -23,8 +24,8 @@ RsRowsForm::RsRowsForm(const char* owner, const char* title, QWidget* parent)
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(group_);
     whole->addStretch(1);
-    lines_->setHorizontalSpacing(8);
-    lines_->setVerticalSpacing(6);
+    lines_->setHorizontalSpacing(vlk::grid::kColumn);
+    lines_->setVerticalSpacing(vlk::grid::kRow);
     lines_->setColumnStretch(2, 1);
     group_->setObjectName(QStringLiteral("groupBox"));
     RowLines lines(lines_, RowLines::Look::simple);

@@ -5,6 +5,7 @@
 #include "review/advice_rule_parts.h"
 #include "review/advice_rules.h"
 #include "review/settable.h"
+#include "settings/operators.h"
 #include "settings/shared_rows.h"
 #include "settings/transfer_settings.h"
 
@@ -96,6 +97,26 @@ inline constexpr auto kProtocolRules = [] {
     return rules;
 }();
 
+// The list of access points is looked into where none is set.
+inline constexpr auto kListRules = [] {
+    constexpr const char* code = "TRANS/AUTOAPN/sID%1";
+    constexpr const char* other = "TRANS/AUTOAPN/sID%2";
+    const auto inUse = [](const Rule& told, auto... conditions) {
+        return told.when(is("TRANS/AP1/name", ""), is("TRANS/AP1/login", ""), is("TRANS/AP1/pass", ""),
+                         isNot(code, ""), conditions...);
+    };
+    return rulesOf(inUse(rule("apn_code_form", warning, "adv_190")
+                             .each(kApnRowCount)
+                             .naming(code)
+                             .telling(outerNumber(), valueOf(code)),
+                         unlike(code, "^[0-9]{5,6}$")),
+                   inUse(rule("apn_code_same", warning, "adv_191")
+                             .eachPair(kApnRowCount)
+                             .naming(other, code)
+                             .telling(outerNumber(), innerNumber(), valueOf(code)),
+                         same(code, other)));
+}();
+
 constexpr Rule cutPeriod(const char* id, const char* path)
 {
     return rule(id, warning, "adv_013")
@@ -106,7 +127,7 @@ constexpr Rule cutPeriod(const char* id, const char* path)
 }
 
 inline constexpr auto kTransferRules = rulesOf(
-    kServerRules, kProtocolRules,
+    kServerRules, kProtocolRules, kListRules,
     rule("crypto_no_key", error, "adv_009")
         .each(kServers)
         .when(isOn("TRANS/SRV%1/use"), isOn("TRANS/CRYPTO/srv%1Mode"), is("TRANS/CRYPTO/key", ""))

@@ -3,6 +3,7 @@
 #include "document/values_document.h"
 #include "review/value_text.h"
 #include "settings/bluetooth_settings.h"
+#include "typing/grid.h"
 #include "windows/binder/page_settings.h"
 #include "windows/binder/row_inputs.h"
 
@@ -99,8 +100,8 @@ void BleSensorForm::makeWidgets()
 {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setHorizontalSpacing(vlk::grid::kColumn);
+    grid->setVerticalSpacing(vlk::grid::kRow);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     auto rows = rowsOfForm(settings_.values().table(), type_.section, {static_cast<std::uint8_t>(sensor_)});

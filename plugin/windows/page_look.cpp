@@ -26,7 +26,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kEmptyColumns = 3 * grid::column; // of a second pair that nothing but what stands across uses
+constexpr int kEmptyColumns = 3 * grid::kColumn; // of a second pair that nothing but what stands across uses
 constexpr int kWidestCaption = 260;
 constexpr int kDigits[] = {6, 10, 16}; // widths of number boxes
 constexpr int kLettersOfText = 18;     // what a line of text shows at least
@@ -150,10 +150,10 @@ void PageLook::refresh()
 
 void PageLook::dressGroups()
 {
-    if (QLayout* layout = page_->layout(); layout && layout->contentsMargins() != grid::aroundPage) {
-        layout->setContentsMargins(grid::aroundPage);
+    if (QLayout* layout = page_->layout(); layout && layout->contentsMargins() != grid::kAroundPage) {
+        layout->setContentsMargins(grid::kAroundPage);
         if (auto* box = qobject_cast<QBoxLayout*>(layout))
-            box->setSpacing(grid::group);
+            box->setSpacing(grid::kGroup);
     }
     for (QGroupBox* group : page_->findChildren<QGroupBox*>()) {
         if (group->style() == style_.get())
@@ -161,8 +161,8 @@ void PageLook::dressGroups()
         group->setStyle(style_.get());
         QLayout* layout = group->layout();
         if (layout && !group->title().isEmpty())
-            layout->setContentsMargins(grid::indent, grid::row, isInnerGroup(group) ? 0 : grid::page,
-                                       isInnerGroup(group) ? 0 : grid::page);
+            layout->setContentsMargins(grid::kIndent, grid::kRow, isInnerGroup(group) ? 0 : grid::kPage,
+                                       isInnerGroup(group) ? 0 : grid::kPage);
     }
 }
 
@@ -196,8 +196,8 @@ void PageLook::findGrids()
             const bool byColumns = grid->parentWidget()->property("byColumns").toBool();
             const auto order = byColumns ? FoldingGrid::Order::columns : FoldingGrid::Order::rows;
             grids_.emplace(grid, FoldingGrid(grid, order));
-            grid->setHorizontalSpacing(grid::column);
-            grid->setVerticalSpacing(grid::row);
+            grid->setHorizontalSpacing(grid::kColumn);
+            grid->setVerticalSpacing(grid::kRow);
         }
     }
     for (auto& [key, grid] : grids_)
@@ -301,15 +301,15 @@ void PageLook::lineUp()
         }
     }
     const auto pairWidth = [&](int pair) {
-        return std::max(captions[pair] + grid::column + fields[pair], across[pair]);
+        return std::max(captions[pair] + grid::kColumn + fields[pair], across[pair]);
     };
-    const bool folds = pairWidth(0) + grid::pair + pairWidth(1) + right > all;
+    const bool folds = pairWidth(0) + grid::kPair + pairWidth(1) + right > all;
     const int first = folds ? std::max(captions[0], captions[1]) : captions[0];
     for (auto& [key, grid] : grids_) {
         grid.fold(folds);
         const int caption = first - insetOf(key, page_).left();
         if (folds || !hasPairs)
-            grid.setOnePair(caption, all - right - first - grid::column - kEmptyColumns > kWidestField
+            grid.setOnePair(caption, all - right - first - grid::kColumn - kEmptyColumns > kWidestField
                                          ? kWidestField
                                          : 0);
         else
@@ -356,7 +356,7 @@ void PageLook::stackBoxes(QBoxLayout* row, int width)
     if (row->direction() == direction)
         return;
     row->setDirection(direction);
-    row->setSpacing(stacks && !hasGroups ? grid::row : spacing);
+    row->setSpacing(stacks && !hasGroups ? grid::kRow : spacing);
 }
 
 } // namespace

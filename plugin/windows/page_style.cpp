@@ -8,16 +8,12 @@
 #include <QPainter>
 #include <QStyleOption>
 
-#include <algorithm>
-
 namespace vlk {
 
 namespace {
 
 constexpr int kTabPadding = 8;
 constexpr int kBarHeight = 8;
-constexpr int kBesideWords = 10;
-constexpr int kLeastButton = 80;
 
 void paintBar(const QStyleOptionSlider& slider, const QRect& groove, QPainter* painter)
 {
@@ -78,11 +74,8 @@ void PageStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 QSize PageStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const
 {
-    QSize size = TitleStyle::sizeFromContents(type, option, contents, widget);
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (type == CT_PushButton && button && !button->text.isEmpty())
-        size.setWidth(std::max({size.width(), contents.width() + 2 * kBesideWords, kLeastButton}));
-    return size;
+    const QSize size = TitleStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton ? withRoomBesideWords(size, contents, option) : size;
 }
 
 QIcon PageStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const

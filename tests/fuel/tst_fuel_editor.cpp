@@ -157,6 +157,56 @@ private Q_SLOTS:
         QVERIFY(form()->isDirty());
     }
 
+    // Without headings the columns are taken as on the screen, which is told, and can be swapped; points that
+    // rise in neither order are told too.
+    void asksForTheOrderOfColumns_data()
+    {
+        DataTable<QString, int, QString, bool>({"text", "swaps", "after", "isTold"})
+            .row("as on the screen", "10\t150\n20\t300\n", 0, "10=150 20=300", true)
+            .row("the other way", "150\t10\n300\t20\n", 1, "10=150 20=300", true)
+            .row("and back", "10\t150\n20\t300\n", 2, "10=150 20=300", true)
+            .row("only the other way", "60000\t10\n61000\t20\n", 0, "10=60000 20=61000", true)
+            .row("headings", "Level\tVolume\n150\t10\n", 0, "10=150", false);
+    }
+    void asksForTheOrderOfColumns()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, swaps);
+        QFETCH(bool, isTold);
+        dialog_->setData("t", {});
+        QApplication::setActiveWindow(window);
+        QGuiApplication::clipboard()->setText(text);
+        std::function<void(QDialog&)> look = [&](QDialog& preview) {
+            QCOMPARE(preview.findChild<QLabel*>("label_Order") != nullptr, isTold);
+            QVERIFY(!preview.findChild<QLabel*>("label_PastedFalling"));
+            if (swaps-- > 0) {
+                whenOpen<QDialog>(look);
+                QTest::keyClick(preview.findChild<QPushButton*>("pushButton_Swap"), Qt::Key_Space);
+            } else {
+                QTest::keyClick(&preview, Qt::Key_Return);
+            }
+        };
+        whenOpen<QDialog>(look);
+        auto* volume = child<QLineEdit>("lineEdit_Volume");
+        volume->setFocus();
+        QTest::keyClick(volume, Qt::Key_V, Qt::ControlModifier);
+        QTEST(rows(), "after");
+    }
+    void tellsPastedPointsThatFall()
+    {
+        dialog_->setData("t", {});
+        QApplication::setActiveWindow(window);
+        QGuiApplication::clipboard()->setText("10\t300\n20\t150\n");
+        whenOpen<QDialog>([](QDialog& preview) {
+            QVERIFY(preview.findChild<QLabel*>("label_PastedFalling"));
+            QTest::keyClick(&preview, Qt::Key_Escape);
+        });
+        auto* volume = child<QLineEdit>("lineEdit_Volume");
+        volume->setFocus();
+        QTest::keyClick(volume, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(rows(), QString());
+    }
+
     // What is there already is not added again; another value at a volume takes the place of the first, or
     // stands beside it; and all of it can be taken back until something else happens.
     void pastesOverPoints_data()
@@ -310,6 +360,10 @@ private Q_SLOTS:
         const QString cell = "<td align=right>%1</td>";
         QVERIFY(html.contains(cell.arg(0) + cell.arg(100) + cell.arg(11) + cell.arg(111)));
         QCOMPARE(html.count("<td align=right></td>"), 2);
+        QVERIFY(!html.contains("cfgt6_460"));
+        sheet.rows.front().changing = QStringList{"90", "100"};
+        const QString doubtful = vlk::sheetHtml(sheet);
+        QVERIFY(doubtful.contains(cell.arg(0) + cell.arg("100 *")) && doubtful.contains("<p>* cfgt6_460"));
         // The name of a file that was not taken is the tank's too.
         QTemporaryDir folder;
         const QString path = folder.filePath("load.xml");

@@ -107,8 +107,12 @@ private Q_SLOTS:
                  "3:volume,number")
             .row("blanks elsewhere", "10\t2\n12\u00a034\t2\n1\u202f0000\t3\n", "10=2",
                  "2:volume,number 3:volume,number")
-            .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2", "2:volume,number")
-            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "", "2:volume,number 4:value,number");
+            .row("blanks between cells", "1 200\n1 000 2 000\n10\t2\n", "10=2",
+                 "1:value,number 2:volume,number")
+            .row("no level", "10\t2\n1 200\t\n", "10=2", "2:value,number")
+            .row("a damaged first line", "1O\t2\n20\t3\n", "20=3", "1:volume,number")
+            .row("other text", "Dear sir,\n10 l\n\n10\t\n", "",
+                 "1:volume,number 2:volume,number 4:value,number");
         for (const QString& language : kLanguages) {
             const auto texts = readTexts(language);
             for (const char* value : {"cfgt6_041", "cfgt6_042", "cfgt6_043", "cfgt6_044", "cfgt6_045"}) {

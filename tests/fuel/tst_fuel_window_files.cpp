@@ -79,6 +79,17 @@ private Q_SLOTS:
         QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
         pressInBar("cfgt6_406");
         QCOMPARE(rows("A3"), QString("10.5=12.34"));
+        // So is what is doubtful of it.
+        host.send(Message::AnalogRecord, liveRecord().constData());
+        add("A3", "20", 15000, 1);
+        const auto* shown = table("A3");
+        QCOMPARE(shown->item(1, 1)->toolTip(), QString("cfgt6_423"));
+        answerBox("wrd_001", kUnsaved);
+        fuel_.window->close();
+        press("pushButton_FuelSensor");
+        pressInBar("cfgt6_406");
+        QCOMPARE(rows("A3"), QString("10.5=12.34 20=15.00"));
+        QCOMPARE(shown->item(0, 1)->toolTip() + shown->item(1, 1)->toolTip(), QString("cfgt6_423"));
         // Discarded it is gone for good.
         fuel_.window->close();
         press("pushButton_FuelSensor");

@@ -250,6 +250,9 @@ private:
             "TRANS/ROAMSIM1/dontCnct=1");
         row("pin_short", "TRANS/AP1/pin=123", "TRANS/AP1/pin=1234");
         row("access_point_name", "TRANS/AP1/name=", "TRANS/AP1/name=; /login=; /pass=");
+        const QString fromList = "TRANS/AP1/name=; /login=; /pass=; TRANS/AUTOAPN/sID3=";
+        row("apn_code_form", fromList + "25a", fromList + "310410; /sID4=");
+        row("apn_code_same", fromList + "25001", "TRANS/AUTOAPN/sID3=25001");
         row("connection_period_cut", "TRANS/RULES/cnctTimer=86400", "TRANS/RULES/cnctTimer=86340");
         row("failure_pause_cut", "TRANS/RULES/blockTimer=86400", "TRANS/RULES/blockTimer=86340");
         row("connection_period_zero", "TRANS/RULES/cnctType=0; /cnctTimer=0", "TRANS/RULES/cnctTimer=0");

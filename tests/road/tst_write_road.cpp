@@ -129,7 +129,8 @@ private:
 
 struct Bench
 {
-    Bench()
+    explicit Bench(const QString& folder = {})
+        : backups((folder.isEmpty() ? root.path() : folder) + "/backups")
     {
         QObject::connect(&road, &workbench::WriteRoad::ended, &road,
                          [this](const RoadReport& r) { reports.append(r); });
@@ -155,7 +156,7 @@ struct Bench
     ScriptedPort port;
     workbench::PluginLink link; // without a plug-in keys are compared as they stand
     workbench::FileComparer comparer{link};
-    workbench::Backups backups{root.filePath("backups")};
+    workbench::Backups backups;
     workbench::WriteRoad road{
         port,
         backups,
@@ -205,7 +206,9 @@ private Q_SLOTS:
             .row("read, garbage", Step::reading, Wrong::Garbage, Outcome::notWritten, Fault::badAnswer, false)
             .row("read, unplugged", Step::reading, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
                  false)
-            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::detached, false)
+            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::reattached, false)
+            .row("review, detached", Step::review, Wrong::Unplugged, Outcome::notWritten, Fault::detached,
+                 false)
             .row("review, other", Step::review, Wrong::OtherTracker, Outcome::notWritten, Fault::otherTracker,
                  false)
             .row("write, silence", Step::writing, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
@@ -239,6 +242,8 @@ private Q_SLOTS:
             QCOMPARE(bench.review().changes.size(), 3);
             if (wrong == Wrong::OtherTracker)
                 bench.port.number = "860000000071078";
+            if (wrong == Wrong::Unplugged && at == Step::review)
+                bench.port.number.clear();
             if (wrong == Wrong::Gone)
                 Q_EMIT bench.port.gone();
             bench.road.approve();
@@ -296,6 +301,51 @@ private Q_SLOTS:
         QCOMPARE(write(Step::writing, Wrong::Unplugged).earlier, 0);
     }
 
+    // The next run of the program tells of it, once.
+    void tellsOfTheWriteThatNobodySawTheEndOf()
+    {
+        const QTemporaryDir root;
+        WriteRequest request{WriteRequest::Origin::file, kPlain, "van.xml", {}, "/kept.xml", {"A/S/x"}, {}};
+        request.typed = QStringList{QString("Поле: 3,5")};
+        {
+            Bench bench(root.path());
+            bench.port.isSlow = true;
+            bench.road.begin(request);
+            bench.review();
+            bench.road.approve();
+        }
+        const auto next = [&root] {
+            Bench bench(root.path());
+            bench.road.tellLeft();
+            return bench.reports;
+        };
+        const QVector<RoadReport> told = next();
+        QCOMPARE(told.size(), 1);
+        const RoadReport& report = told.first();
+        QVERIFY(report.outcome == Outcome::unknown && report.fault == Fault::interrupted);
+        QCOMPARE(report.tracker.number + report.tracker.name, QString("860000000071060Van"));
+        QCOMPARE(report.toBringBack(), 1);
+        QVERIFY(report.time.secsTo(QDateTime::currentDateTime()) < 60);
+        QVERIFY(report.request.origin == request.origin && report.request.document == kPlain);
+        QCOMPARE(report.request.name + report.request.file, QString("van.xml/kept.xml"));
+        QVERIFY(report.request.chosen == request.chosen && report.request.typed == request.typed);
+        QVERIFY(next().isEmpty());
+        // What ended in a report is not told again.
+        {
+            Bench bench(root.path());
+            bench.begin();
+            bench.review();
+            bench.road.approve();
+            QVERIFY(bench.report().outcome == Outcome::confirmed);
+        }
+        QVERIFY(next().isEmpty());
+        for (const char* content : {"", "{", "{\"number\": 5}"}) {
+            QFile file(workbench::Backups(root.filePath("backups")).pendingWrite());
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) >= 0 && file.flush());
+            QVERIFY(next().isEmpty());
+        }
+    }
+
     void cancelsUntilTheTrackerHasIt()
     {
         Bench bench;
@@ -329,7 +379,14 @@ private Q_SLOTS:
         bench.road.begin({WriteRequest::Origin::previous, {}, {}, {}, {}, {}, {}});
         const workbench::WriteReview previous = bench.review();
         QVERIFY(previous.changes.size() == 1 && previous.request.document == kPlain &&
-                !previous.mustBeSeen());
+                !previous.mustBeSeen() && previous.isAlwaysAsked());
+        bench.road.cancel();
+        // Something stands in a field that is not what is written.
+        WriteRequest typed{WriteRequest::Origin::tracker, kPlain, {}, bench.port.number, {}, {}, {}};
+        typed.typed = QStringList{"Port: 3,5"};
+        bench.road.begin(typed);
+        const workbench::WriteReview review = bench.review();
+        QVERIFY(review.reasons() == QVector{workbench::WriteReview::Why::hasErrors} && review.mustBeSeen());
         bench.road.cancel();
         bench.reports.clear();
         bench.begin(kNew.chopped(9));
@@ -408,6 +465,7 @@ private Q_SLOTS:
         const auto* codec = QTextCodec::codecForName("windows-1251");
         QString before = factory;
         int written = 0;
+        int unseen = 0;
         for (int kill = 0; kill < kills; ++kill) {
             QProcess child;
             child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -431,10 +489,22 @@ private Q_SLOTS:
                 isKept |= document.contains(name);
             }
             QVERIFY2(isKept, qPrintable(before));
+            const int confirmed = child.readAllStandardOutput().count("confirmed");
+            QString told = before;
+            for (int i = 0; i < confirmed; ++i)
+                told = told == "one" ? "two" : "one";
+            // What nobody was told of the next run tells, with the backup of what was there.
+            if (now != told) {
+                const auto left = workbench::PendingWrite(backups.pendingWrite()).left();
+                QVERIFY(left && left->tracker.number == tracker.text2());
+                QVERIFY(backups.document(left->backup)
+                            .contains("<OBJECT name=\"" + codec->fromUnicode(told) + '"'));
+                ++unseen;
+            }
             before = now;
-            written += child.readAllStandardOutput().count("confirmed");
+            written += confirmed;
         }
-        QVERIFY(kills < 100 || written > 0);
+        QVERIFY(kills < 100 || (written > 0 && unseen > 0));
     }
 };
 

@@ -11,7 +11,8 @@
 inline QStringList oddDistances(const QWidget* window)
 {
     static const QSet<int> margins{0, 6, 9, 12, 16, 20};
-    static const QSet<int> spacings{0, 6, 8, 12, 16};
+    static const QSet<int> inRows{0, 8, 12, 16};
+    static const QSet<int> inStacks{0, 6, 8, 12, 16};
     // Of the toolkit, and of bars, which have a height of their own.
     static const QStringList others{"QDialogButtonBox", "QStatusBar", "QToolBar",   "QMainWindow",
                                     "vlk::NoticeBar",   "QTabWidget", "QMessageBox"};
@@ -27,15 +28,17 @@ inline QStringList oddDistances(const QWidget* window)
         const QMargins around = layout->contentsMargins();
         for (const int margin : {around.left(), around.top(), around.right(), around.bottom()})
             distances << qMakePair(margin, margins.contains(margin));
-        const auto between = [&distances](int spacing, int count) {
+        const auto between = [&distances](int spacing, int count, bool isRow) {
             if (count > 1)
-                distances << qMakePair(spacing, spacings.contains(spacing));
+                distances << qMakePair(spacing, (isRow ? inRows : inStacks).contains(spacing));
         };
         if (const auto* grid = qobject_cast<const QGridLayout*>(layout)) {
-            between(grid->horizontalSpacing(), grid->columnCount());
-            between(grid->verticalSpacing(), grid->rowCount());
+            between(grid->horizontalSpacing(), grid->columnCount(), true);
+            between(grid->verticalSpacing(), grid->rowCount(), false);
         } else if (const auto* box = qobject_cast<const QBoxLayout*>(layout)) {
-            between(box->spacing(), box->count());
+            // Between areas of a window stands its margin.
+            const bool isOfAreas = box->objectName() == QLatin1String("horizontalLayout_Center");
+            between(box->spacing(), box->count(), box->direction() == QBoxLayout::LeftToRight && !isOfAreas);
         }
         for (const auto& [distance, isOurs] : distances) {
             if (!isOurs)

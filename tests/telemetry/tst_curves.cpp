@@ -1,14 +1,13 @@
-// Curves of records: what is drawn of a million numbers, the span in sight, the cursors, what is handed over.
+// Curves of records: what is drawn of a million numbers and of growing ones, what is offered, and what is
+// handed over.
 
+#include "shown_curves.h"
 #include "support/answers.h"
 #include "support/data_table.h"
 #include "support/files.h"
-#include "support/records.h"
-#include "support/truck_records.h"
 #include "telemetry/curves/curve_series.h"
 #include "telemetry/curves/curves_model.h"
 #include "telemetry/curves/curves_sheet.h"
-#include "telemetry/curves/curves_view.h"
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/fuel_view/summary_view.h"
@@ -65,20 +64,12 @@ QString told(const std::vector<QPolygonF>& pieces)
 
 Q_DECLARE_METATYPE(std::vector<Sample>)
 
-class TestCurves : public QObject
+class TestCurves : public QObject, ShownCurves
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        records_ = std::make_unique<ShownRecords>();
-        view_ = std::make_unique<CurvesView>(records_.get());
-        view_->resize(900, 400);
-        view_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view_.get()));
-        plot_ = view_->findChild<QWidget*>(QStringLiteral("plot_Curves"));
-    }
+    void init() { start(); }
     void cleanup() { view_.reset(); }
 
     void drawsPieces_data();
@@ -87,11 +78,6 @@ private Q_SLOTS:
     void choosesRoundMoments_data();
     void choosesRoundMoments();
     void tellsTimes();
-    void movesByKeys();
-    void movesByMouse();
-    void staysInSightByMouse();
-    void comparesTwoMoments();
-    void marksWhatWasFound();
     void showsWhatThereIs();
     void tellsStatesWithoutRoom();
     void choosesCurvesAndKeepsThem();
@@ -101,27 +87,6 @@ private Q_SLOTS:
     void leavesTurnsToOthers();
     void survivesOddRecords_data();
     void survivesOddRecords();
-
-private:
-    void open(RecordStore store)
-    {
-        TelemetryContents contents;
-        contents.records = std::move(store);
-        contents.records.setUtcOffset(3 * 3600);
-        records_->setContents(std::move(contents));
-    }
-    QString line() const { return view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->text(); }
-    void key(int key, Qt::KeyboardModifiers modifiers = {})
-    {
-        QTest::keyClick(plot_, Qt::Key(key), modifiers);
-    }
-    double length() const { return records_->inSight().to - records_->inSight().from; }
-    // The canvas, which takes the mouse.
-    QWidget* canvas() const { return plot_->findChild<QWidget*>(QStringLiteral("canvas_Curves")); }
-
-    std::unique_ptr<ShownRecords> records_;
-    std::unique_ptr<CurvesView> view_;
-    QWidget* plot_ = nullptr;
 };
 
 void TestCurves::drawsPieces_data()
@@ -181,6 +146,7 @@ void TestCurves::choosesRoundMoments_data()
 }
 
 // From 03:00:01 on the clock of UTC+3.
+
 void TestCurves::choosesRoundMoments()
 {
     QFETCH(double, seconds);
@@ -203,171 +169,13 @@ void TestCurves::tellsTimes()
     QCOMPARE(zoneText(10'800) + zoneText(0) + zoneText(-12'600), QStringLiteral("UTC+3UTCUTC-3:30"));
 }
 
-void TestCurves::movesByKeys()
-{
-    open(truckRecords(1000));
-    const double whole = length();
-    key(Qt::Key_Right);
-    key(Qt::Key_Right);
-    key(Qt::Key_Left);
-    QCOMPARE(records_->current(), 1);
-    key(Qt::Key_Plus);
-    QVERIFY(length() < whole * 0.8);
-    QVERIFY(records_->inSight().contains(kTruckStart + 30));
-    key(Qt::Key_End);
-    QCOMPARE(records_->current(), 999);
-    QVERIFY2(records_->inSight().contains(kTruckStart + 999 * 30), "the cursor is out of sight");
-    const TimeSpan atEnd = records_->inSight();
-    key(Qt::Key_Left, Qt::ControlModifier);
-    QCOMPARE(records_->inSight().to, atEnd.to - 0.1 * length());
-    key(Qt::Key_Minus);
-    key(Qt::Key_Minus);
-    QCOMPARE(length(), whole);
-    for (int i = 0; i < 60; ++i)
-        key(Qt::Key_Plus);
-    QCOMPARE(length(), 10.0);
-    key(Qt::Key_0, Qt::ControlModifier);
-    QCOMPARE(length(), whole);
-    key(Qt::Key_Home);
-    QCOMPARE(records_->current(), 0);
-}
-
-void TestCurves::movesByMouse()
-{
-    open(truckRecords(1000));
-    const double whole = length();
-    const int width = canvas()->width();
-    // QTest moves no mouse with a button held.
-    const auto moveTo = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int to) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(to, 20), button, button, modifiers);
-        QCoreApplication::sendEvent(canvas(), &move);
-    };
-    const auto drag = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers, int from, int to) {
-        QTest::mousePress(canvas(), button, modifiers, {from, 20});
-        moveTo(button, modifiers, to);
-        QTest::mouseRelease(canvas(), button, modifiers, {to, 20});
-    };
-    QTest::mouseClick(canvas(), Qt::LeftButton, {}, {width / 2, 20});
-    QVERIFY(qAbs(records_->current() - 500) < 5);
-    // Out and back, or given up, it chooses nothing.
-    for (const bool isGivenUp : {false, true}) {
-        QTest::mousePress(canvas(), Qt::LeftButton, {}, {width / 4, 20});
-        moveTo(Qt::LeftButton, {}, width / 2);
-        if (isGivenUp)
-            key(Qt::Key_Escape);
-        QTest::mouseRelease(canvas(), Qt::LeftButton, {}, {isGivenUp ? width / 2 : width / 4, 20});
-        QCOMPARE(length(), whole);
-    }
-    drag(Qt::LeftButton, {}, width / 4, width / 2);
-    QVERIFY(qAbs(length() / whole - 0.25) < 0.01);
-    const double from = records_->inSight().from;
-    drag(Qt::LeftButton, Qt::ShiftModifier, width / 4, width / 2);
-    QVERIFY(qAbs((from - records_->inSight().from) / length() - 0.25) < 0.01);
-    drag(Qt::MiddleButton, {}, width / 2, width / 4);
-    QCOMPARE(qRound(records_->inSight().from), qRound(from));
-    const auto turn = [&](Qt::KeyboardModifiers modifiers) {
-        QWheelEvent wheel(QPointF(0, 20), canvas()->mapToGlobal({0, 20}), {}, {0, 120}, {}, modifiers,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(canvas(), &wheel);
-    };
-    turn({});
-    QVERIFY(qAbs(length() / whole - 0.25 * 0.7) < 0.01);
-    QVERIFY2(qAbs(records_->inSight().from - from) < length() / 100, "it did not zoom at the pointer");
-    turn(Qt::ControlModifier);
-    QVERIFY(records_->inSight().from < from - length() / 20);
-}
-
 // A press in a gap goes to what is in sight, be it further away than what is not; where nothing is, it goes
-// nowhere and tells the gap.
-void TestCurves::staysInSightByMouse()
-{
-    constexpr quint32 gap = 10 * 86'400;
-    RecordStore store = truckRecords(3);
-    const RecordParts parts{{"Time", kTruckStart + 60 + gap}};
-    store.add(30, parts.mask, parts.block);
-    open(std::move(store));
-    const auto press = [&](double from, double to, double moment) {
-        const TimeSpan span{kTruckStart + from, kTruckStart + to};
-        records_->setInSight(span);
-        const int x = qRound((moment - from) / (to - from) * canvas()->width());
-        QTest::mouseClick(canvas(), Qt::LeftButton, {}, {x, 20});
-        QCOMPARE(records_->inSight(), span);
-    };
-    press(30, gap * 0.9, gap * 0.8);
-    QCOMPARE(records_->current(), 2);
-    press(gap * 0.1, gap + 60, gap * 0.2);
-    QCOMPARE(records_->current(), 3);
-    QVERIFY(!QToolTip::isVisible());
-    press(gap * 0.7, gap * 0.9, gap * 0.8);
-    QCOMPARE(records_->current(), 3);
-    QCOMPARE(QToolTip::text(), QStringLiteral("rec_450"));
-    QToolTip::hideText();
-}
 
-void TestCurves::comparesTwoMoments()
-{
-    open(truckRecords(3000));
-    records_->setCurrent(2220);
-    QCOMPARE(line(),
-             QStringLiteral("A 18.11.2026 21:30:00 1") + QLocale().groupSeparator() + QStringLiteral("761"));
-    key(Qt::Key_B);
-    records_->setCurrent(2223);
-    const QStringList parts = line().split(QStringLiteral(" | "));
-    QCOMPARE(parts.size(), 3);
-    QVERIFY(parts[1].startsWith(QLatin1String("B 21:31:30 ")));
-    QCOMPARE(parts[2], QStringLiteral("1%1abbr_002 -250").arg(QChar(QChar::Nbsp)));
-    key(Qt::Key_Down); // speed, which does not differ
-    QVERIFY(line().endsWith(QStringLiteral(" 0.00%1abbr_024").arg(QChar(QChar::Nbsp))));
-    key(Qt::Key_A);
-    QCOMPARE(records_->current(), 2220);
-    key(Qt::Key_B);
-    key(Qt::Key_Escape);
-    QCOMPARE(line().count(QLatin1Char('|')), 0);
-    QCOMPARE(records_->current(), 2220);
-    // Of two A can go alone, and B tells its whole moment then.
-    key(Qt::Key_B);
-    records_->setCurrent(2223);
-    key(Qt::Key_A);
-    key(Qt::Key_Delete);
-    QVERIFY2(line().startsWith(QLatin1String("B 18.11.2026 21:31:30 ")), qPrintable(line()));
-    QCOMPARE(records_->current(), 2223);
-    key(Qt::Key_Left);
-    QVERIFY2(line().startsWith(QLatin1String("B 18.11.2026 21:31:00 ")), qPrintable(line()));
-    key(Qt::Key_A);
-    key(Qt::Key_Left);
-    QCOMPARE(line().count(QLatin1Char('|')), 2);
-    key(Qt::Key_Escape);
-    QCOMPARE(line().count(QLatin1Char('|')), 0);
-    records_->setCurrent(2220);
-    // A goes too, by key or button, and comes back where the user goes next.
-    key(Qt::Key_Delete);
-    QVERIFY(line().isEmpty());
-    key(Qt::Key_Right);
-    QVERIFY(line().startsWith(QLatin1String("A 18.11.2026 21:30:30 ")));
-    QTest::keyClick(view_->findChild<QToolButton*>(QStringLiteral("toolButton_CursorA")), Qt::Key_Space);
-    QVERIFY(line().isEmpty());
-    key(Qt::Key_B);
-    QVERIFY(line().startsWith(QLatin1String("B ")));
-    key(Qt::Key_A);
-    QCOMPARE(line().count(QLatin1Char('|')), 2);
-}
+// nowhere and tells the gap.
 
 // Among the events below the curves, where a press near the mark goes to its record, though the mark of an
+
 // earlier event is under it.
-void TestCurves::marksWhatWasFound()
-{
-    open(truckRecords(3000));
-    records_->setFound({{1495, false, "Drain 9 l"}, {1500, true, "Refuelling 60 l"}});
-    QCoreApplication::processEvents();
-    const QPoint below = view_->findChild<QLabel*>(QStringLiteral("label_Cursors"))->pos() - QPoint(0, 12);
-    const TimeSpan whole = records_->inSight();
-    const double share = (records_->columns().times()[1500] - whole.from) / (whole.to - whole.from);
-    const int left = canvas()->mapTo(view_.get(), QPoint()).x();
-    const QPoint place(left + qRound(share * canvas()->width()), below.y());
-    QWidget* const strip = view_->childAt(place);
-    QTest::mouseClick(strip, Qt::LeftButton, {}, strip->mapFrom(view_.get(), place));
-    QCOMPARE(records_->current(), 1500);
-}
 
 void TestCurves::showsWhatThereIs()
 {
@@ -485,6 +293,17 @@ void TestCurves::handsOver()
     const QByteArray svg = readFile(folder.filePath(QStringLiteral("p.svg")));
     QVERIFY(svg.contains(">KAMAZ") && svg.contains("18.11.2026 03:01:00") && svg.contains("</svg>"));
     QVERIFY(!svg.contains(">A ")); // no cursor is there
+    // Lines end where the picture of them does, though there are records beyond.
+    static const QRegularExpression lines(QStringLiteral("<polyline[^>]*points=\"([^\"]*)"));
+    int points = 0;
+    for (auto line = lines.globalMatch(QString::fromUtf8(svg)); line.hasNext();) {
+        for (const QString& point : line.next().captured(1).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const double x = point.section(QLatin1Char(','), 0, 0).toDouble();
+            QVERIFY2(x >= 0 && x <= 1200, qPrintable(point));
+            ++points;
+        }
+    }
+    QVERIFY(points > 4);
     view_->saveTo(folder.filePath(QStringLiteral("p.png")));
     QCOMPARE(QImage(folder.filePath(QStringLiteral("p.png"))).size(), QSize(2400, 1200));
     NoticeBar bar(view_.get(), QStringLiteral("label_Saved"));
@@ -549,11 +368,18 @@ void TestCurves::grows()
     add(kTruckStart + 3060);
     QTest::keyClick(presets, Qt::Key_Up);
     CurvesView anew(records_.get());
-    const QSize size(600, 300);
-    QCOMPARE(view_->picture(records_->wholeTime(), size), anew.picture(records_->wholeTime(), size));
+    const auto picture = [this](const CurvesView& view) {
+        QImage image(600, 300, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        view.paint(painter, image.size(), records_->wholeTime());
+        return image;
+    };
+    QCOMPARE(picture(*view_), picture(anew));
 }
 
 // Of many records no view is made before the event loop had its turn; others, or one more, may come between.
+
 void TestCurves::leavesTurnsToOthers()
 {
     TrackView track(records_.get());
@@ -588,6 +414,17 @@ void TestCurves::leavesTurnsToOthers()
     records_->append(few.bytes(0));
     QCOMPARE(made(), 3);
     QVERIFY(!records_->isLeftToDo());
+
+    // What was found out in front of them counts for its own contents alone.
+    const auto later = std::make_shared<TelemetryContents>();
+    later->records = few;
+    records_->prepare(later);
+    open(many);
+    QCOMPARE(records_->byTime().size(), std::size_t(many.size()));
+    records_->prepare(later);
+    records_->setContents(later);
+    QCOMPARE(records_->byTime().size(), std::size_t(few.size()));
+    QCOMPARE(made(), 3);
 
     // What lasts longer than a moment tells how far it is, to its end or until others are opened.
     for (const RecordStore* next : {&few, static_cast<const RecordStore*>(nullptr)}) {

@@ -85,6 +85,17 @@ QString numbers(const RecordStore& records)
     return list.join(QLatin1Char(' '));
 }
 
+// As the binary form has them, without their lengths.
+QVector<QByteArray> packed(const RecordStore& records)
+{
+    QVector<QByteArray> all;
+    records.forEach([&all](const TmiPage_Zeta3& page) {
+        const QByteArray head = QByteArray(1, '\xb0') + static_cast<char>(page.ver()) + page.maskBytes();
+        all << (page.isExtra() ? QByteArray("\xb1") : head) + page.payload();
+    });
+    return all;
+}
+
 QString kinds(const std::vector<FileDamage>& damages)
 {
     QString letters;
@@ -529,6 +540,58 @@ private Q_SLOTS:
         QTEST(kinds(contents.damages), "damages");
         for (const FileDamage& damage : contents.damages)
             QVERIFY(damage.offset >= 0 && damage.bytes >= 0 && damage.offset + damage.bytes <= file.size());
+    }
+
+    // A run of bytes that was lost, or that something was written over, at every place of a file: what is
+    // read was there, and one whole record at most goes with those that were hit.
+    void brokenRuns_data()
+    {
+        DataTable<int, bool>({"bytes", "isLost"})
+            .row("a byte lost", 1, true)
+            .row("less than a record lost", 50, true)
+            .row("more than one lost", 150, true)
+            .row("many lost", 700, true)
+            .row("written over", 50, false)
+            .row("many written over", 700, false);
+    }
+    void brokenRuns()
+    {
+        QFETCH(int, bytes);
+        QFETCH(bool, isLost);
+        std::mt19937 random(7);
+        TelemetryPages pages;
+        for (quint32 number = 1; number <= 14; ++number) {
+            // The marks with which records begin, among their values.
+            pages.push_back(recordOf({{"NumPage", number},
+                                      {"Time", kTime + number},
+                                      {"User8Byte_1", 0xB11E'B01E'B1B1'1EB0},
+                                      {"User8Byte_2", random() * quint64{0x1'0000'0001}}}));
+            if (number % 5 == 0)
+                pages.push_back(packetOf(navigationOf(number), kSecondHead.mid(2), cardEntry("A CARD")));
+        }
+        const QByteArray file = written(writeTelemetryBinary, pages);
+        const QByteArray noise = randomBytes(random, bytes);
+        const QVector<QByteArray> whole = packed(storeOf(pages));
+        QVector<int> begins{128};
+        for (const QByteArray& record : whole)
+            begins << begins.last() + 2 + record.size();
+        QCOMPARE(begins.last(), file.size());
+        for (int at = 128; at + bytes < file.size(); ++at) {
+            const auto first = std::ranges::upper_bound(begins, at) - 1;
+            const auto behind = std::ranges::lower_bound(begins, at + bytes);
+            // Lengths tell neither a loss of as many bytes as records have nor what stays within one record.
+            const int difference = *std::ranges::upper_bound(begins, at + bytes) - first[1];
+            const bool fits = isLost ? difference == bytes : at + bytes <= first[1] + 2;
+            QByteArray broken = file;
+            broken.replace(at, bytes, isLost ? QByteArray() : noise);
+            const TelemetryContents contents = readBack(readTelemetryBinary, broken);
+            QVERIFY(!contents.damages.empty());
+            const QVector<QByteArray> found = packed(contents.records);
+            const auto wasThere = [&](const QByteArray& record) { return whole.contains(record); };
+            const auto sound = std::ranges::count_if(found, wasThere);
+            QVERIFY2(fits || sound == found.size(), qPrintable(QString::number(at)));
+            QVERIFY2(whole.size() - sound <= behind - first + 1, qPrintable(QString::number(at)));
+        }
     }
 
     // A disk that fills leaves the file that was there.

@@ -86,6 +86,7 @@ private Q_SLOTS:
             .row("another word", "Code = 'Parking'", 7, "rec_360")
             .row("another word that begins alike", "Code = 'draining'", 7, "rec_361")
             .row("no such day", "Time > 31.02.2026", 7, "rec_104")
+            .row("a date in another form", "Time > 22/11/2026", 7, "rec_104")
             .row("no such minute", "Time > 2026-02-01 10:61", 7, "rec_104")
             .row("a word is not less", "Code < 'Заправка'", 7, "rec_109")
             .row("what follows", "Speed > 1 Run > 2", 10, "rec_105")

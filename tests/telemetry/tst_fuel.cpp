@@ -324,7 +324,7 @@ private Q_SLOTS:
         QCOMPARE(qRound(sum.drained), 60);
         QVERIFY(std::abs(sum.fuelUsed() - 15) < 1);
         QCOMPARE(sum.greatestSpeed, 60.0);
-        QCOMPARE(sum.missing, 0);
+        QCOMPARE(sum.missing, 0.0);
         QCOMPARE(sum.withoutFix, 0.0);
         QCOMPARE(journey.days(0).size(), std::size_t(1));
         const std::vector<JourneySummary> days =
@@ -385,6 +385,7 @@ private Q_SLOTS:
             .row("no speed", {{"Speed", none}}, "")
             .row("speed", {{"Speed", speed(60)}}, "moving standing")
             .row("engine", {{"Module1", 0}}, "engine")
+            .row("numbers", {{"NumPage", 7}}, "missing")
             .row("no fix", {{"Latitude", 600'000}, {"Longitude", 0}, {"StateNGauge", 0}}, "fix")
             .row("fix", {{"Latitude", 600'000}, {"Longitude", 0}, {"StateNGauge", 2}}, "metres fix");
     }
@@ -405,6 +406,7 @@ private Q_SLOTS:
                                           {"engine", sum.engine},
                                           {"metres", sum.metres},
                                           {"fix", sum.withoutFix},
+                                          {"missing", sum.missing},
                                           {"before", sum.fuelBefore}}) {
             if (!std::isnan(value))
                 known << name;
@@ -420,7 +422,7 @@ private Q_SLOTS:
                 storeOf({{0, 9, 60}, {60, 9, 60, 2, true, 30.01}, {9000, 9, 60, 2, true, 31, missing}});
             RecordColumns columns(store);
             const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
-            QCOMPARE(sum.missing, qint64(missing));
+            QCOMPARE(sum.missing, double(missing));
             QVERIFY(std::isnan(sum.metres) || (sum.metres < 600) == (missing > 0));
         }
     }

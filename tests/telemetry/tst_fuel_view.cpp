@@ -16,6 +16,8 @@
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
+#include <QPrinter>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -307,21 +309,27 @@ private Q_SLOTS:
         const QList<QByteArray> lines = readFile(path).split('\n');
         QVERIFY(proposed.endsWith("/Van 7 Refuellings and drains.csv"));
         QCOMPARE(lines.size(), 3);
-        QCOMPARE(lines[1], QByteArray("Drain;28.05.2026 23:45:40;28.05.2026 23:46:40;312.0;251.0;-61.0;;;"
-                                      "RS-485 Fuel level 1\r"));
+        QCOMPARE(lines[1],
+                 QByteArray("Drain;2026-05-28T23:45:40+03:00;2026-05-28T23:46:40+03:00;312.0;251.0;-61.0;;;"
+                            "RS-485 Fuel level 1\r"));
         QTest::keyClick(table(), Qt::Key_Down);
         TimeSpan asked;
         view_->setVehicle("KAMAZ");
-        view_->setPictures(
-            [&asked](TimeSpan span, QSize size) {
-                asked = span;
-                return QImage(size, QImage::Format_RGB32);
-            },
-            {});
-        choose(good_);
+        const auto paint = [&asked](QPainter& painter, const QSize& size, const TimeSpan& span) {
+            asked = span;
+            painter.drawLine(0, 0, size.width(), size.height());
+        };
+        view_->setPictures(paint, paint);
+        choose(file("short.csv", "Level;Volume, l\n0;0\n3119;311.9\n"));
         QTextDocument sheet;
         view_->writeSheet(sheet);
-        QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-61.0"));
+        // Curve and track as lines, and what the list does not see.
+        QPrinter printer;
+        printer.setOutputFileName(folder_.filePath("sheet.pdf"));
+        sheet.print(&printer);
+        QVERIFY(!readFile(folder_.filePath("sheet.pdf")).contains("/Subtype /Image"));
+        QVERIFY(sheet.toPlainText().contains("20 of 40 readings of RS-485 Fuel level 1 are beyond"));
+        QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-60.9"));
         QVERIFY(sheet.toPlainText().contains("28.05.2026 23:45 – 23:46"));
         QVERIFY(asked.contains(kStart + 20 * 60));
     }
@@ -405,6 +413,10 @@ private Q_SLOTS:
         QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_SaveSummary"), Qt::LeftButton);
         const QByteArray csv = readFile(folder_.filePath("long.csv"));
         QVERIFY2(csv.contains("Records;1200\r") && csv.contains("Used, l;\r"), csv.constData());
+        QVERIFY2(csv.contains("From;2026-05-28T23:26:40+03:00\r"), csv.constData());
+        QTest::mouseClick(summary.findChild<QPushButton*>("pushButton_CopySummary"), Qt::LeftButton);
+        QVERIFY(QApplication::clipboard()->text().contains("Records\t1200\n"));
+        QVERIFY(QApplication::clipboard()->text().contains("From\t28.05.2026 23:26\n"));
     }
 
 private:

@@ -11,7 +11,7 @@ using namespace vlk;
 
 Q_DECLARE_METATYPE(vlk::ExportForm)
 
-// Of the text that a file cannot be written: the file, and in a line of its own why.
+// Of the text that a file cannot be written: the file, and in a line of its own why. The button has a letter.
 class ReasonApart : public QTranslator
 {
 public:
@@ -19,6 +19,8 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char* key, const char*, int) const override
     {
+        if (qstrcmp(key, "rec_007") == 0)
+            return QStringLiteral("&Export");
         return qstrcmp(key, "tmiw_187") == 0 ? QStringLiteral("%1\n%2") : QString();
     }
 };
@@ -81,6 +83,15 @@ private Q_SLOTS:
         QCOMPARE(table_->findChild<QWidget*>("pushButton_Empty")->isVisible(), numbers.isEmpty());
         const auto* frozen = child<QTableView>("tableWidget_Frozen");
         QTRY_COMPARE(frozen->height() > frozen->horizontalHeader()->height(), !numbers.isEmpty());
+        // Of another filter in the field, also one that cannot be read, nothing is shown, which is told.
+        type("lineEdit_Filter", "Power > fast");
+        pressInFilter(Qt::Key_Return);
+        QCOMPARE(text("label_FilterFault"), QString("rec_005"));
+        QCOMPARE(text("label_Count"), QString("rec_511"));
+        QCOMPARE(child<QLabel>("label_Count")->toolTip(), typed);
+        type("lineEdit_Filter", typed);
+        QCOMPARE(text("label_Count"), QString("rec_052"));
+        pressInFilter(Qt::Key_Return);
         // Sorting keeps to them, and Esc gives back what is applied before it closes the window.
         table_->sortByColumn(column("NumPage"), Qt::DescendingOrder);
         QCOMPARE(this->numbers().size(), numbers.size());
@@ -145,6 +156,26 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), child<QLineEdit>("lineEdit_Filter"));
     }
 
+    // F1 tells of the part of the window that has the keyboard.
+    void helpOfEachPart()
+    {
+        show(drive());
+        const auto page = [this] {
+            host_.sent.clear();
+            QTest::keyClick(window->focusWidget(), Qt::Key_F1);
+            return host_.takeSent(Message::ShowHelp).value(0).text2;
+        };
+        QCOMPARE(page(), QString("r-7106records.html"));
+        const auto* views = child<QTabWidget>("tabWidget_Views");
+        for (int view = 0; view < views->count(); ++view) {
+            QTest::keyClick(window->focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+            const bool isTrack = views->tabText(views->currentIndex()) == QLatin1String("rec_199");
+            QCOMPARE(page(), QString(isTrack ? "r-7106records.html" : "r-7106fuelList.html"));
+        }
+        child<QTableView>("tableView_Fuel")->setFocus();
+        QCOMPARE(page(), QString("r-7106fuelList.html"));
+    }
+
     // The latest one first, for all files, in words of the language of the moment.
     void latestFilters()
     {
@@ -164,6 +195,16 @@ private Q_SLOTS:
         QTest::keyClick(menu, Qt::Key_Return);
         QCOMPARE(line->text(), QString("Door (IN1) = \"tmizta_033\""));
         QCOMPARE(numbers().size(), 20);
+    }
+
+    // A file that is opened in the window that is there begins as in a new one.
+    void openedAgain()
+    {
+        show(drive());
+        const QString path = folder_.filePath("telemetry.xml");
+        table_->setFocus();
+        open(path);
+        QCOMPARE(QApplication::focusWidget(), child<QLineEdit>("lineEdit_Filter"));
     }
 
     // The current record, at which a cursor stands, is there again with the filter gone.
@@ -312,7 +353,7 @@ private Q_SLOTS:
             .row("chosen, as lines", 1, ExportForm::ndjson, "a", 2, false, "rec_096")
             .row("track", 2, ExportForm::gpx, "a.gpx", 40, false, "rec_096")
             .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096. rec_470")
-            .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096")
+            .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096. rec_510")
             .row("a date in the name", 2, ExportForm::gpx, "Рейс 22.11.2026", 40, false, "rec_096")
             .row("full disk", 2, ExportForm::xml, "a.xml", 0, true, "tmiw_275");
     }
@@ -345,7 +386,7 @@ private Q_SLOTS:
                 QCOMPARE(files->objectName(), QString("fileDialog_Told"));
                 QCOMPARE(qobject_cast<QFileDialog*>(files)->selectedFiles().value(0).section('/', -1),
                          QStringLiteral("telemetry.") + rowOf(form).suffix);
-                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(folder_.filePath(typed));
+                typeName(files, folder_.filePath(typed));
                 if (isDiskFull)
                     disk.emplace(5000);
                 QMetaObject::invokeMethod(files, "accept");
@@ -364,9 +405,25 @@ private Q_SLOTS:
         const QString path = folder_.filePath(hasEnding ? typed : typed + '.' + rowOf(form).suffix);
         QCOMPARE(QFile::exists(path), !isDiskFull);
         const QByteArray content = readFile(path);
+        // By which spreadsheets know the encoding of headings.
+        QCOMPARE(content.startsWith("\xEF\xBB\xBFNumPage"),
+                 rowOf(form).hasDecimalSign && !path.endsWith("GPX"));
+        const auto* again = window->findChild<QAbstractButton*>("label_Damage_Action1");
+        QCOMPARE(again ? again->text() : QString(), isDiskFull ? "Export" : "");
         const bool isTrack = path.endsWith(".gpx", Qt::CaseInsensitive);
         QCOMPARE(isTrack ? content.count("<trkpt") : content.count('\n'), count);
         QFile::remove(path);
+    }
+
+    // The next one goes where the latest went.
+    void exportFolder()
+    {
+        show(drive());
+        QVERIFY(QDir(folder_.path()).mkpath("office"));
+        exportTo(ExportForm::gpx, folder_.filePath("office/a.gpx"));
+        QString begins;
+        exportTo(ExportForm::gpx, folder_.filePath("b.gpx"), &begins);
+        QCOMPARE(begins, folder_.filePath("office"));
     }
 
     // A file that takes a while is read from the event loop: it can be cancelled, and neither another file
@@ -442,7 +499,14 @@ private Q_SLOTS:
         open(writeFile(folder_.filePath("telemetry.xml"), content));
         QVERIFY(text("label_Damage").contains("rec_076"));
         const int before = table_->model()->rowCount();
-        press("label_Damage_Action1");
+        // By keys alone, to the bar and on.
+        child<QLineEdit>("lineEdit_Filter")->setFocus();
+        QTest::keyClick(window, Qt::Key_F6);
+        const QPointer<QWidget> button = QApplication::focusWidget();
+        QTest::keyClick(window, Qt::Key_F6);
+        QCOMPARE(QApplication::focusWidget(), table_);
+        button->setFocus();
+        QTest::keyClick(button, Qt::Key_Return);
         QCOMPARE(table_->model()->rowCount(), before + 1);
         QCOMPARE(numbers().value(1), QString("1001"));
         QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_380"));
@@ -526,14 +590,22 @@ private Q_SLOTS:
     }
 
 private:
+    // In place of a proposed one that is there already, which is selected and would be taken.
+    static void typeName(QWidget* files, const QString& path)
+    {
+        qobject_cast<QFileDialog*>(files)->selectFile(path);
+        ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
+    }
     // Of what the window offers first.
-    void exportTo(ExportForm form, const QString& path)
+    void exportTo(ExportForm form, const QString& path, QString* begins = nullptr)
     {
         ScriptedHost::whenModal([&](QWidget* dialog) {
             auto* forms = ScriptedHost::child<QComboBox>(dialog, "comboBox_Form");
             forms->setCurrentIndex(forms->findData(static_cast<int>(form)));
             ScriptedHost::whenModal([&](QWidget* files) {
-                ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
+                if (begins)
+                    *begins = qobject_cast<QFileDialog*>(files)->directory().path();
+                typeName(files, path);
                 QMetaObject::invokeMethod(files, "accept");
             });
             QTest::keyClick(dialog, Qt::Key_Return);

@@ -284,6 +284,47 @@ private Q_SLOTS:
         QVERIFY(isIdle() && window->isHidden() && asked_.isEmpty() && !QFile::exists(file_));
     }
 
+    // Where records have come, a key or a cross that is pressed by habit ends nothing.
+    void asksBeforeItEnds_data()
+    {
+        DataTable<bool, QString, Numbers>({"byCross", "answer", "saved"})
+            .row("Esc, twice", false, "", Numbers{7, 8, 9, 10})
+            .row("Esc and the verb", false, "tmiw_311", Numbers{7, 8, 10})
+            .row("cross, Esc", true, "", Numbers{7, 8, 9, 10})
+            .row("cross and the verb", true, "tmiw_311", Numbers{7, 8, 10})
+            .row("too late", false, "late", Numbers{7, 8, 9, 10});
+    }
+    void asksBeforeItEnds()
+    {
+        QFETCH(bool, byCross);
+        QFETCH(QString, answer);
+        startSave(7, 10);
+        send(Message::RecordByNumber, 8);
+        bool isAsked = false;
+        ScriptedHost::whenModal([&](QWidget* modal) {
+            auto* box = qobject_cast<QMessageBox*>(modal);
+            isAsked = box && box->text().contains("tmiw_310");
+            for (QAbstractButton* button : box->buttons()) {
+                if (button->text() == answer)
+                    return button->click();
+            }
+            if (answer.isEmpty())
+                return QTest::keyClick(box, Qt::Key_Escape);
+            send(Message::RecordByNumber, 9); // the last that was missing
+            QVERIFY(!box->isVisible());
+        });
+        if (byCross)
+            window->windowHandle()->close();
+        else
+            QTest::keyClick(window, Qt::Key_Escape);
+        QTRY_VERIFY(isAsked);
+        QCOMPARE(window->isVisible(), !byCross || answer.isEmpty());
+        if (answer.isEmpty())
+            send(Message::RecordByNumber, 9);
+        QTEST(saved(), "saved");
+        QVERIFY(isIdle());
+    }
+
     // A period counts as the last one when its file is named.
     void remembersThePeriod()
     {
@@ -325,6 +366,9 @@ private Q_SLOTS:
             send(Message::RecordByNumber, each);
         QCOMPARE(rows(), 4);
         QCOMPARE(number(3), QString("11"));
+        // What the file lacks is told, and which of them nobody has read.
+        const auto told = [records] { return ScriptedHost::child<QLabel>(records, "label_Damage")->text(); };
+        QCOMPARE(told(), QString("rec_543 rec_544"));
         // Where the user is, what is selected and the filter stay.
         table->selectRow(2);
         QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
@@ -348,6 +392,7 @@ private Q_SLOTS:
         QCOMPARE(number(0), QString("16"));
         QCOMPARE(number(table->currentIndex().row()), QString("11"));
         host.send(Message::TrackerDetached);
+        QCOMPARE(told(), QString("rec_543 rec_544 rec_545"));
         open();
         // Nor are they told as those of the tracker that comes next.
         QCOMPARE(text("label_SavedInPart"), QString());
@@ -356,6 +401,7 @@ private Q_SLOTS:
         // It ended before what is already known.
         startSave(7, 8);
         show();
+        QCOMPARE(told(), QString());
         send(Message::RecordByNumber, 18);
         QCOMPARE(rows(), 2);
         // Nor does a part: in front of its last record some are missing.

@@ -21,6 +21,17 @@ using namespace vlk;
 
 namespace {
 
+class CapitalTexts : public QTranslator
+{
+public:
+    CapitalTexts() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* key, const char*, int) const override
+    {
+        return QString::fromLatin1(key).toUpper();
+    }
+};
+
 constexpr quint32 kStart = 1'763'625'600; // 20.11.2025 08:00 UTC
 
 struct Fix
@@ -57,6 +68,17 @@ QStringList told(const std::vector<TrackPoint>& points)
                    .arg(point.latitude)
                    .arg(point.longitude);
     return all;
+}
+
+// Of the part of the track in that span.
+QImage pictureOf(const TrackView& view, const TimeSpan& span)
+{
+    QImage image(600, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(2, 2);
+    view.paint(painter, {300, 200}, span);
+    return image;
 }
 
 } // namespace
@@ -219,6 +241,17 @@ void TestTrack::showsAndMoves()
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {canvas->width() - 40, canvas->height() / 2});
     QCOMPARE(records.current(), 1);
     QVERIFY(place->text().startsWith(QLatin1String("55.000000, 37.200000   60.00")));
+    const QString told = place->text();
+    const QImage before = canvas->grab().toImage();
+    {
+        // In another language its unit and its legend are other ones.
+        const CapitalTexts texts;
+        view.retranslate();
+        QCOMPARE(place->text(), told.toUpper());
+        QVERIFY(canvas->grab().toImage() != before);
+    }
+    view.retranslate();
+    QCOMPARE(place->text(), told);
     QTest::mouseClick(canvas, Qt::LeftButton, {}, {40, canvas->height() / 2});
     QCOMPARE(records.current(), 0);
     QTest::keyClick(canvas, Qt::Key_PageDown);
@@ -262,7 +295,7 @@ void TestTrack::showsAndMoves()
         TelemetryContents all;
         all.records = storeOf(fixes);
         shown.setContents(std::move(all));
-        return part.picture({kStart, kStart + 60.0}, {300, 200});
+        return pictureOf(part, {kStart, kStart + 60.0});
     };
     const std::vector<Fix> first{{kStart, 55, 37}, {kStart + 60, 55, 37.2}};
     std::vector<Fix> again = first;
@@ -331,7 +364,7 @@ void TestTrack::survivesOddTracks()
         QTest::keyClick(canvas, Qt::Key(key));
         view.grab();
     }
-    QVERIFY(!view.picture(records.inSight(), {300, 200}).isNull());
+    pictureOf(view, records.inSight());
 }
 
 QTEST_MAIN(TestTrack)

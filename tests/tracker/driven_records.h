@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <map>
 
 struct Pour
 {
@@ -26,6 +27,7 @@ struct DrivenDays
 {
     vlk::RecordStore records;
     std::vector<Pour> pours;
+    std::map<qint64, tracker::EventCode> filling; // events of refuellings, by their times
 };
 
 // Sensors, once the ignition is on, and what a tracker records of them while it drives off.
@@ -50,6 +52,10 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
         const tracker::Moment moment = drive.record(number);
         if (moment.kind != tracker::RecordKind::Telemetry)
             continue;
+        using enum tracker::EventCode;
+        const auto code = static_cast<tracker::EventCode>(moment.code);
+        if (code == FillingStart || code == FillingEnd)
+            driven.filling[moment.time] = code;
         const QByteArray bytes = recordBytes(tracker::Vehicle(moment, {}), dataSet);
         driven.records.add(
             {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});

@@ -82,6 +82,34 @@ private Q_SLOTS:
         QVERIFY(above > kVehicles);
     }
 
+    // Each refuelling begins and ends with a record that says so, no drain does.
+    void eventsOfPours()
+    {
+        using enum tracker::EventCode;
+        int refuellings = 0;
+        for (int seed = kFirstVehicle; seed < kFirstVehicle + 10; ++seed) {
+            DrivenDays driven = drivenDays(seed, 7, readFile(VLK_SOURCE "/workbench/tracker/factory.xml"));
+            const auto take = [&driven](qint64 time, tracker::EventCode code) {
+                const auto found = driven.filling.lower_bound(time);
+                // Another record of that second moves it on by one.
+                const bool isThere =
+                    found != driven.filling.end() && found->first <= time + 1 && found->second == code;
+                if (isThere)
+                    driven.filling.erase(found);
+                return isThere;
+            };
+            for (const Pour& pour : driven.pours) {
+                if (pour.litres <= 0)
+                    continue;
+                ++refuellings;
+                QVERIFY2(take(pour.from, FillingStart) && take(pour.until, FillingEnd),
+                         qPrintable(QStringLiteral("vehicle %1 at %2").arg(seed).arg(pour.from)));
+            }
+            QVERIFY(driven.filling.empty());
+        }
+        QVERIFY(refuellings > 10);
+    }
+
     // From there on hardly anything is found that was not poured, far below it much.
     void noise()
     {

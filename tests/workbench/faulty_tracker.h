@@ -34,6 +34,18 @@ enum Step {
     CloseTacho
 };
 
+// A text that is given more values than it has places for, or fewer, fails the test.
+inline void failOnUnfilledTexts()
+{
+    static QtMessageHandler usual = nullptr;
+    usual =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (message.startsWith(QLatin1String("QString::arg")))
+                QTest::qFail(qPrintable(message), __FILE__, __LINE__);
+            usual(type, context, message);
+        });
+}
+
 struct Bench : OpenedWorkbench
 {
     Bench()

@@ -314,7 +314,15 @@ private Q_SLOTS:
             .row("a folder for a file", "report fleet", 2, "", "fleet: is a folder, and one file is needed\n")
             .row("the system's reason in Russian", "--language ru check x.xml", 2, "",
                  "x.xml: не читается: нет такого файла или папки\n")
-            .row("no report", "report a.xml -o a.doc", 2, "", "a.doc: a report ends in .pdf or .html\n");
+            .row("no report", "report a.xml -o a.doc", 2, "", "a.doc: a report ends in .pdf or .html\n")
+            .row("a report that is none", "check none.xml -o week.pdf", 2, "",
+                 "week.pdf: this call does not write .pdf; what does: report\n")
+            .row("a form that is another", "convert none.xml --to csv -o week.GPX", 2, "",
+                 "week.GPX: this call does not write .gpx; what does: convert --to gpx\n")
+            .row("a table that is none", "compare none.xml a.xml -o fleet.csv", 2, "",
+                 "fleet.csv: this call does not write .csv; what does: compare --csv, convert --to csv, "
+                 "convert --to csv-text\n")
+            .row("an ending of its own", "info --json telemetry.xml -o told.jsonl", 0, "", "");
     }
     void tells()
     {
@@ -363,6 +371,8 @@ private Q_SLOTS:
                  a)
             .row("what is told, in a file", "set TRACK/POINTS/maxSpeed=80 a.xml -o told.txt", 0, "", "",
                  changed)
+            .row("what is told, as a sheet", "set TRACK/POINTS/maxSpeed=80 a.xml -o told.html", 2, "",
+                 "told.html: this call does not write .html; what does: report\n", a)
             .row("a file of nothing", "apply --dry-run good.xml - -o new.xml", 2, "",
                  "r7106: files are changed in place and -o gets what is told: a changed copy comes from "
                  "standard input (FILE -)\nHelp: r7106 apply --help\n",
@@ -604,12 +614,16 @@ private Q_SLOTS:
         QVERIFY(readFile(path("r.pdf")).startsWith("%PDF-"));
         for (const QString name : {"open.html", "closed.html", "closed.pdf"}) {
             const QStringList call{"report", "secret.xml", "-o", name};
-            QCOMPARE(std::get<0>(run(name[0] == 'c' ? call + QStringList("--secrets") : call)), 0);
+            const auto [status, told, complaints] =
+                run(name[0] == 'c' ? call + QStringList("--secrets") : call);
+            QCOMPARE(status, 0);
+            QCOMPARE(complaints.contains("--secrets shows it"), name[0] != 'c');
             const auto readers = QFile::permissions(path(name)) & (QFile::ReadGroup | QFile::ReadOther);
             QCOMPARE(!readers, name[0] == 'c');
         }
-        QCOMPARE(std::get<0>(run({"diff", "a.xml", "none.xml", "-o", "r.html"})), 2);
-        QCOMPARE(readFile(path("r.html")), html);
+        put("kept.txt", html);
+        QCOMPARE(std::get<0>(run({"diff", "a.xml", "none.xml", "-o", "kept.txt"})), 2);
+        QCOMPARE(readFile(path("kept.txt")), html);
     }
 
 private:

@@ -8,6 +8,8 @@
 #include "telemetry/sample_pages.h"
 
 #include <QBuffer>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCodec>
@@ -188,10 +190,27 @@ private Q_SLOTS:
         QTEST(complaints, "complaints");
         QTEST(status, "status");
         // A file is written as a whole, or not touched.
-        put("there.csv", "before");
-        run(arguments + QStringList{"-o", "there.csv"}, readFile(path("a.tmi")));
+        const QString there = call.contains("--to csv") ? "there.csv" : "there.txt";
+        put(there, "before");
+        run(arguments + QStringList{"-o", there}, readFile(path("a.tmi")));
         const QByteArray mark = call.contains("--to csv") && !call.contains("csv-text") ? "\xEF\xBB\xBF" : "";
-        QCOMPARE(readFile(path("there.csv")), told.isEmpty() ? QByteArray("before") : mark + told);
+        QCOMPARE(readFile(path(there)), told.isEmpty() ? QByteArray("before") : mark + told);
+    }
+
+    // By its records, whichever command looks at it, and without what would stand in its header.
+    void knowsWhatHasLostItsBeginning()
+    {
+        put("cut.tmi", readFile(path("a.tmi")).left(10));
+        for (const auto& [name, records] : {std::pair("headless.tmi", 3), {"cut.tmi", 0}}) {
+            const auto [status, told, complaints] = run({"info", "--json", name});
+            QCOMPARE(status, 1);
+            const QJsonObject line = QJsonDocument::fromJson(told).object();
+            QVERIFY2(line["what"] == "telemetry" && line["model"].isNull(), told.constData());
+            QCOMPARE(line["records"].toInt(), records);
+        }
+        QVERIFY(std::get<2>(run({"fuel", "--sensor", "CAN_FuelLevel", "headless.tmi"}))
+                    .contains("offset 0: the file does not begin as telemetry does"));
+        QCOMPARE(std::get<0>(run({"convert", "a.tmi", "--to", "csv", "-o", "headless.tmi"})), 2);
     }
 
     // The same bytes that a save in the windows gives, from either form.
@@ -209,6 +228,24 @@ private Q_SLOTS:
             QVERIFY(std::get<1>(run({"convert", "many.tmi", "--to", "csv-text"})) == one);
         QCOMPARE(one.count('\n'), 3002);
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
+    }
+
+    // More than is kept in memory between the two times that they are read; the last one has other fields.
+    void manyRecords()
+    {
+        std::mt19937 random(7106);
+        FieldMask all = FieldMask::fromText(std::string(kFieldCount, '1'));
+        const QByteArray mask(reinterpret_cast<const char*>(all.bytes().data()), FieldMask::kBytes);
+        const QByteArray record = "\xb0\x1e" + mask + randomBytes(random, all.payloadSize());
+        RecordStore store;
+        for (int i = 0; i < 30'000; ++i)
+            store.add(bytesAt(record.constData(), record.size()));
+        const QByteArray packet = packetBytes(kSecondHead + cardEntry("AB 12345"));
+        store.add(bytesAt(packet.constData(), packet.size()));
+        put("large.tmi", fileOf(ExportForm::tmi, store, {}));
+        const auto [status, told, complaints] = run({"convert", "large.tmi", "--to", "tmi"});
+        QCOMPARE(complaints, QByteArray());
+        QVERIFY(told == readFile(path("large.tmi")));
     }
 
     // What a form has no place for is told, and is no fault.

@@ -17,7 +17,11 @@ class FaultsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        failOnUnfilledTexts();
+    }
 
     // Telemetry shows nothing of them, so the workbench says why.
     void recordsOfOtherVersions_data()

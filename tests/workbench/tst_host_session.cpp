@@ -104,7 +104,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QVector<RoadReport> reports;
-        for (const char* x : {"1", "2"}) {
+        for (const char* x : {"1", "2", "1"}) {
             bench.session.tracker().detach();
             QString path = writeFile(QStringLiteral("vlk_R-7106_1.xml"),
                                      QByteArray("<DEVICE model=\"R-7106\"><A x=\"") + x + "\"/></DEVICE>");
@@ -124,12 +124,32 @@ private Q_SLOTS:
         bench.session.tracker().attach();
         QVERIFY(!bench.session.writeAgain(reports[0].request));
         QVERIFY(bench.isConfirmed() && !QFile::exists(reports[0].request.file));
-        QVERIFY(QFile::exists(reports[1].request.file));
+        QVERIFY(QFile::exists(reports[1].request.file) && !QFile::exists(reports[2].request.file));
         // Nothing is called kept that somebody has changed or taken away.
         for (const char* content : {"", "<DEVICE/>"}) {
             writeFile(reports[1].request.file, content);
             QVERIFY(!workbench::summary(reports[1]).contains(reports[1].request.file));
         }
+        // No longer than backups are.
+        QFile left(reports[1].request.file);
+        QVERIFY(left.open(QIODevice::Append) && left.setFileTime(QDateTime::currentDateTime().addDays(-100),
+                                                                 QFileDevice::FileModificationTime));
+        left.close();
+        for (const int days : {0, 366, 92}) {
+            bench.session.keepFor(days);
+            QCOMPARE(left.exists(), days != 92);
+        }
+    }
+
+    // No more of it is read than shows that.
+    void saysThatAFileIsTooLarge()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QFile file(bench.root.filePath("large.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{1} << 30));
+        const QString said = bench.session.whyNotOpened(file.fileName())();
+        QVERIFY2(said.contains("It is larger than 4,000,000\u00A0B"), qPrintable(said));
     }
 
     // Room on the disk is asked for where that is what is missing, and the reason is in the user's language.

@@ -218,6 +218,67 @@ private Q_SLOTS:
         QTEST(filter.rowCount(), "shown");
     }
 
+    // The newest line is whole and in sight until the user scrolls away; a line that was chosen behind a
+    // filter stays in sight when the filter goes.
+    void followsTheNewest()
+    {
+        workbench::MessageLogModel model;
+        workbench::MessageLogView view(&model);
+        const auto append = [&model](int count) {
+            const std::int32_t mode = 2;
+            for (int i = 0; i < count; ++i)
+                model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+            model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
+        };
+        auto* table = view.findChild<QTableView*>(QStringLiteral("tableView_Log"));
+        auto* words = view.findChild<QLineEdit*>(QStringLiteral("lineEdit_LogFilter"));
+        const auto isInSight = [table](int row) {
+            const QRect line = table->visualRect(table->model()->index(row, 0));
+            return line.isValid() && table->viewport()->rect().contains(line);
+        };
+        const auto last = [table] { return table->model()->rowCount() - 1; };
+        view.resize(600, 400);
+        view.show();
+        append(100);
+        QTRY_VERIFY(isInSight(last()));
+        view.resize(600, 283);
+        QTRY_VERIFY(isInSight(last()));
+        QTest::keyClicks(words, "2004");
+        QCOMPARE(last(), 0);
+        words->clear();
+        append(3);
+        QTRY_VERIFY(isInSight(last()));
+        table->scrollToTop();
+        append(3);
+        QCoreApplication::processEvents();
+        QVERIFY(isInSight(0) && !isInSight(last()));
+        QTest::keyClicks(words, "2004");
+        table->setCurrentIndex(table->model()->index(0, 0));
+        words->clear();
+        QTRY_VERIFY(isInSight(100));
+        append(3);
+        QCoreApplication::processEvents();
+        QVERIFY(isInSight(100) && !isInSight(last()));
+    }
+
+    // A name without an ending gets one.
+    void savesUnderAnEnding()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        workbench::MessageLogModel model;
+        workbench::MessageLogView view(&model);
+        model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+        const QTemporaryDir folder;
+        QTimer::singleShot(0, [&folder] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(folder.filePath("seen"));
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        view.findChild<QToolButton*>("toolButton_LogSave")->click();
+        QVERIFY(QFile::exists(folder.filePath("seen.txt")));
+    }
+
     void savesWhatIsShown()
     {
         workbench::Languages languages;

@@ -2,13 +2,18 @@
 
 #include "faulty_tracker.h"
 #include "support/data_table.h"
+#include "support/files.h"
 
 class WorkUnderWayTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void initTestCase()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        failOnUnfilledTexts();
+    }
 
     // A notice that was closed is not the last word of a silence in which the user asks on.
     void comesBackInTheSameSilence()
@@ -98,6 +103,54 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT((calibration->activateWindow(), save->isEnabled()), 20'000);
         bench.tracker().setFaults({});
         QTRY_VERIFY_WITH_TIMEOUT(!save->isEnabled(), 20'000);
+    }
+
+    // The program does not end over an export unasked.
+    void asksOverAnExport()
+    {
+        Bench bench;
+        const QByteArray page =
+            "<Page type=\"176\" ver=\"30\" format=\"1\">\n<NumPage>1</NumPage>\n</Page>\n";
+        constexpr int kPages = 300'000;
+        const QString large =
+            writeFile(bench.root.filePath(QStringLiteral("large.xml")), page.repeated(kPages));
+        bench.window.session().link().showStoredFile(large, 1);
+        QWidget* records = Bench::pluginWindow("VLK_Widget_Tmi_Table");
+        QVERIFY(records);
+        const auto* table = records->findChild<QTableView*>(QStringLiteral("tableWidget"));
+        QTRY_COMPARE_WITH_TIMEOUT(table->model()->rowCount(), kPages, 60'000);
+        QTimer::singleShot(0, [] { Bench::press(QApplication::activeModalWidget(), "pushButton_SaveAs"); });
+        Bench::press(records, "pushButton_Export");
+        QTRY_VERIFY(records->findChild<QWidget*>(QStringLiteral("progressBar_Work"))->isVisible());
+        bench.agrees = false;
+        QVERIFY(!bench.window.close());
+        QVERIFY(bench.window.isVisible() && records->isVisible());
+        QCOMPARE(bench.over, records);
+        bench.agrees = true;
+        QVERIFY(bench.window.close());
+        QVERIFY(!QFile::exists(bench.file()));
+    }
+
+    // Nor in the configuration, where a window is not too low for it.
+    void movesNoPage()
+    {
+        Bench bench;
+        bench.prepare(Write);
+        QWidget* configuration = Bench::configuration();
+        const auto* field = configuration->findChild<QWidget*>(QStringLiteral("lineEdit_Name"));
+        for (const int height : {600, 500}) {
+            configuration->setMinimumSize(0, 0);
+            configuration->resize(1024, height);
+            QCoreApplication::processEvents();
+            const QPoint before = field->mapToGlobal(QPoint());
+            QFile::remove(bench.file());
+            Bench::press(configuration, "pushButton_SaveToFile");
+            QTRY_VERIFY(Bench::notice().startsWith(QLatin1String("Saved: ")));
+            QCoreApplication::processEvents();
+            QCOMPARE(field->mapToGlobal(QPoint()) == before, height == 600);
+            Bench::press(configuration, "label_WindowNotice_Close");
+            QTRY_COMPARE(field->mapToGlobal(QPoint()), before);
+        }
     }
 
     void refusesWhatDestroys_data()

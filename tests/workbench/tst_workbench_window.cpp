@@ -214,6 +214,33 @@ private Q_SLOTS:
 
     // Whatever the size of the letters, the windows fit the screen and scroll; at the size of the
     // configuration window nothing needs more room.
+    // A folder that cannot be used is refused where it is chosen, and told where it was chosen before: files
+    // go to the workbench's own until it is there again.
+    void refusesUnusableFolders()
+    {
+        Bench bench;
+        QFile file(bench.root.filePath("a file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QString unusable = file.fileName() + "/folder";
+        const QString usable = bench.root.filePath("new/folder");
+        bench.settings.setFolders({}, unusable);
+        QVERIFY(bench.start());
+        QVERIFY2(bench.text("label_Status").contains(unusable), qPrintable(bench.text("label_Status")));
+        QCOMPARE(bench.settings.configurationFolder(), unusable);
+        const auto* bar = bench.window.findChild<QFrame*>("noticeBar");
+        QVERIFY(bar->isVisible() && bar->findChild<QLabel*>("label_Notice")->text().contains(unusable));
+        workbench::FoldersDialog dialog({}, unusable, &bench.window);
+        dialog.show();
+        dialog.accept();
+        auto* folder = dialog.findChild<QLineEdit*>("lineEdit_FolderConfigurations");
+        const auto* told = dialog.findChild<QLabel*>("label_Notice");
+        QVERIFY(dialog.isVisible() && told->text().contains("a file where a folder should be"));
+        folder->setText(usable);
+        dialog.accept();
+        QVERIFY(!dialog.isVisible() && QFileInfo(usable).isDir());
+        QVERIFY(QDir(usable).isEmpty());
+    }
+
     void fitsTheScreen()
     {
         Bench bench;
@@ -227,7 +254,7 @@ private Q_SLOTS:
             QVERIFY(fits(bench.window.size()));
             bench.window.showHelp(QStringLiteral("index.html"));
             const workbench::FoldersDialog folders({}, {}, &bench.window);
-            workbench::WriteReportView::showDialog(bench.window.session(), {}, {}, &bench.window);
+            workbench::WriteReportView::showDialog(bench.window.session(), {}, &bench.window);
             for (const auto* window : bench.window.findChildren<QDialog*>())
                 QVERIFY2(fits(window->size()), window->objectName().toLatin1().constData());
         }

@@ -3,11 +3,9 @@
 #include "command/configuration_input.h"
 #include "command/file_kind.h"
 #include "command/output.h"
-#include "telemetry/files/binary_layout.h"
-#include "telemetry/files/telemetry_reader.h"
+#include "telemetry/files/telemetry_binary_reader.h"
 #include "window/languages.h"
 
-#include <QBuffer>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -32,25 +30,6 @@ std::unique_ptr<QFile> kept(QFile& input)
     }
     file->seek(0);
     return file;
-}
-
-// Whether sound records stand in its first megabytes, and more of them than a program has by chance. To
-// search all of a large file that is something else would take too long.
-bool beginsWithRecords(QFile& file)
-{
-    constexpr qint64 searched = 4 << 20;
-    QBuffer start;
-    start.setData(file.peek(searched));
-    start.open(QIODevice::ReadOnly);
-    vlk::TelemetryReader reader(start, file.fileName(), vlk::TelemetryReading::salvage);
-    while (reader.step()) {
-    }
-    constexpr qint64 leastShare = 4; // of the bytes behind the header one in four
-    const vlk::RecordStore& records = reader.contents().records;
-    qint64 bytes = 0;
-    for (int record = 0; record < records.size(); ++record)
-        bytes += std::ssize(records.bytes(record));
-    return bytes > 0 && bytes * leastShare >= start.size() - qint64{vlk::binary::kHeaderBytes};
 }
 
 } // namespace
@@ -80,21 +59,20 @@ void TelemetryInputs::take(const File& file)
     const QByteArray start = isOpen ? device->peek(kBeginning) : QByteArray();
     if (!isOpen || (start.isEmpty() && device->error() != QFileDevice::NoError))
         return refuse(file, whyUnreadable(*device));
-    const FileKind kind = kindOf(start);
-    // What has lost its beginning is found by its records.
-    const bool isDamaged = kind == FileKind::unknown &&
-                           file.name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
-                           beginsWithRecords(*device);
-    if (kind == FileKind::telemetry || isDamaged)
-        add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr);
+    const FileKind kind = kindOf(*device, file.name);
+    // What has lost its beginning and is known by its records is of the binary form.
+    const bool isXml = kindOf(start) == FileKind::telemetry &&
+                       !vlk::looksBinary(vlk::bytesAt(start.constData(), start.size()));
+    if (kind == FileKind::telemetry)
+        add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr, isXml);
     else if (file.isNamed || kind == FileKind::unknown)
         refuse(file, text(isBlank(start) ? "cli_004" : "cli_212"));
 }
 
-void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device)
+void TelemetryInputs::add(const File& file, std::unique_ptr<QFile> device, bool isXml)
 {
     folders_.found(file);
-    files_.push_back({file, std::move(device)});
+    files_.push_back({file, std::move(device), isXml});
 }
 
 void TelemetryInputs::refuse(const File& file, const QString& reason)

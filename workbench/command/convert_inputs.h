@@ -15,6 +15,7 @@ struct TelemetryInput
     File file;
     std::unique_ptr<QFile>
         device{}; // of standard input, which is kept; else the file is opened when it is read
+    bool isXml = false;
 };
 
 class TelemetryInputs
@@ -27,7 +28,7 @@ public:
 
 private:
     void take(const File& file);
-    void add(const File& file, std::unique_ptr<QFile> device);
+    void add(const File& file, std::unique_ptr<QFile> device, bool isXml);
     void refuse(const File& file, const QString& reason);
 
     FolderTally folders_;

@@ -40,6 +40,8 @@ public:
 
     virtual void rewind() = 0;
     virtual std::optional<RecordBatch> next() = 0;
+    // Whether they come a second time about as quickly as from memory.
+    virtual bool isQuickAgain() const { return false; }
 
 protected:
     RecordSource() = default;
@@ -48,6 +50,9 @@ protected:
 
 // One file after the other.
 std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener);
+
+// The same, which come out of a temporary file when they are asked for again, where it can be written.
+std::unique_ptr<RecordSource> keptForAgain(RecordSource& records);
 
 // Sorted by time; of those with the same number and time the first. Records of files that tell different
 // trackers are all kept, and `trackers` gets those; null where all are of one, whatever files tell. None,

@@ -1,8 +1,11 @@
 #include "command/file_kind.h"
 
+#include "telemetry/files/binary_layout.h"
 #include "telemetry/files/telemetry_binary_reader.h"
+#include "telemetry/files/telemetry_reader.h"
 #include "xml/xml_scanner.h"
 
+#include <QBuffer>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -39,6 +42,25 @@ QString textOf(const QByteArray& start)
     return QTextCodec::codecForUtfText(start, QTextCodec::codecForName("windows-1251"))->toUnicode(start);
 }
 
+// Whether sound records stand in its first megabytes, and more of them than a program has by chance. To
+// search all of a large file that is something else would take too long.
+bool beginsWithRecords(QIODevice& device, const QString& name)
+{
+    constexpr qint64 searched = 4 << 20;
+    QBuffer start;
+    start.setData(device.peek(searched));
+    start.open(QIODevice::ReadOnly);
+    vlk::TelemetryReader reader(start, name, vlk::TelemetryReading::salvage);
+    while (reader.step()) {
+    }
+    constexpr qint64 leastShare = 4; // of the bytes behind the header one in four
+    const vlk::RecordStore& records = reader.contents().records;
+    qint64 bytes = 0;
+    for (int record = 0; record < records.size(); ++record)
+        bytes += std::ssize(records.bytes(record));
+    return bytes > 0 && bytes * leastShare >= start.size() - qint64{vlk::binary::kHeaderBytes};
+}
+
 } // namespace
 
 FileKind kindOf(const QByteArray& start)
@@ -57,6 +79,15 @@ FileKind kindOf(const QByteArray& start)
         return row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
     });
     return found == std::end(kKinds) ? FileKind::unknown : found->kind;
+}
+
+FileKind kindOf(QIODevice& device, const QString& name)
+{
+    const FileKind kind = kindOf(device.peek(kBeginning));
+    return kind == FileKind::unknown && name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
+                   beginsWithRecords(device, name)
+               ? FileKind::telemetry
+               : kind;
 }
 
 const char* nameOf(FileKind kind)

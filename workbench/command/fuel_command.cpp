@@ -85,9 +85,9 @@ QString sensorsToChoose(const Call& call)
     while (const std::optional<File> file = walk.next()) {
         QFile device(file->name);
         if (file->isStandardInput() || !device.open(QIODevice::ReadOnly) ||
-            kindOf(device.peek(kBeginning)) != FileKind::telemetry)
+            kindOf(device, file->name) != FileKind::telemetry)
             continue;
-        vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
+        vlk::TelemetryReader reader(device, file->name, vlk::TelemetryReading::salvage);
         while (reader.contents().records.size() < mostRecords && reader.step())
             ;
         vlk::RecordColumns columns(reader.contents().records);
@@ -254,7 +254,7 @@ private:
         const QByteArray start = device->peek(kBeginning);
         if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
             return refuse(file, whyUnreadable(plain));
-        const FileKind kind = kindOf(start);
+        const FileKind kind = kindOf(*device, file.name);
         if (kind == FileKind::telemetry)
             return readRecords(file, *device, isOneOfSeveral);
         if (file.isNamed || kind == FileKind::unknown)
@@ -264,7 +264,7 @@ private:
     void readRecords(const File& file, QIODevice& device, bool isOneOfSeveral)
     {
         folders_.found(file);
-        vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
+        vlk::TelemetryReader reader(device, file.name, vlk::TelemetryReading::salvage);
         Part part{file, records_.size(), 0, false};
         for (bool isMore = true; isMore;) {
             isMore = reader.step();

@@ -11,21 +11,33 @@
 #include <map>
 #include <mutex>
 #include <optional>
+#include <sched.h>
 #include <thread>
 #include <vector>
 
 namespace workbench::command {
+
+// That this program may use, which need not be all.
+inline int coresToUse()
+{
+    cpu_set_t cores;
+    if (sched_getaffinity(0, sizeof cores, &cores) == 0)
+        return std::max(CPU_COUNT(&cores), 1);
+    return static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+}
 
 template <class Item, class Result>
 class InOrder
 {
 public:
     // `next` gives what is to be worked on, in one thread at a time, none at the end; `work` runs in several
-    // at once.
-    InOrder(std::function<std::optional<Item>()> next, std::function<Result(Item)> work)
-        : next_(std::move(next)), work_(std::move(work))
+    // at once. `mostWaiting`: results, where some take much longer than others; 0 for twice the cores.
+    InOrder(std::function<std::optional<Item>()> next, std::function<Result(Item)> work,
+            std::size_t mostWaiting = 0)
+        : mostWaiting_(mostWaiting != 0 ? mostWaiting : 2 * static_cast<std::size_t>(threads_)),
+          next_(std::move(next)), work_(std::move(work))
     {
-        for (unsigned i = 0; i < threads_; ++i)
+        for (int i = 0; i < threads_; ++i)
             workers_.emplace_back([this] { run(); });
     }
     ~InOrder()
@@ -82,8 +94,8 @@ private:
         }
     }
 
-    const unsigned threads_ = std::max(std::thread::hardware_concurrency(), 1U);
-    const std::size_t mostWaiting_ = 2 * std::size_t{threads_};
+    const int threads_ = coresToUse();
+    const std::size_t mostWaiting_;
     std::function<std::optional<Item>()> next_;
     std::function<Result(Item)> work_;
     std::mutex reading_;

@@ -85,7 +85,7 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
 
 Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
 {
-    const TelemetrySummary summary = summaryOf(device);
+    const TelemetrySummary summary = summaryOf(device, file.name);
     Facts facts{.kind = FileKind::telemetry, .records = summary.records, .gaps = summary.gaps};
     facts.model = summary.model.isEmpty() ? QString() : summary.model;
     facts.from = timeText(summary.from);
@@ -136,7 +136,7 @@ Outcome factsOf(const Call& call, const File& file)
     const QByteArray start = isOpen ? device.peek(kBeginning) : QByteArray();
     if (start.isEmpty() && device.error() != QFileDevice::NoError)
         return refusal(call, file.name, whyUnreadable(device));
-    const FileKind kind = kindOf(start);
+    const FileKind kind = isOpen ? kindOf(device, file.name) : FileKind::unknown;
     if (kind == FileKind::telemetry)
         return telemetryFacts(call, file, device);
     if (isBlank(start))

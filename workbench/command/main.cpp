@@ -4,10 +4,12 @@
 #include "command/commands.h"
 #include "command/file_names.h"
 #include "command/output.h"
+#include "command/output_ending.h"
 #include "command/output_guard.h"
 #include "command/pdf/report_pdf.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
+#include "review/value_text.h"
 #include "window/installed_files.h"
 #include "window/languages.h"
 
@@ -63,10 +65,15 @@ int run(const Call& call)
     return failed;
 }
 
-int writeReport(Output& output, const QByteArray& report)
+// With what is to be told of it once it is there, if anything.
+int writeReport(Output& output, const QByteArray& report, const QString& note)
 {
     output.write(report);
-    return output.close() ? nothing : failed;
+    if (!output.close())
+        return failed;
+    if (!note.isEmpty())
+        writeError(complaint(QStringLiteral("r7106"), note));
+    return nothing;
 }
 
 bool isPdf(const Call& call)
@@ -82,6 +89,7 @@ struct Pdf
     QString library;
     QString notLoaded;
     QString notWritten;
+    QString note;
 };
 
 int writePdf(const Pdf& pdf, int argc, char** argv)
@@ -96,7 +104,7 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
         return failed;
     }
     Output output(pdf.call.output, readersOf(pdf.call), pdf.notWritten);
-    return writeReport(output, made);
+    return writeReport(output, made, pdf.note);
 }
 
 // Standard input and output that are closed stay so: else a file that is opened would take their place, and
@@ -111,23 +119,24 @@ void holdClosedStreams()
 
 int report(const Call& call, Pdf* pdf)
 {
-    if (!isPdf(call) && !call.output.isEmpty() && call.output != QLatin1String("-") &&
-        !call.output.endsWith(QLatin1String(".html"), Qt::CaseInsensitive)) {
-        writeError(complaint(call.output, text("cli_024")));
-        return failed;
-    }
     int status = nothing;
     const QString html = reportHtml(call, &status);
     if (status != nothing)
         return status;
+    const bool hasMask = !call.secrets && html.contains(QString::fromUtf8(vlk::kSecretDots));
+    const QString note = hasMask ? text("cli_326") : QString();
     if (isPdf(call)) {
         keepReasons();
-        *pdf = {call, html, workbench::libraryPath(QStringLiteral("r7106_pdf.so")), text("cli_025"),
-                text("cli_003")};
+        *pdf = {call,
+                html,
+                workbench::libraryPath(QStringLiteral("r7106_pdf.so")),
+                text("cli_025"),
+                text("cli_003"),
+                note};
         return nothing;
     }
     Output output(call.output, readersOf(call));
-    return writeReport(output, html.toUtf8());
+    return writeReport(output, html.toUtf8(), note);
 }
 
 int runWithTexts(int& argc, char** argv, Pdf* pdf)
@@ -149,7 +158,10 @@ int runWithTexts(int& argc, char** argv, Pdf* pdf)
         output.write(arguments.message);
         return output.close() ? nothing : failed;
     }
-    if (const QString reason = whyNotReplaced(arguments.call); !reason.isEmpty()) {
+    QString reason = whyNotReplaced(arguments.call);
+    if (reason.isEmpty())
+        reason = whyOtherEnding(arguments.call);
+    if (!reason.isEmpty()) {
         writeError(complaint(arguments.call.output, reason));
         return failed;
     }

@@ -38,9 +38,14 @@ bool Output::isReachable()
 
 void Output::write(const QByteArray& bytes)
 {
+    hasMask_ = hasMask_ || (!isDropped_ && fault_.isEmpty() && bytes.contains(vlk::kSecretDots));
+    writeRecords(bytes);
+}
+
+void Output::writeRecords(const QByteArray& bytes)
+{
     if (bytes.isEmpty() || isDropped_ || !fault_.isEmpty())
         return;
-    hasMask_ = hasMask_ || bytes.contains(vlk::kSecretDots);
     if (isFile()) {
         if (kept_.write(bytes) != bytes.size())
             fault_ = kept_.errorString();

@@ -20,6 +20,8 @@ public:
     // Whether a file could be put in its place now; if not, close() tells why.
     bool isReachable();
     void write(const QByteArray& bytes);
+    // What holds nothing that could be masked, and much of it.
+    void writeRecords(const QByteArray& bytes);
     // Puts the file in its place. False with a complaint when not everything could be written.
     bool close();
 

@@ -64,7 +64,7 @@ QString whyNotReplaced(const Call& call)
     if (isInput(*output, call))
         return text("cli_250");
     QFile file(call.output);
-    const FileKind kind = file.open(QIODevice::ReadOnly) ? kindOf(file.read(kBeginning)) : FileKind::unknown;
+    const FileKind kind = file.open(QIODevice::ReadOnly) ? kindOf(file, call.output) : FileKind::unknown;
     // Lines of text may begin as tachograph files do.
     const bool isPrecious =
         kind == FileKind::configuration || kind == FileKind::telemetry || kind == FileKind::calibration;

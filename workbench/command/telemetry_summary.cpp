@@ -45,15 +45,19 @@ private:
 
 } // namespace
 
-TelemetrySummary summaryOf(QIODevice& device)
+TelemetrySummary summaryOf(QIODevice& device, const QString& name)
 {
     TelemetrySummary summary;
     const QByteArray start = device.peek(4096);
-    vlk::TelemetryReader reader(device, {}, vlk::TelemetryReading::salvage);
-    summary.model = reader.isBinary()
-                        ? QString::fromLatin1(
-                              start.mid(vlk::binary::kModelAt, vlk::binary::kModelBytes).split('\0').first())
-                        : modelOf(start);
+    vlk::TelemetryReader reader(device, name, vlk::TelemetryReading::salvage);
+    // Where the header is damaged or cut, what stands there is no model.
+    const bool hasHeader =
+        start.size() >= int{vlk::binary::kHeaderBytes} && kindOf(start) == FileKind::telemetry;
+    if (!reader.isBinary())
+        summary.model = modelOf(start);
+    else if (hasHeader)
+        summary.model = QString::fromLatin1(
+            start.mid(vlk::binary::kModelAt, vlk::binary::kModelBytes).split('\0').first());
     Counter counter(&summary);
     for (bool isMore = true; isMore;) {
         isMore = reader.step();

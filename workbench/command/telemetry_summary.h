@@ -19,6 +19,6 @@ struct TelemetrySummary
 };
 
 // From the device's beginning.
-TelemetrySummary summaryOf(QIODevice& device);
+TelemetrySummary summaryOf(QIODevice& device, const QString& name);
 
 } // namespace workbench::command

@@ -1,7 +1,7 @@
 #include "road/backups.h"
 
-#include "base/whole_file.h"
 #include "check/configuration_check.h"
+#include "road/secret_file.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -21,8 +21,6 @@ const QString kMomentForm = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
 const QString kNameKey = QStringLiteral("name");
 const QString kNoteKey = QStringLiteral("note");
 
-constexpr QFile::Permissions kOwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
-
 QString wordsOf(const QString& path)
 {
     return path.chopped(4) + QStringLiteral(".json");
@@ -33,18 +31,6 @@ QString fileWord(QString number)
 {
     static const QRegularExpression other(QStringLiteral("[^0-9A-Za-z.-]"));
     return number.replace(other, QStringLiteral("-")).left(64);
-}
-
-bool saveSecret(const QString& path, const QByteArray& content, QString* reason)
-{
-    QSaveFile file(path);
-    return vlk::saveWhole(
-        file,
-        [&](QIODevice& device) {
-            file.setPermissions(kOwnerOnly);
-            return device.write(content) == content.size();
-        },
-        reason);
 }
 
 } // namespace
@@ -80,6 +66,11 @@ std::optional<Backup> Backups::find(int number) const
     const auto found =
         std::ranges::find_if(all_, [number](const Backup& backup) { return backup.number == number; });
     return found == all_.cend() ? std::nullopt : std::optional(*found);
+}
+
+QString Backups::pendingWrite() const
+{
+    return QDir(folder_).filePath(QStringLiteral("under_way.json"));
 }
 
 QByteArray Backups::document(int number) const

@@ -37,6 +37,8 @@ public:
     // The newest first.
     const QVector<Backup>& all() const { return all_; }
     std::optional<Backup> find(int number) const;
+    // The file of a write that is on its way.
+    QString pendingWrite() const;
     // Empty when it cannot be read.
     QByteArray document(int number) const;
 

@@ -23,6 +23,7 @@ struct WriteRequest
     QString file;        // lies there until it is written
     QStringList chosen;  // paths of the settings that were asked for; empty: all
     QStringList lost;    // paths of the keys that were opened and that nobody knows: the document lacks them
+    QStringList typed{}; // a line for each field that was not taken as it was typed
 };
 
 struct WriteReview
@@ -37,6 +38,9 @@ struct WriteReview
     int errors = 0;
     bool isOfThisTracker = false;
 
+    // Why it has to be looked at.
+    enum class Why { removes, hasErrors, isOfAnother, losesKeys, bringsMore, bringsBack };
+
     int changed() const { return int(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
     SettingChanges alongside() const
@@ -47,17 +51,13 @@ struct WriteReview
                 along.append(change);
         return along;
     }
-    // Nobody has edited what is brought back: the review is the one look at it.
-    bool isAlwaysAsked() const
-    {
-        return mustBeSeen() || request.origin == WriteRequest::Origin::backup ||
-               request.origin == WriteRequest::Origin::previous;
-    }
+    QVector<Why> reasons() const;
+    bool isAlwaysAsked() const { return !reasons().isEmpty(); }
     // It loses something, brings something unasked, is known to be wrong, or replaces what nobody has seen.
     bool mustBeSeen() const
     {
-        return removed > 0 || errors > 0 || !isOfThisTracker || !request.lost.isEmpty() ||
-               !alongside().isEmpty();
+        const QVector<Why> all = reasons();
+        return !all.isEmpty() && all != QVector{Why::bringsBack};
     }
 };
 
@@ -86,12 +86,14 @@ struct RoadReport
         unsaved,      // the file for the tracker was not saved
         incomparable, // nobody can tell the two apart
         detached,
+        reattached, // what was compared may be there no longer
         otherTracker,
         unplugged,
         silent,
         badAnswer,
         noBackup,
         refused,
+        interrupted, // the program ended before
     };
     enum class Step { reading, review, backup, writing, readingBack };
 
@@ -119,6 +121,24 @@ struct RoadReport
     // The backup of what the tracker may hold no longer.
     int toBringBack() const { return mayHaveChanged() ? backup : earlier; }
 };
+
+inline QVector<WriteReview::Why> WriteReview::reasons() const
+{
+    using Origin = WriteRequest::Origin;
+    QVector<Why> all;
+    const auto add = [&all](Why why, bool holds) {
+        if (holds)
+            all.append(why);
+    };
+    add(Why::removes, removed > 0);
+    add(Why::hasErrors, errors > 0);
+    add(Why::isOfAnother, !isOfThisTracker);
+    add(Why::losesKeys, !request.lost.isEmpty());
+    add(Why::bringsMore, !alongside().isEmpty());
+    // Nobody has edited what is brought back: the review is the one look at it.
+    add(Why::bringsBack, request.origin == Origin::backup || request.origin == Origin::previous);
+    return all;
+}
 
 inline int RoadReport::missed() const
 {

@@ -45,7 +45,7 @@ WriteRoad::WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advis
 
 WriteRoad::WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise, Timing timing)
     : port_(port), backups_(backups), compare_(std::move(compare)), advise_(std::move(advise)),
-      timing_(timing)
+      timing_(timing), pending_(backups.pendingWrite())
 {
     qRegisterMetaType<RoadReport>();
     qRegisterMetaType<WriteReview>();
@@ -100,6 +100,17 @@ bool WriteRoad::begin(const WriteRequest& request)
         readPresent();
     }
     return true;
+}
+
+void WriteRoad::tellLeft()
+{
+    const std::optional<RoadReport> report = pending_.left();
+    if (!report)
+        return;
+    unsettled_ = *report;
+    Q_EMIT ended(*report);
+    // It is told once.
+    pending_.drop();
 }
 
 void WriteRoad::reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail)
@@ -199,6 +210,8 @@ void WriteRoad::presentCame(const QByteArray& document)
     report_.keptSections = review_.keptSections;
     if (advise_)
         review_.advice = advise_(wanted);
+    for (const QString& line : review_.request.typed)
+        review_.advice.append({.isError = true, .page = {}, .caption = {}, .text = line});
     std::stable_partition(review_.advice.begin(), review_.advice.end(),
                           [](const SettingAdvice& advice) { return advice.isError; });
     review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
@@ -216,9 +229,8 @@ void WriteRoad::approve()
         fail(Fault::otherTracker);
         return;
     }
-    // What was compared may be there no longer.
     if (!now.isAttached() || wasGone_) {
-        fail(Fault::detached);
+        fail(now.isAttached() ? Fault::reattached : Fault::detached);
         return;
     }
     setStep(Step::backup);
@@ -228,6 +240,7 @@ void WriteRoad::approve()
         return;
     }
     setStep(Step::writing);
+    pending_.keep(report_);
     port_.write(review_.request.document);
 }
 
@@ -327,6 +340,9 @@ void WriteRoad::end(Outcome outcome)
     // Who hears of it may begin the next one.
     const RoadReport report = report_;
     Q_EMIT ended(report);
+    // Now that somebody knows of it.
+    if (!isBusy_)
+        pending_.drop();
 }
 
 void WriteRoad::settle(RoadReport& report)

@@ -6,7 +6,7 @@
 //
 // It knows no window: who shows the review says approve() or cancel().
 
-#include "road/road_report.h"
+#include "road/pending_write.h"
 
 #include <QTimer>
 
@@ -45,6 +45,8 @@ public:
     void approve();
     // False when it is too late: the tracker has the file.
     bool cancel();
+    // Reports the write that an earlier run did not live to see the end of, if there is one.
+    void tellLeft();
     // A request that came to nothing before it was on its way.
     void reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail);
 
@@ -83,6 +85,7 @@ private:
     Compare compare_;
     Advise advise_;
     Timing timing_;
+    PendingWrite pending_;
     QTimer notice_;
     QTimer patience_;
     QDateTime since_; // of the silence

@@ -103,7 +103,8 @@ private:
         // A little is drained oftener than much.
         pour(length, fills ? std::min(room, 8 + 150 * litres)
                            : -std::min(now_.fuel - kLeastKeptByThieves, 3 + 87 * litres * litres));
-        wait(Activity::Parked, seconds - length - std::max(before, 1), EventCode::ParkedTimer);
+        wait(Activity::Parked, seconds - length - std::max(before, 1),
+             fills ? EventCode::FillingEnd : EventCode::ParkedTimer);
     }
 
     void leg(double km)
@@ -136,14 +137,14 @@ private:
         add(segment);
     }
 
-    // What no event tells of.
+    // No event tells of what is drained.
     void pour(int seconds, double litres)
     {
         Segment segment;
         segment.activity = litres > 0 ? Activity::Filling : Activity::Draining;
         segment.seconds = seconds;
         segment.fuelDelta = litres;
-        segment.code = static_cast<quint16>(EventCode::ParkedTimer);
+        segment.code = static_cast<quint16>(litres > 0 ? EventCode::FillingStart : EventCode::ParkedTimer);
         add(segment);
     }
 

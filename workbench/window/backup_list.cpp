@@ -2,6 +2,7 @@
 
 #include "plugin_names.h"
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/find_field.h"
 #include "window/host_session.h"
@@ -23,11 +24,6 @@ constexpr int kListIndent = 12;
 enum Column { Moment, Number, Changes, Note, ColumnCount };
 constexpr const char* kColumnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
                                                   "wb_history_changes", "wb_history_note_head"};
-
-QString momentText(const QDateTime& made)
-{
-    return made.toLocalTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
 
 int numberOf(const QTreeWidgetItem* item)
 {
@@ -55,7 +51,7 @@ BackupList::BackupList(HostSession& session, QWidget* parent)
     buildTree();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(vlk::grid::kRow);
     column->addWidget(filter_);
     column->addWidget(tree_, 1);
     setFocusProxy(tree_);
@@ -117,7 +113,7 @@ void BackupList::fill()
             tracker->setExpanded(true);
         }
         auto* item =
-            new QTreeWidgetItem(tracker, {momentText(backup.made), number(backup.number), {}, backup.note});
+            new QTreeWidgetItem(tracker, {moment(backup.made), number(backup.number), {}, backup.note});
         item->setData(0, Qt::UserRole, backup.number);
         for (const int column : {Number, Changes})
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);

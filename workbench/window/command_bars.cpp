@@ -1,5 +1,6 @@
 #include "window/command_bars.h"
 
+#include "typing/grid.h"
 #include "window/settings.h"
 
 #include <QActionGroup>
@@ -83,7 +84,7 @@ void CommandBars::buildLanguages(QMenu* menu)
     menu->setToolTipsVisible(true);
     auto* corner = new QWidget(window_);
     auto* row = new QHBoxLayout(corner);
-    row->setContentsMargins(0, 0, 6, 0);
+    row->setContentsMargins(0, 0, vlk::grid::kWindow, 0);
     row->setSpacing(0);
     window_->menuBar()->setCornerWidget(corner);
     for (const LanguageRow& language : kLanguageRows) {

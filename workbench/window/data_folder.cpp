@@ -1,10 +1,26 @@
 #include "window/data_folder.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
+#include <cerrno>
+
 namespace workbench {
+
+QString whyNotWritable(const QString& folder)
+{
+    const QDir directory(folder);
+    if (!directory.mkpath(QStringLiteral("."))) {
+        QFileInfo there(directory.absolutePath());
+        while (!there.exists() && !there.isRoot())
+            there.setFile(there.path());
+        return qt_error_string(there.isDir() ? EACCES : ENOTDIR);
+    }
+    QTemporaryFile probe(directory.filePath(QStringLiteral("probe.XXXXXX")));
+    return probe.open() && probe.write("x", 1) == 1 && probe.flush() ? QString() : probe.errorString();
+}
 
 DataFolder::DataFolder(const QString& wanted)
 {
@@ -25,14 +41,13 @@ bool DataFolder::prepare(const QString& path)
 {
     const QDir folder(QDir(path).absolutePath());
     error_ = folder.path();
+    if (const QString reason = whyNotWritable(folder.path()); !reason.isEmpty()) {
+        error_ += QStringLiteral(": ") + reason;
+        return false;
+    }
     for (const char* part : {"settings", "tracker", "Data/TMI", "Data/XML"})
         if (!folder.mkpath(QLatin1String(part)))
             return false;
-    QTemporaryFile probe(folder.filePath(QStringLiteral("probe.XXXXXX")));
-    if (!probe.open() || probe.write("x", 1) != 1 || !probe.flush()) {
-        error_ += QStringLiteral(": ") + probe.errorString();
-        return false;
-    }
     lock_ = std::make_unique<QLockFile>(folder.filePath(QStringLiteral("workbench.lock")));
     // Held as long as its process runs, however long that is.
     lock_->setStaleLockTime(0);

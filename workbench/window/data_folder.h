@@ -8,8 +8,8 @@
 // is false and isInUse() is true.
 //
 // Without a wanted path it is the user's folder of application data; where that cannot be written, a
-// temporary folder serves for this run and error() says why. A wanted path that cannot be written is not
-// replaced: isUsable() is false.
+// temporary folder serves for this run and error() says why, as the system words it. A wanted path that
+// cannot be written is not replaced: isUsable() is false.
 
 #include <QLockFile>
 #include <QString>
@@ -18,6 +18,10 @@
 #include <memory>
 
 namespace workbench {
+
+// Why no file can be put into a folder, as the system words it; empty if one can. A folder that is not there
+// is made.
+QString whyNotWritable(const QString& folder);
 
 class DataFolder
 {

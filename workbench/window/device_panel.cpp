@@ -2,6 +2,7 @@
 
 #include "plugin_names.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/present_value.h"
 #include "window/host_session.h"
 
@@ -27,6 +28,7 @@ DevicePanel::DevicePanel(HostSession& session, QWidget* parent)
     texts_.bind(static_cast<QGroupBox*>(this), "wb_device");
     state_->setObjectName(QStringLiteral("label_DeviceState"));
     auto* stateLine = new QHBoxLayout;
+    stateLine->setSpacing(vlk::grid::kColumn);
     stateLine->addWidget(symbol_);
     stateLine->addWidget(state_, 1);
 

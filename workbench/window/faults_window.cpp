@@ -40,7 +40,7 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
         inside->setAlignment(tanks, Qt::AlignTop);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(vlk::grid::aroundPage);
+    column->setContentsMargins(vlk::grid::kAroundPage);
     column->addWidget(scrolling(content), 1);
     column->addWidget(trouble_);
     retranslate();

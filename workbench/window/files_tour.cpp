@@ -60,18 +60,33 @@ QByteArray fileIn(const Tour& tour, const QString& name)
     return file.readAll();
 }
 
+// Shows a record, behind which comes that of the time that is given, and then none in the next second: the
+// fields of the period know no more than seconds, and an event may stand in the same one as a point of the
+// track. Packets between the two would have lines of another number in some forms.
+QDateTime findTwoRecords(Tour& tour)
+{
+    constexpr std::size_t enough = 4;
+    std::vector<QDateTime> times; // of records that follow each other, the last one first
+    while (times.size() < enough) {
+        live::ask(tour, "pushButton_Get_Prev");
+        if (live::page() != QLatin1String("page_Zeta3")) {
+            times.clear();
+            continue;
+        }
+        const QDateTime time = timeOnShow();
+        if (!times.empty() && time.secsTo(times.back()) <= 1)
+            times.clear();
+        times.push_back(time);
+    }
+    live::ask(tour, "pushButton_Get_Next");
+    return times[1];
+}
+
 void savePeriod(Tour& tour)
 {
     tour.window().setLanguage(QStringLiteral("en"));
     live::open(tour);
-    // Two records that follow each other; packets between them have lines of another number in some forms.
-    const auto isRecord = [] { return live::page() == QLatin1String("page_Zeta3"); };
-    QDateTime last;
-    do {
-        live::ask(tour, "pushButton_Get_Prev");
-        last = isRecord() ? timeOnShow() : QDateTime();
-        live::ask(tour, "pushButton_Get_Prev");
-    } while (!last.isValid() || !isRecord());
+    const QDateTime last = findTwoRecords(tour);
     setPeriod(timeOnShow(), last);
     for (const auto& [button, ending] : {std::pair("pushButton_SaveToFile", "xml"),
                                          {"pushButton_SaveToExcel", "csv"},

@@ -1,11 +1,15 @@
 #include "window/folders_dialog.h"
 
+#include "typing/file_error.h"
 #include "typing/grid.h"
+#include "typing/notice_bar.h"
+#include "window/data_folder.h"
 #include "window/languages.h"
 #include "window/line_icon.h"
 #include "window/scrolling.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
@@ -17,7 +21,7 @@
 namespace workbench {
 
 FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurations, QWidget* parent)
-    : QDialog(parent)
+    : QDialog(parent), bar_(new vlk::NoticeBar(this))
 {
     setWindowTitle(text("wb_folders"));
     auto* form = new QFormLayout;
@@ -29,10 +33,30 @@ FoldersDialog::FoldersDialog(const QString& telemetry, const QString& configurat
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(vlk::grid::aroundPage);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    bar_->keepPlace();
+    column->addWidget(bar_);
     column->addLayout(form);
     column->addWidget(buttons);
     resizeWithin(this, QSize(640, sizeHint().height()));
+}
+
+void FoldersDialog::accept()
+{
+    for (QLineEdit* folder : {telemetry_, configurations_}) {
+        const QString path = folder->text().trimmed();
+        const QString reason = path.isEmpty() ? QString() : whyNotWritable(path);
+        if (reason.isEmpty())
+            continue;
+        bar_->tell(
+            0, {vlk::Mark::invalid,
+                text("wb_folder_unusable").arg(QDir::toNativeSeparators(path), vlk::fileErrorText(reason)),
+                {}});
+        folder->setFocus();
+        folder->selectAll();
+        return;
+    }
+    QDialog::accept();
 }
 
 QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const char* key,
@@ -50,6 +74,7 @@ QLineEdit* FoldersDialog::addFolder(QFormLayout* form, const char* name, const c
             edit->setText(chosen + QLatin1Char('/'));
     });
     auto* row = new QHBoxLayout;
+    row->setSpacing(vlk::grid::kColumn);
     row->addWidget(edit, 1);
     row->addWidget(choose);
     auto* label = new QLabel(text(key), this);

@@ -4,6 +4,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "typing/wheel_guard.h"
 #include "window/backup_list.h"
@@ -70,8 +71,8 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     splitter->setChildrenCollapsible(false);
     splitter->setSizes({kListWidth, historySize.width() - kListWidth});
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(9, 9, 9, 9);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    column->setSpacing(vlk::grid::kRow);
     column->addWidget(splitter, 1);
     column->addWidget(buildButtons());
 
@@ -115,6 +116,7 @@ QWidget* HistoryWindow::buildDifferences()
     connect(&model_, &QAbstractItemModel::dataChanged, this, &HistoryWindow::updateButtons);
 
     auto* line = new QHBoxLayout;
+    line->setSpacing(vlk::grid::kColumn);
     line->addWidget(one_);
     line->addWidget(against);
     line->addWidget(other_);
@@ -173,8 +175,7 @@ QPushButton* HistoryWindow::addButton(QLayout* line, const char* name, const cha
 void HistoryWindow::chooseKeeping()
 {
     const int days = keep_->currentData().toInt();
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const Backups::Expired old = session_.backups().expired(days, now);
+    const Backups::Expired old = session_.backups().expired(days, QDateTime::currentDateTimeUtc());
     if (!old.dropped.isEmpty() &&
         !agrees(text("wb_history_drop").arg(keep_->currentText(), number(old.dropped.size())) +
                     QLatin1String("\n\n") + text("wb_history_drop_not").arg(number(old.noted)),
@@ -183,7 +184,7 @@ void HistoryWindow::chooseKeeping()
         return;
     }
     settings_.setBackupDays(days);
-    session_.backups().keepFor(days, now);
+    session_.keepFor(days);
 }
 
 void HistoryWindow::fill()

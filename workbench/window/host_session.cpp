@@ -41,33 +41,17 @@ QByteArray contentOf(QFile& file)
     return file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
 }
 
-// To a name that nothing else takes: the plug-in names its files by the minute. Where that cannot be, the
-// file stays where it is.
-QString moveAside(const QString& path)
-{
-    const QFileInfo file(path);
-    const QDir folder(file.dir().filePath(QStringLiteral("unwritten")));
-    folder.mkpath(QStringLiteral("."));
-    QString aside = folder.filePath(file.fileName());
-    for (int number = 2; QFile::exists(aside); ++number)
-        aside = folder.filePath(QStringLiteral("%1_%2.xml").arg(file.completeBaseName()).arg(number));
-    if (!QFile::rename(path, aside))
-        return path;
-    // Passwords stand in it.
-    QFile::setPermissions(aside, QFile::ReadOwner | QFile::WriteOwner);
-    return aside;
-}
-
 } // namespace
 
 HostSession::HostSession(const QString& trackerFolder, const QString& backupsFolder, QObject* parent)
-    : QObject(parent), tracker_(trackerFolder), backups_(backupsFolder),
-      road_(
-          port_, backups_,
-          [this](const QByteArray& before, const QByteArray& after) {
-              return comparer_.compare(before, after);
-          },
-          [this](const QByteArray& document) { return comparer_.advise(document); })
+    : QObject(parent), tracker_(trackerFolder),
+      unwritten_(QFileInfo(backupsFolder).dir().filePath(QStringLiteral("unwritten"))),
+      backups_(backupsFolder), road_(
+                                   port_, backups_,
+                                   [this](const QByteArray& before, const QByteArray& after) {
+                                       return comparer_.compare(before, after);
+                                   },
+                                   [this](const QByteArray& document) { return comparer_.advise(document); })
 {
     tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
@@ -239,8 +223,9 @@ void HostSession::takeWritten(const QString& path)
     request.readFrom = edited_.seenIn();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
-    request.file = error.isEmpty() ? moveAside(path) : path;
+    request.file = error.isEmpty() ? unwritten_.take(path) : path;
     request.lost = edited_.unknown();
+    request.typed = typed_ ? typed_() : QStringList();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
     QMetaObject::invokeMethod(
         this,
@@ -281,6 +266,8 @@ void HostSession::finish(const RoadReport& report)
     if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
         QFile::exists(request.file) && !QFile::remove(request.file))
         qCWarning(lcSession) << "cannot remove" << request.file;
+    if (isConfirmed)
+        unwritten_.drop(request.document);
     Q_EMIT editedChanged();
 }
 
@@ -329,6 +316,13 @@ Sentence HostSession::bringBackPrevious()
     WriteRequest request;
     request.origin = WriteRequest::Origin::previous;
     return writeAgain(request);
+}
+
+void HostSession::keepFor(int days)
+{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    backups_.keepFor(days, now);
+    unwritten_.dropOlder(days, now);
 }
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)

@@ -17,8 +17,11 @@
 #include "window/repeated_requests.h"
 #include "window/simulated_port.h"
 #include "window/tracker_commands.h"
+#include "window/unwritten_files.h"
 
 #include <QTemporaryDir>
+
+#include <functional>
 
 namespace workbench {
 
@@ -61,6 +64,11 @@ public:
 
     // The configuration window is closed.
     void configurationClosed();
+    // What is asked for when the plug-in wants a file to be written: a line for each field of it that was not
+    // taken as it was typed.
+    void setTyped(std::function<QStringList()> typed) { typed_ = std::move(typed); }
+    // Backups and files that were never written are kept for so many days; 0: for ever.
+    void keepFor(int days);
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
 
@@ -98,9 +106,11 @@ private:
     int opened_ = 0; // how many configurations so far
     FileComparer comparer_{link_};
     SimulatedPort port_{tracker_};
+    std::function<QStringList()> typed_;
+    UnwrittenFiles unwritten_;
     Backups backups_;
     WriteRoad road_;
-    int openedThen_ = 0; // which of the opened configurations is on the road
+    int openedThen_ = -1; // which of the opened configurations is on the road; -1: one of an earlier run
 };
 
 } // namespace workbench

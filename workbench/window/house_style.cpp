@@ -8,6 +8,7 @@
 #include "window/line_icon.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -52,6 +53,15 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     outlineOnDark(element, *option, *painter);
+}
+
+QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const bool isOfBox =
+        type == CT_PushButton && widget && qobject_cast<QDialogButtonBox*>(widget->parentWidget());
+    return isOfBox ? vlk::withRoomBesideWords(size, contents, option) : size;
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -1,8 +1,9 @@
 #pragma once
 
 // What the workbench changes of the system's style, for the windows of the plug-in too: message boxes have
-// the marks and line icons of all other windows, buttons of dialogs have words alone, disabled text can be
-// read, boxes to tick can be seen in dark windows, and the margins of layouts are those of the grid.
+// the marks and line icons of all other windows, buttons of dialogs have words alone with room beside them,
+// disabled text can be read, boxes to tick can be seen in dark windows, and the margins of layouts are those
+// of the grid.
 
 #include <QProxyStyle>
 
@@ -21,6 +22,8 @@ public:
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* result) const override;

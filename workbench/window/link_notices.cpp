@@ -211,11 +211,12 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 {
     if (request == vlk::Message::WriteConfiguration)
         return text("wb_silence_write").arg(timeOfDay(since));
-    const char* key = "wb_silence_command";
-    if (hasEffect(request, Effect::Reads))
-        key = isCancelled_ ? "wb_silence_cancelled" : isSaving_ ? "wb_silence_save" : "wb_silence_again";
-    else if (hasEffect(request, Effect::MayBeMute))
-        key = "wb_silence_mute";
+    if (!hasEffect(request, Effect::Reads))
+        return text(hasEffect(request, Effect::MayBeMute) ? "wb_silence_mute" : "wb_silence_command")
+            .arg(timeOfDay(since));
+    const char* key = isCancelled_ ? "wb_silence_cancelled"
+                      : isSaving_  ? "wb_silence_save"
+                                   : "wb_silence_again";
     const qint64 seconds = AnswerWatch::kPatienceMs / 1000;
     return text(key).arg(timeOfDay(since), number(seconds));
 }

@@ -4,6 +4,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/file_error.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/find_field.h"
 #include "window/line_icon.h"
@@ -42,7 +43,7 @@ MessageLogView::MessageLogView(MessageLogModel* model, QWidget* parent)
 {
     filter_->setSourceModel(model_);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
+    column->setContentsMargins(vlk::grid::kAroundWindow);
     buildBar();
     buildTable();
 
@@ -86,6 +87,7 @@ void MessageLogView::buildBar()
             &MessageLogView::applyFilter);
 
     auto* bar = new QHBoxLayout;
+    bar->setSpacing(vlk::grid::kColumn);
     bar->addWidget(words_, 1);
     bar->addWidget(directions_);
     bar->addWidget(count_);
@@ -122,10 +124,12 @@ void MessageLogView::buildTable()
         table_->setColumnWidth(column, vlk::cellWidth(*table_, QString::fromUtf8(samples[column])));
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &MessageLogView::showDetails);
-    connect(filter_, &QAbstractItemModel::rowsInserted, this, [this] {
-        const QScrollBar* bar = table_->verticalScrollBar();
-        if (bar->value() == bar->maximum())
-            QMetaObject::invokeMethod(table_, "scrollToBottom", Qt::QueuedConnection);
+    // The range changes with the rows, with the filter and with the height of the list.
+    QScrollBar* bar = table_->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar] { follows_ = bar->value() == bar->maximum(); });
+    connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+        if (follows_)
+            bar->setValue(bar->maximum());
     });
 
     details_->setObjectName(QStringLiteral("plainTextEdit_LogDetails"));
@@ -148,8 +152,15 @@ void MessageLogView::buildTable()
 
 void MessageLogView::applyFilter()
 {
+    // A line that is looked at stays in sight among those that come back.
+    const QModelIndex current = table_->currentIndex();
+    const bool isLookedAt = table_->viewport()->rect().intersects(table_->visualRect(current));
     filter_->setWords(words_->text());
     filter_->setDirections(MessageLogFilter::Directions(directions_->currentIndex()));
+    if (isLookedAt && table_->currentIndex().isValid()) {
+        table_->doItemsLayout(); // which takes the range from the rows that there are now
+        table_->scrollTo(table_->currentIndex(), QAbstractItemView::PositionAtCenter);
+    }
     showCount();
 }
 
@@ -234,11 +245,13 @@ bool MessageLogView::saveTo(const QString& path, QString* error) const
 
 void MessageLogView::save()
 {
-    const QString path = QFileDialog::getSaveFileName(this, save_->toolTip(),
-                                                      QDir::home().filePath(QStringLiteral("messages.txt")),
-                                                      text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    QFileDialog dialog(this, save_->toolTip(), QDir::homePath(),
+                       text("wb_log_file_type") + QStringLiteral(" (*.txt)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    dialog.selectFile(QStringLiteral("messages.txt"));
     QString error;
-    if (!path.isEmpty() && !saveTo(path, &error))
+    if (dialog.exec() == QDialog::Accepted && !saveTo(dialog.selectedFiles().value(0), &error))
         QMessageBox::warning(this, text("wb_title"), error);
 }
 

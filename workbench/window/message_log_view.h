@@ -57,6 +57,7 @@ private:
     vlk::EmptyNote* empty_ = nullptr;
     QPlainTextEdit* details_;
     QLabel* count_;
+    bool follows_ = true; // the list stands at its end
     QToolButton* copy_ = nullptr;
     QToolButton* save_ = nullptr;
 };

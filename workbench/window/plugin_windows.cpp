@@ -7,6 +7,19 @@
 
 namespace workbench {
 
+namespace {
+
+QWidget* onShow(const char* className)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::ranges::find_if(windows, [className](const QWidget* window) {
+        return window->isVisible() && window->inherits(className);
+    });
+    return found == windows.end() ? nullptr : *found;
+}
+
+} // namespace
+
 PluginWindows::PluginWindows(const QWidget* mainWindow) : mainWindow_(mainWindow)
 {
     QCoreApplication::instance()->installEventFilter(this);
@@ -31,11 +44,12 @@ QWidget* PluginWindows::modal() const
 
 QWidget* PluginWindows::calibration()
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::ranges::find_if(windows, [](const QWidget* window) {
-        return window->isVisible() && window->inherits("VLK_Form_TMI_Fuel_Sensors");
-    });
-    return found == windows.end() ? nullptr : *found;
+    return onShow("VLK_Form_TMI_Fuel_Sensors");
+}
+
+QWidget* PluginWindows::records()
+{
+    return onShow("VLK_Widget_Tmi_Table");
 }
 
 bool PluginWindows::isOfTelemetry(const QWidget* window)

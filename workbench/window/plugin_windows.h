@@ -23,6 +23,8 @@ public:
     QWidget* modal() const;
     // The calibration window, which hangs on the telemetry window; null when it is not on show.
     static QWidget* calibration();
+    // That of records; null when it is not on show.
+    static QWidget* records();
     // One that hangs on the telemetry window and asks the tracker by itself.
     static bool isOfTelemetry(const QWidget* window);
 

@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "road/write_road.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/progress_look.h"
 #include "window/languages.h"
 #include "window/trouble_text.h"
@@ -34,11 +35,12 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
     connect(cancel_, &QPushButton::clicked, this, &ProgressWindow::reject);
 
     auto* line = new QHBoxLayout;
+    line->setSpacing(vlk::grid::kColumn);
     line->addWidget(trouble_, 1);
     line->addWidget(cancel_);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(9, 9, 9, 9);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    column->setSpacing(vlk::grid::kRow);
     column->addWidget(what_);
     column->addWidget(bar_);
     column->addLayout(line);

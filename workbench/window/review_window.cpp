@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/languages.h"
 #include "window/scrolling.h"
@@ -27,7 +28,7 @@ namespace {
 
 // Nobody has read anything before.
 constexpr int kUnseenMs = 300;
-constexpr QSize usualSize(760, 420);
+constexpr QSize kUsualSize(760, 420);
 constexpr int kLongestNote = 240; // signs; all of it is in the tool tip
 constexpr int kRoomAround = 130;  // what stands above and below the table
 
@@ -59,8 +60,33 @@ QString originOf(const WriteReview& review)
     return {};
 }
 
+struct WhyRow
+{
+    WriteReview::Why why;
+    const char* key;
+};
+
+constexpr WhyRow kWhyRows[] = {
+    {WriteReview::Why::removes, "wb_review_why_removes"},
+    {WriteReview::Why::hasErrors, "wb_review_why_error"},
+    {WriteReview::Why::isOfAnother, "wb_review_why_other"},
+    {WriteReview::Why::losesKeys, "wb_review_why_lost"},
+    {WriteReview::Why::bringsMore, "wb_review_why_more"},
+    {WriteReview::Why::bringsBack, "wb_review_why_back"},
+};
+
+// Why it is shown to somebody who has asked for no such window.
+QString whyShown(const WriteReview& review)
+{
+    QStringList reasons;
+    for (const WhyRow& row : kWhyRows)
+        if (review.reasons().contains(row.why))
+            reasons.append(text(row.key));
+    return text("wb_review_why").arg(reasons.join(QStringLiteral("; ")));
+}
+
 // What the numbers in the counts do not tell.
-QStringList notesOf(const WriteReview& review)
+QStringList notesOf(const WriteReview& review, bool isUnasked)
 {
     QStringList notes{originOf(review)};
     QStringList alongside;
@@ -73,6 +99,8 @@ QStringList notesOf(const WriteReview& review)
     add("wb_review_alongside", alongside);
     add("wb_review_lost", review.request.lost);
     add("wb_report_kept_sections", review.keptSections);
+    if (isUnasked)
+        notes.append(whyShown(review));
     notes.removeAll(QString());
     return notes;
 }
@@ -86,20 +114,20 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(titleOf(review.tracker));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(9, 9, 9, 9);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    column->setSpacing(vlk::grid::kRow);
     addOrigin(column);
     addCounts(column);
     addTable(column);
     addAdvice(column);
     addButtons(column);
     const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
-    resizeWithin(this, {usualSize.width(), qMin(usualSize.height(), kRoomAround + heightOfRows(*table))});
+    resizeWithin(this, {kUsualSize.width(), qMin(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)
 {
-    const QStringList notes = notesOf(review_);
+    const QStringList notes = notesOf(review_, !settings_.reviewAlways());
     if (notes.isEmpty())
         return;
     auto* label = new QLabel(this);
@@ -138,7 +166,7 @@ void ReviewWindow::addCount(QHBoxLayout* line, int mark, const QString& text, co
 void ReviewWindow::addCounts(QVBoxLayout* column)
 {
     auto* line = new QHBoxLayout;
-    line->setSpacing(6);
+    line->setSpacing(vlk::grid::kColumn);
     addCount(line, -1,
              review_.changes.isEmpty()
                  ? text("wb_review_same")
@@ -192,6 +220,7 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
     list->setObjectName(QStringLiteral("listWidget_Advice"));
     list->setAccessibleName(text("wb_review_advice_list"));
     list->setWordWrap(true);
+    list->setIconSize({kMarkSize, kMarkSize});
     for (const SettingAdvice& advice : review_.advice) {
         QStringList place{advice.page, advice.caption};
         place.removeAll(QString());

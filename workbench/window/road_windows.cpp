@@ -16,10 +16,8 @@ constexpr int kNoticeMs = 200;
 
 } // namespace
 
-RoadWindows::RoadWindows(HostSession& session, Settings& settings, std::function<QStringList()> typed,
-                         QWidget* mainWindow)
-    : QObject(mainWindow), session_(session), settings_(settings), typed_(std::move(typed)),
-      mainWindow_(mainWindow)
+RoadWindows::RoadWindows(HostSession& session, Settings& settings, QWidget* mainWindow)
+    : QObject(mainWindow), session_(session), settings_(settings), mainWindow_(mainWindow)
 {
     notice_.setSingleShot(true);
     notice_.setInterval(kNoticeMs);
@@ -63,12 +61,8 @@ void RoadWindows::showProgress()
     progress_->show();
 }
 
-void RoadWindows::review(WriteReview review)
+void RoadWindows::review(const WriteReview& review)
 {
-    // Only what comes from the configuration window was typed.
-    if (!review.request.file.isEmpty())
-        for (const QString& line : typed_())
-            review.advice.append({.isError = false, .page = {}, .caption = {}, .text = line});
     WriteRoad* road = &session_.road();
     if (!settings_.reviewAlways() && !review.isAlwaysAsked()) {
         road->approve();
@@ -87,11 +81,11 @@ void RoadWindows::review(WriteReview review)
     window->open();
 }
 
-void RoadWindows::showReport(const RoadReport& report, const QString& typed)
+void RoadWindows::showReport(const RoadReport& report)
 {
     QWidget* front = windowInFront(mainWindow_);
     if (front != mainWindow_)
-        WriteReportView::showDialog(session_, report, typed, front);
+        WriteReportView::showDialog(session_, report, front);
 }
 
 } // namespace workbench

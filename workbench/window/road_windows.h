@@ -9,8 +9,6 @@
 #include <QPointer>
 #include <QTimer>
 
-#include <functional>
-
 class QDialog;
 
 namespace workbench {
@@ -23,23 +21,20 @@ class RoadWindows : public QObject
     Q_OBJECT
 
 public:
-    // The function tells what of the typing is not written as it was meant.
-    RoadWindows(HostSession& session, Settings& settings, std::function<QStringList()> typed,
-                QWidget* mainWindow);
+    RoadWindows(HostSession& session, Settings& settings, QWidget* mainWindow);
     ~RoadWindows() override;
 
     // The report as a dialog, where the one in the main window would not be seen.
-    void showReport(const RoadReport& report, const QString& typed);
+    void showReport(const RoadReport& report);
 
 private:
     void follow(RoadReport::Step step);
-    void review(WriteReview review);
+    void review(const WriteReview& review);
     void showProgress();
     void hideProgress();
 
     HostSession& session_;
     Settings& settings_;
-    std::function<QStringList()> typed_;
     QWidget* mainWindow_;
     QTimer notice_; // until progress is worth a window
     QPointer<QDialog> progress_;

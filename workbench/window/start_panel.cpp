@@ -1,5 +1,6 @@
 #include "window/start_panel.h"
 
+#include "typing/grid.h"
 #include "window/host_session.h"
 #include "window/line_icon.h"
 
@@ -21,8 +22,8 @@ StartPanel::StartPanel(HostSession& session, const Commands& commands, QWidget* 
       look_(addLine("commandLink_Look", "attach", "wb_start_look"))
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(9, 9, 9, 9);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundPage);
+    column->setSpacing(vlk::grid::kRow);
     for (QCommandLinkButton* line : {read_, open_, look_})
         column->addWidget(line);
     column->addStretch(1);

@@ -1,5 +1,6 @@
 #include "window/status_line.h"
 
+#include "typing/grid.h"
 #include "window/languages.h"
 
 #include <QLabel>
@@ -42,7 +43,7 @@ StatusLine::StatusLine(QStatusBar* bar, const Sentence& lasting)
     label_->setTextFormat(Qt::PlainText);
     bar->setSizeGripEnabled(false);
     // As far from the edges as the words of the window above.
-    bar->setContentsMargins(6, 0, 6, 0);
+    bar->setContentsMargins(vlk::grid::kWindow, 0, vlk::grid::kWindow, 0);
     bar->addWidget(time_);
     bar->addWidget(label_, 1);
     bar->addPermanentWidget(lastingLabel_);

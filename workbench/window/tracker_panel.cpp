@@ -4,6 +4,7 @@
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/faults_panel.h"
 #include "window/find_field.h"
@@ -42,7 +43,7 @@ TrackerPanel::TrackerPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
       protocol_(new QComboBox(this)), filter_(new QLineEdit(this)), keys_(new QTableWidget(0, 2, this))
 {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 6, 6, 6);
+    row->setContentsMargins(vlk::grid::kAroundWindow);
     row->addWidget(buildControls());
     auto* right = new QVBoxLayout;
     right->addWidget(new TankPanel(tracker_, this));

@@ -11,15 +11,6 @@
 
 namespace workbench {
 
-namespace {
-
-QString moment(qint64 unixSeconds)
-{
-    return QDateTime::fromSecsSinceEpoch(unixSeconds).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-}
-
-} // namespace
-
 QString sentences(std::initializer_list<QString> parts)
 {
     QStringList said(parts);
@@ -33,7 +24,7 @@ QString reasonOf(const ConfigurationProblem& problem)
     case ConfigurationProblem::Empty:
         return text("wb_problem_empty");
     case ConfigurationProblem::TooLarge:
-        return text("wb_problem_large").arg(number(problem.bytes));
+        return text("wb_problem_large").arg(number(kLargestConfiguration));
     case ConfigurationProblem::CutShort:
         return text("wb_problem_cut")
             .arg(number(problem.bytes), number(problem.line), number(problem.column));
@@ -74,13 +65,15 @@ QString noteOn(const AnswerProblem& problem)
     case AnswerProblem::Damaged:
         return text("wb_answer_damaged");
     case AnswerProblem::TimeOutside:
-        return text("wb_answer_time").arg(moment(problem.time));
+        return text("wb_answer_time").arg(moment(QDateTime::fromSecsSinceEpoch(problem.time)));
     case AnswerProblem::TimeJumps:
-        return text("wb_answer_jump").arg(moment(problem.before), moment(problem.time));
+        return text("wb_answer_jump")
+            .arg(moment(QDateTime::fromSecsSinceEpoch(problem.before)),
+                 moment(QDateTime::fromSecsSinceEpoch(problem.time)));
     case AnswerProblem::OtherNumber:
         return text("wb_answer_number").arg(number(problem.number), number(problem.expected));
     case AnswerProblem::OutsidePeriod:
-        return text("wb_answer_period").arg(moment(problem.time));
+        return text("wb_answer_period").arg(moment(QDateTime::fromSecsSinceEpoch(problem.time)));
     }
     return {};
 }
@@ -100,6 +93,11 @@ QString adviceOnDisk(const QString& systemText)
 QString number(qint64 value)
 {
     return QLocale().toString(value);
+}
+
+QString moment(const QDateTime& time)
+{
+    return time.toLocalTime().toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
 }
 
 QString timeOfDay(const QDateTime& time)

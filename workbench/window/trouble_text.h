@@ -26,8 +26,9 @@ bool isAboutRoom(const QString& systemText);
 // What to do about a file that could not be saved for this reason.
 QString adviceOnDisk(const QString& systemText);
 
-// A whole number and a moment as the language writes them.
+// A whole number as the language writes it, a moment and its time of day.
 QString number(qint64 value);
+QString moment(const QDateTime& time);
 QString timeOfDay(const QDateTime& time);
 
 } // namespace workbench

@@ -125,19 +125,21 @@ void WindowNotice::place()
 {
     QRect inside = parentWidget()->geometry().marginsRemoved({kMargin, kMargin, kMargin, kMargin});
     int covered = 0;
+    int least = 0; // that covers them
     for (const QFrame* bar : barsIn(parentWidget())) {
         const bool keepsPlace = bar->sizePolicy().retainSizeWhenHidden();
         QRect place(bar->mapToGlobal(QPoint()), bar->size());
         if (bar->isVisible() || keepsPlace)
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
-        if (bar->isVisible() && keepsPlace)
+        if (bar->isVisible() && keepsPlace) {
             ++covered;
-        else if (bar->isVisible())
+            least = qMax(least, bar->property(kOwnHeight).toInt());
+        } else if (bar->isVisible())
             inside.setTop(
                 qMax(inside.top(), place.bottom() + 1 + kRoomMargin - bar->property(kRoomBelow).toInt()));
     }
     setBehind(covered);
-    resize(inside.width(), heightForWidth(inside.width()));
+    resize(inside.width(), qMax(heightForWidth(inside.width()), least));
     const QWidget* typed = parentWidget()->focusWidget();
     if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {
         const QRect field(typed->mapToGlobal(QPoint()), typed->size());

@@ -1,6 +1,7 @@
 #include "window/workbench_window.h"
 
 #include "plugin_names.h"
+#include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
@@ -43,7 +44,7 @@ enum Tab { StartTab, ReportTab, TrackerTab, LogTab };
 constexpr const char* kTabKeys[] = {"wb_tab_start", "wb_tab_report", "wb_tab_tracker", "wb_tab_log"};
 constexpr int kLeftWidth = 290;
 const QString kCommandQuestion = QStringLiteral("messageBox_Command");
-constexpr QSize usualSize(1024, 600);
+constexpr QSize kUsualSize(1024, 600);
 
 } // namespace
 
@@ -59,8 +60,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
       start_(new StartPanel(session_, commands_, this)), logView_(new MessageLogView(&log_, this)),
       reportView_(new WriteReportView(session_, this)),
       trackerPanel_(new TrackerPanel(session_.tracker(), this)),
-      road_(new RoadWindows(
-          session_, settings, [this] { return saveNotices_->typing().lines(); }, this))
+      road_(new RoadWindows(session_, settings, this))
 {
     setObjectName(QStringLiteral("WorkbenchWindow"));
     setAcceptDrops(true);
@@ -68,7 +68,7 @@ WorkbenchWindow::WorkbenchWindow(const DataFolder& folder, Settings& settings, L
     connectCommands();
     connectSession();
     connectNotices();
-    session_.backups().keepFor(settings_.backupDays(), QDateTime::currentDateTimeUtc());
+    session_.keepFor(settings_.backupDays());
     showEdited();
     device_->setMode(settings_.mode());
     updateCommands();
@@ -190,6 +190,7 @@ void WorkbenchWindow::connectNotices()
     faults_ = std::make_unique<FaultsAtHand>(session_.tracker(), linkNotices_->answers(),
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
+    session_.setTyped([this] { return saveNotices_->typing().lines(); });
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
@@ -218,6 +219,8 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     device_->refresh();
     updateCommands();
     start_->takeFocus();
+    if (loaded)
+        session_.road().tellLeft();
     return loaded;
 }
 
@@ -255,6 +258,9 @@ bool WorkbenchWindow::isConfigurationOpen() const
 void WorkbenchWindow::tellOfRun(const Sentence& text)
 {
     status_->tell(StatusLine::Program, text);
+    // Of a long sentence the line shows the beginning.
+    constexpr int kOfRun = 0;
+    bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::advice, text(), {}}; });
 }
 
 void WorkbenchWindow::tellOpened(const Sentence& failure)
@@ -284,11 +290,34 @@ void WorkbenchWindow::chooseFolders()
 void WorkbenchWindow::applyFolders()
 {
     const auto orOwn = [](const QString& chosen, const QString& own) {
-        return !chosen.isEmpty() && QDir().mkpath(chosen) ? chosen : own;
+        return chosen.isEmpty() ? own : chosen;
     };
     settings_.setFolders(orOwn(settings_.telemetryFolder(), folder_.telemetryFolder()),
                          orOwn(settings_.configurationFolder(), folder_.configurationFolder()));
-    session_.link().setPaths(settings_.telemetryFolder(), settings_.configurationFolder());
+    // One on a drive that is not there stays chosen, for the day when it is.
+    std::vector<Sentence> told;
+    const auto inThisRun = [&told](const QString& chosen, const QString& own) {
+        const QString reason = whyNotWritable(chosen);
+        if (reason.isEmpty())
+            return chosen;
+        told.emplace_back([chosen, own, reason] {
+            return text("wb_folder_replaced")
+                .arg(QDir::toNativeSeparators(chosen), vlk::fileErrorText(reason),
+                     QDir::toNativeSeparators(own));
+        });
+        return own;
+    };
+    const QString telemetry = inThisRun(settings_.telemetryFolder(), folder_.telemetryFolder());
+    const QString configuration = inThisRun(settings_.configurationFolder(), folder_.configurationFolder());
+    session_.link().setPaths(telemetry, configuration);
+    if (told.empty())
+        return;
+    tellOfRun([told] {
+        QStringList lines;
+        for (const Sentence& sentence : told)
+            lines << sentence();
+        return lines.join(QLatin1Char('\n'));
+    });
 }
 
 void WorkbenchWindow::setMode(int mode)
@@ -349,16 +378,16 @@ void WorkbenchWindow::showReport(const RoadReport& report)
         return;
     }
     // What was refused is not written with those numbers yet.
-    const bool isWritten =
-        report.outcome == RoadReport::Outcome::confirmed || report.outcome == RoadReport::Outcome::notTaken;
-    const QString typed = isWritten ? saveNotices_->typing().take() : QString();
-    reportView_->setReport(report, typed);
+    const QString typed = typedText(report);
+    if (!typed.isEmpty())
+        saveNotices_->typing().forget();
+    reportView_->setReport(report);
     tabs_->setCurrentIndex(ReportTab);
     status_->tell(StatusLine::Command, [report, typed] {
         const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
         return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
     });
-    road_->showReport(report, typed);
+    road_->showReport(report);
 }
 
 void WorkbenchWindow::showHistory()
@@ -406,7 +435,7 @@ void WorkbenchWindow::retranslate()
 
 void WorkbenchWindow::restoreLayout()
 {
-    resize(usualSize);
+    resize(kUsualSize);
     restoreGeometry(settings_.layout(objectName()));
     if (!isMaximized())
         resizeWithin(this, size());
@@ -443,8 +472,12 @@ bool WorkbenchWindow::mayClose()
         tellOpened([] { return text("wb_close_writing"); });
         return false;
     }
-    return !session_.link().runningWork().saving ||
-           agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this);
+    if (session_.link().runningWork().saving &&
+        !agrees(text("wb_close_saving"), text("wb_close_verb"), QStringLiteral("messageBox_Close"), this))
+        return false;
+    // It asks over an export.
+    QWidget* records = PluginWindows::records();
+    return !records || records->close();
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -63,7 +63,7 @@ public:
     // A configuration opens in the configuration window, telemetry in this one.
     void openFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void showHelp(const QString& page);
-    // What holds for the whole run, in the status line.
+    // What holds for the whole run, in the status line and, until it is closed, in the bar.
     void tellOfRun(const Sentence& text);
 
 protected:

@@ -33,6 +33,7 @@ constexpr FaultRow kFaultRows[] = {
     {Fault::unsaved, "wb_refused_unsaved", kDisk},
     {Fault::incomparable, "wb_road_incomparable", nullptr},
     {Fault::detached, "wb_refused_detached", "wb_do_attach"},
+    {Fault::reattached, "wb_road_reattached", "wb_do_again"},
     {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
     {Fault::unplugged, "wb_why_unplugged", "wb_do_attach"},
     {Fault::silent, "wb_refused_silence", "wb_do_cable"},
@@ -93,11 +94,38 @@ QString firstLine(const RoadReport& report)
     case Outcome::notTaken:
         return text("wb_report_missed").arg(number(missed), number(all));
     case Outcome::unknown:
+        if (report.fault == Fault::interrupted)
+            return text("wb_report_left").arg(report.tracker.number, moment(report.time));
         return text("wb_report_unknown").arg(reasonFor(report));
     case Outcome::notWritten:
         return text("wb_report_refused").arg(reasonFor(report));
     case Outcome::cancelled:
         return text("wb_write_cancelled");
+    }
+    return {};
+}
+
+bool isWritten(const RoadReport& report)
+{
+    return report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken;
+}
+
+// Where it was not what stands in a window: what it was. Empty otherwise.
+QString broughtBack(const RoadReport& report)
+{
+    const bool isConfirmed = report.outcome == Outcome::confirmed;
+    switch (report.request.origin) {
+    case WriteRequest::Origin::backup:
+        if (!isConfirmed)
+            return text("wb_report_of_backup").arg(report.request.name);
+        return text(report.request.chosen.isEmpty() ? "wb_report_brought" : "wb_report_brought_chosen")
+            .arg(report.request.name);
+    case WriteRequest::Origin::previous:
+        return isConfirmed ? text("wb_report_brought_previous") : QString();
+    case WriteRequest::Origin::tracker:
+    case WriteRequest::Origin::file:
+    case WriteRequest::Origin::fresh:
+        break;
     }
     return {};
 }
@@ -112,17 +140,26 @@ bool isKept(const WriteRequest& request)
 
 } // namespace
 
-QString summary(const RoadReport& report, const QString& typed)
+QString typedText(const RoadReport& report)
+{
+    const QStringList& typed = report.request.typed;
+    return typed.isEmpty() || !isWritten(report)
+               ? QString()
+               : text("wb_typed") + QLatin1Char('\n') + typed.join(QLatin1Char('\n'));
+}
+
+QString summary(const RoadReport& report)
 {
     QStringList lines{firstLine(report)};
-    if (report.outcome != Outcome::confirmed && report.request.origin == WriteRequest::Origin::backup)
-        lines.append(text("wb_report_of_backup").arg(report.request.name));
-    if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
+    lines.append(broughtBack(report));
+    if (report.fault == Fault::interrupted)
+        lines.append(text("wb_report_left_do"));
+    else if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
         lines.append(text(saysTryAgain(lines.first()) ? "wb_report_else" : "wb_report_do"));
     if (report.earlier > 0)
         lines.append(text("wb_report_earlier").arg(number(report.earlier)));
-    if (report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken) {
-        lines.append(typed);
+    if (isWritten(report)) {
+        lines.append(typedText(report));
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }
@@ -132,11 +169,11 @@ QString summary(const RoadReport& report, const QString& typed)
     return lines.join(QLatin1Char('\n'));
 }
 
-QString plainText(const RoadReport& report, const QString& typed)
+QString plainText(const RoadReport& report)
 {
     WriteReportModel model;
     model.setReport(report);
-    QString lines = summary(report, typed) + QLatin1Char('\n');
+    QString lines = summary(report) + QLatin1Char('\n');
     for (int row = 0; row < model.rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < model.columnCount(); ++column)

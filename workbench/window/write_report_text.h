@@ -7,10 +7,13 @@
 namespace workbench {
 
 // The first line says whether it is written; what to do about it, what stays as it was and where the file
-// lies come behind it, and what became of numbers that were still being typed, if there were any.
-QString summary(const RoadReport& report, const QString& typed = {});
+// lies come behind it, and what of the typing was written otherwise.
+QString summary(const RoadReport& report);
+
+// The latter alone; empty for most, and where nothing was written.
+QString typedText(const RoadReport& report);
 
 // The summary and a line a setting, for a file or the clipboard, divided by tabs.
-QString plainText(const RoadReport& report, const QString& typed = {});
+QString plainText(const RoadReport& report);
 
 } // namespace workbench

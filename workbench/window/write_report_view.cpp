@@ -3,6 +3,7 @@
 #include "plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "window/host_session.h"
 #include "window/line_icon.h"
@@ -51,7 +52,7 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
         table_->setAccessibleName(plainText("wb_tab_report"));
     });
     connect(copy_, &QToolButton::clicked, this,
-            [this] { QGuiApplication::clipboard()->setText(plainText(report_, typed_)); });
+            [this] { QGuiApplication::clipboard()->setText(plainText(report_)); });
     buildTable();
 
     backup_->setObjectName(QStringLiteral("label_Backup"));
@@ -62,13 +63,15 @@ WriteReportView::WriteReportView(HostSession& session, QWidget* parent)
     back_ = addButton("pushButton_BringBack", &WriteReportView::bringBack);
 
     auto* line = new QHBoxLayout;
+    for (QHBoxLayout* row : {line, buttons_})
+        row->setSpacing(vlk::grid::kColumn);
     line->addWidget(symbol_, 0, Qt::AlignTop);
     line->addWidget(summary_, 1, Qt::AlignTop);
     line->addWidget(time_, 0, Qt::AlignTop);
     line->addWidget(copy_, 0, Qt::AlignTop);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(6, 6, 6, 6);
-    column->setSpacing(6);
+    column->setContentsMargins(vlk::grid::kAroundWindow);
+    column->setSpacing(vlk::grid::kRow);
     column->addLayout(line);
     column->addWidget(table_, 1);
     column->addLayout(buttons_);
@@ -125,7 +128,7 @@ Sentence WriteReportView::bringBack()
     return session_.bringBack(report_.toBringBack());
 }
 
-void WriteReportView::setReport(const RoadReport& report, const QString& typed)
+void WriteReportView::setReport(const RoadReport& report)
 {
     const auto isOfWrite = [](const RoadReport& each) {
         return each.time.isValid() && each.outcome != RoadReport::Outcome::notWritten;
@@ -133,22 +136,21 @@ void WriteReportView::setReport(const RoadReport& report, const QString& typed)
     if (isOfWrite(report))
         other_.reset();
     else if (isOfWrite(report_))
-        other_ = {report_, typed_};
-    show(report, typed);
+        other_ = report_;
+    show(report);
 }
 
 Sentence WriteReportView::showOther()
 {
-    const auto other = *other_;
-    other_ = {report_, typed_};
-    show(other.first, other.second);
+    const RoadReport other = *other_;
+    other_ = report_;
+    show(other);
     return {};
 }
 
-void WriteReportView::show(const RoadReport& report, const QString& typed)
+void WriteReportView::show(const RoadReport& report)
 {
     report_ = report;
-    typed_ = typed;
     model_.setReport(report);
     columns_->fit();
     texts_.apply();
@@ -172,16 +174,17 @@ void WriteReportView::showSummary()
     again_->setText(text("wb_report_again"));
     otherReport_->setVisible(other_.has_value());
     if (other_)
-        otherReport_->setText(text("wb_report_other").arg(timeOfDay(other_->first.time)));
+        otherReport_->setText(text("wb_report_other").arg(timeOfDay(other_->time)));
     back_->setVisible(any && report_.toBringBack() > 0);
     back_->setText(text("wb_report_bring_back").arg(number(report_.toBringBack())));
     if (!any)
         return;
-    const Mark mark = report_.outcome == Outcome::confirmed ? (typed_.isEmpty() ? Mark::right : Mark::advice)
+    const Mark mark = report_.outcome == Outcome::confirmed
+                          ? (typedText(report_).isEmpty() ? Mark::right : Mark::advice)
                       : report_.outcome == Outcome::cancelled ? Mark::advice
                                                               : Mark::invalid;
     symbol_->setPixmap(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF()));
-    summary_->setText(summary(report_, typed_));
+    summary_->setText(summary(report_));
     time_->setText(timeOfDay(report_.time));
 }
 
@@ -193,15 +196,14 @@ void WriteReportView::retranslate()
     showSummary();
 }
 
-void WriteReportView::showDialog(HostSession& session, const RoadReport& report, const QString& typed,
-                                 QWidget* parent)
+void WriteReportView::showDialog(HostSession& session, const RoadReport& report, QWidget* parent)
 {
     auto* dialog = new QDialog(parent);
     dialog->setObjectName(QStringLiteral("dialog_Report"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(plainText("wb_tab_report"));
     auto* view = new WriteReportView(session, dialog);
-    view->setReport(report, typed);
+    view->setReport(report);
     auto* close = new QPushButton(plainText("wb_report_close"), dialog);
     close->setObjectName(QStringLiteral("pushButton_Close"));
     close->setMinimumWidth(80);

@@ -32,14 +32,13 @@ class WriteReportView : public QWidget
 public:
     explicit WriteReportView(HostSession& session, QWidget* parent = nullptr);
 
-    // With what became of numbers that were still being typed, or nothing. The report of the last write that
-    // got to the tracker can be called back as long as the ones after it did not.
-    void setReport(const RoadReport& report, const QString& typed);
+    // The report of the last write that got to the tracker can be called back as long as the ones after it
+    // did not.
+    void setReport(const RoadReport& report);
     void retranslate();
 
     // The view in a dialog of its own that deletes itself when it is closed.
-    static void showDialog(HostSession& session, const RoadReport& report, const QString& typed,
-                           QWidget* parent);
+    static void showDialog(HostSession& session, const RoadReport& report, QWidget* parent);
 
 Q_SIGNALS:
     // A button that puts something on the road again was pressed.
@@ -50,7 +49,7 @@ private:
     Sentence tryAgain();
     Sentence bringBack();
     Sentence showOther();
-    void show(const RoadReport& report, const QString& typed);
+    void show(const RoadReport& report);
     void buildTable();
     void showSummary();
 
@@ -58,9 +57,8 @@ private:
     WriteReportModel model_;
     KeyTexts texts_;
     RoadReport report_;
-    QString typed_;
     // The last report of a write, while one of none is on show; or the other way round.
-    std::optional<std::pair<RoadReport, QString>> other_;
+    std::optional<RoadReport> other_;
     QLabel* symbol_;
     QLabel* summary_;
     QLabel* time_;

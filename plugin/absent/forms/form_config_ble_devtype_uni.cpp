@@ -103,8 +103,8 @@ QGroupBox* makeTable(const Table& table)
     auto* box = new QGroupBox;
     box->setObjectName(QString::fromLatin1(table.group));
     auto* grid = new QGridLayout(box);
-    grid->setHorizontalSpacing(vlk::grid::column);
-    grid->setVerticalSpacing(vlk::grid::row);
+    grid->setHorizontalSpacing(vlk::grid::kColumn);
+    grid->setVerticalSpacing(vlk::grid::kRow);
     grid->addWidget(makeLabel(QString::fromLatin1(table.numberTitle)), 0, 0);
     for (int row = 1; row <= table.rows; ++row)
         grid->addWidget(table.result ? makeLabel(QString::fromLatin1(table.result).arg(row))

@@ -5,6 +5,7 @@
 #include "absent/params/user_params.h"
 #include "document/values_document.h"
 #include "settings/values.h"
+#include "typing/grid.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,7 @@ VLK_Form_Config_Set_Zeta3_Tab_User::VLK_Form_Config_Set_Zeta3_Tab_User(int index
 {
     auto* layout = new QVBoxLayout(this);
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(vlk::grid::kColumn);
     can_->setObjectName(QStringLiteral("pushButton_Set_CAN"));
     modbus_->setObjectName(QStringLiteral("pushButton_Set_MODBUS"));
     for (QPushButton* button : {can_, modbus_}) {

@@ -1,5 +1,6 @@
 #include "absent/forms/param_choice_dialog.h"
 
+#include "typing/grid.h"
 #include "windows/fit_to_screen.h"
 
 #include <QDialogButtonBox>
@@ -52,6 +53,7 @@ ParamChoiceDialog::ParamChoiceDialog(const QString& title, const QList<ParamChoi
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* bottom = new QHBoxLayout;
+    bottom->setSpacing(vlk::grid::kColumn);
     bottom->addWidget(state_, 1);
     bottom->addWidget(buttons);
     auto* layout = new QVBoxLayout(this);

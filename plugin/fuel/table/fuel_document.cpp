@@ -17,6 +17,7 @@ const QString kTable = QStringLiteral("TABLE");
 const QString kData = QStringLiteral("DATA");
 const QString kVolume = QStringLiteral("param_U");
 const QString kValue = QStringLiteral("param_V");
+const QString kChanging[] = {QStringLiteral("from"), QStringLiteral("to")};
 
 // The fraction is lost; what no integer holds ends at its limits.
 int wholeLitres(const QString& volume)
@@ -27,7 +28,7 @@ int wholeLitres(const QString& volume)
                               : static_cast<int>(std::clamp<double>(litres, Limits::min(), Limits::max()));
 }
 
-void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bool hasFractions)
+void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bool isKept)
 {
     root->setString(QStringLiteral("type"), sensor);
     const CXmlSectionPtr table = root->child(kTable);
@@ -35,8 +36,10 @@ void putTable(CXmlSection* root, const QString& sensor, const FuelRows& rows, bo
         return;
     for (const FuelRow& row : rows) {
         const CXmlSectionPtr data = table->child(kData, CXmlNode::Empty);
-        data->setString(kVolume, hasFractions ? row.volume : QString::number(wholeLitres(row.volume)));
+        data->setString(kVolume, isKept ? row.volume : QString::number(wholeLitres(row.volume)));
         data->setString(kValue, row.value);
+        for (int i = 0; isKept && i < row.changing.size(); ++i)
+            data->setString(kChanging[i], row.changing[i]);
         data->commit();
     }
     table->commit();
@@ -76,7 +79,12 @@ std::optional<FuelRows> fuelTable(CXmlSection* root)
         const auto text = [&row](const QString& key) {
             return withDecimalPoint(row->getString(key, QStringLiteral("0")));
         };
-        rows.push_back({text(kVolume), text(kValue)});
+        QStringList changing;
+        for (const QString& reading : kChanging)
+            changing << row->getString(reading);
+        if (changing.contains(QString()))
+            changing.clear();
+        rows.push_back({text(kVolume), text(kValue), changing});
     }
     return rows;
 }

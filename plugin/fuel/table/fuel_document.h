@@ -34,8 +34,9 @@ struct FuelTableNames
     QString offered;
 };
 
-// Puts the table with volumes as they stand and with the names where fuelTableName and fuelTableWrittenName
-// find them: for a document that only this program reads.
+// Puts the table with volumes as they stand, with the readings that still changed as attributes from and to,
+// and with the names where fuelTableName and fuelTableWrittenName find them: for a document that only this
+// program reads.
 void putKeptTable(CXmlSection* root, const QString& sensor, const FuelTableNames& names,
                   const FuelRows& rows);
 

@@ -3,7 +3,7 @@
 // A calibration table: how many litres are in the tank, against what its sensor says. Rows are the texts that
 // the user sees and that files hold; points are the same rows as numbers, in the order of the table.
 
-#include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <optional>
@@ -16,6 +16,8 @@ struct FuelRow
 {
     QString volume; // litres
     QString value;  // volts or level code, by the kind of the sensor
+    // The two readings between which the value was taken; empty where the reading stood still.
+    QStringList changing = {};
 
     bool operator==(const FuelRow&) const = default;
 };

@@ -297,10 +297,10 @@ QString fuelClipboard(const FuelCaptions& captions, const FuelRows& rows)
     return text;
 }
 
-PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind)
+PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind,
+                             FuelOrder order)
 {
-    PastedRows pasted;
-    FuelOrder order = FuelOrder::VolumeFirst;
+    PastedRows pasted{{}, {}, order};
     bool isFirst = true;
     int lineNumber = 0;
     forEachLine(text, [&](const QString& line) {
@@ -309,12 +309,17 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
         if (cells.first.isEmpty() && cells.second.isEmpty())
             return true;
         const bool mayBeHeading = std::exchange(isFirst, false) && !isPoint(rowOf(cells, order));
-        if (mayBeHeading) {
-            if (const auto headings = headingsOf(line, captions))
-                order = headings->order;
+        const auto headings = mayBeHeading ? headingsOf(line, captions) : std::nullopt;
+        if (headings) {
+            pasted.order = headings->order;
+            pasted.areHeaded = true;
             return true;
         }
-        FuelRow row = rowOf(cells, order);
+        FuelRow row = rowOf(cells, pasted.order);
+        // Beside an empty cell its blanks may be those between two numbers; with one number it is the other
+        // cell that is at fault.
+        if (row.value.isEmpty())
+            row.volume = withoutThousandsBlanks(row.volume);
         if (const auto ofVolume = fit(row.volume, kVolumeLimit))
             pasted.leftOut.push_back({lineNumber, *ofVolume, true});
         else if (const auto ofValue = fit(row.value, valueLimit(kind)))

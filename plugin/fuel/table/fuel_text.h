@@ -88,10 +88,13 @@ struct PastedRows
 {
     FuelRows rows;
     std::vector<LeftOutLine> leftOut;
+    FuelOrder order = FuelOrder::VolumeFirst;
+    bool areHeaded = false; // the order is that of headings
 };
 
-// Headings may be there; what they say of the order counts, in whatever language it was saved. With more than
-// maxFuelRows rows all is left out.
-PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind);
+// Headings may be there; what they say of the order counts, in whatever language it was saved, and that of
+// the screen or the given one without them. With more than maxFuelRows rows all is left out.
+PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind,
+                             FuelOrder order = FuelOrder::VolumeFirst);
 
 } // namespace vlk

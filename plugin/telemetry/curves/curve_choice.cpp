@@ -2,6 +2,7 @@
 
 #include "telemetry/curves/curve_presets.h"
 #include "telemetry/curves/curves_model.h"
+#include "typing/grid.h"
 #include "windows/fit_to_screen.h"
 #include "windows/named_widget.h"
 
@@ -54,9 +55,11 @@ CurveChoice::CurveChoice(CurvesModel* model, const QString& preset, QWidget* par
     for (QPushButton* const button : {keep_, delete_, close})
         button->setAutoDefault(false);
     auto* const presetRow = new QHBoxLayout;
+    presetRow->setSpacing(vlk::grid::kColumn);
     for (QWidget* const widget : QWidgetList{name_, keep_, delete_})
         presetRow->addWidget(widget);
     auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(vlk::grid::kColumn);
     buttons->addStretch();
     buttons->addWidget(close);
     auto* const layout = new QVBoxLayout(this);

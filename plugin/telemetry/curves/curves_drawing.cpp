@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <qwt_clipper.h>
 #include <qwt_scale_div.h>
 #include <qwt_scale_map.h>
 
@@ -79,7 +80,12 @@ void CurvesDrawing::drawCurve(QPainter& painter, int place, const QwtScaleMap& x
     painter.setPen(QPen(colour, isPaper && isFocused ? 2 : 1));
     double nextShape = canvas.left() + kShapeDistance / 2.0 + place * 13;
     for (const QPolygonF& piece : curve.series->pieces(plot_.span(), static_cast<int>(canvas.width()))) {
-        const QPolygonF line = onCanvas(piece, x, y);
+        QPolygonF line = onCanvas(piece, x, y);
+        // Pictures of lines know no clipping, and the line goes on to the next record out of sight.
+        if (isPaper)
+            line = QwtClipper::clipPolygonF(canvas, line);
+        if (line.isEmpty())
+            continue;
         if (line.size() == 1) {
             painter.setBrush(colour);
             painter.drawEllipse(line.front(), kPointReach, kPointReach);

@@ -84,6 +84,8 @@ public:
 
     // "A 20.11.2026 09:12:04 312 l | B 09:40:10 251 l | 28 min -61 l".
     QString cursorLine() const;
+    // Of one that is there: "A 20.11.2026 09:12:04 312 l".
+    QString cursorText(Cursor which) const;
 
     void retranslate();
 
@@ -104,7 +106,6 @@ private:
     std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
     std::shared_ptr<const StateRuns> runsOf(ItemIndex state);
     void addTo(CurveSeries& series, const CurveColumn& column, std::span<const int> byTime) const;
-    QString cursorText(Cursor which) const;
 
     ShownRecords* records_;
     QStringList items_;

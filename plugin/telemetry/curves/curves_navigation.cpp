@@ -216,6 +216,8 @@ bool CurvesNavigation::showTip(const QPoint& place, const QPoint& global)
         if (std::abs(x.transform(times[event.record]) - place.x()) <= kTipReach)
             texts << event.text;
     }
+    if (texts.isEmpty())
+        texts << plot_->gapText(place.x() + plot_->canvas()->x());
     QToolTip::showText(global, texts.join(QLatin1Char('\n')), plot_->canvas());
     return true;
 }

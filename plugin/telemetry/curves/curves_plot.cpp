@@ -3,6 +3,7 @@
 #include "telemetry/curves/curves_drawing.h"
 #include "telemetry/curves/curves_navigation.h"
 #include "telemetry/curves/time_scale.h"
+#include "telemetry/files/track_points.h"
 #include "typing/kept_palette.h"
 
 #include <QCursor>
@@ -113,16 +114,32 @@ void CurvesPlot::goToPixel(double x)
     const int record = records.nearestInSight(timeAtPixel(x));
     if (record >= 0)
         return records.setCurrent(record);
+    if (const auto none = withoutRecords(span().from))
+        QToolTip::showText(QCursor::pos(), noRecordsText(*none), this);
+}
+
+std::optional<TimeSpan> CurvesPlot::withoutRecords(double time) const
+{
+    ShownRecords& records = model_->records();
     const std::vector<int>& byTime = records.byTime();
     const auto timeOf = [&](int each) { return double(records.columns().times()[each]); };
-    const auto behind = std::ranges::lower_bound(byTime, span().from, {}, timeOf);
+    const auto behind = std::ranges::lower_bound(byTime, time, {}, timeOf);
     if (behind == byTime.begin() || behind == byTime.end())
-        return;
-    const double from = timeOf(behind[-1]);
-    const qint32 offset = records.utcOffset();
-    QToolTip::showText(QCursor::pos(),
-                       tr("rec_450").arg(momentText(from, offset), momentText(timeOf(*behind), from, offset)),
-                       this);
+        return {};
+    return TimeSpan{timeOf(behind[-1]), timeOf(*behind)};
+}
+
+QString CurvesPlot::noRecordsText(const TimeSpan& span) const
+{
+    const qint32 offset = model_->records().utcOffset();
+    return tr("rec_450").arg(momentText(span.from, offset), momentText(span.to, span.from, offset));
+}
+
+QString CurvesPlot::gapText(double x) const
+{
+    const auto none = withoutRecords(timeAtPixel(x));
+    const bool isGap = none && isGapBetween(static_cast<quint32>(none->from), static_cast<quint32>(none->to));
+    return isGap ? noRecordsText(*none) : QString();
 }
 
 void CurvesPlot::setLeftWidth(int width)
@@ -250,11 +267,18 @@ void CurvesPlot::dress()
     setCanvasBackground(colours.brush(QPalette::Base));
     for (int axis = 0; axis < axisCnt; ++axis)
         setAxisFont(axis, font());
+    // Labels end at their digits, but a comma hangs lower: cut off at the end of an axis it would be a point.
+    const QFontMetrics metrics(font());
+    const int room = metrics.ascent() / 2 + metrics.descent();
+    for (const int axis : {yLeft, yRight})
+        axisWidget(axis)->setMinBorderDist(room, room);
     outerLeft_->setFont(font());
     outerRight_->setFont(font());
     QPalette ofCanvas = colours;
-    ofCanvas.setColor(QPalette::WindowText,
-                      between(colours.color(QPalette::WindowText), colours.color(QPalette::Window)));
+    // The frame tells where keys go.
+    ofCanvas.setColor(QPalette::WindowText, hasFocus() ? colours.color(QPalette::Highlight)
+                                                       : between(colours.color(QPalette::WindowText),
+                                                                 colours.color(QPalette::Window)));
     canvas()->setPalette(ofCanvas);
     for (QwtPlotItem* const item : itemList(QwtPlotItem::Rtti_PlotGrid)) {
         const QColor faint = between(between(colours.color(QPalette::Text), colours.color(QPalette::Base)),
@@ -271,6 +295,18 @@ void CurvesPlot::changeEvent(QEvent* event)
         return;
     dress();
     refresh();
+}
+
+void CurvesPlot::focusInEvent(QFocusEvent* event)
+{
+    QwtPlot::focusInEvent(event);
+    dress();
+}
+
+void CurvesPlot::focusOutEvent(QFocusEvent* event)
+{
+    QwtPlot::focusOutEvent(event);
+    dress();
 }
 
 // More room, more ticks.

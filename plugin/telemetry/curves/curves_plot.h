@@ -12,7 +12,7 @@ class QwtScaleWidget;
 
 namespace vlk {
 
-class CurvesPlot : public QwtPlot
+class CurvesPlot final : public QwtPlot
 {
     Q_OBJECT
 
@@ -33,6 +33,8 @@ public:
     // Takes the cursor to the record in sight that is next to this pixel; where a gap is all that is in
     // sight, it stays and a tip tells.
     void goToPixel(double x);
+    // That there is no record in the gap at this pixel; empty where there is no gap.
+    QString gapText(double x) const;
     // How wide what stands left of the canvas is at least.
     void setLeftWidth(int width);
 
@@ -47,6 +49,8 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void setAxes();
@@ -54,6 +58,9 @@ private:
     void dress();
     void fitMargins();
     void placeOuterAxes();
+    // From the record before the moment to the one behind it; none beyond the ends.
+    std::optional<TimeSpan> withoutRecords(double time) const;
+    QString noRecordsText(const TimeSpan& span) const;
 
     CurvesModel* model_;
     std::optional<TimeSpan> ownSpan_;

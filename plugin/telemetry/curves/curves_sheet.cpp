@@ -35,7 +35,7 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
     auto* const plot = new CurvesPlot(&model, &sheet, span);
     auto* const strip = new BandsStrip(&model, plot, &sheet);
     auto* const layout = new QVBoxLayout(&sheet);
-    layout->setSpacing(grid::row);
+    layout->setSpacing(grid::kRow);
     layout->addWidget(heading);
     layout->addWidget(legend);
     layout->addWidget(plot, 1);
@@ -44,8 +44,11 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
         const int record = model.cursor(which);
         return record >= 0 && span.contains(model.records().columns().times()[record]);
     };
-    if (isOnSheet(Cursor::a) || isOnSheet(Cursor::b))
-        layout->addWidget(new QLabel(model.cursorLine(), &sheet));
+    const bool hasA = isOnSheet(Cursor::a);
+    const bool hasB = isOnSheet(Cursor::b);
+    if (hasA || hasB)
+        layout->addWidget(new QLabel(
+            hasA && hasB ? model.cursorLine() : model.cursorText(hasA ? Cursor::a : Cursor::b), &sheet));
     sheet.resize(size);
     // So that all have their places before they are painted.
     sheet.show();

@@ -4,8 +4,8 @@
 #include "base/translated.h"
 #include "telemetry/curves/curves_model.h"
 #include "telemetry/curves/time_scale.h"
+#include "telemetry/files/iso_times.h"
 
-#include <QDateTime>
 #include <QIODevice>
 #include <QLocale>
 
@@ -32,15 +32,15 @@ bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& sp
     for (const Curve& curve : model.curves())
         headings << withUnit(curve.column);
     QByteArray text = csvLine(headings, separator).toUtf8();
+    IsoTimes zoned(offset);
     const std::vector<quint32>& times = records.columns().times();
     const std::vector<quint32>& numbers = records.columns().recordNumbers();
     for (const int record : records.byTime()) {
         if (!span.contains(times[record]))
             continue;
-        text += QByteArray::number(numbers[record]) + separator +
-                QDateTime::fromSecsSinceEpoch(times[record], Qt::OffsetFromUTC, offset)
-                    .toString(Qt::ISODate)
-                    .toLatin1();
+        char moment[IsoTimes::kLongest];
+        const auto length = static_cast<int>(zoned.put(moment, times[record]) - moment);
+        text += QByteArray::number(numbers[record]) + separator + QByteArray(moment, length);
         for (const Curve& curve : model.curves()) {
             text += separator;
             const double value = model.valueAt(curve, record);

@@ -14,7 +14,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QImage>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -73,7 +72,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     kept.setRetainSizeWhenHidden(true);
     legend_->setSizePolicy(kept);
     auto* const tools = new QHBoxLayout;
-    tools->setSpacing(grid::column);
+    tools->setSpacing(grid::kColumn);
     tools->addWidget(presets_);
     tools->addWidget(choose_);
     tools->addWidget(legend_, 1);
@@ -81,14 +80,14 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     tools->addWidget(cursorB_);
     tools->addWidget(handOverMenu_);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(grid::window, 0, grid::window, 0);
-    layout->setSpacing(grid::row);
+    layout->setContentsMargins(grid::kWindow, 0, grid::kWindow, 0);
+    layout->setSpacing(grid::kRow);
     layout->addLayout(tools);
     layout->addWidget(longLegend_);
     layout->addWidget(plot_, 1);
     layout->addWidget(strip_);
     auto* const told = new QHBoxLayout;
-    told->setSpacing(grid::column);
+    told->setSpacing(grid::kColumn);
     told->addWidget(line_, 1);
     told->addWidget(allStates_);
     layout->addLayout(told);
@@ -139,10 +138,10 @@ void CurvesView::fitLegend()
 {
     const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
                       cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
-                      handOverMenu_->sizeHint().width() + 5 * grid::column;
+                      handOverMenu_->sizeHint().width() + 5 * grid::kColumn;
     const int needed = height() < kLowCurves ? std::min(legend_->leastWidth(), legend_->widthOfAll())
                                              : legend_->widthOfAll();
-    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::window;
+    const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::kWindow;
     legend_->setVisible(hasRoom);
     longLegend_->setHidden(hasRoom);
 }
@@ -186,7 +185,7 @@ void CurvesView::retranslate()
     menu->addAction(tr("rec_187"), this, &CurvesView::askPicture);
     menu->addAction(tr("rec_188"), this, &CurvesView::askTable);
     menu->addAction(tr("rec_189"), this, [this] {
-        handOver_->print([this](QPainter& painter, const QSize& size) { paint(painter, size); });
+        handOver_->print([this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
     });
     handOverMenu_->setMenu(menu);
     fillPresets();
@@ -300,9 +299,14 @@ void CurvesView::keepInSight(int record)
         records_->setInSight(holding(records_->inSight(), time, records_->wholeTime()));
 }
 
-void CurvesView::paint(QPainter& painter, const QSize& size) const
+void CurvesView::paint(QPainter& painter, const QSize& size, const TimeSpan& span) const
 {
-    paintCurves(painter, size, *model_, records_->inSight(), title_);
+    paintCurves(painter, size, *model_, span, title_);
+}
+
+void CurvesView::paintInSight(QPainter& painter, const QSize& size) const
+{
+    paint(painter, size, records_->inSight());
 }
 
 bool CurvesView::write(QIODevice& device) const
@@ -310,28 +314,19 @@ bool CurvesView::write(QIODevice& device) const
     return writeCurves(device, *model_, records_->inSight());
 }
 
-QImage CurvesView::picture(const TimeSpan& span, const QSize& size) const
-{
-    QImage image(size * kPicturePixels, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(kPicturePixels, kPicturePixels);
-    paintCurves(painter, size, *model_, span, title_);
-    return image;
-}
-
 void CurvesView::saveTo(const QString& path)
 {
     if (path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
         handOver_->saveTable(path, [this](QIODevice& device) { return write(device); });
     else
-        handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+        handOver_->savePicture(path,
+                               [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 void CurvesView::askPicture()
 {
     handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, presets_->currentText()).trimmed(),
-                          [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+                          [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 void CurvesView::askTable()

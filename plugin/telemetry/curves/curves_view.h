@@ -34,8 +34,8 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // A picture of a span; `size` in points, each of kPicturePixels.
-    QImage picture(const TimeSpan& span, const QSize& size) const;
+    // Of a span, as a picture.
+    void paint(QPainter& painter, const QSize& size, const TimeSpan& span) const;
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);
     // False where there is no cursor B.
@@ -61,7 +61,7 @@ private:
     void keepInSight(int record);
     void askPicture();
     void askTable();
-    void paint(QPainter& painter, const QSize& size) const;
+    void paintInSight(QPainter& painter, const QSize& size) const;
     bool write(QIODevice& device) const;
 
     ShownRecords* records_;

@@ -25,15 +25,6 @@ namespace {
 
 constexpr QSize kPictureSize(1200, 600);
 
-// With a font in pixels, as on screen: a printer would make many of its pixels of the points of a font.
-void paintInPixels(QPainter& painter, const PaintPicture& paint)
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(QFontInfo(font).pixelSize());
-    painter.setFont(font);
-    paint(painter, kPictureSize);
-}
-
 QByteArray svgOf(const PaintPicture& paint)
 {
     QBuffer buffer;
@@ -43,7 +34,7 @@ QByteArray svgOf(const PaintPicture& paint)
     svg.setSize(kPictureSize);
     svg.setViewBox(QRect(QPoint(), kPictureSize));
     QPainter painter(&svg);
-    paintInPixels(painter, paint);
+    paintInPixels(painter, paint, kPictureSize);
     painter.end();
     return buffer.data();
 }
@@ -54,7 +45,7 @@ QByteArray pngOf(const PaintPicture& paint)
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(kPicturePixels, kPicturePixels);
-    paintInPixels(painter, paint);
+    paintInPixels(painter, paint, kPictureSize);
     painter.end();
     QBuffer buffer;
     image.save(&buffer, "PNG");
@@ -62,6 +53,14 @@ QByteArray pngOf(const PaintPicture& paint)
 }
 
 } // namespace
+
+void paintInPixels(QPainter& painter, const PaintPicture& paint, const QSize& size)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    painter.setFont(font);
+    paint(painter, size);
+}
 
 HandOver::HandOver(QWidget* window, NoticeBar* bar) : QObject(window), window_(window), bar_(bar) {}
 
@@ -156,7 +155,7 @@ void HandOver::print(const PaintPicture& paint)
         const double scale = std::min(double(page.width()) / kPictureSize.width(),
                                       double(page.height()) / kPictureSize.height());
         painter.scale(scale, scale);
-        paintInPixels(painter, paint);
+        paintInPixels(painter, paint, kPictureSize);
         painter.end();
     }
     tellPrinted(printer);

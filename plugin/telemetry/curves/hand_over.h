@@ -18,9 +18,13 @@ class QWidget;
 namespace vlk {
 
 class NoticeBar;
+struct TimeSpan;
 
 // Paints the picture into that many pixels from the painter's origin on.
 using PaintPicture = std::function<void(QPainter& painter, const QSize& size)>;
+
+// Likewise, of what is between two moments.
+using PaintSpan = std::function<void(QPainter& painter, const QSize& size, const TimeSpan& span)>;
 
 // Pixels of an image to each point of the picture, across and down.
 inline constexpr int kPicturePixels = 2;
@@ -54,6 +58,9 @@ private:
     QWidget* window_;
     NoticeBar* bar_;
 };
+
+// With a font in pixels, as on screen: a printer would make many of its pixels of the points of a font.
+void paintInPixels(QPainter& painter, const PaintPicture& paint, const QSize& size);
 
 // On white, whatever the windows look like.
 QPalette paperPalette();

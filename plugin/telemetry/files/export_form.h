@@ -58,6 +58,11 @@ struct ExportAhead
     quint32 crc = 0; // of the records in the binary form
 
     void add(const RecordStore& store, std::span<const int> records, ExportForm form);
+    // Whether forms that have columns have the same ones for both.
+    bool hasFieldsOf(const ExportAhead& other) const
+    {
+        return fields == other.fields && hasPackets == other.hasPackets;
+    }
 };
 
 struct ExportOptions
@@ -67,7 +72,8 @@ struct ExportOptions
     std::optional<qint32> utcOffset{}; // of the zone of times; none: that of this machine at each moment
     bool raw = false;                  // values as the XML form has them
     bool decimalComma = false;
-    bool archive = false; // all columns there are, with the tracker in front
+    bool isMarked = false; // tables of numbers as UTF-8, which spreadsheets do not see by themselves
+    bool archive = false;  // all columns there are, with the tracker in front
     // Those asked for, in this order; none: all that any record has. For the forms that have columns.
     std::vector<FilterColumn> columns{};
     EventText eventText{};

@@ -305,6 +305,10 @@ private:
                 return compared(column_, comparison, *moment);
         }
         const std::optional<double> number = typedNumber(text, position, end);
+        // Of a date in another form than those that are read it takes the day.
+        if (holdsTimes(column_) && number && *end < text.size() && text[*end].isPunct() &&
+            text[*end] != QLatin1Char(')'))
+            return std::nullopt;
         return number ? std::optional(condition(column_, comparison, *number)) : std::nullopt;
     }
 

@@ -26,6 +26,11 @@ public:
     // skipped. kCapacity at most.
     std::span<const std::uint8_t> peek(std::size_t count);
     void skip(std::size_t count);
+    // What peek() can give without reading.
+    std::span<const std::uint8_t> buffered() const
+    {
+        return {reinterpret_cast<const std::uint8_t*>(bytes_.data()) + begin_, end_ - begin_};
+    }
 
     // How many bytes were given out or skipped.
     qint64 position() const { return position_; }

@@ -57,7 +57,7 @@ public:
         : isCsv_(form == ExportForm::csv), separator_(!isCsv_                ? '\t'
                                                       : options.decimalComma ? ';'
                                                                              : ','),
-          isArchive_(options.archive),
+          isMarked_(options.isMarked), isArchive_(options.archive),
           hasEntries_(options.columns.empty() && (options.archive || ahead.hasPackets)),
           absent_(options.archive ? "\\N" : ""), cells_(cellsOf(ahead, options)),
           offsets_(elementsIn(cells_), true), numbers_(options.utcOffset, options.decimalComma ? ',' : '.'),
@@ -75,7 +75,7 @@ public:
             headings << field(headingOf(cell));
         if (hasEntries_)
             headings << "Dynamic";
-        out << headings.join(separator_) << rowEnd();
+        out << (isMarked_ ? "\xEF\xBB\xBF" : "") << headings.join(separator_) << rowEnd();
     }
 
     void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) override
@@ -166,6 +166,7 @@ private:
 
     bool isCsv_;
     char separator_;
+    bool isMarked_;
     bool isArchive_;
     bool hasEntries_;
     std::string_view absent_;

@@ -4,6 +4,8 @@
 #include "telemetry/files/checksums.h"
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 namespace vlk {
 
@@ -13,7 +15,6 @@ using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::size_t kHeadWithLength = binary::kLengthBytes + RecordHead::kBytes;
 constexpr std::size_t kLeastToTell = binary::kLengthBytes + 2;
-constexpr std::size_t kFarthestLook = InputBuffer::kCapacity / 2;
 
 std::size_t lengthAt(Bytes start)
 {
@@ -81,7 +82,7 @@ void TelemetryBinaryReader::readHeader()
 std::size_t TelemetryBinaryReader::recordHere()
 {
     if (const std::size_t sound = soundRecordHere())
-        return leadsOnSoon(sound) ? sound : 0;
+        return leadsOn(sound) ? sound : 0;
     return oddRecordHere();
 }
 
@@ -112,38 +113,48 @@ bool TelemetryBinaryReader::lengthAgrees(Bytes start)
     return lengthAt(start) == lengthOfHead_;
 }
 
-// Whether a record begins, or the file ends, that many bytes ahead; it may end in the head of a record.
+// Whether the record here ends that many bytes ahead, since another one begins there or the file ends. One
+// that lost bytes takes the first ones of the next in, and ends within it.
 bool TelemetryBinaryReader::leadsOn(std::size_t ahead)
 {
-    const Bytes further = input_.peek(ahead + kHeadWithLength);
-    if (further.size() < ahead)
-        return false;
-    const Bytes there = further.subspan(ahead);
-    return there.size() < kLeastToTell || looksLikeRecord(there);
+    if (headAhead(ahead))
+        return true;
+    const Bytes further = behind(input_.peek(ahead + kLeastToTell), ahead);
+    // One whose own length does not agree has to lead on in its turn.
+    return looksLikeRecord(further) && headAhead(ahead + binary::kLengthBytes + lengthAt(further));
 }
 
-// Looks a few records of that size further on, as where the damage is in the next ones. A record that lost
-// bytes leads nowhere.
-bool TelemetryBinaryReader::leadsOnSoon(std::size_t size)
+// Whether a head stands there, or the file ends, also within the head. Some bytes of it may be damaged where
+// it is one like the head here.
+bool TelemetryBinaryReader::headAhead(std::size_t ahead)
 {
-    constexpr std::size_t kRecords = 8;
-    for (std::size_t records = 1; records <= kRecords && records * size < kFarthestLook; ++records) {
-        if (leadsOn(records * size))
-            return true;
-    }
-    return false;
+    constexpr int kMostDamaged = 2;
+    const Bytes bytes = input_.peek(ahead + kHeadWithLength);
+    if (bytes.size() < ahead)
+        return false;
+    const Bytes there = bytes.subspan(ahead);
+    const Bytes begin = there.first(std::min(there.size(), kLeastToTell));
+    if (std::equal(begin.begin(), begin.end(), bytes.begin()))
+        return true;
+    if (looksLikeRecord(there) && lengthAgrees(there))
+        return true;
+    if (there.size() < kHeadWithLength)
+        return looksLikeRecord(there) && there[binary::kLengthBytes] == kTelemetryRecord;
+    const int damaged = std::inner_product(there.begin(), there.end(), bytes.begin(), 0, std::plus<>(),
+                                           std::not_equal_to<>());
+    return ahead >= kHeadWithLength && damaged <= kMostDamaged;
 }
 
 // One whose length does not agree, as trackers send them too; it counts if another record or the end of the
-// file follows it.
+// file follows it. Behind a damage a packet has too few marks of its own for that.
 std::size_t TelemetryBinaryReader::oddRecordHere()
 {
     const Bytes start = input_.peek(kHeadWithLength);
     if (!looksLikeRecord(start))
         return 0;
-    const std::size_t least = start[binary::kLengthBytes] == kExtraPacket ? 1 : RecordHead::kBytes;
+    const bool isPacket = start[binary::kLengthBytes] == kExtraPacket;
     const std::size_t length = lengthAt(start);
-    if (length < least)
+    if ((isPacket && damageAt_) || length < (isPacket ? 1 : RecordHead::kBytes))
         return 0;
     const std::size_t size = binary::kLengthBytes + length;
     return leadsOn(size) ? size : 0;
@@ -151,9 +162,31 @@ std::size_t TelemetryBinaryReader::oddRecordHere()
 
 void TelemetryBinaryReader::takeRecord(std::size_t size)
 {
-    contents_.records.add(behind(input_.peek(size), binary::kLengthBytes));
+    const Bytes record = input_.peek(size);
+    std::array<std::uint8_t, kHeadWithLength> head{};
+    std::copy_n(record.begin(), std::min(size, head.size()), head.begin());
+    contents_.records.add(behind(record, binary::kLengthBytes));
     ++total_;
     input_.skip(size);
+    if (head[binary::kLengthBytes] == kTelemetryRecord && size >= head.size() && lengthAgrees(head))
+        takeAlike(head, size);
+}
+
+// The next ones with the same head, as most have, as far as they are read already and another one follows
+// each: then they are sound without a closer look.
+void TelemetryBinaryReader::takeAlike(Bytes head, std::size_t size)
+{
+    constexpr int kMost = 64;
+    Bytes further = input_.buffered();
+    int records = 0;
+    while (records < kMost && further.size() >= size + kLeastToTell &&
+           std::equal(head.begin(), head.end(), further.begin()) && looksLikeRecord(further.subspan(size))) {
+        contents_.records.add(further.subspan(binary::kLengthBytes, size - binary::kLengthBytes));
+        further = further.subspan(size);
+        ++records;
+    }
+    total_ += records;
+    input_.skip(records * size);
 }
 
 // To the next record, or to the end; a long way in several steps.

@@ -2,8 +2,9 @@
 
 // Reads telemetry in the binary form. A damaged file loses at most its damaged records: where the lengths do
 // not lead on, the reader looks for the next place at which a whole record stands. A length is believed only
-// if another record, or the end of the file, follows. What it found wrong it tells. An empty device is no
-// damage.
+// if another record, or the end of the file, follows: what a loss of bytes made of two records is none. Only
+// where it took as many bytes as records have do all lengths fit; then checksum and count tell it. What it
+// found wrong it tells. An empty device is no damage.
 
 #include "telemetry/files/input_buffer.h"
 #include "telemetry/files/telemetry_contents.h"
@@ -17,7 +18,7 @@ public:
     // From the present position of the device, which counts as 0.
     explicit TelemetryBinaryReader(QIODevice& device);
 
-    // A record or a damage; false at the end.
+    // Some records or a damage; false at the end.
     bool step();
     qint64 position() const { return input_.position(); }
     // Between steps what was read so far may be taken out of the records.
@@ -31,9 +32,10 @@ private:
     std::size_t soundRecordHere();
     bool lengthAgrees(std::span<const std::uint8_t> start);
     bool leadsOn(std::size_t ahead);
-    bool leadsOnSoon(std::size_t size);
+    bool headAhead(std::size_t ahead);
     std::size_t oddRecordHere();
     void takeRecord(std::size_t size);
+    void takeAlike(std::span<const std::uint8_t> head, std::size_t size);
     void passDamage();
     bool recordIsCutHere();
     void report(FileDamage::Kind kind, qint64 offset, qint64 bytes);

@@ -22,7 +22,7 @@ public:
     TelemetryReader(QIODevice& device, const QString& name,
                     TelemetryReading reading = TelemetryReading::asTold);
 
-    // One record, damage or line; false at the end.
+    // Some records, a damage or a line; false at the end.
     bool step();
     // True when all is read.
     bool readFor(int milliseconds);

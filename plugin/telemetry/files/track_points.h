@@ -12,7 +12,7 @@
 namespace vlk {
 
 // Records further apart in time do not belong to one run of records: a gap.
-inline constexpr qint64 kGapSeconds = 5 * 60;
+inline constexpr qint64 kGapSeconds = qint64{5} * 60;
 
 inline bool isGapBetween(quint32 time, quint32 other)
 {

@@ -99,7 +99,8 @@ void Journey::takeStretches(Making& making, int first, int behind)
         const bool isGap = isLast || isGapBetween(times[record], times[next]);
         const bool stands = speed[record] < kMovesFrom;
         const bool standsNext = !isLast && speed[next] < kMovesFrom;
-        const quint32 skipped = numbers[next] - numbers[record] - 1;
+        const bool areNumbered = numbers[record] != 0 && numbers[next] != 0;
+        const quint32 skipped = areNumbered ? numbers[next] - numbers[record] - 1 : 0;
         stretches_.push_back({.time = times[record],
                               .speed = static_cast<float>(speed[record]),
                               .metres = 0,
@@ -110,7 +111,8 @@ void Journey::takeStretches(Making& making, int first, int behind)
                               .isEngineKnown = ignition[record] != Ignition::Unknown,
                               .isPoint = false,
                               .isWithoutFix = false,
-                              .isCounted = !isGap});
+                              .isCounted = !isGap,
+                              .isNumbered = numbers[record] != 0});
     }
 }
 
@@ -185,6 +187,8 @@ JourneySummary Journey::summary(double from, double until) const
         sum.metres = kNoNumber;
     if (!isAny([](const Stretch& stretch) { return (stretch.isPoint | stretch.isWithoutFix) != 0; }))
         sum.withoutFix = kNoNumber;
+    if (!isAny([](const Stretch& stretch) { return stretch.isNumbered != 0; }))
+        sum.missing = kNoNumber;
     sum.from = first->time;
     sum.until = end[-1].time;
     sum.records = static_cast<int>(end - first);

@@ -30,7 +30,7 @@ struct JourneySummary
     double refuelled = 0; // litres
     double drained = 0;
     double greatestSpeed; // km/h
-    qint64 missing = 0;   // records, by their numbers
+    double missing = 0;   // records, by their numbers
 
     double fuelUsed() const { return fuelBefore + refuelled - drained - fuelAfter; }
     // Litres; NaN for less than a kilometre.
@@ -68,6 +68,7 @@ private:
         quint32 isPoint : 1; // of the track
         quint32 isWithoutFix : 1;
         quint32 isCounted : 1; // the time to the next record
+        quint32 isNumbered : 1;
     };
     // A tracker that counts on from elsewhere has lost nothing.
     static constexpr quint32 kMostMissing = 1'000'000;

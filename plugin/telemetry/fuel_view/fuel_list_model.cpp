@@ -3,6 +3,7 @@
 #include "base/csv_line.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
+#include "typing/table_look.h"
 
 #include <algorithm>
 #include <limits>
@@ -82,6 +83,21 @@ QString FuelListModel::text(const FuelEvent& event, int column) const
     }
 }
 
+// Numbers as in a file, where no point may stand between thousands.
+QVariant FuelListModel::copied(const FuelEvent& event, int column)
+{
+    switch (column) {
+    case Before:
+        return sheetNumber(event.before, 1);
+    case After:
+        return sheetNumber(event.after, 1);
+    case Litres:
+        return sheetNumber(event.litres(), 1);
+    default:
+        return {};
+    }
+}
+
 QString FuelListModel::beyondText(double litres) const
 {
     if (litres >= greatest_)
@@ -96,6 +112,8 @@ QVariant FuelListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return text(event, column);
+    case kCopiedRole:
+        return copied(event, column);
     case Qt::ToolTipRole:
         if (column == Time)
             return listTime(event.time, utcOffset_, true) + QStringLiteral(" – ") +
@@ -136,11 +154,11 @@ QString FuelListModel::csv() const
         csvLine({tr("rec_242"), tr("rec_243").arg(zoneText(utcOffset_)), tr("rec_267"), tr("rec_244"),
                  tr("rec_245"), tr("rec_246"), tr("rec_268"), tr("rec_249"), tr("rec_250")});
     for (const FuelEvent& event : events_)
-        csv += csvLine({tr(event.isRefuelling() ? "rec_240" : "rec_241"),
-                        listTime(event.time, utcOffset_, true), listTime(event.until, utcOffset_, true),
-                        sheetNumber(event.before, 1), sheetNumber(event.after, 1),
-                        sheetNumber(event.litres(), 1), sheetNumber(event.latitude, 7),
-                        sheetNumber(event.longitude, 7), sensors.join(QStringLiteral(" + "))});
+        csv += csvLine({tr(event.isRefuelling() ? "rec_240" : "rec_241"), fileTime(event.time, utcOffset_),
+                        fileTime(event.until, utcOffset_), sheetNumber(event.before, 1),
+                        sheetNumber(event.after, 1), sheetNumber(event.litres(), 1),
+                        sheetNumber(event.latitude, 7), sheetNumber(event.longitude, 7),
+                        sensors.join(QStringLiteral(" + "))});
     return csv;
 }
 

@@ -32,6 +32,7 @@ public:
 
 private:
     QString text(const FuelEvent& event, int column) const;
+    static QVariant copied(const FuelEvent& event, int column);
     // Where the tables of the tanks end.
     QString beyondText(double litres) const;
 

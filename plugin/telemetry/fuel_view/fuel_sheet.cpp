@@ -2,18 +2,23 @@
 
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
+#include "telemetry/fuel_view/text_pictures.h"
 #include "telemetry/view/record_cell.h"
 
 #include <QTextDocument>
-#include <QUrl>
 
 #include <cmath>
+#include <utility>
 
 namespace vlk {
 
 namespace {
 
-constexpr int kPictureWidth = 620; // as wide as the text of an A4 page
+// A third more than they take on paper, where their words are so much smaller than those around them.
+// Together they have room on one page.
+constexpr QSize kCurvePicture(820, 360);
+constexpr QSize kTrackPicture(820, 430);
+constexpr int kLinesBesidePictures = 13;
 
 QString cells(const QStringList& texts, const char* tag)
 {
@@ -39,12 +44,39 @@ QString spanText(const FuelEvent& event, qint32 utcOffset)
                                                   : listTime(event.until, utcOffset));
 }
 
-QString picture(QTextDocument& document, const QString& name, const QImage& image)
+// On one page, be it that of the list or the next one.
+void addPictures(QTextDocument& document, const FuelSheet& sheet, int lines)
 {
-    if (image.isNull())
-        return {};
-    document.addResource(QTextDocument::ImageResource, QUrl(name), image);
-    return QStringLiteral("<p><img src=\"%1\" width=\"%2\"></p>").arg(name).arg(kPictureWidth);
+    auto* const pictures = new TextPictures(&document);
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    bool isFirst = true;
+    const auto add = [&](const PaintSpan& paint, const QSize& size, const QString& caption) {
+        if (!paint)
+            return;
+        QTextBlockFormat block;
+        block.setTopMargin(cursor.blockFormat().topMargin());
+        if (std::exchange(isFirst, false) && lines > kLinesBesidePictures)
+            block.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        if (!caption.isEmpty()) {
+            cursor.insertBlock(block, {});
+            cursor.insertText(caption);
+            block.setPageBreakPolicy(QTextFormat::PageBreak_Auto);
+        }
+        cursor.insertBlock(block, {});
+        pictures->insert(
+            cursor,
+            [paint, span = sheet.pictured](QPainter& painter, const QSize& size) {
+                paint(painter, size, span);
+            },
+            size);
+    };
+    // The curve has a heading of its own.
+    add(sheet.curve, kCurvePicture, {});
+    add(sheet.track, kTrackPicture,
+        QStringLiteral("%1: %2 – %3, %4")
+            .arg(translated("rec_199"), listTime(sheet.pictured.from, sheet.utcOffset),
+                 listTime(sheet.pictured.to, sheet.utcOffset), zoneText(sheet.utcOffset)));
 }
 
 } // namespace
@@ -57,17 +89,20 @@ void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet)
     if (!sheet.vehicle.isEmpty())
         html += paragraph(QStringLiteral("%1: %2").arg(translated("rec_257"), sheet.vehicle));
     html += paragraph(QStringLiteral("%1 – %2, %3")
-                          .arg(listTime(sheet.from, sheet.utcOffset), listTime(sheet.until, sheet.utcOffset),
-                               zoneText(sheet.utcOffset)));
+                          .arg(listTime(sheet.whole.from, sheet.utcOffset),
+                               listTime(sheet.whole.to, sheet.utcOffset), zoneText(sheet.utcOffset)));
     for (const QString& tank : sheet.tanks)
         html += paragraph(tank);
     html += paragraph(translated("rec_259").arg(numberText(sheet.thresholds.rise, 1),
                                                 numberText(sheet.thresholds.fall, 1)));
+    for (const QString& each : sheet.news)
+        html += paragraph(each);
     html +=
-        QStringLiteral("<table width=\"100%\" cellpadding=\"3\">") +
+        QStringLiteral("<table width=\"100%\" cellpadding=\"3\"><thead>") +
         cells({translated("rec_242"), translated("rec_243").arg(zoneText(sheet.utcOffset)),
                translated("rec_244"), translated("rec_245"), translated("rec_246"), translated("rec_264")},
-              "th");
+              "th") +
+        QStringLiteral("</thead>");
     double refuelled = 0;
     double drained = 0;
     for (const FuelEvent& event : sheet.events) {
@@ -80,9 +115,11 @@ void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet)
     }
     html += QStringLiteral("</table>") +
             paragraph(translated("rec_260").arg(numberText(refuelled, 1), numberText(drained, 1)));
-    html += picture(document, QStringLiteral("curve"), sheet.curve) +
-            picture(document, QStringLiteral("track"), sheet.track);
     document.setHtml(html + QStringLiteral("</body></html>"));
+    constexpr int besideTables = 7; // heading, vehicle, time, thresholds, heads, sums
+    addPictures(document, sheet,
+                static_cast<int>(sheet.tanks.size() + 2 * sheet.news.size()) + besideTables +
+                    static_cast<int>(sheet.events.size()));
 }
 
 } // namespace vlk

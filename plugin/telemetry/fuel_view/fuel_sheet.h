@@ -3,9 +3,10 @@
 // The list of refuellings and drains on paper, with the curve and the track of a span of time, for whoever
 // has to be asked about it.
 
+#include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel/fuel_events.h"
+#include "telemetry/view/shown_records.h"
 
-#include <QImage>
 #include <QStringList>
 
 class QTextDocument;
@@ -17,12 +18,13 @@ struct FuelSheet
     QString vehicle;
     QStringList tanks; // a line a sensor with its table
     FuelThresholds thresholds;
+    QStringList news; // a line each
     std::vector<FuelEvent> events;
     qint32 utcOffset = 0;
-    double from = 0; // seconds since 1970
-    double until = 0;
-    QImage curve; // null for none
-    QImage track;
+    TimeSpan whole;    // of the records
+    TimeSpan pictured; // by the curve and the track
+    PaintSpan curve;   // null for none
+    PaintSpan track;
 };
 
 void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet);

@@ -1,5 +1,6 @@
 #include "telemetry/fuel_view/fuel_texts.h"
 
+#include "telemetry/files/iso_times.h"
 #include "telemetry/view/record_cell.h"
 
 #include <QLocale>
@@ -30,6 +31,13 @@ QString sheetNumber(double number, int decimals)
 QString signedText(double number, int decimals)
 {
     return number > 0 ? QLatin1Char('+') + numberText(number, decimals) : numberText(number, decimals);
+}
+
+QString fileTime(double seconds, qint32 utcOffset)
+{
+    char text[IsoTimes::kLongest];
+    const char* const end = IsoTimes(utcOffset).put(text, static_cast<quint32>(seconds));
+    return QString::fromLatin1(text, static_cast<int>(end - text));
 }
 
 QString listTime(double seconds, qint32 utcOffset, bool withSeconds)

@@ -11,6 +11,8 @@ QString numberText(double number, int decimals = 0);
 // For a spreadsheet, which wants no groups; nothing for no number.
 QString sheetNumber(double number, int decimals);
 QString signedText(double number, int decimals = 0);
+// "2026-11-20T09:40:12+03:00", as files have it.
+QString fileTime(double seconds, qint32 utcOffset);
 // "20.11.2026 09:40", with seconds behind where they are asked for.
 QString listTime(double seconds, qint32 utcOffset, bool withSeconds = false);
 QString listDay(double seconds, qint32 utcOffset);

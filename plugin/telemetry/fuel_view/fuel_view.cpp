@@ -1,6 +1,5 @@
 #include "telemetry/fuel_view/fuel_view.h"
 
-#include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel/level_noise.h"
 #include "telemetry/fuel_view/fuel_sheet.h"
 #include "telemetry/fuel_view/fuel_texts.h"
@@ -8,6 +7,7 @@
 #include "telemetry/fuel_view/tank_button.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
+#include "typing/grid.h"
 #include "typing/number_entry.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
@@ -32,9 +32,6 @@ namespace {
 constexpr double kLeastLitres = 0.5;
 constexpr double kMostLitres = 5000;
 constexpr double kRoundEvent = 15 * 60; // seconds on either side
-// A third more than they take on paper, where their words are so much smaller than those around them.
-constexpr QSize kCurvePicture(820, 360);
-constexpr QSize kTrackPicture(820, 430); // with the curve and a short list on one page
 constexpr int kWidestVehicle = 160;
 
 QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
@@ -74,7 +71,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     empty_ = new EmptyNote(table_);
     const auto rowOf = [](const QWidgetList& left, const QWidgetList& right) {
         auto* row = new QHBoxLayout;
-        row->setSpacing(8);
+        row->setSpacing(vlk::grid::kColumn);
         for (QWidget* widget : left)
             row->addWidget(widget);
         row->addStretch();
@@ -83,10 +80,10 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
         return row;
     };
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setSpacing(vlk::grid::kRow);
     auto* tanks = new QHBoxLayout;
-    tanks->setSpacing(8);
+    tanks->setSpacing(vlk::grid::kColumn);
     tanks->addWidget(vehicleLabel_);
     tanks->addWidget(vehicle_);
     tanks->addWidget(tanks_, 1);
@@ -135,7 +132,7 @@ void FuelView::setTitle(const QString& title)
     buttons_->setTitle(title);
 }
 
-void FuelView::setPictures(Picture curve, Picture track)
+void FuelView::setPictures(PaintSpan curve, PaintSpan track)
 {
     curve_ = std::move(curve);
     track_ = std::move(track);
@@ -281,12 +278,13 @@ void FuelView::writeSheet(QTextDocument& document) const
     writeFuelSheet(document, {vehicle_->text(),
                               tanks_->captions(),
                               {rise_->value(), fall_->value()},
+                              news(),
                               events(),
                               records_.utcOffset(),
-                              whole.from,
-                              whole.to,
-                              curve_ ? curve_(span, kCurvePicture) : QImage(),
-                              track_ ? track_(span, kTrackPicture) : QImage()});
+                              whole,
+                              span,
+                              curve_,
+                              track_});
 }
 
 void FuelView::retranslate()
@@ -333,15 +331,22 @@ QStringList FuelView::tellReadingsBeyond() const
     return texts;
 }
 
-void FuelView::showState()
+// What is to be known of the list beside it.
+QStringList FuelView::news() const
 {
     QStringList news = tellReadingsBeyond() + markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
         news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
-    news_->setText(news.join(QLatin1Char('\n')));
-    news_->setVisible(!news.isEmpty());
+    return news;
+}
+
+void FuelView::showState()
+{
+    const QStringList told = news();
+    news_->setText(told.join(QLatin1Char('\n')));
+    news_->setVisible(!told.isEmpty());
     const bool isAnyVolume = std::ranges::any_of(litres_, [](double each) { return !std::isnan(each); });
     if (!tanks_->tanks().empty())
         empty_->tell(tr(isAnyVolume ? "rec_256" : "rec_372"));

@@ -4,14 +4,12 @@
 // list. Choosing a line looks at its record in all parts of the window, Enter brings half an hour round it in
 // sight.
 
+#include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel/tank_levels.h"
 #include "telemetry/fuel_view/fuel_list_model.h"
 #include "telemetry/view/shown_records.h"
 
-#include <QImage>
 #include <QWidget>
-
-#include <functional>
 
 class QDoubleSpinBox;
 class QLabel;
@@ -23,7 +21,6 @@ class QTextDocument;
 namespace vlk {
 
 class EmptyNote;
-class HandOver;
 class ListButtons;
 class NoticeBar;
 class TankButton;
@@ -33,9 +30,6 @@ class FuelView : public QWidget
     Q_OBJECT
 
 public:
-    // A picture of what is between two moments.
-    using Picture = std::function<QImage(TimeSpan span, QSize size)>;
-
     // `bar`: the window's, which tells what was handed over; null tells nothing.
     explicit FuelView(ShownRecords* records, QWidget* parent = nullptr, NoticeBar* bar = nullptr);
 
@@ -44,7 +38,7 @@ public:
     // What a file of the list is called by.
     void setTitle(const QString& title);
     // For the sheet on paper; null for none.
-    void setPictures(Picture curve, Picture track);
+    void setPictures(PaintSpan curve, PaintSpan track);
     void retranslate();
 
     // One a record, empty while no sensor is chosen.
@@ -75,6 +69,7 @@ private:
     // Thresholds that are too low for the sensor, with a mark on their fields.
     QStringList markLowThresholds() const;
     QStringList tellReadingsBeyond() const;
+    QStringList news() const;
     TimeSpan spanOfSheet() const;
 
     ShownRecords& records_;
@@ -92,8 +87,8 @@ private:
     QLabel* news_;
     QTableView* table_;
     EmptyNote* empty_;
-    Picture curve_;
-    Picture track_;
+    PaintSpan curve_;
+    PaintSpan track_;
     NumberColumn litres_;
     std::vector<ReadingsBeyond> beyond_; // by tank
     std::vector<LevelMedian> medians_;   // of them

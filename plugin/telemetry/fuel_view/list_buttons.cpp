@@ -1,6 +1,7 @@
 #include "telemetry/fuel_view/list_buttons.h"
 
 #include "telemetry/curves/hand_over.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
@@ -17,7 +18,7 @@ ListButtons::ListButtons(const char* name, HandOver* handOver, QWidget* parent)
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    row->setSpacing(vlk::grid::kColumn);
     for (const auto& [button, kind] : {std::pair(copy_, "Copy"), std::pair(save_, "Save")}) {
         button->setObjectName(
             QStringLiteral("pushButton_%1%2").arg(QLatin1String(kind), QLatin1String(name)));

@@ -4,6 +4,7 @@
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/view/record_cell.h"
+#include "typing/table_look.h"
 
 #include <cmath>
 #include <iterator>
@@ -12,8 +13,8 @@ namespace vlk {
 
 namespace {
 
-// What a spreadsheet takes as a number.
-constexpr int kSheetRole = Qt::UserRole;
+// What a file has.
+constexpr int kFileRole = kCopiedRole + 1;
 
 using Summary = JourneySummary;
 
@@ -50,25 +51,26 @@ constexpr Figure kFigures[] = {
     {"rec_475", Kind::Whole, [](const Summary& s) { return poured(s, s.drains, s.drained); }},
     {"rec_288", Kind::Whole, [](const Summary& s) { return s.greatestSpeed; }},
     {"rec_289", Kind::Whole, [](const Summary& s) { return double(s.records); }},
-    {"rec_290", Kind::Whole, [](const Summary& s) { return double(s.missing); }},
+    {"rec_290", Kind::Whole, [](const Summary& s) { return s.missing; }},
     {"rec_291", Kind::Hours, [](const Summary& s) { return s.withoutFix; }},
 };
 // clang-format on
 constexpr int kFigureCount = static_cast<int>(std::size(kFigures));
 
-QString figureText(const Figure& figure, const Summary& summary, qint32 utcOffset, bool isForSheet)
+QString figureText(const Figure& figure, const Summary& summary, qint32 utcOffset, int role)
 {
     const double number = figure.number(summary);
     const int decimals = figure.kind == Kind::Tenths ? 1 : 0;
-    if (isForSheet && std::isnan(number))
+    const bool isShown = role == Qt::DisplayRole;
+    if (!isShown && std::isnan(number))
         return {};
     switch (figure.kind) {
     case Kind::Moment:
-        return listTime(number, utcOffset);
+        return role == kFileRole ? fileTime(number, utcOffset) : listTime(number, utcOffset);
     case Kind::Hours:
         return hoursText(number);
     default:
-        return isForSheet ? sheetNumber(number, decimals) : numberText(number, decimals);
+        return isShown ? numberText(number, decimals) : sheetNumber(number, decimals);
     }
 }
 
@@ -126,12 +128,12 @@ QVariant SummaryModel::data(const QModelIndex& index, int role) const
     const bool isCaption = !areDays_ && index.column() == 0;
     if (role == Qt::TextAlignmentRole)
         return QVariant((isCaption ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole && role != kSheetRole)
+    if (role != Qt::DisplayRole && role != kCopiedRole && role != kFileRole)
         return {};
     if (isCaption)
         return translated(kFigures[figure].caption);
     const Summary& summary = summaries_[areDays_ ? static_cast<std::size_t>(index.row()) : 0];
-    return figureText(kFigures[figure], summary, utcOffset_, role == kSheetRole);
+    return figureText(kFigures[figure], summary, utcOffset_, role);
 }
 
 QVariant SummaryModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -157,7 +159,7 @@ QString SummaryModel::csv() const
     for (int row = 0; row < rowCount(); ++row) {
         cells.clear();
         for (int column = 0; column < columnCount(); ++column)
-            cells << index(row, column).data(kSheetRole).toString();
+            cells << index(row, column).data(kFileRole).toString();
         csv += csvLine(cells);
     }
     return csv;

@@ -4,6 +4,7 @@
 #include "telemetry/fuel_view/list_buttons.h"
 #include "telemetry/fuel_view/summary_model.h"
 #include "typing/empty_note.h"
+#include "typing/grid.h"
 #include "typing/table_look.h"
 #include "windows/named_widget.h"
 
@@ -38,15 +39,15 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     dressTable(table_, TableUse::read);
     empty_ = new EmptyNote(table_);
     auto* head = new QHBoxLayout;
-    head->setSpacing(8);
+    head->setSpacing(vlk::grid::kColumn);
     head->addWidget(overLabel_);
     head->addWidget(over_);
     head->addStretch();
     head->addWidget(buttons_);
     buttons_->setList(table_, [this] { return model_->csv(); });
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setSpacing(vlk::grid::kRow);
     layout->addLayout(head);
     layout->addWidget(table_, 1);
 

@@ -5,6 +5,7 @@
 #include "fuel/table/fuel_file.h"
 #include "link/device.h"
 #include "telemetry/fuel/fuel_curve.h"
+#include "typing/grid.h"
 #include "typing/line_icon.h"
 #include "windows/fit_to_screen.h"
 #include "windows/named_widget.h"
@@ -52,6 +53,7 @@ TypedTable::TypedTable(const LevelSensor& sensor, const FuelRows& rows, const QS
     auto* const cancel = namedWidget<QPushButton>("pushButton_CancelTable", this);
     cancel->setText(tr("wrd_031"));
     auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(vlk::grid::kColumn);
     buttons->addWidget(fault_, 1);
     buttons->addStretch();
     for (QPushButton* const button : {take, cancel}) {

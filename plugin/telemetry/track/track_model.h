@@ -25,6 +25,8 @@ public:
     // The value that colours the path; speed at first, none where the records have no numbers.
     const std::optional<CurveColumn>& column() const { return column_; }
     void setColumn(const std::optional<CurveColumn>& column);
+    // Its title and unit, in the language of the moment.
+    void retranslate() { chooseColumn(); }
     const ValueClasses& classes() const { return classes_; }
     // Null without a column; a computed one may end before the records.
     const NumberColumn* values() const;

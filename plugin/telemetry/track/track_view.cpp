@@ -4,13 +4,13 @@
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/track/track_canvas.h"
 #include "telemetry/track/track_model.h"
+#include "typing/grid.h"
 #include "windows/named_widget.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QImage>
 #include <QLabel>
 #include <QLineF>
 #include <QLocale>
@@ -100,14 +100,16 @@ TrackView::TrackView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     for (QPushButton* const button : {fit_, handOverMenu_})
         button->setAutoDefault(false);
     auto* const layout = new QGridLayout(this);
-    layout->setContentsMargins(6, 6, 6, 6);
-    layout->setSpacing(6);
+    layout->setContentsMargins(vlk::grid::kAroundWindow);
+    layout->setHorizontalSpacing(vlk::grid::kColumn);
+    layout->setVerticalSpacing(vlk::grid::kRow);
     layout->addWidget(columnsLabel_, 0, 0);
     layout->addWidget(columns_, 0, 1);
     layout->addWidget(fit_, 0, 2);
     layout->addWidget(handOverMenu_, 0, 3);
     layout->addWidget(canvas_, 1, 0, 1, 4);
     auto* const below = new QHBoxLayout;
+    below->setSpacing(vlk::grid::kColumn);
     below->addWidget(place_, 1);
     below->addWidget(spanOnly_);
     layout->addLayout(below, 2, 0, 1, 4);
@@ -142,12 +144,13 @@ void TrackView::retranslate()
     canvas_->setWhatsThis(tr("rec_200"));
     delete handOverMenu_->menu();
     auto* const menu = new QMenu(handOverMenu_);
-    const auto painted = [this](QPainter& painter, const QSize& size) { paint(painter, size); };
+    const auto painted = [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); };
     menu->addAction(tr("rec_187"), this, [this, painted] {
         handOver_->askPicture(QStringLiteral("%1 %2").arg(title_, tr("rec_199")).trimmed(), painted);
     });
     menu->addAction(tr("rec_189"), this, [this, painted] { handOver_->print(painted); });
     handOverMenu_->setMenu(menu);
+    model_->retranslate();
     fillColumns();
     showPlace();
     canvas_->update();
@@ -185,7 +188,7 @@ void TrackView::showPlace()
     canvas_->setAccessibleDescription(text);
 }
 
-void TrackView::paint(QPainter& painter, const QSize& size) const
+void TrackView::paintInSight(QPainter& painter, const QSize& size) const
 {
     const TimeSpan span = model_->isSpanOnly() ? records_->inSight() : records_->wholeTime();
     const qint32 offset = records_->utcOffset();
@@ -200,20 +203,16 @@ void TrackView::paint(QPainter& painter, const QSize& size) const
     paintTrack(painter, room, *model_, canvas_->sightIn(room), model_->shownTime(), paperPalette());
 }
 
-QImage TrackView::picture(const TimeSpan& span, const QSize& size) const
+void TrackView::paint(QPainter& painter, const QSize& size, const TimeSpan& span) const
 {
-    QImage image(size * kPicturePixels, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.scale(kPicturePixels, kPicturePixels);
     const TrackPart part = partIn(model_->path(), span);
     paintTrack(painter, size, *model_, sightOf(part.bounds, size), part.span, paperPalette());
-    return image;
 }
 
 void TrackView::saveTo(const QString& path)
 {
-    handOver_->savePicture(path, [this](QPainter& painter, const QSize& size) { paint(painter, size); });
+    handOver_->savePicture(path,
+                           [this](QPainter& painter, const QSize& size) { paintInSight(painter, size); });
 }
 
 } // namespace vlk

@@ -28,8 +28,8 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // A picture of the part of the track in that span.
-    QImage picture(const TimeSpan& span, const QSize& size) const;
+    // The part of the track in that span, as a picture.
+    void paint(QPainter& painter, const QSize& size, const TimeSpan& span) const;
     // What is in sight, as SVG or PNG by the suffix.
     void saveTo(const QString& path);
     void retranslate();
@@ -38,7 +38,7 @@ private:
     void fillColumns();
     void showColumn(int index);
     void showPlace();
-    void paint(QPainter& painter, const QSize& size) const;
+    void paintInSight(QPainter& painter, const QSize& size) const;
 
     ShownRecords* records_;
     TrackModel* model_;

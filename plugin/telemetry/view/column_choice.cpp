@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QSettings>
 
 #include <algorithm>
@@ -122,7 +123,24 @@ void ColumnChoice::show(const std::vector<int>& columns, bool shown)
             shown_.insert(name);
         table_->setColumnHidden(column, !isShown(column));
     }
+    leaveHidden();
     save();
+}
+
+// The cursor goes to the column behind the one that it was in.
+void ColumnChoice::leaveHidden()
+{
+    const QModelIndex cell = table_->currentIndex();
+    const std::vector<int> columns = table_->shownColumns();
+    if (!cell.isValid() || columns.empty() || !table_->isColumnHidden(cell.column()))
+        return;
+    const QHeaderView* const heads = table_->horizontalHeader();
+    const int place = heads->visualIndex(cell.column());
+    const auto behind =
+        std::ranges::find_if(columns, [&](int column) { return heads->visualIndex(column) > place; });
+    table_->selectionModel()->setCurrentIndex(
+        cell.siblingAtColumn(behind == columns.end() ? columns.back() : *behind),
+        QItemSelectionModel::NoUpdate);
 }
 
 bool ColumnChoice::canMove(int column, int steps) const

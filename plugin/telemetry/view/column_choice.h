@@ -49,6 +49,7 @@ public:
 private:
     void load();
     void save() const;
+    void leaveHidden();
     void keepOrder();
     void apply();
     void lookOn();

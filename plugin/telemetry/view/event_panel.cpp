@@ -49,7 +49,7 @@ EventPanel::EventPanel(QWidget* parent)
     frame->addWidget(group_);
 
     auto* grid = new QGridLayout(group_);
-    grid->setHorizontalSpacing(grid::column);
+    grid->setHorizontalSpacing(grid::kColumn);
     grid->addWidget(numberText_, 0, 0);
     grid->addWidget(number_, 0, 1);
     grid->addWidget(timeText_, 0, 2);

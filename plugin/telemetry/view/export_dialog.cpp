@@ -1,6 +1,8 @@
 #include "telemetry/view/export_dialog.h"
 
+#include "base/last_folder.h"
 #include "link/device.h"
+#include "typing/grid.h"
 #include "windows/save_dialog.h"
 
 #include <QButtonGroup>
@@ -31,9 +33,9 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     sign_->setObjectName(QStringLiteral("comboBox_Sign"));
     columns_->setObjectName(QStringLiteral("checkBox_Columns"));
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(9, 9, 9, 9);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(6);
+    grid->setContentsMargins(vlk::grid::kAroundPage);
+    grid->setHorizontalSpacing(vlk::grid::kColumn);
+    grid->setVerticalSpacing(vlk::grid::kRow);
     int row = 0;
     const auto addCaption = [&](const char* key, QWidget* field) {
         auto* caption = new QLabel(tr(key), this);
@@ -61,6 +63,7 @@ ExportDialog::ExportDialog(const ExportChoice& choice, const Counts& counts, QWi
     columns_->setChecked(choice.onlyShownColumns);
     grid->addWidget(columns_, row++, 1);
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(vlk::grid::kColumn);
     auto* save = new QPushButton(tr("rec_094"), this);
     save->setObjectName(QStringLiteral("pushButton_SaveAs"));
     save->setDefault(true);
@@ -100,11 +103,15 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
 {
     const ExportFormRow& row = rowOf(form);
     const QString suffix = QLatin1String(row.suffix);
-    SaveDialog dialog(parent, tr("rec_085"), vlkDevice ? vlkDevice->tmiFolder() : QString(),
-                      QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix), suffix);
+    const QString folder = lastFolder(FileKind::records, vlkDevice ? vlkDevice->tmiFolder() : QString());
+    SaveDialog dialog(parent, tr("rec_085"), folder, QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix),
+                      suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
-    return dialog.ask();
+    const QString path = dialog.ask();
+    if (!path.isEmpty())
+        rememberFolder(FileKind::records, path);
+    return path;
 }
 
 } // namespace vlk

@@ -7,7 +7,14 @@ namespace vlk {
 FileOpening::FileOpening(WorkProgress* progress) : QObject(progress), progress_(progress)
 {
     slices_.setInterval(0);
-    connect(&slices_, &QTimer::timeout, this, [this] { isRead_ ? end() : goOn(kSliceMs); });
+    connect(&slices_, &QTimer::timeout, this, [this] {
+        if (!isRead_)
+            goOn(kSliceMs);
+        else if (!contents_)
+            take();
+        else
+            end();
+    });
     connect(progress, &WorkProgress::cancelled, this, [this] {
         if (!file_)
             return;
@@ -24,8 +31,10 @@ void FileOpening::start(const QString& path, TelemetryReading reading)
     progress_->start("rec_072");
     slices_.start();
     goOn(kQuietMs);
-    if (isRead_)
-        end();
+    if (!isRead_)
+        return;
+    take();
+    end();
 }
 
 void FileOpening::stop()
@@ -35,6 +44,7 @@ void FileOpening::stop()
     slices_.stop();
     progress_->end();
     file_.reset();
+    contents_.reset();
 }
 
 void FileOpening::goOn(int milliseconds)
@@ -43,10 +53,16 @@ void FileOpening::goOn(int milliseconds)
     progress_->setShare(file_->share());
 }
 
-// In a turn of its own where the reading took several.
+// As end(), in a turn of its own where the reading took several.
+void FileOpening::take()
+{
+    contents_ = std::make_shared<TelemetryContents>(file_->take());
+    Q_EMIT wholeRead(contents_);
+}
+
 void FileOpening::end()
 {
-    const auto contents = std::make_shared<TelemetryContents>(file_->take());
+    const auto contents = std::move(contents_);
     stop();
     Q_EMIT opened(contents);
 }

@@ -27,16 +27,20 @@ public:
     void stop();
 
 Q_SIGNALS:
+    // It is whole; where the reading took several turns, opened() comes in a later one than this.
+    void wholeRead(const std::shared_ptr<vlk::TelemetryContents>& contents);
     void opened(const std::shared_ptr<vlk::TelemetryContents>& contents);
     void cancelled();
 
 private:
     void goOn(int milliseconds);
+    void take();
     void end();
 
     WorkProgress* progress_;
     std::unique_ptr<StoredFile> file_;
-    bool isRead_ = false; // and not yet told
+    bool isRead_ = false;                         // and not yet told
+    std::shared_ptr<TelemetryContents> contents_; // likewise, once they are taken from the file
     QTimer slices_;
 };
 

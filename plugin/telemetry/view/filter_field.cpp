@@ -88,14 +88,15 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     completer_->setCompletionMode(QCompleter::PopupCompletion);
     completer_->setWidget(line_);
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(grid::aroundWindow);
-    grid->setHorizontalSpacing(grid::column);
-    grid->setVerticalSpacing(grid::row);
+    grid->setContentsMargins(grid::kAroundWindow);
+    grid->setHorizontalSpacing(grid::kColumn);
+    grid->setVerticalSpacing(grid::kRow);
     grid->addWidget(caption_, 0, 0);
     grid->addWidget(line_, 0, 1);
     grid->addWidget(fault_, 1, 1);
     grid->setColumnStretch(1, 1);
     connect(line_, &QLineEdit::textEdited, this, &FilterField::offer);
+    connect(line_, &QLineEdit::textChanged, this, &FilterField::edited);
     connect(line_, &QLineEdit::returnPressed, this, &FilterField::applyTyped);
     connect(latest_, &QAction::triggered, this, &FilterField::offerLatest);
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
@@ -191,6 +192,11 @@ void FilterField::complete(const QString& text)
     const int cursor = line_->cursorPosition();
     line_->setSelection(chosen->from, cursor - chosen->from);
     line_->insert(text + QLatin1Char(' '));
+}
+
+QString FilterField::appliedInstead() const
+{
+    return line_->text() == applied_ ? QString() : applied_;
 }
 
 bool FilterField::giveBack()

@@ -34,6 +34,8 @@ public:
     void apply(const QString& text);
     void clear() { apply({}); }
     bool isApplied() const { return !applied_.isEmpty(); }
+    // What is applied while the field holds something else; empty where it is the same, or nothing.
+    QString appliedInstead() const;
     // What is applied, in place of what was typed since; false where nothing was.
     bool giveBack();
     // The cell as a condition.
@@ -44,6 +46,7 @@ public:
 
 Q_SIGNALS:
     void applied();
+    void edited();
 
 private:
     void offer();

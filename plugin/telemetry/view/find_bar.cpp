@@ -30,8 +30,8 @@ FindBar::FindBar(RecordFinder* finder, QWidget* parent)
     told_->setObjectName(QStringLiteral("label_Find"));
     told_->setTextFormat(Qt::PlainText);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(grid::aroundWindow);
-    row->setSpacing(grid::column);
+    row->setContentsMargins(grid::kAroundWindow);
+    row->setSpacing(grid::kColumn);
     row->addWidget(caption_);
     row->addWidget(words_, 1);
     const std::tuple<QToolButton*, const char*, LineIcon, int> steps[] = {

@@ -7,8 +7,8 @@
 VLK_Form_Tmi_F3_Tab::VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent)
     : QWidget(parent), titleKey_(titleKey), sideBySide_(new QHBoxLayout), layout_(new QVBoxLayout(this))
 {
-    layout_->setContentsMargins(vlk::grid::aroundWindow);
-    layout_->setSpacing(vlk::grid::group);
+    layout_->setContentsMargins(vlk::grid::kAroundWindow);
+    layout_->setSpacing(vlk::grid::kGroup);
     layout_->addLayout(sideBySide_);
     layout_->addStretch();
 }
@@ -28,7 +28,7 @@ vlk::RecordGroup* VLK_Form_Tmi_F3_Tab::addGroup(int column, const char* objectNa
 {
     while (static_cast<int>(columns_.size()) <= column) {
         columns_.push_back(new QVBoxLayout);
-        columns_.back()->setSpacing(vlk::grid::group);
+        columns_.back()->setSpacing(vlk::grid::kGroup);
         columns_.back()->addStretch();
         sideBySide_->addLayout(columns_.back(), 1);
     }

@@ -121,13 +121,13 @@ VLK_Form_TMI_Production::VLK_Form_TMI_Production(vlk::EventPanel* panel, QWidget
     navigation->setRowStretch(navigation->rowCount(), 1);
 
     auto* left = new QVBoxLayout;
-    left->setSpacing(grid::group);
+    left->setSpacing(grid::kGroup);
     for (std::size_t i = 0; i + 1 < groups_.size(); ++i)
         left->addWidget(groups_[i].box);
     left->addStretch();
     auto* content = new QWidget;
     content->setLayout(columns_);
-    columns_->setContentsMargins(grid::aroundPage);
+    columns_->setContentsMargins(grid::kAroundPage);
     columns_->addLayout(left, 2);
     columns_->addWidget(groups_.back().box, 3);
     scroll_->setFrameShape(QFrame::NoFrame);
@@ -145,8 +145,8 @@ QGridLayout* VLK_Form_TMI_Production::addGroup(const char* name, const char* key
     box->setObjectName(QLatin1String(name));
     dressGroup(box);
     auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(grid::inGroup);
-    grid->setHorizontalSpacing(grid::column);
+    grid->setContentsMargins(grid::kInGroup);
+    grid->setHorizontalSpacing(grid::kColumn);
     groups_.push_back({box, grid, key});
     return grid;
 }
@@ -214,7 +214,7 @@ void VLK_Form_TMI_Production::alignValues()
     int segment = 0;
     for (std::size_t i = 0; i < std::size(kLastSegment); ++i) {
         segment += widestText(segmentValues_[i]->fontMetrics(), kLastSegment[i].item) +
-                   segmentCaptions_[i + 1]->sizeHint().width() + 2 * grid::column;
+                   segmentCaptions_[i + 1]->sizeHint().width() + 2 * grid::kColumn;
     }
     groups_.back().grid->setColumnMinimumWidth(1, segment);
 }

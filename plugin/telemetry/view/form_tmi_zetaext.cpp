@@ -60,8 +60,8 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
     groupBox_NaviMain_->setObjectName(QStringLiteral("groupBox_NaviMain"));
     dressGroup(groupBox_NaviMain_);
     auto* grid = new QGridLayout(groupBox_NaviMain_);
-    grid->setContentsMargins(grid::inGroup);
-    grid->setHorizontalSpacing(grid::column);
+    grid->setContentsMargins(grid::kInGroup);
+    grid->setHorizontalSpacing(grid::kColumn);
     rows_.add(grid, kPlace);
     rows_.add(grid, kPacketMotion, 2);
 

@@ -51,9 +51,9 @@ RecordGroup::RecordGroup(const char* objectName, const char* titleKey, QWidget* 
 {
     setObjectName(QLatin1String(objectName));
     dressGroup(this);
-    grid_->setContentsMargins(grid::inGroup);
-    grid_->setHorizontalSpacing(grid::column);
-    grid_->setVerticalSpacing(grid::row);
+    grid_->setContentsMargins(grid::kInGroup);
+    grid_->setHorizontalSpacing(grid::kColumn);
+    grid_->setVerticalSpacing(grid::kRow);
 }
 
 int RecordGroup::startBelow() const

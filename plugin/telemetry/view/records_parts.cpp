@@ -55,18 +55,24 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, NoticeBar* bar, Q
     auto* summary = new SummaryView(shown, parent, bar);
     auto* fuel = new FuelView(shown, parent, bar);
     const auto pictureOf = [](auto* view) {
-        return [view](const TimeSpan& span, const QSize& size) { return view->picture(span, size); };
+        return [view](QPainter& painter, const QSize& size, const TimeSpan& span) {
+            view->paint(painter, size, span);
+        };
     };
     fuel->setPictures(pictureOf(curves), pictureOf(track));
     QObject::connect(fuel, &FuelView::fuelChanged, summary,
                      [shown, fuel, summary] { tellFuel(shown, *fuel, summary); });
     RecordsPart top = titledPart(curves, nullptr);
     top.stepBack = [curves] { return curves->endCursorB(); };
+    constexpr const char* fuelHelp = "r-7106fuelList.html";
+    RecordsPart figures = titledPart(summary, "rec_292");
+    figures.helpPage = fuelHelp;
     return {
         std::move(top),
         titledPart(track, "rec_199"),
-        titledPart(summary, "rec_292"),
-        {fuel, "rec_295",
+        std::move(figures),
+        {fuel,
+         "rec_295",
          [shown, fuel, summary] {
              fuel->retranslate();
              tellFuel(shown, *fuel, summary);
@@ -74,7 +80,9 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, NoticeBar* bar, Q
          [fuel](const QString& name) {
              fuel->setTitle(QFileInfo(name).completeBaseName());
              fuel->setVehicle(vehicleOfFile(name));
-         }},
+         },
+         {},
+         fuelHelp},
     };
 }
 

@@ -12,6 +12,8 @@ namespace vlk {
 class NoticeBar;
 class ShownRecords;
 
+inline constexpr const char* kRecordsHelp = "r-7106records.html";
+
 struct RecordsPart
 {
     QWidget* widget;
@@ -21,6 +23,7 @@ struct RecordsPart
     std::function<void(const QString& name)> setName;
     // What Esc takes back in it; false, or null, where there is nothing.
     std::function<bool()> stepBack = {};
+    const char* helpPage = kRecordsHelp;
 };
 
 // In the order in which they stand. `bar`: of the window.

@@ -2,6 +2,7 @@
 
 #include "telemetry/view/records_memory.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QSettings>
 #include <QTabWidget>
@@ -99,6 +100,17 @@ bool RecordsPlaces::stepBack()
 {
     return std::ranges::any_of(parts_,
                                [](const RecordsPart& part) { return part.stepBack && part.stepBack(); });
+}
+
+const char* RecordsPlaces::helpPage() const
+{
+    const QWidget* const focused = QApplication::focusWidget();
+    // The tabs stand for the view that they show.
+    const QWidget* const at =
+        views_ && focused && focused->parentWidget() == views_ ? views_->currentWidget() : focused;
+    const auto part = std::ranges::find_if(
+        parts_, [at](const RecordsPart& each) { return each.widget == at || each.widget->isAncestorOf(at); });
+    return part == parts_.end() ? kRecordsHelp : part->helpPage;
 }
 
 void RecordsPlaces::retranslate()

@@ -140,6 +140,11 @@ EndedSave SaveSequence::endNow()
     return {.ended = 1, .records = static_cast<std::uint32_t>(carryOutCancel())};
 }
 
+SaveSequence::Fetched SaveSequence::fetched() const
+{
+    return saveState_ == Collecting ? Fetched{records_.size(), std::size_t{saveTotal_} + 1} : Fetched{};
+}
+
 void SaveSequence::step(const QByteArray& record)
 {
     if (isRunning() && saveCancelled_) {

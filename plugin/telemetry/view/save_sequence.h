@@ -65,6 +65,13 @@ public:
     bool isRunning() const { return saveState_ != Idle; }
     // A cancel waits for the next record.
     bool isCancelled() const { return isRunning() && saveCancelled_; }
+    // Of how many records how many have come; none before the file is named.
+    struct Fetched
+    {
+        std::size_t records = 0;
+        std::size_t all = 0;
+    };
+    vlk::SaveSequence::Fetched fetched() const;
 
     // The zone of the file's times, in seconds east of UTC.
     void setTimeOffset(int seconds) { origin_.timeOffset = seconds; }

@@ -2,33 +2,37 @@
 
 #include "base/clock.h"
 #include "telemetry/files/title_lines.h"
+#include "telemetry/fuel/vehicle_times.h"
 
 #include <algorithm>
 #include <numeric>
 
 namespace vlk {
 
+void ShownRecords::prepare(const std::shared_ptr<TelemetryContents>& contents)
+{
+    prepared_.emplace();
+    prepared_->contents = contents;
+    prepared_->columns = std::make_unique<RecordColumns>(
+        contents->records, typeLetters(contents->origin.titles).toLatin1().toStdString(), contents->damaged);
+    prepared_->byTime = recordsByTime(*prepared_->columns);
+}
+
 void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Reading reading)
 {
+    if (!prepared_ || prepared_->contents != contents)
+        prepare(contents);
     steps_->clear();
     reading_ = reading;
     contents_ = std::move(contents);
-    columns_ = std::make_unique<RecordColumns>(contents_->records,
-                                               typeLetters(contents_->origin.titles).toLatin1().toStdString(),
-                                               contents_->damaged);
+    columns_ = std::move(prepared_->columns);
+    byTime_ = std::move(prepared_->byTime);
+    prepared_.reset();
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());
     std::iota(passing_.begin(), passing_.end(), 0);
     passes_ = {};
     chosen_.clear();
-    byTime_.clear();
-    byTime_.reserve(times.size());
-    std::ranges::copy_if(passing_, std::back_inserter(byTime_),
-                         [&](int record) { return times[record] != 0; });
-    const auto timeOfRecord = [&](int record) { return times[record]; };
-    // Mostly they are, and sorting a million takes a while even then.
-    if (!std::ranges::is_sorted(byTime_, {}, timeOfRecord))
-        std::ranges::stable_sort(byTime_, {}, timeOfRecord);
     wholeTime_ = byTime_.empty() ? TimeSpan()
                                  : TimeSpan{double(times[byTime_.front()]), double(times[byTime_.back()])};
     inSight_ = wholeTime_;

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace vlk {
 
@@ -58,6 +59,9 @@ public:
         connect(steps_, &StepQueue::wentOn, this, &ShownRecords::wentOn);
     }
 
+    // What is to be known of contents before they are shown, some 20 ms of a million records, may be found
+    // out in an earlier turn.
+    void prepare(const std::shared_ptr<TelemetryContents>& contents);
     // All of them pass, the first one is looked at, all of their time is in sight.
     // While a file is read there are none yet.
     enum class Reading { done, underway };
@@ -124,6 +128,14 @@ Q_SIGNALS:
     void wentOn(double share);
 
 private:
+    struct Prepared
+    {
+        std::shared_ptr<TelemetryContents> contents;
+        std::unique_ptr<RecordColumns> columns;
+        std::vector<int> byTime;
+    };
+
+    std::optional<Prepared> prepared_;
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
     Reading reading_ = Reading::done;

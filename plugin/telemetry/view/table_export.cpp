@@ -69,6 +69,7 @@ void TableExport::start(const QString& path)
     const ExportForm form = formOfEnding(path, choice_.form);
     isFormOfEnding_ = form != choice_.form;
     choice_.form = form;
+    notices_->end(kHandedOver);
     std::vector<int> records(shown_->records().size());
     if (choice_.what == ExportChoice::whole)
         std::iota(records.begin(), records.end(), 0);
@@ -92,6 +93,7 @@ ExportOptions TableExport::options() const
     options.title = QFileInfo(name_).completeBaseName();
     options.utcOffset = shown_->records().utcOffset();
     options.decimalComma = choice_.decimalComma;
+    options.isMarked = true;
     options.eventText = &requests::eventText;
     if (!choice_.onlyShownColumns || !rowOf(choice_.form).hasDecimalSign)
         return options;
@@ -106,9 +108,13 @@ void TableExport::tellWritten(const QString& path)
 {
     notices_->tellNews(kHandedOver, [path, count = exported_, leftOut = leftOut_, form = choice_.form,
                                      isFormOfEnding = isFormOfEnding_] {
+        const QString ending = QFileInfo(path).suffix();
         QStringList told{tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path))};
         if (isFormOfEnding)
             told << tr("rec_470").arg(tr(rowOf(form).key));
+        else if (!ending.isEmpty() &&
+                 ending.compare(QLatin1String(rowOf(form).suffix), Qt::CaseInsensitive) != 0)
+            told << tr("rec_510").arg(ending, tr(rowOf(form).key));
         if (leftOut > 0)
             told << tr("rec_461").arg(QLocale().toString(leftOut));
         if (told.size() > 1) // more sentences behind the name of the file
@@ -122,7 +128,8 @@ void TableExport::tellFailed(const QString& path, const QString& reason)
     notices_->tell(kHandedOver, [this, path, reason] {
         return Notice{Mark::invalid,
                       tr("tmiw_187").arg(QDir::toNativeSeparators(path), fileErrorText(reason)),
-                      {{tr("rec_007"), [this] { ask(); }}}};
+                      // The button of the window has the letter.
+                      {{tr("rec_007").remove(QLatin1Char('&')), [this] { ask(); }}}};
     });
 }
 

@@ -37,7 +37,7 @@ int widthOfTime(const QLabel* label)
 QHBoxLayout* besideEachOther(std::initializer_list<QLabel*> labels)
 {
     auto* layout = new QHBoxLayout;
-    layout->setSpacing(grid::column);
+    layout->setSpacing(grid::kColumn);
     for (QLabel* label : labels) {
         label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         label->setMinimumWidth(0);

@@ -8,6 +8,7 @@
 #include "telemetry/view/file_opening.h"
 #include "telemetry/view/filter_field.h"
 #include "telemetry/view/find_bar.h"
+#include "telemetry/view/growing_records.h"
 #include "telemetry/view/record_finder.h"
 #include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
@@ -49,6 +50,7 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 680;
+constexpr int kFilterWidth = 240; // of one that is told below the table
 
 } // namespace
 
@@ -61,6 +63,8 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
       notices_(new NoticeBar(this, QStringLiteral("label_Damage"))), progress_(new WorkProgress(this)),
       opening_(new FileOpening(progress_)),
       export_(new TableExport(shown_, model_, table_, notices_, progress_, this)),
+      growing_(new GrowingRecords(
+          shown_, notices_, [this] { export_->ask(); }, this)),
       empty_(new EmptyNote(table_)), columnsButton_(new QPushButton(this)),
       exportButton_(new QPushButton(this)), helpButton_(new QPushButton(this)), count_(new QLabel(this)),
       work_(new QLabel(this)), sums_(new QLabel(this))
@@ -110,10 +114,12 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
         work_->setText(share < 1 ? tr("rec_471").arg(static_cast<int>(100 * share)) : QString());
     });
     connect(filter_, &FilterField::applied, this, &VLK_Widget_Tmi_Table::showCount);
+    connect(filter_, &FilterField::edited, this, &VLK_Widget_Tmi_Table::showCount);
     connect(empty_, &EmptyNote::pressed, filter_, &FilterField::clear);
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
     connect(helpButton_, &QPushButton::clicked, this,
-            [] { requests::showHelp(QStringLiteral("r-7106records.html")); });
+            [this] { requests::showHelp(QLatin1String(places_->helpPage())); });
+    connect(opening_, &FileOpening::wholeRead, shown_, &ShownRecords::prepare);
     connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
     connect(opening_, &FileOpening::cancelled, this, [this] {
@@ -135,8 +141,8 @@ void VLK_Widget_Tmi_Table::layOut()
     places_ = new RecordsPlaces(place, makeRecordsParts(shown_, notices_, this), this);
     auto* status = new QWidget(this);
     auto* line = new QHBoxLayout(status);
-    line->setContentsMargins(grid::aroundWindow);
-    line->setSpacing(grid::pair);
+    line->setContentsMargins(grid::kAroundWindow);
+    line->setSpacing(grid::kPair);
     line->addWidget(count_);
     line->addWidget(work_);
     line->addStretch(1);
@@ -202,25 +208,28 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
                                 Growth growth)
 {
     opening_->stop();
+    filter_->setFocus();
     name_ = name;
-    growth_ = growth;
+    growing_->forget();
     for (const int notice : {kTooMany, kHandedOver})
         notices_->end(notice);
     showContents(contents);
     places_->setName(name);
     export_->setName(name);
     showTitle();
-    if (growth == Growth::none)
-        return;
-    const std::vector<quint32>& numbers = shown_->columns().recordNumbers();
-    newest_ = numbers.empty() ? 0 : *std::ranges::max_element(numbers);
+    if (growth == Growth::live)
+        growing_->begin();
+}
+
+void VLK_Widget_Tmi_Table::endGrowth()
+{
+    growing_->end();
 }
 
 void VLK_Widget_Tmi_Table::takeLive(const QByteArray& record, quint32 number)
 {
-    if (growth_ == Growth::none || number <= newest_)
+    if (!growing_->takes(number))
         return;
-    newest_ = number;
     shown_->append(bytesAt(record.constData(), record.size()), table_->areSeveralSelected()
                                                                    ? ShownRecords::Current::stays
                                                                    : ShownRecords::Current::follows);
@@ -315,8 +324,13 @@ void VLK_Widget_Tmi_Table::showCount()
     const QLocale locale;
     const QString all = locale.toString(shown_->records().size());
     const bool areAllShown = model_->rowCount() == shown_->records().size();
-    const QString count =
+    QString count =
         areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
+    const QString filter = filter_->appliedInstead();
+    if (!filter.isEmpty())
+        count =
+            tr("rec_511").arg(count, count_->fontMetrics().elidedText(filter, Qt::ElideRight, kFilterWidth));
+    count_->setToolTip(filter);
     const auto damaged = std::ranges::count_if(shown_->contents()->damaged,
                                                [this](int record) { return model_->rowOf(record) >= 0; });
     count_->setText(damaged > 0 ? tr("rec_297").arg(count, locale.toString(qlonglong(damaged))) : count);

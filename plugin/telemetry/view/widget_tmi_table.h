@@ -15,6 +15,7 @@ class EmptyNote;
 class FileOpening;
 class FilterField;
 class FindBar;
+class GrowingRecords;
 class NoticeBar;
 class RecordsModel;
 class RecordsPlaces;
@@ -40,7 +41,7 @@ public:
               Growth growth = Growth::none);
     // From its type byte on; takes part where it is newer than all on show, until the growth ends.
     void takeLive(const QByteArray& record, quint32 number);
-    void endGrowth() { growth_ = Growth::none; }
+    void endGrowth();
     // Goes to a record that another window shows, where these records are on show.
     void follow(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
     void retranslate();
@@ -83,6 +84,7 @@ private:
     vlk::WorkProgress* progress_;
     vlk::FileOpening* opening_;
     vlk::TableExport* export_;
+    vlk::GrowingRecords* growing_;
     vlk::EmptyNote* empty_;
     QPushButton* columnsButton_;
     QPushButton* exportButton_;
@@ -92,6 +94,4 @@ private:
     QLabel* sums_;
     QString name_;
     QString path_; // of the file that was opened last
-    Growth growth_ = Growth::none;
-    quint32 newest_ = 0; // number on show
 };

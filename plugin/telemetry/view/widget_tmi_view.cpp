@@ -14,9 +14,10 @@
 #include "typing/title_style.h"
 #include "windows/fit_to_screen.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScopedValueRollback>
 
 using namespace vlk;
@@ -25,6 +26,15 @@ namespace {
 
 constexpr int kFirstProductionMode = 1;
 enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken, kCancelled };
+
+// Both ends of a name, which tell the vehicle and the end of the period: the bar has two lines.
+QString nameForBar(const QString& name)
+{
+    constexpr int kBegin = 18;
+    constexpr int kEnd = 16;
+    return name.size() <= kBegin + 1 + kEnd ? name
+                                            : name.left(kBegin) + QStringLiteral("…") + name.right(kEnd);
+}
 
 std::unique_ptr<Ui::VLK_Designer_Widget_Tmi_View> setUpViewUi(QDialog* window)
 {
@@ -148,6 +158,7 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     // They would end it.
     ui_->checkBox_Get_Auto_TMI->setEnabled(!running);
     setManualBlocked(running ? "tmiw_176" : nullptr);
+    ui_->pushButton_Close->setToolTip(running ? tr("tmiw_313") : QString());
     notices_->end(kCancelled);
     if (running) {
         age_.await(false);
@@ -183,7 +194,7 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
         const QLocale locale;
         QString held = tr("tmiw_186")
                            .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)),
-                                part.until, QDir::toNativeSeparators(part.path));
+                                part.until, nameForBar(QFileInfo(part.path).fileName()));
         if (!part.earlier.isEmpty())
             held += QLatin1Char(' ') + tr("tmiw_294").arg(QFileInfo(part.earlier).fileName());
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
@@ -222,10 +233,30 @@ void VLK_Widget_Tmi_View::deviceDisconnected()
 
 void VLK_Widget_Tmi_View::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && save_.isRunning())
-        cancelSave();
-    else
+    if (event->key() != Qt::Key_Escape || !save_.isRunning())
         QDialog::keyPressEvent(event);
+    else if (save_.fetched().records == 0 || save_.isCancelled())
+        cancelSave();
+    else if (!event->isAutoRepeat() && agreesToEndSave())
+        save_.endNow();
+}
+
+// The save goes on meanwhile; a question that has come too late goes by itself.
+bool VLK_Widget_Tmi_View::agreesToEndSave()
+{
+    const auto [records, all] = save_.fetched();
+    const QLocale locale;
+    QMessageBox box(QMessageBox::Question, tr("tmiw_001"),
+                    tr("tmiw_310").arg(locale.toString(quint64(records)), locale.toString(quint64(all))),
+                    QMessageBox::NoButton, this);
+    box.setObjectName(QStringLiteral("messageBox_EndSave"));
+    const auto* const end = box.addButton(tr("tmiw_311"), QMessageBox::AcceptRole);
+    auto* const goOn = box.addButton(tr("tmiw_312"), QMessageBox::RejectRole);
+    box.setDefaultButton(goOn);
+    box.setEscapeButton(goOn);
+    connect(&save_, &vlk::SaveSequence::runningChanged, &box, &QDialog::reject);
+    box.exec();
+    return box.clickedButton() == end && save_.isRunning();
 }
 
 // The next record may be long in coming.
@@ -251,6 +282,11 @@ void VLK_Widget_Tmi_View::stopRequests()
 
 void VLK_Widget_Tmi_View::closeEvent(QCloseEvent* event)
 {
+    // By the user's hand; whatever closes it otherwise has no question to put.
+    if (event->spontaneous() && save_.fetched().records > 0 && !save_.isCancelled() && !agreesToEndSave()) {
+        event->ignore();
+        return;
+    }
     times_.rememberChosen();
     stopRequests();
     QDialog::closeEvent(event);
@@ -341,6 +377,7 @@ void VLK_Widget_Tmi_View::retranslate()
     tellNotTaken({});
     setControlTexts(*ui_);
     setToolTips(*ui_, blockedBy_);
+    ui_->pushButton_Close->setToolTip(save_.isRunning() ? tr("tmiw_313") : QString());
     pages_.setCommandsBlocked(blockedBy_);
     slot_valueChanged_horizontalSlider_Auto_Tmi(ui_->horizontalSlider_Auto_Tmi->value());
     setTitle();

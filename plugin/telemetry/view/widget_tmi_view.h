@@ -79,7 +79,8 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    // Escape is the Cancel of a save that runs, before it closes the window.
+    // Escape is the Cancel of a save that runs, before it closes the window. It asks where records have come,
+    // as the cross of the window does: minutes of reading want more than one key that is pressed by habit.
     void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
@@ -123,6 +124,7 @@ private:
     void showPart(const vlk::PartOfPeriod& part);
     void tellNoServer(bool isNone);
     void cancelSave();
+    bool agreesToEndSave();
     void stopRequests();
     void startSave(vlk::SaveSequence::Mode mode);
     bool tookPeriod();

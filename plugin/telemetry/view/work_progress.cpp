@@ -28,8 +28,8 @@ WorkProgress::WorkProgress(QWidget* parent)
     cancel_->setObjectName(QStringLiteral("pushButton_CancelWork"));
     cancel_->setAutoDefault(false);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(grid::aroundWindow);
-    row->setSpacing(grid::column);
+    row->setContentsMargins(grid::kAroundWindow);
+    row->setSpacing(grid::kColumn);
     row->addWidget(text_);
     row->addWidget(bar_, 1);
     row->addWidget(left_);

@@ -169,7 +169,7 @@ QString Binder::whyDisabled(const Target& target) const
 
 QString Binder::whyDisabled(const QWidget* widget) const
 {
-    for (const QWidget* outer = widget; outer && !outer->isWindow(); outer = outer->parentWidget()) {
+    for (const QWidget* outer = widget; !outer->isWindow(); outer = outer->parentWidget()) {
         for (const Target& target : targets_) {
             if (target.widget == outer && target.effect == Enable::Effect::enabled && !outer->isEnabled())
                 return whyDisabled(target);

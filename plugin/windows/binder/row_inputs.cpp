@@ -1,6 +1,7 @@
 #include "windows/binder/row_inputs.h"
 
 #include "settings/table_layout.h"
+#include "typing/grid.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -75,7 +76,7 @@ void RowLines::addPaired(const Setting& setting, QWidget* label, QWidget* input)
     }
     if (setting.is<Flag>()) {
         auto* pair = new QHBoxLayout;
-        pair->setSpacing(6);
+        pair->setSpacing(vlk::grid::kColumn);
         pair->addWidget(input);
         pair->addWidget(label, 1);
         grid_->addLayout(pair, line_, half_, 1, 2);

@@ -1,0 +1,58 @@
+#include "window/unwritten_files.h"
+
+#include "road/secret_file.h"
+
+#include <QDir>
+#include <QLoggingCategory>
+
+Q_LOGGING_CATEGORY(lcUnwritten, "vlk.workbench.unwritten")
+
+namespace workbench {
+
+namespace {
+
+QFileInfoList filesIn(const QString& folder)
+{
+    return QDir(folder).entryInfoList({QStringLiteral("*.xml")}, QDir::Files);
+}
+
+void removeFile(const QString& path)
+{
+    if (!QFile::remove(path))
+        qCWarning(lcUnwritten) << "cannot remove" << path;
+}
+
+} // namespace
+
+QString UnwrittenFiles::take(const QString& path) const
+{
+    const QFileInfo file(path);
+    const QDir folder(folder_);
+    folder.mkpath(QStringLiteral("."));
+    QString aside = folder.filePath(file.fileName());
+    for (int number = 2; QFile::exists(aside); ++number)
+        aside = folder.filePath(QStringLiteral("%1_%2.xml").arg(file.completeBaseName()).arg(number));
+    if (!QFile::rename(path, aside))
+        return path;
+    QFile::setPermissions(aside, kOwnerOnly);
+    return aside;
+}
+
+void UnwrittenFiles::drop(const QByteArray& document) const
+{
+    for (const QFileInfo& info : filesIn(folder_)) {
+        QFile file(info.filePath());
+        if (info.size() == document.size() && file.open(QIODevice::ReadOnly) && file.readAll() == document)
+            removeFile(info.filePath());
+    }
+}
+
+void UnwrittenFiles::dropOlder(int days, const QDateTime& now) const
+{
+    for (const QFileInfo& info : filesIn(folder_)) {
+        if (days > 0 && info.lastModified().daysTo(now) > days)
+            removeFile(info.filePath());
+    }
+}
+
+} // namespace workbench

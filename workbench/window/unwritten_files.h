@@ -1,0 +1,29 @@
+#pragma once
+
+// The files that the plug-in wanted to be written, from that moment until the tracker holds what is in them:
+// taken aside into a folder of their own, each under a name that nothing else takes, since the plug-in names
+// its files by the minute. Passwords stand in them: only their owner can read them.
+
+#include <QDateTime>
+#include <QString>
+
+namespace workbench {
+
+class UnwrittenFiles
+{
+public:
+    // Made with the first file.
+    explicit UnwrittenFiles(const QString& folder) : folder_(folder) {}
+
+    // Where the file is from now on; where it cannot be moved, it stays where it is.
+    QString take(const QString& path) const;
+    // The tracker holds this: all files of it have done their work.
+    void drop(const QByteArray& document) const;
+    // Those that are older than so many days. 0: none.
+    void dropOlder(int days, const QDateTime& now) const;
+
+private:
+    QString folder_;
+};
+
+} // namespace workbench
