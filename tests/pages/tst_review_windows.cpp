@@ -439,6 +439,10 @@ private Q_SLOTS:
         last->setFocus();
         QTest::keyClick(last, Qt::Key_Tab);
         QVERIFY(child<QWidget>("FLDS")->isAncestorOf(QApplication::focusWidget()));
+        for (const auto& [key, page] : {std::pair(Qt::Key_PageDown, 5), {Qt::Key_PageUp, 4}}) {
+            QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+            QCOMPARE(child<QTabWidget>("tabWidget")->currentIndex(), page);
+        }
     }
 
     // Quick setup has fewer, and sets some without showing them.
