@@ -159,8 +159,8 @@ QStringList VLK_Widget_Config::about() const
         lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
     }
     // A reader would take them for what the tracker has.
-    if (const int edited = review_.edited(); edited > 0)
-        lines << tr(isOfTracker_ ? "rev_351" : "rev_352").arg(QLocale().toString(edited));
+    if (const int changed = review_.edited() + review_.madeAnew(); changed > 0)
+        lines << tr(isOfTracker_ ? "rev_351" : "rev_352").arg(QLocale().toString(changed));
     return lines;
 }
 
