@@ -1777,6 +1777,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_346"><translation>This is more than one page holds: even in the smallest letters it takes %1.</translation></message>
     <message id="rev_347"><translation>Nothing can be typed here: use the buttons beside it</translation></message>
     <message id="rev_350"><translation>Unsaved changes of this configuration are damaged and cannot be brought back. What is left of them: %1</translation></message>
+    <message id="rev_351"><translation>Changed here and not written to the tracker: %1</translation></message>
+    <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>

@@ -218,9 +218,15 @@ bool ConfigurationReview::isEdited(int table, int row) const
     return std::ranges::any_of(FileKeys::all().heldBy(table, row), [this](int key) { return isOwn(key); });
 }
 
-bool ConfigurationReview::setsAnew() const
+int ConfigurationReview::madeAnew() const
 {
-    return std::ranges::any_of(edited_.ownKeys(), [this](int key) { return isAnew(key); });
+    if (!isQuick())
+        return 0;
+    const std::vector<int> keys = edited_.keys();
+    const std::vector<review::Difference> strangers = edited_.strangers();
+    return static_cast<int>(
+        std::ranges::count_if(keys, [this](int key) { return isAnew(key); }) +
+        std::ranges::count_if(strangers, [this](const auto& stranger) { return isAnew(stranger); }));
 }
 
 int ConfigurationReview::edited() const

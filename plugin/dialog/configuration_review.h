@@ -58,8 +58,8 @@ public:
     // To the file, whatever is compared: what a person would count, without that which comes along with
     // another setting and that which quick setup makes of any file.
     int edited() const;
-    // Whether a write from the quick window would change what nobody has edited.
-    bool setsAnew() const;
+    // What a write from the quick window would change besides.
+    int madeAnew() const;
     const review::Differences& edits() const { return edited_; }
     bool isOwn(int key) const;
     // Whether the quick window, which is on show, would write it so without any edit.

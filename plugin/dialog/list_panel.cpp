@@ -189,6 +189,10 @@ QVector<int> ListPanel::selectedLines() const
 
 void ListPanel::keyPressEvent(QKeyEvent* event)
 {
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && button && button->hasFocus())
+        return button->click();
     if (event->key() != Qt::Key_Escape)
         return QWidget::keyPressEvent(event);
     Q_EMIT closed();

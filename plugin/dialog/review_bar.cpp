@@ -172,14 +172,17 @@ void ReviewBar::showState()
         button->setEnabled(!step.isEmpty());
     }
     const int count = review_.edited();
-    differences_->setText(QLocale().toString(count));
-    const bool setsAnew = review_.setsAnew();
+    const int anew = review_.madeAnew();
+    QString number = QLocale().toString(count);
+    if (anew > 0)
+        number += QLatin1Char('+') + QLocale().toString(anew);
+    differences_->setText(number);
     setMark(differences_, LineIcon::differences,
-            count == 0 ? kNoMark : static_cast<int>(setsAnew ? Mark::advice : Mark::changed));
+            count == 0 ? kNoMark : static_cast<int>(anew > 0 ? Mark::advice : Mark::changed));
     const QString told =
         tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
-    differences_->setToolTip(setsAnew ? told + QLatin1Char('\n') + tr("rev_293") : told);
-    differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108")).arg(count));
+    differences_->setToolTip(anew > 0 ? told + QLatin1Char('\n') + tr("rev_293") : told);
+    differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108"), number));
 }
 
 void ReviewBar::addLast(QWidget* widget)

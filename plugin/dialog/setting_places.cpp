@@ -23,7 +23,7 @@ namespace vlk {
 namespace {
 
 constexpr int kOutlineMs = 1500;
-constexpr QLatin1String kOutlineName("frame_Found");
+constexpr char kOutlineName[] = "frame_Found";
 // Parts of what is in sight of a page that stay free above and below a setting.
 constexpr int kMiddle = 2;
 constexpr int kEdge = 8;
@@ -93,12 +93,13 @@ void outline(QWidget* parent, const QRect& place)
 {
     constexpr int margin = 3;
     const QRect around = place.adjusted(-margin, -margin, margin, margin);
-    for (QFrame* earlier : parent->findChildren<QFrame*>(kOutlineName, Qt::FindDirectChildrenOnly)) {
+    for (QFrame* earlier :
+         parent->findChildren<QFrame*>(QLatin1String(kOutlineName), Qt::FindDirectChildrenOnly)) {
         if (earlier->geometry() == around)
             delete earlier;
     }
     auto* frame = new QFrame(parent);
-    frame->setObjectName(kOutlineName);
+    frame->setObjectName(QLatin1String(kOutlineName));
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     frame->setFrameShape(QFrame::Box);
     frame->setLineWidth(2);

@@ -27,6 +27,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QLocale>
 #include <QPushButton>
 #include <QTimer>
 
@@ -157,6 +158,9 @@ QStringList VLK_Widget_Config::about() const
         const bool isAttached = unit.size() > 1;
         lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
     }
+    // A reader would take them for what the tracker has.
+    if (const int changed = review_.edited() + review_.madeAnew(); changed > 0)
+        lines << tr(isOfTracker_ ? "rev_351" : "rev_352").arg(QLocale().toString(changed));
     return lines;
 }
 

@@ -23,6 +23,8 @@
 #include <QMouseEvent>
 #include <QShortcut>
 
+#include <utility>
+
 VLK_Widget_Config_Full::VLK_Widget_Config_Full(QWidget* parent)
     : PageServices(parent), ui_(std::make_unique<Ui::VLK_Designer_Widget_Config_Full>())
 {
@@ -67,6 +69,10 @@ void VLK_Widget_Config_Full::connectButtons()
             &VLK_Widget_Config_Full::slot_pressed_Btn_Help);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, ui_->pushButton_SaveToFile,
             &QPushButton::click);
+    for (const auto& [keys, button] :
+         {std::pair("Ctrl+PgUp", ui_->pushButton_PrevScreen), {"Ctrl+PgDown", ui_->pushButton_NextScreen}})
+        connect(new QShortcut(QKeySequence(QLatin1String(keys)), this), &QShortcut::activated, button,
+                &QPushButton::click);
     connect(answers_.monitor().timer(), &QTimer::timeout, this,
             &VLK_Widget_Config_Full::slot_timeOut_TimerAnalog);
 }

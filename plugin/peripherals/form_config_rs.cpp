@@ -207,6 +207,8 @@ void VLK_Form_Config_RS::showForm()
     ui_->stackedWidget_RS485_Param->setCurrentWidget(ui_->page_RS485);
     ui_->formLayout_RS485->insertRow(0, shown_->form);
     shown_->form->show();
+    // It is made later than all else of the window.
+    vlk::tabThrough(ui_->comboBox_RS485_StopBit, shown_->form);
     if (shown_->entry->offerAll)
         shown_->entry->offerAll(*shown_->form);
 }

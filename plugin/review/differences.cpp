@@ -25,6 +25,14 @@ int sizeOf(const auto& lists)
     return static_cast<int>(std::accumulate(lists.begin(), lists.end(), std::size_t(0), add));
 }
 
+std::vector<int> concatenated(const std::vector<std::vector<int>>& lists)
+{
+    std::vector<int> all;
+    for (const std::vector<int>& list : lists)
+        all.insert(all.end(), list.begin(), list.end());
+    return all;
+}
+
 // As a new configuration holds it, or a missing key reads.
 bool isFresh(int table, int row, const QString& text)
 {
@@ -125,12 +133,14 @@ std::vector<int> Differences::decidersOf(int key) const
                               after.isThere ? after.row : before_.at(key).row);
 }
 
+std::vector<int> Differences::keys() const
+{
+    return concatenated(keys_);
+}
+
 std::vector<int> Differences::ownKeys() const
 {
-    std::vector<int> all;
-    for (const std::vector<int>& keys : ownKeys_)
-        all.insert(all.end(), keys.begin(), keys.end());
-    return all;
+    return concatenated(ownKeys_);
 }
 
 Difference Differences::differenceAt(int key) const

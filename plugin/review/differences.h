@@ -35,6 +35,8 @@ public:
     const FileState& after() const { return after_; }
 
     int count() const;
+    // That differ, in any table.
+    std::vector<int> keys() const;
     bool isDifferent(int key) const { return !(before_.at(key) == after_.at(key)); }
     // Goes or comes with another setting that differs and decides whether the file has the key, as it stands
     // in a new configuration: nobody has edited this one.

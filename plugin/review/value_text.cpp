@@ -44,8 +44,9 @@ QString told(const Text& row, const QString& value, const char* /*unit*/)
 QString told(const Choice& row, const QString& value, const char* /*unit*/)
 {
     for (const Code& code : row.codes) {
+        // In their list numbers of one digit stand below those of two.
         if (QLatin1String(code.code) == value && *code.label)
-            return codeText(code);
+            return codeText(code).replace(QLatin1String("  "), QLatin1String(" "));
     }
     return value;
 }

@@ -85,13 +85,13 @@ private Q_SLOTS:
 
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
         const auto count = [this] { return child<QToolButton>("toolButton_Differences")->text(); };
-        QCOMPARE(count(), QString("0"));
+        QVERIFY(count().startsWith("0+"));
         for (const char* name : {"comboBox_NormState_In_1", "checkBox_Fuel_RS485_Use"}) {
             auto* widget = child<QWidget>(name);
             const QByteArray before = dialog_->review().document();
             QTest::keyClick(widget, qobject_cast<QCheckBox*>(widget) ? Qt::Key_Space : Qt::Key_Down);
             QCoreApplication::processEvents();
-            QVERIFY2(widget->toolTip().startsWith("rev_160") && count() != "0", name);
+            QVERIFY2(widget->toolTip().startsWith("rev_160") && !count().startsWith("0+"), name);
             QCOMPARE(choose(widget, "action_BringBack"), 3);
             QVERIFY(widget->toolTip().isEmpty() && dialog_->review().document() == before);
         }

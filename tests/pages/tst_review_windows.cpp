@@ -243,6 +243,11 @@ private Q_SLOTS:
         // What full setup makes of it is no edit.
         dialog_->switchToFull();
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
+        // What quick setup makes of any file is counted behind that.
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        const std::size_t written = dialog_->review().listed().size();
+        QVERIFY(written > 100);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0+%1").arg(written));
     }
 
     // What is not chosen stays, in quick setup too.
@@ -423,6 +428,20 @@ private Q_SLOTS:
               "pushButton_CopyDifferences", "pushButton_SaveDifferences", "toolButton_CloseDifferences"}) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
+        // Enter presses a button as the space bar does.
+        child<QPushButton>("pushButton_TakeOver")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(child<QSpinBox>("GPRSSrv_spinBox_Port_Main")->value(), 4000);
+        // The form of a device comes later than the window.
+        child<QTabWidget>("tabWidget")->setCurrentIndex(4);
+        auto* last = child<QComboBox>("comboBox_RS485_StopBit");
+        last->setFocus();
+        QTest::keyClick(last, Qt::Key_Tab);
+        QVERIFY(child<QWidget>("FLDS")->isAncestorOf(QApplication::focusWidget()));
+        for (const auto& [key, page] : {std::pair(Qt::Key_PageDown, 5), {Qt::Key_PageUp, 4}}) {
+            QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+            QCOMPARE(child<QTabWidget>("tabWidget")->currentIndex(), page);
         }
     }
 

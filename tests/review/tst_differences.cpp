@@ -146,7 +146,9 @@ private Q_SLOTS:
             .row("secret", "en", "TRANS/AP1/pass", "geheim",
                  "Data transfer|GPRS access point|Password|•••|•••|")
             .row("address without a digit", "en", "BLUETOOTH/SENS1/macaddr", "",
-                 "Bluetooth|Sensor 1|MAC address|C4:64:E3:0B:52:10||");
+                 "Bluetooth|Sensor 1|MAC address|C4:64:E3:0B:52:10||")
+            .row("number that is padded in its list", "en", "BLUETOOTH/FS1/idx", "5",
+                 "Bluetooth|Sensor 1|Send as (Fuel level sensor)|Fuel level sensor 3|Fuel level sensor 5|");
     }
     void words()
     {
