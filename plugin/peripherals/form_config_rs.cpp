@@ -181,8 +181,6 @@ const VLK_Form_Config_RS::MadeForm* VLK_Form_Config_RS::madeFor(const QString& o
         // Last, as after a change of language: some forms shorten what the settings call a widget.
         form->retranslate();
         connected_ ? form->deviceConnected() : form->deviceDisconnected();
-        // It is made later than all else in the window.
-        vlk::tabThrough(ui_->comboBox_RS485_StopBit, form);
     }
     return &*made;
 }

@@ -122,20 +122,6 @@ private Q_SLOTS:
         QVERIFY(!test_.isChecked("checkBox_Fuel_D1"));
     }
 
-    // Although a form is made later than what stands behind the page.
-    void tabGoesThroughTheDevicesForm()
-    {
-        WindowParts parts;
-        QWidget window;
-        parts.window = &window;
-        VLK_Form_Config_RS page(&window);
-        QPushButton behind(&window);
-        for (const char* owner : {"FLDS", "RFID", "TACH"})
-            page.settings().edit("OPTIONS/owner1", owner);
-        QCOMPARE(parts.fieldsBehind("comboBox_RS485_StopBit", 2),
-                 QStringList({"comboBox_Type", "lineEdit_ID"}));
-    }
-
     void tabGoesThroughTheCounters()
     {
         VLK_Form_Config_RS_Param_Pcnt form;
