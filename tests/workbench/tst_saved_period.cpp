@@ -15,6 +15,18 @@ private Q_SLOTS:
         failOnUnfilledTexts();
     }
 
+    // The records of a period are not on show: the present one still is, and a command asks for it anew.
+    void commandsBehindASaveAreSeen()
+    {
+        Bench bench;
+        bench.prepare(Period);
+        bench.take(Period);
+        QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
+        bench.take(Output);
+        QTRY_COMPARE(Bench::telemetry()->findChild<QLabel*>(QStringLiteral("label_Out_Value_1"))->text(),
+                     QStringLiteral("On"));
+    }
+
     // How much there is of the period stands in the window of telemetry, in a box and in the status line.
     void savedInPart_data()
     {

@@ -153,7 +153,8 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
     if (answer == Message::CurrentRecord && std::exchange(isAskedAnew_, false) &&
         link_.runningWork().saving != 0)
         return;
-    if (RecordCheck::carriesRecord(answer))
+    // Those of a period that is saved are not on show.
+    if (RecordCheck::carriesRecord(answer) && link_.runningWork().saving == 0)
         isPresentShown_ = answer == Message::CurrentRecord || answer == Message::ClearedRecord;
     isAnswered_ = answer == Message::ClearedRecord && !cleared_.empty();
     if (isAnswered_)
