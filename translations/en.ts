@@ -2923,6 +2923,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_unplugged"><translation>The tracker was unplugged while it answered. Attach it and try again.</translation></message>
     <message id="wb_unplugged_open"><translation>The tracker was unplugged while it answered. The open window stays, but can be written to the tracker only when it is attached again.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>The tracker was unplugged while it answered, so its telemetry window was closed. Attach the tracker and open telemetry again.</translation></message>
+    <message id="wb_values_before"><translation>The values on show are from before: "Current" brings new ones.</translation></message>
     <message id="wb_why_answer"><translation>The tracker's answer cannot be right.</translation></message>
     <message id="wb_why_detached"><translation>No tracker is attached.</translation></message>
     <message id="wb_why_disk"><translation>What came cannot be put into a temporary file: %1.</translation></message>

@@ -2923,6 +2923,7 @@
     <message id="wb_unplugged"><translation>Трекер отключился во время ответа. Подключите его и повторите.</translation></message>
     <message id="wb_unplugged_open"><translation>Трекер отключился во время ответа. Окно осталось открытым, но записать его в трекер можно будет, только когда трекер снова подключат.</translation></message>
     <message id="wb_unplugged_telemetry"><translation>Трекер отключился во время ответа, поэтому окно его телеметрии закрыто. Подключите трекер и откройте телеметрию снова.</translation></message>
+    <message id="wb_values_before"><translation>Показаны прежние значения: новые даст «Текущая».</translation></message>
     <message id="wb_why_answer"><translation>Ответ трекера неверен.</translation></message>
     <message id="wb_why_detached"><translation>Трекер не подключён.</translation></message>
     <message id="wb_why_disk"><translation>Полученное не удалось записать во временный файл: %1.</translation></message>

@@ -15,16 +15,23 @@ private Q_SLOTS:
         failOnUnfilledTexts();
     }
 
-    // The records of a period are not on show: the present one still is, and a command asks for it anew.
-    void commandsBehindASaveAreSeen()
+    // Behind a save the window takes no record that it has not asked for.
+    void saysThatTheValuesAreFromBefore()
     {
         Bench bench;
         bench.prepare(Period);
         bench.take(Period);
         QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
         bench.take(Output);
+        QTRY_COMPARE(Bench::notice(),
+                     QStringLiteral("Output 1 is switched on. The values on show are from before: "
+                                    "\"Current\" brings new ones."));
+        bench.take(Live);
         QTRY_COMPARE(Bench::telemetry()->findChild<QLabel*>(QStringLiteral("label_Out_Value_1"))->text(),
                      QStringLiteral("On"));
+        bench.take(Mileage);
+        QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Mileage set")), qPrintable(bench.status()));
+        QVERIFY2(!bench.status().contains(QLatin1String("from before")), qPrintable(bench.status()));
     }
 
     // How much there is of the period stands in the window of telemetry, in a box and in the status line.

@@ -153,8 +153,7 @@ void TrackerCommands::handOver(Message answer, void* p1, void* p2)
     if (answer == Message::CurrentRecord && std::exchange(isAskedAnew_, false) &&
         link_.runningWork().saving != 0)
         return;
-    // Those of a period that is saved are not on show.
-    if (RecordCheck::carriesRecord(answer) && link_.runningWork().saving == 0)
+    if (RecordCheck::carriesRecord(answer))
         isPresentShown_ = answer == Message::CurrentRecord || answer == Message::ClearedRecord;
     isAnswered_ = answer == Message::ClearedRecord && !cleared_.empty();
     if (isAnswered_)
@@ -232,12 +231,15 @@ void TrackerCommands::switchOutput(const Command& command)
     });
 }
 
-// A record that comes unasked would be in the way of somebody who walks through old ones.
+// A record that comes unasked would be in the way of somebody who walks through old ones, and during the save
+// of a period, and behind it, the plug-in takes none but its own.
 void TrackerCommands::confirm(const Sentence& sentence)
 {
-    Q_EMIT done(sentence);
     const RunningWork running = link_.runningWork();
-    if (!isPresentShown_ || running.saving != 0 || running.automatic != 0)
+    const bool isFollowed = running.saving == 0 && (isPresentShown_ || running.automatic != 0);
+    Q_EMIT done(isFollowed ? sentence
+                           : [sentence] { return sentence() + QLatin1Char(' ') + text("wb_values_before"); });
+    if (!isFollowed || running.automatic != 0)
         return;
     isAskedAnew_ = true;
     Q_EMIT sent(Message::RequestCurrentRecord);

@@ -75,7 +75,7 @@ private:
     bool isAnswered_ = false;       // the answer to a clearing is being handed over
     std::vector<int> cleared_;      // servers of the sequence
     bool isDoubtful_ = false;       // an answer of the sequence cannot be right
-    bool isPresentShown_ = false;   // the record that was shown last is the tracker's present
+    bool isPresentShown_ = false;   // the record that was handed over last is the tracker's present
     bool isAskedAnew_ = false;      // for it, by nobody but these commands
     bool hasGone_ = false;          // the tracker that the question is about
 };
