@@ -16,8 +16,10 @@ namespace {
 
 using Kind = TelemetryFileProblem::Kind;
 
-// What was seen of the first record.
-enum class Seen { Nothing, Beginning, Pieces, Whole };
+// What was seen of the first record. TooFar: nothing so far, and more than a look may read.
+enum class Seen { Nothing, Beginning, Pieces, Whole, TooFar };
+
+constexpr qint64 kFarthestLook = 16 << 20;
 
 // Line by line, as the form is defined: its titles make it no XML in the strict sense.
 Seen lookAtXml(QFile& file)
@@ -31,6 +33,8 @@ Seen lookAtXml(QFile& file)
             seen = seen == Seen::Nothing ? Seen::Beginning : Seen::Pieces;
         else if (line.contains("</Page>") && seen != Seen::Nothing)
             return Seen::Whole;
+        if (file.pos() > kFarthestLook)
+            return Seen::TooFar;
     }
     return seen;
 }
@@ -74,6 +78,8 @@ Seen lookAtBinary(Bytes file)
         const Bytes record = recordAt(records.subspan(at));
         if (!record.empty() && lengthAgrees(record))
             return Seen::Whole;
+        if (at > std::size_t{kFarthestLook})
+            return Seen::TooFar;
     }
     const bool isRecord =
         records.size() > binary::kLengthBytes &&
@@ -105,6 +111,7 @@ std::optional<TelemetryFileProblem> checkTelemetryFile(const QString& path)
     }
     switch (seen) {
     case Seen::Whole:
+    case Seen::TooFar: // who reads it all finds out
         return {};
     case Seen::Beginning:
         return problem(Kind::CutShort);

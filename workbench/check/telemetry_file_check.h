@@ -2,7 +2,7 @@
 
 // Whether a stored telemetry file has something to show: at least one record that is whole. Both forms are
 // known by their content, XML by its line <TMI, binary by its first bytes. Reads as far as the first whole
-// record.
+// record, and 16 MB at most: of a file that holds none by then who reads all of it finds out.
 
 #include <QString>
 
