@@ -10,9 +10,11 @@
 
 #include <QAbstractItemModelTester>
 #include <QDirIterator>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QToolButton>
 #include <QtTest>
 
