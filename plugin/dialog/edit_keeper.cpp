@@ -103,6 +103,7 @@ void EditKeeper::begin(const QString& folder, const QString& subject, bool stays
     due_.stop();
     folder_ = folder;
     setSubject(subject);
+    isInSight_ = true;
     beginWith(review_.document());
     inFile_ = staysAsOpened ? beginning_ : Beginning();
 }
@@ -126,7 +127,8 @@ bool EditKeeper::keep()
     if (subject_.isEmpty())
         return true;
     const QByteArray& beginning = beginning_[review_.isQuick()];
-    const QByteArray now = review_.document();
+    // What changes behind the closed window, as lists do with the language, is nobody's edit.
+    const QByteArray now = isInSight_ ? review_.document() : shown_;
     QString reason;
     const bool isEdited = now != beginning && now != inFile_[review_.isQuick()];
     shown_ = now;
@@ -164,6 +166,7 @@ bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Hide && !event->spontaneous()) {
         leave();
+        isInSight_ = false;
         tellKept();
     }
     return QObject::eventFilter(watched, event);

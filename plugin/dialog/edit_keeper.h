@@ -83,6 +83,7 @@ private:
     Beginning inFile_;                   // as the file still holds it; empty where none does
     QByteArray kept_;                    // what the file of the edits is known to hold
     QByteArray shown_;                   // what there was when it was asked to keep last
+    bool isInSight_ = false;             // until the window is closed
     std::vector<HandedOver> handedOver_; // that may still be confirmed, the last ones
     QString failure_;
 };

@@ -320,6 +320,24 @@ private Q_SLOTS:
         QVERIFY(!offer().isEmpty());
     }
 
+    // Lists begin anew with it; behind the closed window that is nobody's edit.
+    void languageBehindTheClosedWindow()
+    {
+        const auto changeLanguage = [this] {
+            window->close();
+            host_.send(Message::LanguageChanged);
+            QTest::qWait(2 * 300);
+        };
+        changeLanguage();
+        QCOMPARE(files().size(), 0);
+        open("file");
+        QVERIFY(offer().isEmpty());
+        edit();
+        changeLanguage();
+        open("file");
+        QCOMPARE(offer(), QString("rev_345: 2"));
+    }
+
     void fullDisk()
     {
         {
