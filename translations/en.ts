@@ -1503,6 +1503,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_332"><translation>is a preset that does not have this setting</translation></message>
     <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="cli_340"><translation>%1: none holds %2</translation></message>
+    <message id="cli_345"><translation>the calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1731,6 +1732,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
+    <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

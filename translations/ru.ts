@@ -1503,6 +1503,7 @@
     <message id="cli_332"><translation>это шаблон, и этого параметра в нём нет</translation></message>
     <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
     <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
+    <message id="cli_345"><translation>в тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1731,6 +1732,7 @@
     <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1; в файле их нет.</translation></message>
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
+    <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -175,6 +175,8 @@ private Q_SLOTS:
         QTest::newRow("error of any scale") << "0=10 100=60000" << code << 65535.0 << -1.0;
         QTest::newRow("blind at the bottom") << "0=10 30=10 100=1000" << code << 10.0 << 30.0;
         QTest::newRow("blind at the top") << "0=10 80=1000 100=1000" << code << 1000.0 << 80.0;
+        QTest::newRow("blind in the middle") << "0=10 40=500 60=500 100=1000" << code << 500.0 << 50.0;
+        QTest::newRow("right behind it") << "0=10 40=500 60=500 100=1000" << code << 501.0 << 50.1;
         QTest::newRow("volts") << "0=0.5 100=4.5" << kind(LevelKind::Volts) << 2.5 << 50.0;
         QTest::newRow("no supply") << "0=0.5 100=4.5" << kind(LevelKind::Volts) << 0.02 << -1.0;
         QTest::newRow("hertz") << "0=500 100=1500" << kind(LevelKind::Hertz) << 1000.0 << 50.0;

@@ -67,6 +67,7 @@ private Q_SLOTS:
         put("tank.xml", "<FUEL type='D1'>" + rows + "</TABLE></FUEL>");
         put("short.xml", QByteArray("<FUEL type='D1'>" + rows + "</TABLE></FUEL>")
                              .replace("param_U='400' param_V='4000'", "param_U='260' param_V='2600'"));
+        put("blind.csv", "Level;Volume, l\n0;0\n2800;280\n2800;290\n4000;400\n");
         put("turned.xml", QByteArray("<FUEL type='D1'>" + rows + "</TABLE></FUEL>")
                               .replace("param_U='400' param_V='4000'", "param_U='4000' param_V='400'"));
         put("other.xml", "<FUEL type='D2'>" + rows + "</TABLE></FUEL>");
@@ -208,6 +209,11 @@ private Q_SLOTS:
             .row("readings beyond the table", "fuel --table short.xml week.xml", 0, "",
                  "week.xml: 10 of 20 readings of LevelRS485_1 are beyond the ends of the calibration table: "
                  "there the volume of the end is taken\n")
+            .row("volumes that share a reading", "fuel --table blind.csv --sensor LevelRS485_1 days/1.xml", 0,
+                 "",
+                 "days/1.xml: the calibration table of LevelRS485_1 has one reading, 2800.0, for 280.0 to "
+                 "290.0\u00a0l: "
+                 "the middle is taken, what happens between them goes unseen\n")
             .row(
                 "volumes in place of readings", "fuel --table turned.xml week.xml", 2, "",
                 "week.xml: no reading of LevelRS485_1 is a level by its calibration table, all are above its "

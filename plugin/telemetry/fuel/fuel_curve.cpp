@@ -65,7 +65,26 @@ FuelCurve::FuelCurve(const FuelRows& rows, LevelKind kind) : kind_(kind)
     for (const FuelPoint& point : points)
         points_.push_back({inThousands ? point.value * 1000.0 : point.value, point.volume});
     std::ranges::stable_sort(points_, {}, &Point::level);
+    joinBlinds();
     fullScale_ = fullScale(kind, greatestLevel());
+}
+
+void FuelCurve::joinBlinds()
+{
+    std::vector<Point> joined;
+    for (auto first = points_.cbegin(); first != points_.cend();) {
+        const auto last = std::ranges::upper_bound(first, points_.cend(), first->level, {}, &Point::level);
+        const bool isAtAnEnd = first == points_.cbegin() || last == points_.cend();
+        if (isAtAnEnd || last - first == 1) {
+            joined.insert(joined.end(), first, last);
+        } else {
+            const Blind blind{first->level, first->litres, last[-1].litres};
+            joined.push_back({blind.level, (blind.least + blind.most) / 2});
+            blinds_.push_back(blind);
+        }
+        first = last;
+    }
+    points_ = std::move(joined);
 }
 
 bool FuelCurve::isLevel(double level) const

@@ -331,10 +331,23 @@ QStringList FuelView::tellReadingsBeyond() const
     return texts;
 }
 
+// Volumes that the table of their tank does not tell apart.
+QStringList FuelView::tellBlindLevels() const
+{
+    QStringList texts;
+    for (const TankSensor& tank : tanks_->tanks()) {
+        for (const FuelCurve::Blind& blind :
+             tank.curve ? tank.curve->blinds() : std::vector<FuelCurve::Blind>())
+            texts << tr("rec_570").arg(numberText(blind.least, 1), numberText(blind.most, 1),
+                                       numberText(blind.level, 1), levelSensorCaption(*tank.sensor));
+    }
+    return texts;
+}
+
 // What is to be known of the list beside it.
 QStringList FuelView::news() const
 {
-    QStringList news = tellReadingsBeyond() + markLowThresholds();
+    QStringList news = tellReadingsBeyond() + tellBlindLevels() + markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)

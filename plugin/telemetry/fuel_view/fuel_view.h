@@ -69,6 +69,7 @@ private:
     // Thresholds that are too low for the sensor, with a mark on their fields.
     QStringList markLowThresholds() const;
     QStringList tellReadingsBeyond() const;
+    QStringList tellBlindLevels() const;
     QStringList news() const;
     TimeSpan spanOfSheet() const;
 
