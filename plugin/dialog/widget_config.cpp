@@ -121,6 +121,9 @@ void VLK_Widget_Config::addDocuments()
             showPanel(vlk::ReviewBar::Differences);
     });
     connect(documents_, &vlk::DocumentMenu::presetToSave, this, [this] {
+        // What is closed was compared with the defaults or a file for another purpose.
+        if (!panel_->isVisible())
+            review_.compareWith(vlk::ConfigurationReview::Against::file);
         showPanel(vlk::ReviewBar::Differences);
         panel_->saveAsPreset();
     });

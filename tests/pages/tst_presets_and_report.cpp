@@ -44,6 +44,15 @@ private Q_SLOTS:
             QCOMPARE(preset.count('='), named ? 6 : 5);
             QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
         }
+        // The menu takes what was edited, whatever the closed panel compared with last.
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        QTest::keyClick(child<QComboBox>("comboBox_Against"), Qt::Key_Down);
+        child<QToolButton>("toolButton_CloseDifferences")->click();
+        answerNext<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
+        chooseNext(folder_.filePath("menu.xml"));
+        child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
+        QCoreApplication::processEvents();
+        QCOMPARE(readFile(folder_.filePath("menu.xml")), readFile(folder_.filePath("chosen.xml")));
         while (history().canUndo())
             history().undo();
         const QByteArray before = saved();
