@@ -427,6 +427,8 @@ private Q_SLOTS:
             .row("lacks what the page behind has", lacking + full, {}, 2, false, "2 2")
             .row("lacks what other masks ask for", other + lacking + lacking + other + lacking, {}, 5, false,
                  "3 2 2 3 2")
+            .row("lines left out everywhere, each page with a line of its own",
+                 lacking + QByteArray(lacking).replace("30", "31"), {}, 2, false, "2 2")
             .row("a mask that asks for one more", other + lacking + other,
                  {FileDamage::Records, other.size(), lacking.size()}, 3, false, "3 3")
             .row("the first mask asks for one more", lacking + other,

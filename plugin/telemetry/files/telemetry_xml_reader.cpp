@@ -150,13 +150,14 @@ bool TelemetryXmlReader::mayLackElements(const XmlPage& page)
 {
     if (page.end != XmlPage::Closing || page.mixesElements() || usual_.knows(page.line()))
         return false;
-    if (page.type() != kTelemetryRecord || page.line() == lacking_)
+    const std::string mask = '"' + std::string(attribute(page.line(), "format")) + '"';
+    if (page.type() != kTelemetryRecord || mask == lacking_)
         return true;
-    lacking_ = page.line();
+    lacking_ = mask;
     const auto window = input_.peek(kLongestUsualPage);
     const std::string_view ahead(reinterpret_cast<const char*>(window.data()), window.size());
     const bool isOnly = !usual_.knowAny() && ahead.find("<Page") == ahead.npos;
-    return isOnly || ahead.find(lacking_) != ahead.npos;
+    return isOnly || ahead.find(mask) != ahead.npos;
 }
 
 // Either all pages have their masks to the last field or none has.

@@ -47,7 +47,7 @@ private:
     TelemetryReading reading_;
     UsualPages usual_;
     bool fullMasks_ = false;
-    std::string lacking_; // the first line of the last page that lacked elements
+    std::string lacking_; // the mask, quoted, of the last page that lacked elements
     TelemetryContents contents_;
     int total_ = 0; // records that were read
     qint64 countAt_ = 0;
