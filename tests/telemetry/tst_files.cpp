@@ -382,6 +382,13 @@ private Q_SLOTS:
         const QByteArray other = QByteArray(whole).replace(">1<", ">3<");
         const QByteArray full = sparse + "<Code>7</Code>\n</Page>\n";
         const QByteArray lacking = sparse + "</Page>\n";
+        // With a mask of that many cells.
+        const auto masked = [&](int cells) {
+            return QByteArray(other).replace("\"1\"", '"' + QByteArray("1").leftJustified(cells, '0') + '"');
+        };
+        const QByteArray wide = masked(255);
+        const QByteArray cut = masked(254);
+        const QByteArray wider = masked(259);
         // Of the one in the middle, and what of it is spoilt.
         const auto spoilt = [&](const char* part, const QByteArray& by) {
             return other + QByteArray(whole).replace(part, by) + other;
@@ -418,7 +425,24 @@ private Q_SLOTS:
             .row("lacks what the page before has", full + lacking + full,
                  {FileDamage::Records, full.size(), lacking.size()}, 3, false, "2 2")
             .row("lacks what the page behind has", lacking + full, {}, 2, false, "2 2")
-            .row("lacks what other masks ask for", other + lacking + other, {}, 3, false, "3 2 3")
+            .row("lacks what other masks ask for", other + lacking + lacking + other + lacking, {}, 5, false,
+                 "3 2 2 3 2")
+            .row("lines left out everywhere, each page with a line of its own",
+                 lacking + QByteArray(lacking).replace("30", "31"), {}, 2, false, "2 2")
+            .row("a mask that asks for one more", other + lacking + other,
+                 {FileDamage::Records, other.size(), lacking.size()}, 3, false, "3 3")
+            .row("the first mask asks for one more", lacking + other,
+                 {FileDamage::Records, 0, lacking.size()}, 2, false, "3")
+            .row("a mask that asks for one less", spoilt("</Page>", "<Speed>1</Speed>\n</Page>"), lost(17), 3,
+                 false, "3 3")
+            .row("one less, and no end", spoilt("</Page>", "<Speed>1</Speed>"),
+                 {FileDamage::Records, other.size(), whole.size() + 9 + other.size()}, 2, false, "3 3")
+            .row("what no mask has to ask for", spoilt("</Page>", "<Code>7</Code>\n<Time>1</Time>\n</Page>"),
+                 {}, 3, false, "3 1 3")
+            .row("a shorter mask than the others", wide + cut + wide,
+                 {FileDamage::Records, wide.size(), cut.size()}, 3, false, "3 3")
+            .row("a longer mask than the others", wide + wider + wide,
+                 {FileDamage::Records, wide.size(), wider.size()}, 3, false, "3 3")
             .row("lacks one, the other ends as it", QByteArray(lacking).replace("/NumPage", "/Code"),
                  {FileDamage::Records, 0, lacking.size() - 3}, 1, false, "")
             .row("lacks one and its end", full + sparse, {FileDamage::CutShort, full.size(), sparse.size()},

@@ -98,6 +98,9 @@ private Q_SLOTS:
             put(page, "<html><body><p>Not found</p></body></html>");
         put("program.tmi", readFile(VLK_COMMAND));
         put("spoilt.xml", readFile(path("b.xml")).replace("<Time>1700000002<", "<Time>17000x0002<"));
+        QByteArray unasked = readFile(path("b.xml"));
+        unasked[unasked.lastIndexOf('1', unasked.indexOf("<NumPage>2"))] = '0'; // of its last field
+        put("unasked.xml", unasked);
         put("cut.xml", readFile(path("b.xml")).left(1500));
     }
 
@@ -106,12 +109,14 @@ private Q_SLOTS:
         const DataTable<QString, int, QByteArray, QByteArray> table({"call", "status", "told", "complaints"});
         const QByteArray xml = readFile(path("b.xml"));
         const int second = xml.indexOf("\t<Page", xml.indexOf("<Page"));
-        const QByteArray lost = "spoilt.xml: offset " + QByteArray::number(second) +
-                                ": no whole record here, bytes passed over: " +
-                                QByteArray::number(xml.lastIndexOf("\t<Page") - second) + "; went on at " +
-                                QByteArray::number(xml.lastIndexOf("\t<Page")) + "\nspoilt.xml: offset " +
-                                QByteArray::number(xml.indexOf("\t<INTERVAL")) +
-                                ": another number of records is written here than the file holds\n";
+        const auto lost = [&](const QByteArray& name) {
+            return name + ": offset " + QByteArray::number(second) +
+                   ": no whole record here, bytes passed over: " +
+                   QByteArray::number(xml.lastIndexOf("\t<Page") - second) + "; went on at " +
+                   QByteArray::number(xml.lastIndexOf("\t<Page")) + "\n" + name + ": offset " +
+                   QByteArray::number(xml.indexOf("\t<INTERVAL")) +
+                   ": another number of records is written here than the file holds\n";
+        };
         const QByteArray head = "NumPage,Code,Time,\"Power, V\"\r\n";
         const auto row = [](int number) {
             const QByteArray digit = QByteArray::number(number);
@@ -190,8 +195,10 @@ private Q_SLOTS:
                  "place is not as it was saved\n"
                  "damaged.tmi: offset 19: another number of records is written here than the file holds\n")
             .row("lines that are none", "spoilt.xml --to csv --columns NumPage", 1, "NumPage\r\n5\r\n3\r\n",
-                 lost)
-            .row("nothing where lines are none", "spoilt.xml --strict --to csv", 2, "", lost)
+                 lost("spoilt.xml"))
+            .row("a value that its mask does not have", "unasked.xml --to csv --columns NumPage", 1,
+                 "NumPage\r\n5\r\n3\r\n", lost("unasked.xml"))
+            .row("nothing where lines are none", "spoilt.xml --strict --to csv", 2, "", lost("spoilt.xml"))
             .row("words", "a.tmi --to ndjson --where NumPage=4", 0,
                  "{\"number\":4,\"NumPage\":\"4\",\"Code\":\"Supply voltage restored\","
                  "\"Time\":\"01:13:24 15.11.2023 (UTC +3)\",\"Power\":\"0.00\"}\n",

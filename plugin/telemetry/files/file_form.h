@@ -12,6 +12,9 @@ struct FileForm
     int divisor;    // above 1: the value divided by it, as the text of a double
 };
 
+// These stand in a page whatever its mask says.
+inline constexpr ElementIndex kAlwaysWritten[] = {element("NumPage"), element("Code"), element("Time")};
+
 inline constexpr std::array<FileForm, kElementCount> kFileForms = [] {
     std::array<FileForm, kElementCount> forms{};
     for (int i = 0; i < kElementCount; ++i)

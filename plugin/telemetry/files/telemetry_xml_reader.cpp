@@ -144,16 +144,33 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
     endPage(page);
 }
 
-// Who writes pages without some of their elements does so in all of them.
-bool TelemetryXmlReader::mayLackElements(const XmlPage& page) const
+// Who writes pages without some of their elements does so in all of them. A mask that asks for more than came
+// and stands there but once is none that a tracker had.
+bool TelemetryXmlReader::mayLackElements(const XmlPage& page)
 {
-    return page.end == XmlPage::Closing && !page.mixesElements() && !usual_.knows(page.line());
+    if (page.end != XmlPage::Closing || page.mixesElements() || usual_.knows(page.line()))
+        return false;
+    const std::string mask = '"' + std::string(attribute(page.line(), "format")) + '"';
+    if (page.type() != kTelemetryRecord || mask == lacking_)
+        return true;
+    lacking_ = mask;
+    const auto window = input_.peek(kLongestUsualPage);
+    const std::string_view ahead(reinterpret_cast<const char*>(window.data()), window.size());
+    const bool isOnly = !usual_.knowAny() && ahead.find("<Page") == ahead.npos;
+    return isOnly || ahead.find(mask) != ahead.npos;
+}
+
+// Either all pages have their masks to the last field or none has.
+bool TelemetryXmlReader::hasDamagedMask(const XmlPage& page) const
+{
+    return page.type() == kTelemetryRecord && fullMasks_ && !page.hasFullMask();
 }
 
 void TelemetryXmlReader::endPage(const XmlPage& page)
 {
     const bool salvages = reading_ == TelemetryReading::salvage;
-    const bool isIntact = page.isSound() && (page.isWhole() || mayLackElements(page));
+    const bool isIntact =
+        page.isSound() && !hasDamagedMask(page) && (page.isWhole() || mayLackElements(page));
     const bool isKept = page.isRecord() && (!salvages || isIntact);
     if (page.end == XmlPage::OfFile)
         goOnAt(page.at());
@@ -167,8 +184,10 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
             contents_.damaged.push_back(total_);
         ++total_;
     }
-    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole())
+    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole()) {
         usual_.remember(page.line(), page.ver(), page.mask());
+        fullMasks_ = fullMasks_ || page.hasFullMask();
+    }
     if (page.end == XmlPage::OfFile) {
         contents_.lastIsCut = isKept && !salvages;
         report(FileDamage::CutShort, page.at(), input_.position());

@@ -3,7 +3,8 @@
 // Reads telemetry in the XML form. It is no XML parser: it goes line by line and looks for what it knows, so
 // that a damaged or half-written file gives all that is readable in it. A line that it does not know is
 // passed over, an unknown element too, and a number that is none counts as 0. Nothing is an error; what is no
-// well-formed line, or no number where one belongs, is told as damage, and salvaging leaves its record out.
+// well-formed line, no number where one belongs, or a mask that does not go with its elements, is told as
+// damage, and salvaging leaves its record out.
 //
 // A page without a closing line takes the first line of the next page with it, whose lines then start
 // nothing; who salvages gets that page too. Records have the local zone, whatever zone the file names.
@@ -33,7 +34,8 @@ private:
     void readBetween(std::string_view line, qint64 at);
     void endBetween(std::string_view front, qint64 at);
     void readPage(std::string pageLine, qint64 at);
-    bool mayLackElements(const XmlPage& page) const;
+    bool mayLackElements(const XmlPage& page);
+    bool hasDamagedMask(const XmlPage& page) const;
     void endPage(const XmlPage& page);
     void endWithNext(const XmlPage& page, bool isKept);
     void report(FileDamage::Kind kind, qint64 from, qint64 to);
@@ -44,6 +46,8 @@ private:
     InputBuffer input_;
     TelemetryReading reading_;
     UsualPages usual_;
+    bool fullMasks_ = false;
+    std::string lacking_; // the mask, quoted, of the last page that lacked elements
     TelemetryContents contents_;
     int total_ = 0; // records that were read
     qint64 countAt_ = 0;

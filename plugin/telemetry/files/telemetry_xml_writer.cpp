@@ -11,8 +11,6 @@ namespace vlk {
 
 namespace {
 
-constexpr ElementIndex kAlwaysWritten[] = {element("NumPage"), element("Code"), element("Time")};
-
 // A text ends with its line: what would break it, or hide in it, becomes a blank.
 QByteArray onOneLine(const QString& text)
 {

@@ -131,7 +131,7 @@ void UsualPages::remember(std::string_view pageLine, std::uint8_t ver, const Fie
         return;
     pageLine_ = pageLine;
     layout_ = {RecordLayout::Record, kTelemetryRecord, ver, mask, mask};
-    for (const ElementIndex head : {element("NumPage"), element("Code"), element("Time")})
+    for (const ElementIndex head : kAlwaysWritten)
         layout_.held.set(kElements[head].field);
     lines_.clear();
 }

@@ -23,6 +23,7 @@ public:
     void remember(std::string_view pageLine, std::uint8_t ver, const FieldMask& mask);
     // Whether it is the one that was remembered.
     bool knows(std::string_view pageLine) const { return pageLine == pageLine_; }
+    bool knowAny() const { return !pageLine_.empty(); }
 
 private:
     struct Line

@@ -1,6 +1,7 @@
 #include "telemetry/files/xml_page.h"
 
 #include "base/windows1251.h"
+#include "telemetry/files/file_form.h"
 #include "telemetry/files/value_reading.h"
 #include "telemetry/record/record_head.h"
 
@@ -61,7 +62,7 @@ void XmlPage::finish(End how, std::string_view line, qint64 lineAt)
     endAt = lineAt;
     nextLine = line;
     const bool isAlone = how == NextPage || trimmed(line) == "</Page>";
-    isSound_ = isSound_ && isAlone && trimmed(lines_.takeRest()).empty();
+    isSound_ = isSound_ && isAlone && trimmed(lines_.takeRest()).empty() && asksForAllThatCame();
 }
 
 void XmlPage::readElement(std::string_view line)
@@ -113,6 +114,21 @@ void XmlPage::putInArea(std::size_t offset, std::span<const std::uint8_t> bytes)
     const std::size_t at = areaSize_ + offset;
     if (at < area_.size())
         std::ranges::copy(bytes.first(std::min(bytes.size(), area_.size() - at)), area_.begin() + at);
+}
+
+// The mask of a record; a packet has none.
+bool XmlPage::asksForAllThatCame() const
+{
+    if (type_ != kTelemetryRecord)
+        return true;
+    FieldMask fields = mask();
+    for (const ElementIndex head : kAlwaysWritten)
+        fields.set(kElements[head].field);
+    for (int i = 0; i < kElementCount; ++i) {
+        if (seen_.test(i) && !fields.test(kElements[i].field))
+            return false;
+    }
+    return true;
 }
 
 bool XmlPage::isWhole() const

@@ -38,12 +38,15 @@ public:
     quint8 type() const { return type_; }
     quint8 ver() const { return numberAttribute<quint8>(line_, "ver"); }
     FieldMask mask() const { return FieldMask::fromText(attribute(line_, "format")); }
+    // Whether the mask is written out to its last field.
+    bool hasFullMask() const { return attribute(line_, "format").size() == kFieldCount; }
     bool isRecord() const;
     // Whether all came that a page of its kind has.
     bool isWhole() const;
     // Whether one of its elements ends as another one.
     bool mixesElements() const { return mixesElements_; }
-    // Whether every line of it is one, with a number where a number belongs, and none came twice.
+    // Whether every line of it is one, with a number where a number belongs, and none came twice or without
+    // being in the mask.
     bool isSound() const { return isSound_; }
     const std::string& line() const { return line_; }
     qint64 at() const { return at_; }
@@ -58,6 +61,7 @@ public:
 private:
     void readElement(std::string_view line);
     std::uint8_t* placeOf(ElementIndex index);
+    bool asksForAllThatCame() const;
     void readEntry(std::string_view line);
     void putInArea(std::size_t offset, std::span<const std::uint8_t> bytes);
     ExtraPacket packet() const;
