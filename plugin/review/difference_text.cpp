@@ -49,6 +49,8 @@ const char* noteKey(const Difference& difference)
         return "rev_013";
     case Change::notCarried:
         return "rev_021";
+    case Change::completed:
+        return "rev_355";
     case Change::none:
     case Change::missing:
     case Change::otherForm:
@@ -75,12 +77,15 @@ QString partText(const QString& caption, const QString& value)
     return inOneLine(bare) + QStringLiteral(": ") + value;
 }
 
-// How many positions of a mask are on that no field has; none where it is no mask at all.
-int foreignFields(const Mask& row, const QString& text)
+bool hasMaskDigits(const QString& text)
 {
     static const QRegularExpression digits(QStringLiteral("^[01]+$"));
-    if (!digits.match(text).hasMatch())
-        return 0;
+    return digits.match(text).hasMatch();
+}
+
+// How many positions of a mask are on that no field has.
+int foreignFields(const Mask& row, const QString& text)
+{
     auto count = text.count(QLatin1Char('1'));
     for (const MaskField& field : row.fields)
         count -= maskPart(field, text).count(QLatin1Char('1'));
@@ -95,9 +100,7 @@ QStringList parts(const Mask& row, const QString& text, const QString& other)
         const QString part = maskPart(field, text);
         if (part == maskPart(field, other))
             continue;
-        const int item = maskItem(field, part);
-        told << partText(fieldText(field),
-                         item < 0 ? yesNo(isMaskOn(field, part)) : codeText(field.items[item]));
+        told << partText(fieldText(field), fieldValueText(field, part));
     }
     return told;
 }
@@ -134,10 +137,11 @@ QString textBeside(const Setting& setting, const Held& held, const std::vector<H
         return {};
     QStringList told;
     if (!held.isWhole) {
-        const int foreign = setting.is<Mask>() ? foreignFields(*setting.as<Mask>(), held.text) : 0;
-        if (foreign == 0)
+        const auto* row = setting.as<Mask>();
+        if (!row || !hasMaskDigits(held.text))
             return rawText(setting, held.text, unit);
-        told << translated("rev_297").arg(foreign);
+        if (const int foreign = foreignFields(*row, held.text); foreign > 0)
+            told << translated("rev_297").arg(foreign);
     }
     for (const Held& other : others) {
         if (!other.isThere)
