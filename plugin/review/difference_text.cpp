@@ -120,6 +120,13 @@ QStringList parts(const Digits& row, const QString& text, const QString& other)
     return told;
 }
 
+// An address without a digit leaves the signs between them.
+QString withoutEmptyAddress(const QString& text)
+{
+    const bool isEmpty = !text.isEmpty() && text.count(QLatin1Char(':')) == text.size();
+    return isEmpty ? QStringLiteral("") : text;
+}
+
 void mask(DifferenceText* text)
 {
     for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
@@ -194,8 +201,10 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
         text.group = difference.path.section(QLatin1Char('/'), 0, -2);
         text.caption = difference.path.section(QLatin1Char('/'), -1);
     }
-    text.before = text.beforeText = difference.before;
-    text.after = text.afterText = difference.after;
+    text.before = difference.before;
+    text.after = difference.after;
+    text.beforeText = withoutEmptyAddress(text.before);
+    text.afterText = withoutEmptyAddress(text.after);
     if (keys.looksSecret(difference.path) && secrets == Secrets::masked)
         mask(&text);
     text.note = translated(noteKey(difference));
