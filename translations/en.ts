@@ -1781,6 +1781,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_350"><translation>Unsaved changes of this configuration are damaged and cannot be brought back. What is left of them: %1</translation></message>
     <message id="rev_351"><translation>Changed here and not written to the tracker: %1</translation></message>
     <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
+    <message id="rev_353"><translation>Yes, without its temperature</translation></message>
+    <message id="rev_354"><translation>Its temperature only</translation></message>
+    <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>

@@ -1781,6 +1781,9 @@
     <message id="rev_350"><translation>Несохранённые изменения этой конфигурации повреждены, вернуть их нельзя. Что от них осталось: %1</translation></message>
     <message id="rev_351"><translation>Изменено здесь и не записано в трекер: %1</translation></message>
     <message id="rev_352"><translation>Изменено здесь после открытия конфигурации: %1</translation></message>
+    <message id="rev_353"><translation>Да, без температуры</translation></message>
+    <message id="rev_354"><translation>Только температура</translation></message>
+    <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>

@@ -35,11 +35,12 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
     connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
     connect(line, &QLineEdit::cursorPositionChanged, this, &TextEntry::keepInMask);
     connect(line, &QLineEdit::textChanged, this, [this] {
-        // A text that was set is no one's typing. What was left out stays told while more is typed.
+        // A text that was set is no one's typing. What was left out stays told while more is typed beside it.
         if (!line_->isModified())
             before_ = line_->text();
-        if (!line_->isModified() || line_->text().size() < shown_.size())
+        if (!line_->isModified() || line_->text().size() < shown_.size() || beginsAnew_)
             tell({});
+        beginsAnew_ = false;
         shown_ = line_->text();
         mark();
         keepInMask();
@@ -110,12 +111,20 @@ void TextEntry::rejected()
     const bool isTooLong = line_->inputMask().isEmpty() && wanted > fit;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
                    : QCoreApplication::translate("vlk", "typed_sign"));
+    beginsAnew_ = false;
+}
+
+bool TextEntry::isBlank() const
+{
+    const QString stands = line_->text();
+    return line_->inputMask().isEmpty() ? stands.isEmpty() : std::ranges::none_of(stands, isFilled);
 }
 
 bool TextEntry::keyPressed(QKeyEvent* event)
 {
     if (isMnemonic(*event))
         return true;
+    beginsAnew_ = beginsAnew_ || isBlank();
     typed_ = event->matches(QKeySequence::Paste) ? QApplication::clipboard()->text() : event->text();
     switch (event->key()) {
     case Qt::Key_Escape:
@@ -152,8 +161,10 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::FocusIn:
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
             before_ = line_->text();
+            beginsAnew_ = true;
+        }
         break;
     case QEvent::ShortcutOverride:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -41,6 +41,7 @@ private:
     bool leavesToWindow(QKeyEvent* event) const;
     void rejected();
     void keepInMask();
+    bool isBlank() const;
     // How many characters fit, as far as the line limits them.
     int room() const;
     void mark();
@@ -50,9 +51,10 @@ private:
     QString before_;
     QString shown_; // the text before a change
     QString news_;
-    bool isMarked_ = false;  // for what was typed
-    bool isDoubted_ = false; // for what stands there
-    QString typed_;          // that comes with the key being pressed
+    bool isMarked_ = false;   // for what was typed
+    bool isDoubted_ = false;  // for what stands there
+    bool beginsAnew_ = false; // nothing was left out of what is typed next
+    QString typed_;           // that comes with the key being pressed
     std::function<QString(const QString&)> complaint_;
 };
 

@@ -65,7 +65,8 @@ void ConfigurationReview::begin(CXmlSection* root)
     history_.begin();
 }
 
-void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asItCame)
+void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asItCame,
+                                    const QMap<QString, QString>& quick)
 {
     quickAsItCame_ = Values(kQuickSettings);
     if (root) {
@@ -78,12 +79,16 @@ void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asIt
         document.root()->commit();
         readFrom(*document.root(), quickAsItCame_);
     }
+    std::vector<QString> held = quickAsItCame_.held();
+    for (int row = 0; row < quickAsItCame_.count(); ++row)
+        held[row] = quick.value(quickAsItCame_.row(row).path, held[row]);
+    quickAsItCame_.putBack(held);
     quickState_ = FileState::ofConfiguration(asItCame);
     quickState_.lay(quickAsItCame_);
     quickStrangers_ = quickState_.unread();
 }
 
-void ConfigurationReview::setWritten(const QByteArray& document)
+void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QString, QString>& quick)
 {
     XmlDocument file(document, QStringLiteral("DEVICE"));
     if (!file.isOpen())
@@ -93,7 +98,7 @@ void ConfigurationReview::setWritten(const QByteArray& document)
     newInFull_.reset();
     Configuration loaded(allSettings());
     loaded.read(*file.root());
-    keepQuick(file.root(), loaded);
+    keepQuick(file.root(), loaded, quick);
     edited_ = Differences(asItCame_, now());
     if (against_ == Against::file)
         differences_ = edited_;

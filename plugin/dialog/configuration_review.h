@@ -31,7 +31,9 @@ public:
     void begin(CXmlSection* root);
 
     // The tracker that the configuration came from has this document now, which counts as the file from here.
-    void setWritten(const QByteArray& document);
+    // `quick`: the quickValues() of which it was written. A file that lacks a sensor reads as one that uses
+    // it.
+    void setWritten(const QByteArray& document, const QMap<QString, QString>& quick);
     bool isWritten() const { return isWritten_; }
 
     // A preset is compared as the configuration that it would make if it were applied now.
@@ -115,7 +117,8 @@ Q_SIGNALS:
 
 private:
     // Without a root the configuration, which is new, is what it came as.
-    void keepQuick(CXmlSection* root, const Configuration& asItCame);
+    void keepQuick(CXmlSection* root, const Configuration& asItCame,
+                   const QMap<QString, QString>& quick = {});
     review::FileState now() const;
     const review::FileState& asItCame() const;
     // The other side while a preset is compared with.

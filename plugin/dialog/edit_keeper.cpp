@@ -208,7 +208,7 @@ void EditKeeper::handedOver(const QByteArray& content)
     keep();
     if (handedOver_.size() == kMostHandedOver)
         handedOver_.erase(handedOver_.begin());
-    handedOver_.push_back({content, review_.document(), path_});
+    handedOver_.push_back({content, review_.document(), review_.quickValues(), path_});
 }
 
 void EditKeeper::confirmed(const QByteArray& content)
@@ -222,7 +222,7 @@ void EditKeeper::confirmed(const QByteArray& content)
     const HandedOver written = *found;
     handedOver_.erase(handedOver_.begin(), found.base());
     if (written.path == path_) {
-        Q_EMIT this->written(written.content);
+        Q_EMIT this->written(written.content, written.quick);
         // What was new is the tracker's now, and its next reading offers what is edited from here on.
         if (const QString tracker = trackerSubject(); subject_ == kNew && !tracker.isEmpty())
             setSubject(tracker);

@@ -55,15 +55,16 @@ Q_SIGNALS:
     void failureChanged();
     // What there is now is safe: kept, saved or written.
     void safe();
-    // The tracker has what the window on show handed over: that content.
-    void written(const QByteArray& content);
+    // The tracker has what the window on show handed over: that content, and what the quick window held then.
+    void written(const QByteArray& content, const QMap<QString, QString>& quick);
 
 private:
     struct HandedOver
     {
         QByteArray content;
         QByteArray document;
-        QString path; // where it was kept
+        QMap<QString, QString> quick; // ConfigurationReview::quickValues()
+        QString path;                 // where it was kept
     };
 
     using Beginning = std::array<QByteArray, 2>; // without an edit, in the full and in the quick window

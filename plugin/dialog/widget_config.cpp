@@ -176,10 +176,11 @@ void VLK_Widget_Config::addKeeper()
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
     // A file that was opened stays as it is.
-    connect(&keeper_, &vlk::EditKeeper::written, this, [this](const QByteArray& content) {
-        if (file_.isEmpty())
-            review_.setWritten(content);
-    });
+    connect(&keeper_, &vlk::EditKeeper::written, this,
+            [this](const QByteArray& content, const QMap<QString, QString>& quick) {
+                if (file_.isEmpty())
+                    review_.setWritten(content, quick);
+            });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });

@@ -122,15 +122,29 @@ Change why(const Digits& row, const Reading& reading, const QString& value)
     return Change::otherForm;
 }
 
+// Whether a position of a mask is switched on with another one of its field.
+bool isSwitchedAlong(const Mask& row, int position)
+{
+    return std::ranges::any_of(row.fields, [position](const MaskField& field) {
+        const auto positions = std::span(field.positions).first(field.count);
+        return field.anyReads && std::ranges::find(positions, position) != positions.end();
+    });
+}
+
 Change why(const Mask& row, const Reading& reading, const QString& value)
 {
     if (reading.text.size() > row.length)
         return Change::tooLong;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(row.length); ++i) {
-        if ((digitAt(reading.text, i) != 0) != (digitAt(value, i) != 0))
+    Change change = Change::otherForm;
+    for (int i = 0; i < row.length; ++i) {
+        const bool isOn = digitAt(value, i) != 0;
+        if ((digitAt(reading.text, i) != 0) == isOn)
+            continue;
+        if (!isOn || !isSwitchedAlong(row, i))
             return Change::notOffered;
+        change = Change::completed;
     }
-    return Change::otherForm;
+    return change;
 }
 
 } // namespace

@@ -16,6 +16,7 @@ enum class Change {
     tooLong,     // cut
     unknownCode, // replaced, or the value before stays
     notOffered,  // known, but this tracker's list lacks it
+    completed,   // half of a field was on, which is switched as a whole
     notCarried,  // letters that a section does not carry are read as "?"
     otherForm,   // the same value, spelled otherwise
     byRule,      // another setting forbids it

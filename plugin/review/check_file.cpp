@@ -13,7 +13,9 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace vlk::review {
 
@@ -70,14 +72,33 @@ private:
             addChanged(changed_.value(path));
     }
 
-    // Quick setup has keys of its own, and would write this one as it stands.
+    // A sensor that the file lacks reads as one in use, but a file of quick setup lacks those that are not.
+    void readQuick(Values& quick)
+    {
+        static constexpr std::pair<const char*, const char*> sensors[] = {
+            {"RS485/FS1/", "RS485/sensor1"},
+            {"RS485/FS2/", "RS485/sensor2"},
+            {"BLUETOOTH/SENS3/", "BLUETOOTH/sensor3"},
+            {"BLUETOOTH/SENS4/", "BLUETOOTH/sensor4"}};
+        readFrom(root_, quick);
+        for (const auto& [element, sensor] : sensors) {
+            const bool isThere = std::ranges::any_of(
+                paths_, [&](const QString& path) { return path.startsWith(QLatin1String(element)); });
+            if (!isThere)
+                quick.edit(QLatin1String(sensor), QStringLiteral("0"));
+        }
+    }
+
+    // Quick setup has keys of its own, and would write this one as it stands; of a field of the record it
+    // switches on a half.
     bool isOfQuickSetup(const Difference& difference)
     {
-        const int row = difference.key < 0 ? layoutOf(kQuickSettings).rowAt(difference.path) : -1;
+        const bool isItsOwn = difference.key < 0 || difference.change == Change::completed;
+        const int row = isItsOwn ? layoutOf(kQuickSettings).rowAt(difference.path) : -1;
         if (row < 0)
             return false;
         if (!quick_)
-            readFrom(root_, quick_.emplace(kQuickSettings));
+            readQuick(quick_.emplace(kQuickSettings));
         return quick_->isWritten(row) && quick_->written(row) == difference.before;
     }
 

@@ -49,6 +49,8 @@ const char* noteKey(const Difference& difference)
         return "rev_013";
     case Change::notCarried:
         return "rev_021";
+    case Change::completed:
+        return "rev_355";
     case Change::none:
     case Change::missing:
     case Change::otherForm:
@@ -75,12 +77,15 @@ QString partText(const QString& caption, const QString& value)
     return inOneLine(bare) + QStringLiteral(": ") + value;
 }
 
-// How many positions of a mask are on that no field has; none where it is no mask at all.
-int foreignFields(const Mask& row, const QString& text)
+bool hasMaskDigits(const QString& text)
 {
     static const QRegularExpression digits(QStringLiteral("^[01]+$"));
-    if (!digits.match(text).hasMatch())
-        return 0;
+    return digits.match(text).hasMatch();
+}
+
+// How many positions of a mask are on that no field has.
+int foreignFields(const Mask& row, const QString& text)
+{
     auto count = text.count(QLatin1Char('1'));
     for (const MaskField& field : row.fields)
         count -= maskPart(field, text).count(QLatin1Char('1'));
@@ -95,9 +100,7 @@ QStringList parts(const Mask& row, const QString& text, const QString& other)
         const QString part = maskPart(field, text);
         if (part == maskPart(field, other))
             continue;
-        const int item = maskItem(field, part);
-        told << partText(fieldText(field),
-                         item < 0 ? yesNo(isMaskOn(field, part)) : codeText(field.items[item]));
+        told << partText(fieldText(field), fieldValueText(field, part));
     }
     return told;
 }
@@ -117,6 +120,13 @@ QStringList parts(const Digits& row, const QString& text, const QString& other)
     return told;
 }
 
+// An address without a digit leaves the signs between them.
+QString withoutEmptyAddress(const QString& text)
+{
+    const bool isEmpty = !text.isEmpty() && text.count(QLatin1Char(':')) == text.size();
+    return isEmpty ? QStringLiteral("") : text;
+}
+
 void mask(DifferenceText* text)
 {
     for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
@@ -134,10 +144,11 @@ QString textBeside(const Setting& setting, const Held& held, const std::vector<H
         return {};
     QStringList told;
     if (!held.isWhole) {
-        const int foreign = setting.is<Mask>() ? foreignFields(*setting.as<Mask>(), held.text) : 0;
-        if (foreign == 0)
+        const auto* row = setting.as<Mask>();
+        if (!row || !hasMaskDigits(held.text))
             return rawText(setting, held.text, unit);
-        told << translated("rev_297").arg(foreign);
+        if (const int foreign = foreignFields(*row, held.text); foreign > 0)
+            told << translated("rev_297").arg(foreign);
     }
     for (const Held& other : others) {
         if (!other.isThere)
@@ -190,8 +201,10 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
         text.group = difference.path.section(QLatin1Char('/'), 0, -2);
         text.caption = difference.path.section(QLatin1Char('/'), -1);
     }
-    text.before = text.beforeText = difference.before;
-    text.after = text.afterText = difference.after;
+    text.before = difference.before;
+    text.after = difference.after;
+    text.beforeText = withoutEmptyAddress(text.before);
+    text.afterText = withoutEmptyAddress(text.after);
     if (keys.looksSecret(difference.path) && secrets == Secrets::masked)
         mask(&text);
     text.note = translated(noteKey(difference));

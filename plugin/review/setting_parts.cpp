@@ -87,11 +87,8 @@ std::vector<int> differingParts(const Setting& setting, const QString& value, co
 
 QString partText(const Setting& setting, int part, const QString& held)
 {
-    if (const auto* mask = setting.as<Mask>()) {
-        const MaskField& field = mask->fields[part];
-        const int item = maskItem(field, held);
-        return item < 0 ? yesNo(isMaskOn(field, held)) : codeText(field.items[item]);
-    }
+    if (const auto* mask = setting.as<Mask>())
+        return fieldValueText(mask->fields[part], held);
     const auto& items = setting.as<Digits>()->items;
     const int digit = digitAt(held, 0);
     const bool isListed = static_cast<std::size_t>(digit) < items.size() && *items[digit].label;

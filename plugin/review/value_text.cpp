@@ -14,6 +14,12 @@ QString bare(QString title)
     return title;
 }
 
+// Fields that any position switches are a level and its temperature.
+bool isHalfOn(const MaskField& field, const QString& part)
+{
+    return field.anyReads && part.contains(QLatin1Char('0')) && part.contains(QLatin1Char('1'));
+}
+
 // One function a kind.
 template <IsStructure Row>
 QString told(const Row&, const QString& value, const char* /*unit*/)
@@ -86,10 +92,10 @@ QString told(const Mask& row, const QString& value, const char* /*unit*/)
     QStringList parts;
     for (const MaskField& field : row.fields) {
         const QString part = maskPart(field, value);
-        const int item = maskItem(field, part);
+        const bool isPlain = maskItem(field, part) < 0 && !isHalfOn(field, part);
         if (part.contains(QLatin1Char('1')))
-            parts << (item < 0 ? fieldText(field)
-                               : fieldText(field) + QStringLiteral(": ") + codeText(field.items[item]));
+            parts << (isPlain ? fieldText(field)
+                              : fieldText(field) + QStringLiteral(": ") + fieldValueText(field, part));
     }
     return parts.join(QStringLiteral(", "));
 }
@@ -118,6 +124,15 @@ QString headingText(const Setting& setting)
         text = text.isEmpty() ? title : title + QStringLiteral(" / ") + text;
     }
     return text;
+}
+
+QString fieldValueText(const MaskField& field, const QString& part)
+{
+    if (const int item = maskItem(field, part); item >= 0)
+        return codeText(field.items[item]);
+    if (isHalfOn(field, part))
+        return translated(part.startsWith(QLatin1Char('1')) ? "rev_353" : "rev_354");
+    return yesNo(isMaskOn(field, part));
 }
 
 QString codeText(const Code& code)

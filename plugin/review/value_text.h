@@ -17,6 +17,9 @@ QString codeText(const Code& code);
 // Of the codes "NS+|NB+" those that are offered.
 QStringList codeTexts(const Setting& setting, const char* codes);
 
+// What positions of a mask (maskPart()) say: the item of a list, "Yes", or which half of a field is on.
+QString fieldValueText(const MaskField& field, const QString& part);
+
 // In place of a secret.
 inline constexpr const char* kSecretDots = "•••";
 

@@ -97,6 +97,29 @@ private Q_SLOTS:
         }
     }
 
+    // What a write left out of the file reads as in use, but the window still shows what was chosen.
+    void nothingIsMarkedBehindAWrite()
+    {
+        open({}, 0);
+        const auto toggle = [this](const char* name) {
+            QTest::keyClick(child<QWidget>(name), Qt::Key_Space);
+            QCoreApplication::processEvents();
+            return child<QWidget>(name)->toolTip();
+        };
+        for (const char* name :
+             {"checkBox_Fuel_RS485_Use", "checkBox_Fuel_RS485_Use_1", "checkBox_BT_Use", "checkBox_BT_1"})
+            QVERIFY2(toggle(name).startsWith("rev_160"), name);
+        dialog_->writeQuickToDevice();
+        QCoreApplication::processEvents();
+        QVERIFY(dialog_->review().isWritten());
+        for (const char* name :
+             {"checkBox_Fuel_RS485_Use_1", "checkBox_Fuel_RS485_Use_2", "checkBox_BT_1", "checkBox_BT_2"})
+            QCOMPARE(child<QWidget>(name)->toolTip(), QString());
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0"));
+        QVERIFY(toggle("checkBox_Fuel_RS485_Use_2").startsWith("rev_160"));
+        QVERIFY(toggle("checkBox_Fuel_RS485_Use_2").isEmpty());
+    }
+
     // A bound that a typed one pushes away comes back with it, though not when that is typed back.
     void pushedBound()
     {

@@ -1,6 +1,9 @@
 // What a configuration file loses by a load and a save, and the advice on it.
 
+#include "document/values_document.h"
 #include "review/check_file.h"
+#include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "xml/xml_document.h"
@@ -28,6 +31,12 @@ QStringList told(const QByteArray& file)
 QByteArray factory()
 {
     return readFile(VLK_SOURCE "/workbench/tracker/factory.xml");
+}
+
+QByteArray factoryMask()
+{
+    const QByteArray file = factory();
+    return file.mid(file.indexOf("mask=\"") + 6, 255);
 }
 
 } // namespace
@@ -77,6 +86,10 @@ private Q_SLOTS:
         table.row("no address", "\":::::\" name", "\"hello\" name",
                   QString::fromUtf8("BLUETOOTH/SENS3/macaddr named: hello \u2192 e:::::. rev_011; "
                                     "advice BLUETOOTH/SENS3/type named"));
+        // Its level without its temperature.
+        table.row("half of a field", factoryMask(), factoryMask().replace(79, 1, "0"),
+                  QString::fromUtf8("PROTOCOL/ZETA/mask named: cfgt2f_052 3: rev_353 \u2192 "
+                                    "cfgt2f_052 3: wrd_001. rev_355"));
         // Full setup neither reads nor writes them.
         table.row("keys of quick setup", "<SRV1 ", "<SRV1 format=\"VLKB_ZETA\" ", {});
         table.row("constant of quick setup", "<OPTIONS ", "<OPTIONS owner2=\"\" ", {});
@@ -95,6 +108,28 @@ private Q_SLOTS:
         QByteArray file = factory();
         QVERIFY(file.contains(from));
         QCOMPARE(::told(file.replace(file.indexOf(from), from.size(), to)).join("; "), told);
+    }
+
+    // Whatever sensors it uses: of a Bluetooth one it sends the level alone.
+    void quickSetupIsQuiet()
+    {
+        const char* sensors[] = {"RS485/sensor1", "RS485/sensor2", "BLUETOOTH/sensor3", "BLUETOOTH/sensor4"};
+        for (int chosen = 0; chosen < 16; ++chosen) {
+            vlk::XmlDocument document(factory(), "DEVICE");
+            vlk::Configuration full(vlk::allSettings());
+            full.read(*document.root());
+            full.write(*document.root());
+            vlk::Values quick(vlk::kQuickSettings);
+            vlk::readFrom(*document.root(), quick);
+            for (int i = 0; i < 4; ++i)
+                quick.edit(quick.layout().rowAt(sensors[i]), (chosen >> i & 1) ? "1" : "0");
+            quick.edit(quick.layout().rowAt("RS485/fuel"), (chosen & 3) ? "1" : "0");
+            quick.edit(quick.layout().rowAt("BLUETOOTH/sensors"), (chosen & 12) ? "1" : "0");
+            vlk::writeTo(*document.root(), quick);
+            document.root()->commit();
+            const QStringList findings = told(document.text()).filter(QRegularExpression("^(?!advice)"));
+            QVERIFY2(findings.isEmpty(), qPrintable(QString::number(chosen) + findings.join("; ")));
+        }
     }
 };
 

@@ -167,6 +167,16 @@ private Q_SLOTS:
         QCOMPARE(line(differences, configuration, 0), told);
     }
 
+    // Of a key that quick setup alone writes, too.
+    void addressWithoutADigit()
+    {
+        const auto text = textOf({.path = "BLUETOOTH/CHANNEL1/macaddr", .before = "1:::::", .after = ":::::"},
+                                 vlk::review::Secrets::masked);
+        QCOMPARE(text.beforeText, QString("1:::::"));
+        QCOMPARE(text.afterText, QString(""));
+        QCOMPARE(text.after, QString(":::::"));
+    }
+
     // Also those that no window shows, and those that the quick window alone writes.
     void everyKeyHasACaption()
     {

@@ -236,6 +236,7 @@ private Q_SLOTS:
         table.row("digits of lists", "A/lists", "231", "201", Change::otherForm);
         table.row("digit that a list lacks", "A/lists", "301", "001", Change::notOffered);
         table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
+        table.row("half of a field", "A/fields", "10010001", "10010101", Change::completed);
         table.row("fields beyond the text", "A/fields", "0", "10000000", Change::notOffered);
         table.row("item that a list lacks", "A/fields", "10010110", "10010101", Change::notOffered);
         table.row("mask that is too long", "A/fields", "111101011", "11110101", Change::tooLong);

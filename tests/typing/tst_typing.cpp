@@ -298,6 +298,11 @@ private Q_SLOTS:
             .row("too long", "^\\S{0,6}$", "abcd<Tab>", "oldabc", "typed_long 6")
             .row("blank", "^\\S{0,6}$", "a b<Tab>", "oldab", "typed_sign")
             .row("blank, corrected", "^\\S{0,6}$", "a b<Back>c<Tab>", "oldac", "")
+            .row("blank into the empty line, then a good text", "^\\S{0,6}$", "<All><Back> abc<Tab>", "abc",
+                 "")
+            .row("pasted into the empty line and too long", "", "<All><Back><Paste><Tab>", "secret w",
+                 "typed_long 8")
+            .row("blank in a new text", "^\\S{0,6}$", "<All><Back>a b<Tab>", "ab", "typed_sign")
             .row("blank at the end", "^\\S{0,6}$", "a <Tab>", "olda", "typed_sign")
             .row("pasted and too long", "^\\S{0,6}$", "<Paste><Tab>", "old", "typed_long 6")
             .row("limited by the line", "", "abcdefgh<Tab>", "oldabcde", "typed_long 8")
@@ -327,6 +332,22 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible() && pressed_ == 0);
         type(line_, "<Esc>");
         QVERIFY(!window_->isVisible());
+    }
+
+    // What was left out counts until the line is entered again and edited.
+    void refusedOnAnEarlierVisit()
+    {
+        line_->setValidator(new QRegularExpressionValidator(QRegularExpression("^\\S{0,9}$"), line_));
+        line_->setFocus();
+        type(line_, "a b<Tab>");
+        line_->setFocus();
+        line_->deselect();
+        QVERIFY(line_->toolTip().startsWith("typed_sign"));
+        type(line_, "c");
+        QVERIFY(line_->toolTip().isEmpty());
+        type(line_, " d");
+        QVERIFY(line_->toolTip().startsWith("typed_sign"));
+        QCOMPARE(line_->text(), QString("abcd"));
     }
 
     // Wherever it is clicked.

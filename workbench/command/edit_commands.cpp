@@ -63,6 +63,7 @@ const char* reasonKey(const PresetProblem& problem)
     case Change::none:
     case Change::missing:
     case Change::unknownCode:
+    case Change::completed:
     case Change::notCarried:
     case Change::otherForm:
         break;
