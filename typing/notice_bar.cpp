@@ -104,7 +104,10 @@ void NoticeBar::claimHeight()
     margins.setBottom(margins.top() + roomBelow_);
     layout()->setContentsMargins(margins);
     if (keepsPlace) {
-        const int own = std::max(keptHeight_, isOnShow ? layout()->heightForWidth(width()) : 0);
+        // Before it is visible it has no width to measure lines with, and what is laid out at a height that
+        // a resize takes back at once stays there, out of sight.
+        const bool hasWidth = isOnShow && isVisible();
+        const int own = std::max(keptHeight_, hasWidth ? layout()->heightForWidth(width()) : 0);
         setProperty(kOwnHeight, own);
         setFixedHeight(std::max(own, wanted - kRoomMargin));
     } else {
@@ -142,6 +145,12 @@ bool NoticeBar::event(QEvent* event)
 void NoticeBar::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
+    claimHeight();
+}
+
+void NoticeBar::showEvent(QShowEvent* event)
+{
+    QFrame::showEvent(event);
     claimHeight();
 }
 

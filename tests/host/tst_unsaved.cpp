@@ -49,6 +49,28 @@ int editUntilKilled(const QString& folder)
     }
 }
 
+void startEditing(QProcess& process, const QString& folder, const QString& litter)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(kFolder, folder);
+    environment.insert("TMPDIR", litter); // what it leaves behind goes with the test
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), QStringList());
+}
+
+// A sentence of as many words as people read.
+class LongSentence : public QTranslator
+{
+public:
+    LongSentence() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char* /*context*/, const char* key, const char* /*comment*/,
+                      int /*n*/) const override
+    {
+        return qstrcmp(key, "rev_350") == 0 ? QString("damaged ").repeated(18) + "%1" : QString();
+    }
+};
+
 } // namespace
 
 class UnsavedTest : public QObject, private WindowParts
@@ -59,7 +81,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QDir::setCurrent(folder_.path());
-        host_.start();
+        toldInTheFirstWindow();
     }
     void init()
     {
@@ -364,13 +386,8 @@ private Q_SLOTS:
         int lost = 0;
         for (int round = 0; round < count; round += 8) {
             std::array<Edited, 8> all;
-            for (Edited& edited : all) {
-                QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-                environment.insert(kFolder, edited.folder.path());
-                environment.insert("TMPDIR", folder_.path()); // what it leaves behind goes with this test
-                edited.process.setProcessEnvironment(environment);
-                edited.process.start(QCoreApplication::applicationFilePath(), QStringList());
-            }
+            for (Edited& edited : all)
+                startEditing(edited.process, edited.folder.path(), folder_.path());
             QElapsedTimer clock;
             clock.start();
             const auto kill = [&](Edited& edited) {
@@ -438,6 +455,29 @@ private Q_SLOTS:
     }
 
 private:
+    // The first window of a process is told of what an earlier one left while it has no size yet.
+    void toldInTheFirstWindow()
+    {
+        kept_ = std::make_unique<QTemporaryDir>();
+        QProcess process;
+        startEditing(process, kept_->path(), folder_.path());
+        QTRY_COMPARE_WITH_TIMEOUT(files().size(), 1, 60000);
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        writeFile(files()[0], readFile(files()[0]).left(100));
+
+        const LongSentence sentence;
+        useFolder(host_, kept_->path());
+        host_.open({});
+        window = ScriptedHost::window("VLK_Widget_Config");
+        QCoreApplication::processEvents();
+        const auto* bar = child<QWidget>("noticeBar");
+        const auto* label = child<QLabel>("label_Unsaved");
+        QVERIFY(label->isVisible());
+        QVERIFY(label->height() >= label->heightForWidth(label->width()));
+        for (const QWidget* part : {child<QWidget>("label_Unsaved"), child<QWidget>("label_Unsaved_Close")})
+            QVERIFY2(bar->rect().contains(part->geometry()), qPrintable(part->objectName()));
+    }
     void attach(const QString& number)
     {
         const vlk::ConnectInfo info{"R-7106", "firmware", number, {}, 0, 0};
