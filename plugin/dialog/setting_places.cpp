@@ -69,6 +69,22 @@ void tellWhereLookedFor(QWidget* form, const QString& text)
         QToolTip::showText(form->mapToGlobal(form->rect().center()), text, form);
 }
 
+// The row that a form shows for a key of the file: its own, or the choice that sets it along with others. -1
+// for none.
+int shownRowOf(const Values& values, const QString& path)
+{
+    const int row = values.layout().rowAt(path);
+    if (row < 0 || review::canBeShown(values.setting(values.holder(row))))
+        return row;
+    for (const Presets& presets : values.table().all<Presets>()) {
+        const auto isIt = [&](const Path& field) { return field.row == values.holder(row); };
+        if (std::ranges::any_of(presets.fields, isIt) &&
+            review::canBeShown(values.setting(presets.trigger.row)))
+            return presets.trigger.row;
+    }
+    return -1;
+}
+
 constexpr int kMostNeeded = 4; // that wait for each other
 
 QString sentenceOf(const char* key)
@@ -151,14 +167,14 @@ std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
     const review::FileKeys& keys = review::FileKeys::all();
     if (PageSettings* page = pageOf(table))
         return {page, row};
-    const int key = table < 0 ? -1 : keys.of(table, row);
+    std::vector<int> held = table < 0 ? std::vector<int>() : keys.heldBy(table, row);
+    if (held.empty() && table >= 0 && keys.of(table, row) >= 0)
+        held.push_back(keys.of(table, row));
     for (PageSettings* page : pages_()) {
         if (keys.tableOf(page->values().table()) >= 0)
             continue;
-        for (int quick = 0; key >= 0 && quick < page->values().count(); ++quick) {
-            const Values& values = page->values();
-            if (values.row(quick).filePath == keys[key].path &&
-                review::canBeShown(values.setting(values.holder(quick))))
+        for (const int key : held) {
+            if (const int quick = shownRowOf(page->values(), keys[key].path); quick >= 0)
                 return {page, quick};
         }
     }

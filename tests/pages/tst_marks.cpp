@@ -109,7 +109,11 @@ private Q_SLOTS:
         for (const char* name :
              {"checkBox_Fuel_RS485_Use", "checkBox_Fuel_RS485_Use_1", "checkBox_BT_Use", "checkBox_BT_1"})
             QVERIFY2(toggle(name).startsWith("rev_160"), name);
+        // Its file comes into the present folder.
+        const QString here = QDir::currentPath();
+        QDir::setCurrent(folder_.path());
         dialog_->writeQuickToDevice();
+        QDir::setCurrent(here);
         QCoreApplication::processEvents();
         QVERIFY(dialog_->review().isWritten());
         for (const char* name :

@@ -458,6 +458,17 @@ private Q_SLOTS:
             QTest::keyClick(find, Qt::Key_Return);
             QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
         }
+        // Of an input line it shows the use as a whole.
+        for (const char* path : {"SENSORS/IN1/normState", "SENSORS/IN1/ign", "SENSORS/IN2/ign"}) {
+            QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+            auto* find = child<QLineEdit>("lineEdit_Find");
+            QTest::keyClicks(find, path);
+            const QString found = child<QListWidget>("listWidget_Found")->item(0)->text();
+            QVERIFY2(!found.contains("rev_259"), qPrintable(found));
+            QTest::keyClick(find, Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget()->objectName(),
+                     QString("comboBox_NormState_In_%1").arg(path[10]));
+        }
         // What can be reached comes first.
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "TRANS");
