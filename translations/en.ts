@@ -1351,7 +1351,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_075"><translation>Read again</translation></message>
     <message id="rec_076"><translation>%1 more can be brought back.</translation></message>
     <message id="rec_077"><translation>Bring back</translation></message>
-    <message id="rec_080"><translation>Show rec&amp;ords</translation></message>
+    <message id="rec_080"><translation>Show recor&amp;ds</translation></message>
     <message id="rec_081"><translation>Records of the period: %1.</translation></message>
     <message id="rec_085"><translation>Export records</translation></message>
     <message id="rec_086"><translation>Records</translation></message>

@@ -1351,7 +1351,7 @@
     <message id="rec_075"><translation>Прочитать снова</translation></message>
     <message id="rec_076"><translation>Ещё можно вернуть: %1.</translation></message>
     <message id="rec_077"><translation>Вернуть</translation></message>
-    <message id="rec_080"><translation>Показать з&amp;аписи</translation></message>
+    <message id="rec_080"><translation>Показать &amp;эти записи</translation></message>
     <message id="rec_081"><translation>Записей периода: %1.</translation></message>
     <message id="rec_085"><translation>Экспорт записей</translation></message>
     <message id="rec_086"><translation>Записи</translation></message>

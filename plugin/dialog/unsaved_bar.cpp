@@ -37,6 +37,10 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
     connect(this, &NoticeBar::closed, this, [this](int number) {
         if (number > kFailure)
             offers_[number - 1].isClosed = true;
+        if (number == kDamaged) {
+            review::setKnown(damaged_.takeLast());
+            tellDamaged();
+        }
     });
 }
 
@@ -57,16 +61,17 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
         else
             offers_.push_back(std::move(offer));
     }
-    tellDamaged(review::setDamagedAside(folder, subject));
+    damaged_ = review::setDamagedAside(folder, subject);
+    tellDamaged();
     drop();
     refresh();
 }
 
-void UnsavedBar::tellDamaged(const QStringList& paths)
+void UnsavedBar::tellDamaged()
 {
-    if (paths.isEmpty())
+    if (damaged_.isEmpty())
         return end(kDamaged);
-    tell(kDamaged, [path = QDir::toNativeSeparators(QDir::cleanPath(paths.last()))] {
+    tell(kDamaged, [path = QDir::toNativeSeparators(QDir::cleanPath(damaged_.last()))] {
         return Notice{Mark::invalid, words("rev_350").arg(path), {}};
     });
 }

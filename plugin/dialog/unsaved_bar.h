@@ -55,7 +55,7 @@ private:
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
-    void tellDamaged(const QStringList& paths);
+    void tellDamaged();
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);
@@ -65,6 +65,7 @@ private:
     void endComparison();
 
     ConfigurationReview& review_;
+    QStringList damaged_;       // what is left of changes that cannot be offered; the last one is told
     std::vector<Offer> offers_; // a notice has the number of its place, from 1 on
 };
 

@@ -26,6 +26,7 @@ constexpr qint64 kMostBytes = 2 * CSerialize::kMaxFileSize + 100'000;
 constexpr QDataStream::Version kStreamVersion = QDataStream::Qt_5_12;
 constexpr int kStemSize = 16;
 const QString kSuffix = QStringLiteral(".unsaved");
+const QString kUnknown = QStringLiteral(".new"); // of a file beside a damaged one that nobody knows of yet
 const QString kRoot = QStringLiteral("DEVICE");
 
 QByteArray sumOf(const QByteArray& bytes)
@@ -124,14 +125,29 @@ QStringList setDamagedAside(const QString& folder, const QString& subject)
 {
     QStringList damaged;
     const QDir files(keptFolder(folder));
-    for (const QString& name :
-         files.entryList({nameStemOf(subject) + QLatin1Char('*') + kSuffix}, QDir::Files | QDir::Readable)) {
+    const QString kept = nameStemOf(subject) + QLatin1Char('*') + kSuffix;
+    const QString suffix = QStringLiteral(".damaged");
+    for (const QString& name : files.entryList({kept}, QDir::Files | QDir::Readable)) {
         const QString path = files.filePath(name);
-        const QString aside = path + QStringLiteral(".damaged");
-        if (!isClaimed(path) && !unsavedIn(path) && QFile::rename(path, aside))
-            damaged << aside;
+        if (isClaimed(path) || unsavedIn(path) || !QFile::rename(path, path + suffix))
+            continue;
+        damaged << path + suffix;
+        QFile(damaged.last() + kUnknown).open(QIODevice::WriteOnly);
     }
+    for (const QString& name : files.entryList({kept + suffix + kUnknown}, QDir::Files)) {
+        const QString path = files.filePath(name.chopped(kUnknown.size()));
+        if (!QFile::exists(path))
+            setKnown(path); // by who removed it
+        else if (!damaged.contains(path))
+            damaged << path;
+    }
+    damaged.sort();
     return damaged;
+}
+
+void setKnown(const QString& damaged)
+{
+    QFile::remove(damaged + kUnknown);
 }
 
 QString momentOf(const Unsaved& unsaved)

@@ -41,9 +41,10 @@ std::optional<Unsaved> unsavedIn(const QString& path);
 // The newest first, without those that another program is editing; of one configuration, or of all.
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder, const QString& subject);
 std::vector<KeptUnsaved> keptUnsaved(const QString& folder);
-// Renames those of a configuration that can be read no more, so that they are found once, and gives their new
-// paths.
+// Renames those of a configuration that can be read no more, and gives their new paths, the newest last, this
+// time and from then on until the user knows of them.
 QStringList setDamagedAside(const QString& folder, const QString& subject);
+void setKnown(const QString& damaged);
 
 // When edits were made: the time, on another day its date too.
 QString momentOf(const Unsaved& unsaved);

@@ -223,10 +223,20 @@ private Q_SLOTS:
         open("tracker", false);
         open("tracker");
         QCOMPARE(offer(), QString("rev_345: 2"));
-        for (const QString& file : files())
+        for (const QString& file : files()) {
             writeFile(file, readFile(file).left(100));
-        open("tracker");
-        QCOMPARE(offer(), QString("rev_350"));
+            QFile::copy(file, QString(file).replace('-', "-0"));
+        }
+        const int count = files().size();
+        // Until the user closes it, one after the other.
+        for (int closed = 0; closed < count; ++closed) {
+            for (const bool isOfTracker : {true, false, true}) {
+                open(isOfTracker ? "tracker" : "file");
+                QCOMPARE(offer(), isOfTracker ? QString("rev_350") : QString());
+            }
+            press("label_Unsaved_Close");
+            QCOMPARE(offer().isEmpty(), closed + 1 == count);
+        }
         open("tracker");
         QVERIFY(offer().isEmpty());
     }

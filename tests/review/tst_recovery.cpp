@@ -58,11 +58,16 @@ private Q_SLOTS:
         QTEST(kept.size() == 1, "isFound");
         if (kept.size() == 1)
             QCOMPARE(kept[0].unsaved.after, unsaved().after);
-        // What can be read no more is found once, and stays on the disk.
+        // What can be read no more stays on the disk, and is found until it is said that it is known.
         const QStringList aside = vlk::review::setDamagedAside(folder.path(), "file a");
         QTEST(aside.isEmpty() && QFile::exists(path), "isFound");
         QVERIFY(aside.isEmpty() || QFile::exists(aside[0]));
+        QCOMPARE(vlk::review::setDamagedAside(folder.path(), "file b"), QStringList());
+        QCOMPARE(vlk::review::setDamagedAside(folder.path(), "file a"), aside);
+        for (const QString& known : aside)
+            vlk::review::setKnown(known);
         QCOMPARE(vlk::review::setDamagedAside(folder.path(), "file a"), QStringList());
+        QVERIFY(aside.isEmpty() || QFile::exists(aside[0]));
     }
 
     // Each time of editing stays, and the one under way is written over; others never come.

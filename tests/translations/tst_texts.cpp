@@ -109,10 +109,12 @@ private Q_SLOTS:
             {"wrd_055", "cfgwnd_002", "wrd_054", "rev_141", "rev_142", "rev_143", "rev_147"},
             {"wrd_061", "wrd_062", "wrd_027", "wrd_054"},
             {"rec_001", "rec_006", "rec_007", "wrd_027"},
-            // "Cancel" stands beside commands that are closed meanwhile, and shares a letter with one.
-            {"wrd_027",  "wrd_054",  "tmiw_004", "wrd_061",  "wrd_062",    "tmiw_005",   "tmiw_008",
-             "tmiw_010", "tmiw_014", "tmiw_015", "tmiw_016", "tmiw_024",   "tmiw_030",   "tmiw_195",
-             "tmiw_140", "tmiw_141", "tmiw_196", "tmiw_143", "tmift1_060", "tmift2_011", "tmift2_012"}};
+            // With the button of the bar that tells of a save. "Cancel" stands beside commands that are
+            // closed meanwhile, and shares a letter with one.
+            {"wrd_027",    "wrd_054",    "tmiw_004",   "wrd_061",  "wrd_062",  "tmiw_005",
+             "tmiw_008",   "tmiw_010",   "tmiw_014",   "tmiw_015", "tmiw_016", "tmiw_024",
+             "tmiw_030",   "tmiw_195",   "tmiw_140",   "tmiw_141", "tmiw_196", "tmiw_143",
+             "tmift1_060", "tmift2_011", "tmift2_012", "rec_080"}};
         for (const QString& language : kLanguages) {
             for (const QStringList& keys : windows) {
                 QSet<QString> letters;
