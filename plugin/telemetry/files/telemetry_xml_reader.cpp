@@ -172,15 +172,14 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
     const bool isIntact =
         page.isSound() && !hasDamagedMask(page) && (page.isWhole() || mayLackElements(page));
     const bool isKept = page.isRecord() && (!salvages || isIntact);
-    if (page.end == XmlPage::OfFile)
-        goOnAt(page.at());
-    else if (page.end == XmlPage::Closing ? !isIntact : !page.isSound())
+    const bool isAtEnd = page.end == XmlPage::OfFile;
+    if (!isAtEnd && (page.end == XmlPage::Closing ? !isIntact : !page.isSound()))
         loseFrom(page.at());
-    else if (isIntact || !salvages)
+    else if (isAtEnd || isIntact || !salvages)
         goOnAt(page.at());
     if (isKept) {
         page.addTo(contents_.records);
-        if (!salvages && (page.end == XmlPage::OfFile || !isIntact))
+        if (!salvages && (isAtEnd || !isIntact))
             contents_.damaged.push_back(total_);
         ++total_;
     }
@@ -188,7 +187,7 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
         usual_.remember(page.line(), page.ver(), page.mask());
         fullMasks_ = fullMasks_ || page.hasFullMask();
     }
-    if (page.end == XmlPage::OfFile) {
+    if (isAtEnd) {
         contents_.lastIsCut = isKept && !salvages;
         report(FileDamage::CutShort, page.at(), input_.position());
     } else if (page.end == XmlPage::NextPage) {
