@@ -82,8 +82,10 @@ private:
             {"BLUETOOTH/SENS4/", "BLUETOOTH/sensor4"}};
         readFrom(root_, quick);
         for (const auto& [element, sensor] : sensors) {
-            const bool isThere = std::ranges::any_of(
-                paths_, [&](const QString& path) { return path.startsWith(QLatin1String(element)); });
+            const auto isOfIt = [start = QLatin1String(element)](const QString& path) {
+                return path.startsWith(start);
+            };
+            const bool isThere = std::ranges::any_of(paths_, isOfIt);
             if (!isThere)
                 quick.edit(QLatin1String(sensor), QStringLiteral("0"));
         }
