@@ -259,6 +259,11 @@ VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
                     if (tmiTable_)
                         tmiTable_->takeLive(record, number);
                 });
+        connect(telemetryView_, &VLK_Widget_Tmi_View::presentShown, this,
+                [this](const QByteArray& state, quint32 number) {
+                    if (tmiTable_)
+                        tmiTable_->takePresent(state, number);
+                });
     }
     return telemetryView_;
 }

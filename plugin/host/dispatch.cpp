@@ -188,7 +188,7 @@ constexpr Entry kTable[] = {
      }},
     {Message::CanLogProgram, &toConfig<&Answers::takeCanLogProgram, std::int32_t>},
     {Message::CurrentRecord,
-     &bytesToView<&View::takeRecord, vlk::kCurrentRecordHeader, vlk::kShortestCurrentRecord>},
+     &bytesToView<&View::takePresent, vlk::kCurrentRecordHeader, vlk::kShortestCurrentRecord>},
     {Message::RecordByNumber, &bytesToView<&View::takeRecord, vlk::kRecordByNumberHeader>},
     {Message::RecordByTime, &bytesToView<&View::takeRecord, vlk::kRecordByTimeHeader>},
     {Message::RecordOfPeriod, &bytesToView<&View::takeRecord, vlk::kRecordByTimeHeader>},

@@ -290,6 +290,10 @@ void TestCurves::handsOver()
     QCOMPARE(rows.size(), 4);
     QVERIFY(rows[0].startsWith("\xEF\xBB\xBFtmizta_123"));
     QCOMPARE(rows[1], QByteArray("100002,2026-11-18T03:01:00+03:00,3200,0\r"));
+    const QByteArray unnumbered = RecordParts{{"Time", kTruckStart + 80}}.bytes();
+    records_->append(bytesAt(unnumbered.constData(), unnumbered.size()));
+    view_->saveTo(table);
+    QVERIFY(readFile(table).contains("\n,2026-11-18T03:01:20+03:00,"));
     view_->setTitle(QStringLiteral("KAMAZ"));
     view_->saveTo(folder.filePath(QStringLiteral("p.svg")));
     const QByteArray svg = readFile(folder.filePath(QStringLiteral("p.svg")));

@@ -4,6 +4,8 @@
 #include "sample_pages.h"
 #include "support/data_table.h"
 #include "telemetry/files/export_form.h"
+#include "telemetry/files/telemetry_binary_reader.h"
+#include "telemetry/files/telemetry_xml_reader.h"
 
 #include <QBuffer>
 #include <QJsonArray>
@@ -151,6 +153,33 @@ private Q_SLOTS:
             QCOMPARE(line[element].toString(), rawCell);
         else
             QCOMPARE(line[element].toDouble(), rawCell.toDouble());
+    }
+
+    // A present state has none, which is no record with the number 0.
+    void noNumber()
+    {
+        RecordStore store;
+        for (const RecordParts& record :
+             {RecordParts{{"NumPage", 7}, {"Time", kTime}}, RecordParts{{"Time", kTime + 1}}}) {
+            const QByteArray bytes = record.bytes();
+            store.add(bytesAt(bytes.constData(), bytes.size()));
+        }
+        QVERIFY(exported(ExportForm::csv, store).contains("\r\n,"));
+        for (const bool isRaw : {false, true}) {
+            ExportOptions options;
+            options.raw = isRaw;
+            QVERIFY(exported(ExportForm::ndjson, store, options).contains("{\"number\":null,"));
+        }
+        // Read again it is not there either.
+        for (const ExportForm form : {ExportForm::xml, ExportForm::tmi}) {
+            QByteArray file = exported(form, store);
+            QBuffer device(&file);
+            device.open(QIODevice::ReadOnly);
+            const RecordStore read = form == ExportForm::xml ? readTelemetryXml(device).records
+                                                             : readTelemetryBinary(device).records;
+            QCOMPARE(read.size(), 2);
+            QVERIFY(!read.layout(1).has(element("NumPage")) && read.layout(0).has(element("NumPage")));
+        }
     }
 
     // What all records have, packets with their entries, and the tracker in front of an archive.

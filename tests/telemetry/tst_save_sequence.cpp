@@ -413,6 +413,62 @@ private Q_SLOTS:
         QCOMPARE(rows(), 2);
     }
 
+    // Shown again the period has its rows and what is told of them; behind another file it is the file's
+    // alone.
+    void growsOnceMore()
+    {
+        startSave(7, 8);
+        press("label_SavedInPart_Action1");
+        press("pushButton_Get_Current");
+        send(Message::RecordByNumber, 11);
+        QWidget* const records = ScriptedHost::window("VLK_Widget_Tmi_Table");
+        const auto seen = [records] {
+            return qMakePair(ScriptedHost::child<QTableView>(records, "tableWidget")->model()->rowCount(),
+                             ScriptedHost::child<QLabel>(records, "label_Damage")->text());
+        };
+        QCOMPARE(seen(), qMakePair(3, QString("rec_543 rec_544")));
+        records->close();
+        send(Message::RecordByNumber, 12);
+        press("label_SavedInPart_Action1");
+        QCOMPARE(seen(), qMakePair(4, QString("rec_543 rec_544")));
+        const qint32 asTable = 1;
+        host.send(Message::ShowStoredFile, &file_, &asTable);
+        QTRY_COMPARE(seen(), qMakePair(2, QString()));
+        press("label_SavedInPart_Action1");
+        QCOMPARE(seen(), qMakePair(2, QString()));
+        send(Message::RecordByNumber, 9);
+        QCOMPARE(seen(), qMakePair(3, QString("rec_543")));
+    }
+
+    // The present state comes under the number of the latest record, which is another one.
+    void presentStateHasNoNumber()
+    {
+        startSave(7, 8);
+        press("label_SavedInPart_Action1");
+        press("pushButton_Get_Current");
+        QWidget* const records = ScriptedHost::window("VLK_Widget_Tmi_Table");
+        QAbstractItemModel* const model = ScriptedHost::child<QTableView>(records, "tableWidget")->model();
+        const auto sendPresent = [this](qint64 number) {
+            OpenedView::send(Message::CurrentRecord, behind(3, record(number)).leftJustified(101, '\0'));
+        };
+        const auto numbers = [model] {
+            QStringList numbers;
+            for (int row = 0; row < model->rowCount(); ++row)
+                numbers << model->index(row, 0).data().toString();
+            return numbers;
+        };
+        const auto* const told = ScriptedHost::child<QLabel>(records, "label_Damage");
+        for (const qint64 each : {8, 9, 9})
+            sendPresent(each);
+        QCOMPARE(numbers(), (QStringList{"7", "8", "–"}));
+        QCOMPARE(told->text(), QString("rec_543 rec_544"));
+        send(Message::RecordByNumber, 9);
+        QCOMPARE(numbers(), (QStringList{"7", "8", "–", "9"}));
+        QCOMPARE(told->text(), QString("rec_543")); // none is missing now
+        const int time = 2;
+        QCOMPARE(model->index(2, time).data(), model->index(3, time).data());
+    }
+
     void endedFromOutside_data()
     {
         DataTable<Message>({"message"})

@@ -41,7 +41,9 @@ bool writeCurves(QIODevice& device, const CurvesModel& model, const TimeSpan& sp
             continue;
         char moment[IsoTimes::kLongest];
         const auto length = static_cast<int>(zoned.put(moment, times[record]) - moment);
-        text += QByteArray::number(numbers[record]) + separator + QByteArray(moment, length);
+        if (numbers[record] != 0)
+            text += QByteArray::number(numbers[record]);
+        text += separator + QByteArray(moment, length);
         for (const Curve& curve : model.curves()) {
             text += separator;
             const double value = model.valueAt(curve, record);

@@ -62,7 +62,11 @@ public:
         for (const int record : records) {
             const RecordLayout& layout = store.layout(record);
             const auto bytes = store.bytes(record);
-            out << "{\"number\":" << rawIn(bytes, layout.offsetOf(number), kElements[number].width);
+            out << "{\"number\":";
+            if (layout.has(number))
+                out << rawIn(bytes, layout.offsetOf(number), kElements[number].width);
+            else
+                out << "null";
             addMembers(out, layout, bytes);
             if (layout.isPacket()) {
                 store.decode(page_, record);

@@ -134,11 +134,14 @@ private:
         const RecordLayout& layout = store.layout(record);
         const std::span<const int> offsets = offsets_.of(layout);
         const auto bytes = store.bytes(record);
+        // An archive has it in its key.
+        const bool isNumbered = isArchive_ || layout.has(element("NumPage"));
         char* end = row_.data();
         for (std::size_t i = 0; i < cells_.size(); ++i) {
             char* const begin = end;
             const NumberCell& cell = cells_[i];
-            if (offsets[i] != ColumnOffsets::kAbsent)
+            const bool isNone = !isNumbered && cell.element == element("NumPage");
+            if (offsets[i] != ColumnOffsets::kAbsent && !isNone)
                 end = numbers_.put(end, cell, rawIn(bytes, offsets[i], kElements[cell.element].width));
             if (end == begin)
                 end = std::ranges::copy(absent_, end).out;

@@ -1,6 +1,7 @@
 #include "telemetry/view/growing_records.h"
 
 #include "base/translated.h"
+#include "telemetry/record/record_head.h"
 #include "telemetry/view/records_notices.h"
 #include "telemetry/view/shown_records.h"
 #include "typing/notice_bar.h"
@@ -22,21 +23,21 @@ GrowingRecords::GrowingRecords(ShownRecords* shown, NoticeBar* bar, std::functio
 void GrowingRecords::begin()
 {
     const std::vector<quint32>& numbers = shown_->columns().recordNumbers();
-    newest_ = numbers.empty() ? 0 : *std::ranges::max_element(numbers);
+    before_ = newest_ = known_ = numbers.empty() ? 0 : *std::ranges::max_element(numbers);
     isGrowing_ = true;
 }
 
 void GrowingRecords::forget()
 {
     isGrowing_ = isClosed_ = false;
-    added_ = missing_ = 0;
+    records_ = states_ = 0;
     bar_->end(kGrown);
 }
 
 void GrowingRecords::end()
 {
     const bool wasGrowing = std::exchange(isGrowing_, false);
-    if (wasGrowing && added_ > 0)
+    if (wasGrowing && records_ + states_ > 0)
         tell();
 }
 
@@ -44,27 +45,60 @@ bool GrowingRecords::takes(quint32 number)
 {
     if (!isGrowing_ || number <= newest_)
         return false;
-    missing_ += newest_ == 0 ? 0 : number - newest_ - 1;
     newest_ = number;
-    ++added_;
+    ++records_;
+    count(number);
+    return true;
+}
+
+bool GrowingRecords::takesPresent(quint32 number)
+{
+    if (!isGrowing_ || number <= known_)
+        return false;
+    ++states_;
+    count(number);
+    return true;
+}
+
+void GrowingRecords::count(quint32 number)
+{
+    // Without a number before, the first one that comes is where the counting begins.
+    if (before_ == 0)
+        before_ = number - 1;
+    known_ = std::max(known_, number);
     if (!isClosed_)
         tell();
-    return true;
 }
 
 void GrowingRecords::tell()
 {
     bar_->tell(kGrown, [this] {
         const QLocale locale;
-        QStringList said{translated("rec_543").arg(locale.toString(added_))};
-        if (missing_ > 0)
-            said << translated("rec_544").arg(locale.toString(missing_));
+        QStringList said{translated("rec_543").arg(locale.toString(records_ + states_))};
+        if (const qint64 missing = qint64{known_} - before_ - records_; missing > 0)
+            said << translated("rec_544").arg(locale.toString(missing));
         if (!isGrowing_)
             said << translated("rec_545");
         return Notice{Mark::advice,
                       said.join(QLatin1Char(' ')),
                       {{translated("rec_007").remove(QLatin1Char('&')), keep_}}};
     });
+}
+
+QByteArray withoutNumber(const QByteArray& record)
+{
+    constexpr int number = field("NumPage");
+    const RecordHead head = readHead(bytesAt(record.constData(), record.size()));
+    if (head.type != kTelemetryRecord || !head.mask.test(number))
+        return record;
+    FieldMask mask = head.mask;
+    mask.set(number, false);
+    QByteArray rest = record;
+    // The number is the first of the fields.
+    static_assert(number == 0);
+    rest.remove(RecordHead::kBytes, kFields[number].width);
+    std::ranges::copy(mask.bytes(), rest.begin() + RecordHead::kBytes - FieldMask::kBytes);
+    return rest;
 }
 
 } // namespace vlk

@@ -2,7 +2,11 @@
 
 // Records of a tracker that are still being made: which of those that it sends join the ones on show, and
 // what the window's bar tells of them, since the file on show does not hold them.
+//
+// A tracker answers the question for its present state under the number of its latest record. That record is
+// another one: the state joins without a number, and the record counts as not read until it comes itself.
 
+#include <QByteArray>
 #include <QObject>
 
 #include <functional>
@@ -28,8 +32,12 @@ public:
     void end();
     // Whether the record is newer than all on show; it is to join them then.
     bool takes(quint32 number);
+    // Likewise of a present state that came under this number: whether a newer record is known by it.
+    bool takesPresent(quint32 number);
+    bool isGrowing() const { return isGrowing_; }
 
 private:
+    void count(quint32 number);
     void tell();
 
     ShownRecords* shown_;
@@ -37,9 +45,14 @@ private:
     std::function<void()> keep_;
     bool isGrowing_ = false;
     bool isClosed_ = false; // what is told, by the user
-    quint32 newest_ = 0;    // number on show
-    qint64 added_ = 0;
-    qint64 missing_ = 0; // in front of added ones
+    quint32 before_ = 0;    // number of the newest record before the growth
+    quint32 newest_ = 0;    // that joined
+    quint32 known_ = 0;     // that there is, read or not
+    qint64 records_ = 0;
+    qint64 states_ = 0;
 };
+
+// A telemetry record, from its type byte on, without its number.
+QByteArray withoutNumber(const QByteArray& record);
 
 } // namespace vlk

@@ -207,11 +207,21 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
 {
     opening_->stop();
     filter_->setFocus();
+    if (growth == Growth::live && contents == growsFrom_ && growing_->isGrowing()) {
+        // The zone may have been chosen anew.
+        if (grown_->records.utcOffset() != contents->records.utcOffset()) {
+            grown_->records.setUtcOffset(contents->records.utcOffset());
+            shown_->setContents(grown_);
+        }
+        return;
+    }
     name_ = name;
     growing_->forget();
     for (const int notice : {kTooMany, kHandedOver})
         notices_->end(notice);
-    showContents(contents);
+    growsFrom_ = growth == Growth::live ? contents : nullptr;
+    grown_ = growsFrom_ ? std::make_shared<TelemetryContents>(*contents) : nullptr;
+    showContents(grown_ ? grown_ : contents);
     places_->setName(name);
     export_->setName(name);
     showTitle();
@@ -226,8 +236,18 @@ void VLK_Widget_Tmi_Table::endGrowth()
 
 void VLK_Widget_Tmi_Table::takeLive(const QByteArray& record, quint32 number)
 {
-    if (!growing_->takes(number))
-        return;
+    if (growing_->takes(number))
+        append(record);
+}
+
+void VLK_Widget_Tmi_Table::takePresent(const QByteArray& state, quint32 number)
+{
+    if (growing_->takesPresent(number))
+        append(withoutNumber(state));
+}
+
+void VLK_Widget_Tmi_Table::append(const QByteArray& record)
+{
     shown_->append(bytesAt(record.constData(), record.size()), table_->areSeveralSelected()
                                                                    ? ShownRecords::Current::stays
                                                                    : ShownRecords::Current::follows);

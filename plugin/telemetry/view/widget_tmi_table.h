@@ -7,6 +7,8 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class QLabel;
 class QPushButton;
 namespace vlk {
@@ -35,12 +37,14 @@ public:
     // Shows an XML or binary file in place of what was on show; an empty table if it holds no record.
     void open(const QString& path);
     // Shows records that are there already, under that name. Records of a tracker that are still being made
-    // grow by those that it sends.
+    // grow, in a copy, by those that it sends; asked for again they stay on show as they have grown.
     enum class Growth { none, live };
     void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name,
               Growth growth = Growth::none);
     // From its type byte on; takes part where it is newer than all on show, until the growth ends.
     void takeLive(const QByteArray& record, quint32 number);
+    // Likewise a present state, which came under the number of the latest record.
+    void takePresent(const QByteArray& state, quint32 number);
     void endGrowth();
     // Goes to a record that another window shows, where these records are on show.
     void follow(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
@@ -58,6 +62,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void append(const QByteArray& record);
     bool stepBack();
     void layOut();
     void addKeys();
@@ -85,6 +90,8 @@ private:
     vlk::FileOpening* opening_;
     vlk::TableExport* export_;
     vlk::GrowingRecords* growing_;
+    std::shared_ptr<vlk::TelemetryContents> growsFrom_; // what was opened to grow; or null
+    std::shared_ptr<vlk::TelemetryContents> grown_;     // the copy of it that does
     vlk::EmptyNote* empty_;
     QPushButton* columnsButton_;
     QPushButton* exportButton_;

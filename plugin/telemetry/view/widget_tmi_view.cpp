@@ -300,15 +300,15 @@ vlk::RunningWork VLK_Widget_Tmi_View::runningWork() const
             .cancelled = save_.isCancelled() ? 1U : 0U};
 }
 
-void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
+std::optional<quint32> VLK_Widget_Tmi_View::showRecord(const QByteArray& record)
 {
     if (save_.saving()) {
         save_.take(record);
-        return;
+        return {};
     }
     const std::optional<quint32> number = pages_.showRecord(record);
     if (!number)
-        return;
+        return {};
     age_.answered();
     highestNumber_ = std::max(highestNumber_, *number);
     for (const auto& [button, leads] : {std::pair(ui_->pushButton_Get_Next, *number < highestNumber_),
@@ -318,14 +318,26 @@ void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
             setFocus();
         button->setEnabled(leads);
     }
-    Q_EMIT recordShown(record, *number);
+    return number;
+}
+
+void VLK_Widget_Tmi_View::takeRecord(const QByteArray& record)
+{
+    if (const auto number = showRecord(record))
+        Q_EMIT recordShown(record, *number);
+}
+
+void VLK_Widget_Tmi_View::takePresent(const QByteArray& state)
+{
+    if (const auto number = showRecord(state))
+        Q_EMIT presentShown(state, *number);
 }
 
 void VLK_Widget_Tmi_View::takeClearedRecord(const QByteArray& record)
 {
     // Not one of the records that a running save has asked for.
     if (!save_.isRunning())
-        takeRecord(record);
+        takePresent(record);
     clearing_.answered();
 }
 

@@ -23,6 +23,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace vlk {
 class EventPanel;
@@ -60,6 +61,7 @@ public:
 
     // Answers of the host. Records come from their type byte on.
     void takeRecord(const QByteArray& record);
+    void takePresent(const QByteArray& state);
     void takeClearedRecord(const QByteArray& record);
     void takeKeyAnswer(const QByteArray& answer);
     void takeLiveKey(quint64 key);
@@ -76,6 +78,8 @@ Q_SIGNALS:
                        bool grows);
     // One that was not saved, from its type byte on.
     void recordShown(const QByteArray& record, quint32 number);
+    // The tracker's present state, with the number of its latest record.
+    void presentShown(const QByteArray& state, quint32 number);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -115,6 +119,8 @@ private Q_SLOTS:
 
 private:
     void setTitle();
+    // Gives the number of a record that is on show now.
+    std::optional<quint32> showRecord(const QByteArray& record);
     void connectControls();
     // What the user may not press while records are requested automatically, and while a period is saved. The
     // tool tips say why: the text of `reasonKey`, null when the controls are free.
