@@ -427,8 +427,10 @@ private Q_SLOTS:
                              ScriptedHost::child<QLabel>(records, "label_Damage")->text());
         };
         QCOMPARE(seen(), qMakePair(3, QString("rec_543 rec_544")));
+        ScriptedHost::child<QAbstractButton>(records, "label_Damage_Close")->click();
         records->close();
         send(Message::RecordByNumber, 12);
+        QCOMPARE(seen(), qMakePair(4, QString()));
         press("label_SavedInPart_Action1");
         QCOMPARE(seen(), qMakePair(4, QString("rec_543 rec_544")));
         const qint32 asTable = 1;

@@ -27,6 +27,13 @@ void GrowingRecords::begin()
     isGrowing_ = true;
 }
 
+void GrowingRecords::again()
+{
+    isClosed_ = false;
+    if (records_ + states_ > 0)
+        tell();
+}
+
 void GrowingRecords::forget()
 {
     isGrowing_ = isClosed_ = false;

@@ -26,6 +26,8 @@ public:
 
     // Those on show grow from now on.
     void begin();
+    // Those on show are shown again: what is told of them too, though the user closed it.
+    void again();
     // Others are on show.
     void forget();
     // The tracker is gone.

@@ -213,6 +213,7 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
             grown_->records.setUtcOffset(contents->records.utcOffset());
             shown_->setContents(grown_);
         }
+        growing_->again();
         return;
     }
     name_ = name;
