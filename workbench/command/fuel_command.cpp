@@ -309,8 +309,7 @@ private:
                                              .arg(readings.beyond)
                                              .arg(readings.all)
                                              .arg(QLatin1String(tank.sensor->element().data())));
-            for (const vlk::FuelCurve::Blind& blind :
-                 tank.curve ? tank.curve->blinds() : std::vector<vlk::FuelCurve::Blind>())
+            for (const vlk::FuelCurve::Blind& blind : tank.blinds())
                 outcome_.complaints += complaint(
                     file.name, text("cli_345").arg(fixedNumber(blind.least, 1), fixedNumber(blind.most, 1),
                                                    fixedNumber(blind.level, 1),

@@ -11,6 +11,11 @@ struct TankSensor
 {
     const LevelSensor* sensor;
     std::optional<FuelCurve> curve; // without it litres come from the CAN bus alone
+
+    std::vector<FuelCurve::Blind> blinds() const
+    {
+        return curve ? curve->blinds() : std::vector<FuelCurve::Blind>();
+    }
 };
 
 // What the sensor says, in the unit of its table; NaN where it says nothing.

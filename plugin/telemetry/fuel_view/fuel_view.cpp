@@ -336,8 +336,7 @@ QStringList FuelView::tellBlindLevels() const
 {
     QStringList texts;
     for (const TankSensor& tank : tanks_->tanks()) {
-        for (const FuelCurve::Blind& blind :
-             tank.curve ? tank.curve->blinds() : std::vector<FuelCurve::Blind>())
+        for (const FuelCurve::Blind& blind : tank.blinds())
             texts << tr("rec_570").arg(numberText(blind.least, 1), numberText(blind.most, 1),
                                        numberText(blind.level, 1), levelSensorCaption(*tank.sensor));
     }
