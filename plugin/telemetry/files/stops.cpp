@@ -9,7 +9,7 @@ namespace vlk {
 namespace {
 
 constexpr double kStandingBelow = 3; // km/h
-constexpr qint64 kShortestStop = 3 * 60;
+constexpr qint64 kShortestStanding = 3 * 60;
 
 } // namespace
 
@@ -20,7 +20,7 @@ std::vector<Stop> stopsOf(RecordColumns& columns, const std::vector<int>& byTime
     std::vector<Stop> stops;
     Stop stop{-1, -1};
     const auto end = [&] {
-        if (stop.first >= 0 && qint64{times[stop.last]} - times[stop.first] >= kShortestStop)
+        if (stop.first >= 0 && qint64{times[stop.last]} - times[stop.first] >= kShortestStanding)
             stops.push_back(stop);
         stop = {-1, -1};
     };
