@@ -10,7 +10,7 @@ void showAsSilent(QProgressBar* bar, bool silent)
 {
     QPalette colours;
     if (silent) {
-        const QPalette window = bar->palette();
+        const QPalette& window = bar->palette();
         colours.setColor(QPalette::Highlight, markColor(Mark::advice, window));
         colours.setColor(QPalette::HighlightedText, window.color(QPalette::Window));
     }

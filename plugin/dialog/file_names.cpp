@@ -56,7 +56,7 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question)
                       QStringLiteral("%1/%2.%3").arg(folder, freeName(folder, question), question.suffix),
                       question.filter, question.suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told"));
-    const QString path = dialog.ask();
+    QString path = dialog.ask();
     if (!path.isEmpty())
         rememberFolder(question.kind, path);
     return path;
@@ -64,7 +64,7 @@ QString askPathToSave(QWidget* parent, const PathQuestion& question)
 
 QString askPathToOpen(QWidget* parent, FileKind kind, const QString& caption, const QString& filter)
 {
-    const QString path = QFileDialog::getOpenFileName(
+    QString path = QFileDialog::getOpenFileName(
         parent, caption, lastFolder(kind, vlkDevice ? vlkDevice->xmlFolder() : QString()), filter);
     if (!path.isEmpty())
         rememberFolder(kind, path);

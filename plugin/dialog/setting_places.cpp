@@ -26,7 +26,7 @@ constexpr int kOutlineMs = 1500;
 constexpr char kOutlineName[] = "frame_Found";
 // Parts of what is in sight of a page that stay free above and below a setting.
 constexpr int kMiddle = 2;
-constexpr int kEdge = 8;
+constexpr int kRoomAtEdge = 8;
 
 void showTabs(QWidget* widget)
 {
@@ -144,7 +144,7 @@ void SettingPlaces::pointAt(QWidget* widget)
 void SettingPlaces::keepInSight(QWidget* widget)
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    scrollTo(widget, kEdge);
+    scrollTo(widget, kRoomAtEdge);
 }
 
 SettingPlaces::SettingPlaces(std::function<std::vector<PageSettings*>()> pages, QObject* parent)

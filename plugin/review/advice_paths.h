@@ -1,6 +1,6 @@
 #pragma once
 
-// Whether settings have the paths of advice, at compile time: static_assert(arePathsKnown<kRules>).
+// Whether settings have the paths of advice, at compile time: static_assert(kArePathsKnown<kRules>).
 
 #include "base/name_table.h"
 #include "review/advice_rule.h"
@@ -88,13 +88,13 @@ constexpr bool arePathsOf(const Rule& rule)
 
 // Rule by rule: compilers bound what one evaluation may take.
 template <const auto& rules, std::size_t i>
-inline constexpr bool arePathsKnownAt = arePathsOf(rules[i]) ? true
-                                                             : throw "no setting has a path of the rule";
+inline constexpr bool kArePathsKnownAt = arePathsOf(rules[i]) ? true
+                                                              : throw "no setting has a path of the rule";
 
 template <const auto& rules>
-inline constexpr bool arePathsKnown = []<std::size_t... i>(std::index_sequence<i...>)
+inline constexpr bool kArePathsKnown = []<std::size_t... i>(std::index_sequence<i...>)
 {
-    return (arePathsKnownAt<rules, i> && ...);
+    return (kArePathsKnownAt<rules, i> && ...);
 }
 (std::make_index_sequence<std::size(rules)>());
 

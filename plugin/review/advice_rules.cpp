@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto kAll = rulesOf(kTransferRules, kRecordRules, kTrackRules, kSystemRules, kRsRules, kInputRules,
                               kOutputRules, kBluetoothRules);
-static_assert(arePathsKnown<kAll>);
+static_assert(kArePathsKnown<kAll>);
 static_assert(isKnown(kMaskPath, {}) && isKnown(kFormatPath, {}));
 
 } // namespace

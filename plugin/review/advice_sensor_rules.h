@@ -71,23 +71,23 @@ constexpr Rule sentAs(const char* id, std::uint8_t numbers, const char* type, co
 template <std::size_t i>
 struct NamedSensors
 {
-    static constexpr const BluetoothSensorType& type = kBluetoothSensorTypes[i];
-    static constexpr bool any =
-        std::ranges::any_of(type.vendors, [](const BluetoothVendor& model) { return model.needsName; });
+    static constexpr const BluetoothSensorType& kType = kBluetoothSensorTypes[i];
+    static constexpr bool kAny =
+        std::ranges::any_of(kType.vendors, [](const BluetoothVendor& model) { return model.needsName; });
     // "BLUETOOTH/FS%1/type"
-    static constexpr auto model = [] {
+    static constexpr auto kModel = [] {
         std::array<char, 32> path{};
         auto end = path.begin();
-        for (const std::string_view part : {"BLUETOOTH/", type.section, "/type"})
+        for (const std::string_view part : {"BLUETOOTH/", kType.section, "/type"})
             end = std::copy(part.begin(), part.end(), end);
         return path;
     }();
     // "0|4"
-    static constexpr auto codes = [] {
+    static constexpr auto kCodes = [] {
         std::array<char, 32> list{};
         auto end = list.begin();
-        for (std::size_t code = 0; code < type.vendors.size(); ++code) {
-            if (!type.vendors[code].needsName)
+        for (std::size_t code = 0; code < kType.vendors.size(); ++code) {
+            if (!kType.vendors[code].needsName)
                 continue;
             if (end != list.begin())
                 *end++ = '|';
@@ -101,14 +101,14 @@ template <std::size_t i>
 constexpr auto nameless()
 {
     using Sensors = NamedSensors<i>;
-    std::array<Rule, Sensors::any> rules;
+    std::array<Rule, Sensors::kAny> rules;
     std::ranges::fill(rules, rule("bluetooth_name", hint, "adv_030")
                                  .each(kBluetoothSensors)
-                                 .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::type.code),
-                                       is(Sensors::model.data(), Sensors::codes.data()),
+                                 .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::kType.code),
+                                       is(Sensors::kModel.data(), Sensors::kCodes.data()),
                                        is("BLUETOOTH/SENS%1/name", ""))
-                                 .naming("BLUETOOTH/SENS%1/name", Sensors::model.data())
-                                 .telling(outerNumber(), valueOf(Sensors::model.data())));
+                                 .naming("BLUETOOTH/SENS%1/name", Sensors::kModel.data())
+                                 .telling(outerNumber(), valueOf(Sensors::kModel.data())));
     return rules;
 }
 

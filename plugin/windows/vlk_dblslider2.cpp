@@ -23,7 +23,7 @@ constexpr QPoint kHandleShape[] = {{0, 19}, {-4, 15}, {-4, 1}, {4, 1}, {4, 15}, 
 class VLK_DblSlider2::Ends : public QWidget
 {
 public:
-    static constexpr int room = kHandleHalf + 1;
+    static constexpr int kRoom = kHandleHalf + 1;
 
     explicit Ends(const VLK_DblSlider2* slider) : QWidget(slider->parentWidget()), slider_(slider)
     {
@@ -34,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        painter.translate(room, 0);
+        painter.translate(kRoom, 0);
         slider_->paintHandles(painter);
     }
 
@@ -250,7 +250,7 @@ void VLK_DblSlider2::placeEnds()
         ends_ = new Ends(this);
         ends_->stackUnder(this);
     }
-    ends_->setGeometry(geometry().adjusted(-Ends::room, 0, Ends::room, 0));
+    ends_->setGeometry(geometry().adjusted(-Ends::kRoom, 0, Ends::kRoom, 0));
     ends_->show();
 }
 

@@ -88,13 +88,14 @@ private Q_SLOTS:
         for (const QString& step : steps)
             run(step);
         const auto choice = [this](int slot) {
-            return slot_(1, slot)->currentText().replace("cfgt5_001", "-");
+            return slotBox(1, slot)->currentText().replace("cfgt5_001", "-");
         };
         const QString seen = QStringLiteral("%1 %2 [%3] +%4")
                                  .arg(choice(1), choice(2), listOf(1, 3).join('|'))
                                  .arg(size() - before);
         QTEST(seen, "seen");
-        QCOMPARE(slot_(1, 16)->isEnabled(), seen.contains("T, ")); // as soon as there is something to choose
+        QCOMPARE(slotBox(1, 16)->isEnabled(),
+                 seen.contains("T, ")); // as soon as there is something to choose
     }
 
     void thirdPart()
@@ -156,7 +157,7 @@ private Q_SLOTS:
         page_->retranslate();
         QCOMPARE(listOf(1, 1), QStringList("IS, A"));
         QCOMPARE(listOf(8, 2), QStringList({"cfgt5_021", "cfgt5_022"}));
-        QCOMPARE(slot_(8, 1)->currentText(), QString("cfgt5_020"));
+        QCOMPARE(slotBox(8, 1)->currentText(), QString("cfgt5_020"));
     }
 
     // What is checked in the list is on offer, what is unchecked is not, and the filter finds names and bits.
@@ -228,7 +229,7 @@ private Q_SLOTS:
         QCOMPARE(full.userParamCode("MB, " + text), QString("MB3"));
         QCOMPARE(full.userParamText("MB3"), text);
 
-        slot_(1, 4)->setCurrentIndex(1);
+        slotBox(1, 4)->setCurrentIndex(1);
         vlk::XmlDocument out(QString(), "DEVICE");
         full.saveToXml(out.root());
         QCOMPARE(out.root()->child("PROTOCOL")->child("USRPRM1")->getString("p4"), QString("MB3"));
@@ -242,7 +243,7 @@ private Q_SLOTS:
     }
 
 private:
-    QComboBox* slot_(int bytes, int slot)
+    QComboBox* slotBox(int bytes, int slot)
     {
         return child<QComboBox>(QStringLiteral("comboBox_User_%1Byte_%2").arg(bytes).arg(slot));
     }
@@ -250,8 +251,8 @@ private:
     QStringList listOf(int bytes, int slot)
     {
         QStringList list;
-        for (int i = 1; i < slot_(bytes, slot)->count(); ++i)
-            list << slot_(bytes, slot)->itemText(i);
+        for (int i = 1; i < slotBox(bytes, slot)->count(); ++i)
+            list << slotBox(bytes, slot)->itemText(i);
         return list;
     }
     int size() { return text("label_Size_Value").toInt(); }

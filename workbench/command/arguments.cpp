@@ -278,7 +278,7 @@ QString whyNoCommand(const QStringList& arguments)
 // The parser's own words are English; in front of them stands the name of the option that they are about.
 QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
 {
-    const QString said = QString::fromUtf8(error.what());
+    QString said = QString::fromUtf8(error.what());
     QStringList left;
     for (const std::string& argument : app.remaining(true))
         left << readable(nameOf(argument));

@@ -32,7 +32,7 @@ namespace {
 class Column
 {
 public:
-    static constexpr int lacks = -1;
+    static constexpr int kLacks = -1;
 
     // By its meaning, which is not null.
     void take(std::size_t file, const Held& value)
@@ -57,7 +57,7 @@ public:
     {
         if (held_.empty())
             held_.assign(same_, 0);
-        held_.resize(files, lacks);
+        held_.resize(files, kLacks);
     }
     const std::vector<Held>& values() const { return values_; }
     const std::vector<int>& held() const { return held_; }
@@ -203,7 +203,7 @@ private:
         QStringList lacking;
         for (std::size_t file = 0; file < column.held().size(); ++file) {
             const int number = column.held()[file];
-            (number == Column::lacks ? lacking : values[number].files) << files_[static_cast<int>(file)];
+            (number == Column::kLacks ? lacking : values[number].files) << files_[static_cast<int>(file)];
         }
         const auto most =
             std::ranges::max_element(values, {}, [](const Told& told) { return told.files.size(); });

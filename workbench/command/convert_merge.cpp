@@ -36,7 +36,11 @@ struct Place
         const bool isKnown = tracker != kNoTracker && other.tracker != kNoTracker;
         return key == other.key && (tracker == other.tracker || !isKnown);
     }
-    auto operator<=>(const Place&) const = default;
+    std::strong_ordering operator<=>(const Place& other) const
+    {
+        return std::tie(key, tracker) <=> std::tie(other.key, other.tracker);
+    }
+    bool operator==(const Place&) const = default;
 };
 
 // As a record lies in the file, in front of its bytes.
@@ -160,7 +164,10 @@ private:
         Place place;
         std::size_t run;
 
-        auto operator<=>(const Head&) const = default;
+        std::strong_ordering operator<=>(const Head& other) const
+        {
+            return std::tie(place, run) <=> std::tie(other.place, other.run);
+        }
     };
 
     // Files that read user parameters alike count as one.

@@ -114,7 +114,7 @@ std::string allNames(const CLI::App& app)
 
 std::string manualPage(const CLI::App& app)
 {
-    const std::string name = app.get_name();
+    const std::string& name = app.get_name();
     std::string page = ".TH " + QString::fromStdString(name).toUpper().toStdString() + " 1 \"\" \"" + name +
                        ' ' + VLK_VERSION + "\"\n";
     page += heading("cli_140") + name + " \\- " + plain(app.get_description()) + '\n';
@@ -150,7 +150,7 @@ std::string bashCompletion(const CLI::App& app)
     add(app);
     for (const CLI::App* command : commandsOf(app))
         add(*command);
-    const std::string name = app.get_name();
+    const std::string& name = app.get_name();
     return "# bash completion for " + name + "\n_" + name + "()\n{\n" +
            "    local now=${COMP_WORDS[COMP_CWORD]} command='' word words=''\n"
            "    COMPREPLY=()\n"

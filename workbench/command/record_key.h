@@ -5,6 +5,9 @@
 #include "telemetry/files/raw_values.h"
 #include "telemetry/record/record_store.h"
 
+#include <compare>
+#include <tuple>
+
 namespace workbench::command {
 
 struct RecordKey
@@ -13,7 +16,11 @@ struct RecordKey
     quint32 number = 0;
     bool isPacket = false;
 
-    auto operator<=>(const RecordKey&) const = default;
+    std::strong_ordering operator<=>(const RecordKey& other) const
+    {
+        return std::tie(time, number, isPacket) <=> std::tie(other.time, other.number, other.isPacket);
+    }
+    bool operator==(const RecordKey&) const = default;
 };
 
 inline RecordKey keyOf(const vlk::RecordStore& store, int record)

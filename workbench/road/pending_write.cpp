@@ -80,9 +80,8 @@ std::optional<RoadReport> PendingWrite::left() const
     for (const auto& [key, value] : textsOf(report))
         *value = object[QLatin1String(key)].toString();
     for (const auto& [key, values] : listsOf(report)) {
-        const QJsonArray kept = object[QLatin1String(key)].toArray();
-        for (int i = 0; i < kept.size(); ++i)
-            values->append(kept[i].toString());
+        for (const QJsonValue& kept : object[QLatin1String(key)].toArray())
+            values->append(kept.toString());
     }
     if (report.tracker.number.isEmpty())
         return {};

@@ -59,13 +59,13 @@ public:
             eventSwitches(events_[i]);
         if (!settings_.output.switched)
             now_.output = false;
-        if (now_.output && now_.outputSince == waiting && !vehicle_.driving())
+        if (now_.output && now_.outputSince == kWaiting && !vehicle_.driving())
             now_.outputSince = vehicle_.m.time;
         return now_;
     }
 
 private:
-    static constexpr qint64 waiting = std::numeric_limits<qint64>::max();
+    static constexpr qint64 kWaiting = std::numeric_limits<qint64>::max();
 
     static EventCode after(EventCode first, int steps)
     {
@@ -225,7 +225,7 @@ private:
         constexpr int off = 2;
         const int what = settings_.output.actions[position];
         if (what == on && !now_.output)
-            now_.outputSince = settings_.output.whenSafe ? waiting : vehicle_.m.time;
+            now_.outputSince = settings_.output.whenSafe ? kWaiting : vehicle_.m.time;
         if (what == on || what == off)
             now_.output = what == on;
     }

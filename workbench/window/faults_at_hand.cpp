@@ -8,13 +8,11 @@
 #include <QKeyEvent>
 #include <QWindow>
 
-#include <utility>
-
 namespace workbench {
 
-FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
-                           QWidget* mainWindow)
-    : tracker_(tracker), key_(std::move(key)), mainWindow_(mainWindow)
+FaultsAtHand::FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers,
+                           const QKeySequence& key, QWidget* mainWindow)
+    : tracker_(tracker), key_(key), mainWindow_(mainWindow)
 {
     QCoreApplication::instance()->installEventFilter(this);
     connect(&answers, &AnswerWatch::asked, this, [this] { asker_ = QApplication::activeModalWidget(); });

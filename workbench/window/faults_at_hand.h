@@ -25,7 +25,7 @@ class FaultsAtHand : public QObject
     Q_OBJECT
 
 public:
-    FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, QKeySequence key,
+    FaultsAtHand(tracker::SimulatedTracker& tracker, const AnswerWatch& answers, const QKeySequence& key,
                  QWidget* mainWindow);
     ~FaultsAtHand() override;
 

@@ -72,9 +72,9 @@ void FileOpener::open(const QString& path, TelemetryWindow window)
 
 QString FileOpener::askConfiguration()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        mainWindow_, text("wb_open_caption"), settings_.openingFolder(DataKind::Configuration),
-        text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
+    QString path = QFileDialog::getOpenFileName(mainWindow_, text("wb_open_caption"),
+                                                settings_.openingFolder(DataKind::Configuration),
+                                                text("wb_type_configuration") + QStringLiteral(" (*.xml)"));
     if (!path.isEmpty())
         settings_.setOpenedFrom(DataKind::Configuration, path);
     return path;

@@ -37,7 +37,7 @@ namespace workbench {
 
 namespace {
 
-constexpr QSize historySize(980, 500);
+constexpr QSize kHistorySize(980, 500);
 constexpr int kListWidth = 380;
 
 // Numbers of backups, and what else can be compared with.
@@ -69,7 +69,7 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
     splitter->addWidget(buildDifferences());
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({kListWidth, historySize.width() - kListWidth});
+    splitter->setSizes({kListWidth, kHistorySize.width() - kListWidth});
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(vlk::grid::kAroundPage);
     column->setSpacing(vlk::grid::kRow);
@@ -88,7 +88,7 @@ HistoryWindow::HistoryWindow(HostSession& session, Settings& settings, QWidget* 
             compare();
     });
     vlk::guardFromWheel(this);
-    resizeWithin(this, historySize);
+    resizeWithin(this, kHistorySize);
     fill();
     list_->setFocus();
 }

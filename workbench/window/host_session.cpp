@@ -154,7 +154,7 @@ Sentence HostSession::whyNotOpened(const QString& path) const
 Sentence HostSession::openConfiguration(const QString& path, bool full)
 {
     QByteArray document;
-    if (const Sentence failure = readFile(path, &document))
+    if (Sentence failure = readFile(path, &document))
         return failure;
     ++opened_;
     edited_.openFile(path, document, comparer_.unknownKeys(document));

@@ -12,7 +12,7 @@ namespace workbench {
 namespace {
 
 // What title bar and borders take, before there are any to be asked.
-constexpr QSize frame(8, 36);
+constexpr QSize kFrame(8, 36);
 
 // As wide as its content, up to a part of the screen; beyond that it scrolls sideways too.
 class ColumnArea : public QScrollArea
@@ -49,7 +49,7 @@ QScrollArea* scrolling(QWidget* widget)
 
 QSize within(QSize wanted, QSize room)
 {
-    return wanted.boundedTo(room - frame);
+    return wanted.boundedTo(room - kFrame);
 }
 
 void resizeWithin(QWidget* window, QSize wanted)
@@ -69,7 +69,7 @@ void moveWithin(QWidget* window, QPoint place)
         return;
     const QRect room = screen->availableGeometry();
     const QPoint last = room.bottomRight() + QPoint(1, 1) -
-                        QPoint(window->width() + frame.width(), window->height() + frame.height());
+                        QPoint(window->width() + kFrame.width(), window->height() + kFrame.height());
     window->move(qMax(room.left(), qMin(place.x(), last.x())), qMax(room.top(), qMin(place.y(), last.y())));
 }
 

@@ -154,7 +154,7 @@ void Settings::setFolders(const QString& telemetry, const QString& configuration
 
 QString Settings::openingFolder(DataKind kind) const
 {
-    const QString last = store_->value(openedKey(kind)).toString();
+    QString last = store_->value(openedKey(kind)).toString();
     if (!last.isEmpty() && QFileInfo(last).isDir())
         return last;
     return kind == DataKind::Telemetry ? telemetryFolder() : configurationFolder();

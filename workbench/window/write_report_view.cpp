@@ -28,7 +28,7 @@ namespace workbench {
 
 namespace {
 
-constexpr QSize sizeWithSettings(860, 420);
+constexpr QSize kSizeWithSettings(860, 420);
 constexpr int kWidthOfWords = 560;
 constexpr int kRoomAround = 140; // what stands above and below the table
 
@@ -219,8 +219,8 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
     const bool keys = !report.settings.isEmpty();
     view->table_->setVisible(keys);
     resizeWithin(dialog,
-                 keys ? QSize(sizeWithSettings.width(),
-                              qMin(sizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
+                 keys ? QSize(kSizeWithSettings.width(),
+                              qMin(kSizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
                       : QSize(kWidthOfWords, dialog->heightForWidth(kWidthOfWords)));
     dialog->open();
     dialog->activateWindow();

@@ -258,7 +258,7 @@ QString BandsStrip::tipAt(const QPoint& place) const
                   : requests::eventText(static_cast<int>(model_->records().columns().codes()[mark]));
         return momentText(times[mark], offset) + QLatin1Char(' ') + event;
     }
-    if (const QString gap = plot_->gapText(place.x()); band >= bandCount() || !gap.isEmpty())
+    if (QString gap = plot_->gapText(place.x()); band >= bandCount() || !gap.isEmpty())
         return gap;
     const double moment = plot_->timeAtPixel(place.x());
     const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs->on;

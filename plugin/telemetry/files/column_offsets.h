@@ -63,7 +63,7 @@ private:
 // The value there, 0 where it is cut by the end of the record or has no bytes.
 inline std::uint64_t rawIn(std::span<const std::uint8_t> record, int offset, int width)
 {
-    const bool isThere = offset >= 0 && record.size() >= static_cast<std::size_t>(offset + width);
+    const bool isThere = offset >= 0 && static_cast<std::ptrdiff_t>(offset) + width <= std::ssize(record);
     return isThere ? rawAt(record.data() + offset, width) : 0;
 }
 

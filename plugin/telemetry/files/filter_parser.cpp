@@ -291,6 +291,7 @@ private:
         if (!isEqual && comparison != Comparison::notEqual)
             return fault(Expected::equality, begin);
         std::vector<FilterNode> parts;
+        parts.reserve(codes.size());
         for (const CodeRange& range : codes)
             parts.push_back(isEqual ? inside(column_, range) : outside(column_, range));
         position_ = end;
@@ -370,7 +371,7 @@ QString inQuotes(const QString& word)
 // With the words of the column that begin as the unknown one does.
 QString unknownWordText(const QString& column, const QString& word, const QStringList& known)
 {
-    const QString needed = translated("rec_360").arg(column, word);
+    QString needed = translated("rec_360").arg(column, word);
     const QString typed = foldedForFilter(word);
     for (int length = typed.size(); length >= kLeastAlike; --length) {
         QStringList near = matching(known, typed.left(length)).mid(0, kMostNearWords);

@@ -36,6 +36,7 @@ std::vector<ElementIndex> allElements()
 std::vector<ElementIndex> elementsOf(const std::vector<ItemIndex>& items)
 {
     std::vector<ElementIndex> elements;
+    elements.reserve(items.size());
     for (const ItemIndex item : items)
         elements.push_back(kItems[item].element);
     return elements;

@@ -58,13 +58,11 @@ NumberCell numberCell(ElementIndex index, std::string_view userTypes)
     const Element& element = kElements[index];
     const Measure& measure = element.measure;
     NumberCell cell{.element = index, .unit = measure.unit, .userType = letterOf(element.field, userTypes)};
-    if (cell.userType == 'f' && element.width >= 4) {
+    if ((cell.userType == 'f' && element.width >= 4) || element.type == ValueType::f32) {
         cell.kind = NumberCell::single;
     } else if (measure.unit == Unit::unixSeconds) {
         cell.kind = NumberCell::moment;
         cell.unit = Unit::none;
-    } else if (element.type == ValueType::f32) {
-        cell.kind = NumberCell::single;
     } else if (measure.unit == Unit::degree && measure.divisor > 1000) {
         const auto divisor = static_cast<std::int64_t>(measure.divisor);
         const std::int64_t units = powerOfTen(kDecimalsOfDegrees);

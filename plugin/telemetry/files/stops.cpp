@@ -9,7 +9,7 @@ namespace vlk {
 namespace {
 
 constexpr double kStandingBelow = 3; // km/h
-constexpr qint64 kShortestStanding = 3 * 60;
+constexpr qint64 kShortestStanding = qint64{3} * 60;
 
 } // namespace
 

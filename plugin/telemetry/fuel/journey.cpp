@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr float kMovesFrom = 3; // km/h
-constexpr qint64 kDay = 24 * 3600;
+constexpr qint64 kDay = qint64{24} * 3600;
 constexpr double kLeastWay = 1000; // metres, for what is burnt on a hundred kilometres
 
 } // namespace

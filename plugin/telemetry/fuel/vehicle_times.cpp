@@ -43,7 +43,7 @@ Ignition ignitionOf(double state)
 void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records)
 {
     const auto areFar = [&times](int record, int other) {
-        constexpr qint64 far = 24 * 3600;
+        constexpr qint64 far = qint64{24} * 3600;
         return std::abs(qint64{times[record]} - times[other]) > far;
     };
     std::size_t kept = 0;

@@ -108,7 +108,7 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
                       suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
-    const QString path = dialog.ask();
+    QString path = dialog.ask();
     if (!path.isEmpty())
         rememberFolder(FileKind::records, path);
     return path;

@@ -37,7 +37,7 @@ QString unknownText(const ExtraEntry& entry)
         .arg(QString::fromLatin1(bytes.toHex(' ')), QString::number(entry.size));
 }
 
-QStringList columns(const ExtraEntry& entry)
+QStringList cellsOf(const ExtraEntry& entry)
 {
     switch (entry.type) {
     case ExtraEntry::TouchKey:
@@ -54,12 +54,11 @@ QStringList columns(const ExtraEntry& entry)
 } // namespace
 
 VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* parent)
-    : QWidget(parent), record_(panel), groupBox_NaviMain_(new QGroupBox(this)),
-      treeWidget_(new QTreeWidget(this))
+    : QWidget(parent), record_(panel), navigation_(new QGroupBox(this)), treeWidget_(new QTreeWidget(this))
 {
-    groupBox_NaviMain_->setObjectName(QStringLiteral("groupBox_NaviMain"));
-    dressGroup(groupBox_NaviMain_);
-    auto* grid = new QGridLayout(groupBox_NaviMain_);
+    navigation_->setObjectName(QStringLiteral("groupBox_NaviMain"));
+    dressGroup(navigation_);
+    auto* grid = new QGridLayout(navigation_);
     grid->setContentsMargins(grid::kInGroup);
     grid->setHorizontalSpacing(grid::kColumn);
     rows_.add(grid, kPlace);
@@ -72,7 +71,7 @@ VLK_Form_TMI_ZetaExt::VLK_Form_TMI_ZetaExt(vlk::EventPanel* panel, QWidget* pare
     treeWidget_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(groupBox_NaviMain_);
+    layout->addWidget(navigation_);
     layout->addWidget(treeWidget_, 1);
     retranslate();
 }
@@ -82,7 +81,7 @@ void VLK_Form_TMI_ZetaExt::fill(const TmiPage_Zeta3& page)
     rows_.fill(page);
     treeWidget_->clear();
     page.extra().forEachEntry([this](const ExtraEntry& entry) {
-        auto* row = new QTreeWidgetItem(treeWidget_, columns(entry));
+        auto* row = new QTreeWidgetItem(treeWidget_, cellsOf(entry));
         for (int column = 0; column < treeWidget_->columnCount(); ++column)
             row->setTextAlignment(column, Qt::AlignCenter);
     });
@@ -96,7 +95,7 @@ void VLK_Form_TMI_ZetaExt::setUtcOffset(int seconds)
 
 void VLK_Form_TMI_ZetaExt::retranslate()
 {
-    groupBox_NaviMain_->setTitle(tr("tmiex_001"));
+    navigation_->setTitle(tr("tmiex_001"));
     treeWidget_->setHeaderLabels({tr("tmiex_011"), tr("tmiex_012")});
     rows_.retranslate();
     if (record_.page())

@@ -35,6 +35,6 @@ public:
 private:
     vlk::RecordOnShow record_;
     vlk::ValueRows rows_;
-    QGroupBox* groupBox_NaviMain_;
+    QGroupBox* navigation_;
     QTreeWidget* treeWidget_;
 };

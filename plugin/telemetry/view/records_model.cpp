@@ -302,7 +302,7 @@ QString RecordsModel::text(int record, int column) const
     case CellKind::time:
         return momentText(static_cast<quint32>(*value), shown_->utcOffset());
     case CellKind::event:
-        if (const QString event = eventText(static_cast<quint16>(*value)); !event.isEmpty())
+        if (QString event = eventText(static_cast<quint16>(*value)); !event.isEmpty())
             return event;
         break;
     default:

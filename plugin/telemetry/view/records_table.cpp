@@ -296,13 +296,11 @@ void RecordsTable::keyPressEvent(QKeyEvent* event)
     open(currentIndex());
 }
 
-// Without a current row the view would go to the first one.
+// Without a current row the view would go to the first one, unless the mouse gave it the keyboard.
 void RecordsTable::focusInEvent(QFocusEvent* event)
 {
-    if (currentIndex().isValid())
-        return QTableView::focusInEvent(event);
-    QAbstractScrollArea::focusInEvent(event);
-    viewport()->update();
+    QFocusEvent byMouse(event->type(), Qt::MouseFocusReason);
+    QTableView::focusInEvent(currentIndex().isValid() ? event : &byMouse);
 }
 
 void RecordsTable::contextMenuEvent(QContextMenuEvent* event)

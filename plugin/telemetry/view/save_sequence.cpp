@@ -65,7 +65,7 @@ QString keptEarlier(const QString& path)
         QString mark = translated("tmiw_293");
         if (number > 1)
             mark += QLatin1Char(' ') + QString::number(number);
-        const QString kept = info.dir().filePath(
+        QString kept = info.dir().filePath(
             QStringLiteral("%1 (%2).%3").arg(info.completeBaseName(), mark, info.suffix()));
         if (QFile::rename(path, kept))
             return kept;

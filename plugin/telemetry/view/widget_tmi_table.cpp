@@ -317,13 +317,17 @@ bool VLK_Widget_Tmi_Table::stepBack()
         qobject_cast<QLineEdit*>(focusWidget()) || qobject_cast<QAbstractSpinBox*>(focusWidget());
     if (progress_->isRunning()) {
         Q_EMIT progress_->cancelled();
-    } else if (progress_->hasJustEnded()) {
         return true;
-    } else if (findBar_->isVisible()) {
+    }
+    if (progress_->hasJustEnded())
+        return true;
+    if (findBar_->isVisible()) {
         findBar_->close();
-    } else if (filter_->giveBack()) {
         return true;
-    } else if (isInField) {
+    }
+    if (filter_->giveBack())
+        return true;
+    if (isInField) {
         if (focusWidget() == filter_->focusProxy())
             table_->setFocus();
     } else if (!places_->stepBack()) {
