@@ -324,7 +324,7 @@ private Q_SLOTS:
                 ScriptedHost::child<QLineEdit>(ScriptedHost::window("VLK_Widget_Config"), "lineEdit_Find");
             find->clear();
             QTest::keyClicks(find, "gauge of ru");
-            const QString first =
+            QString first =
                 ScriptedHost::child<QListWidget>(find->window(), "listWidget_Found")->item(0)->text();
             find->clear();
             return first;

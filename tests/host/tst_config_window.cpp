@@ -408,7 +408,7 @@ private Q_SLOTS:
         // The allocator's own caches count as taken and fill slowly.
         const std::size_t before = useIt(40);
         const auto grown = std::ptrdiff_t(useIt(160) - before);
-        QVERIFY2(grown < 160 * 300, qPrintable(QString::number(grown)));
+        QVERIFY2(grown < std::ptrdiff_t{160} * 300, qPrintable(QString::number(grown)));
         for (const QLineEdit* edit : window->findChildren<QLineEdit*>())
             QVERIFY2(!edit->isUndoAvailable(), qPrintable(edit->objectName()));
     }

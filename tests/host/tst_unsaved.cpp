@@ -512,7 +512,7 @@ private:
     {
         press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
         const QString path = host_.takeSent(Message::WriteConfiguration).value(0).text1;
-        const QByteArray content = readFile(path);
+        QByteArray content = readFile(path);
         QFile::remove(path);
         return content;
     }

@@ -16,6 +16,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 class PagesTest : public QObject
@@ -242,9 +243,10 @@ private:
                 static const QRegularExpression byList("^(TRANS/(SRV|CRYPTO/srv)\\d|RS485/(FLDS|FS|PCNT))");
                 if (titles.isEmpty() || path.contains(byList))
                     return;
-                const QStringList heading = vlk::headingText(values.setting(row)).split(" / ");
-                for (auto title = heading.rbegin(); title != heading.rend(); ++title) {
-                    const QString shown = title->section(": ", 0, 0);
+                QStringList heading = vlk::headingText(values.setting(row)).split(" / ");
+                std::ranges::reverse(heading);
+                for (const QString& title : qAsConst(heading)) {
+                    const QString shown = title.section(": ", 0, 0);
                     while (!titles.isEmpty() && QString(titles[0]).remove(':') != shown)
                         titles.removeFirst();
                     QVERIFY2(!titles.isEmpty(), qPrintable(path + " stands not under " + shown));

@@ -503,9 +503,9 @@ private:
             connect(form, &vlk::BleSensorForm::signal_Device_UserParam_Del, this,
                     [this](userParamType kind) { told_ << QString("-%1").arg(static_cast<int>(kind)); });
         }
-        const auto number_ = [](int index) { return index < 0 ? QString() : QString::number(index); };
+        const auto orNothing = [](int index) { return index < 0 ? QString() : QString::number(index); };
         connect(&type, &Type::signal_ChangeIdxTS_Int, this, [=, this](int give, int take) {
-            told_ << QString("%1:%2>%3").arg(number).arg(number_(give), number_(take));
+            told_ << QString("%1:%2>%3").arg(number).arg(orNothing(give), orNothing(take));
         });
         connect(&type, &Type::signal_ChangeIdxFS, this, [=, this](const QString& give, const QString& take) {
             told_ << QString("%1:%2>%3").arg(number).arg(give.section(' ', -1), take.section(' ', -1));

@@ -71,6 +71,7 @@ std::vector<TankSensor> tenfold()
 std::vector<Told> standing(const std::vector<double>& litres, quint32 from = 0, quint32 step = 60)
 {
     std::vector<Told> records;
+    records.reserve(litres.size());
     for (const double each : litres)
         records.push_back({from + step * quint32(records.size()), each});
     return records;
@@ -232,6 +233,7 @@ private Q_SLOTS:
         QTest::newRow("once behind a gap") << high + standing(times(1, 250) + times(20, 300), 40'000) << "";
         // Each tooth is below the threshold, and an engine that burns that much is no reason to add them up.
         std::vector<double> teeth;
+        teeth.reserve(120);
         for (int i = 0; i < 120; ++i)
             teeth.push_back(113.5 - i % 10 * 1.5);
         QTest::newRow("saw teeth") << standing(teeth) << "";

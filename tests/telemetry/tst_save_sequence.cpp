@@ -332,7 +332,7 @@ private Q_SLOTS:
         host.send(Message::SetPaths, &paths);
         const QDateTime day(QDate(2025, 2, 1), QTime(), Qt::UTC);
         for (const auto& [hour, isCancelled] : {std::pair(8, false), std::pair(9, true)}) {
-            child<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(day.addSecs(hour * 3600));
+            child<QDateTimeEdit>("dateTimeEdit_First")->setDateTime(day.addSecs(qint64{hour} * 3600));
             file_ = isCancelled ? QString() : folder.filePath("period.xml");
             startSave(7, 8);
             window->close();

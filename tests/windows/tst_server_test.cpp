@@ -13,7 +13,7 @@ class TestServerTest : public QObject
     Q_OBJECT
 
 private:
-    static constexpr vlk::ServerTestLimits quick{1500, 100};
+    static constexpr vlk::ServerTestLimits kQuick{1500, 100};
     const QString here_ = "127.0.0.1";
 
     static VLK_Form_IO_Progress* dialog()
@@ -75,12 +75,12 @@ private Q_SLOTS:
         QTcpServer server;
         const int port =
             beyondPort ? (server.listen(QHostAddress::LocalHost), server.serverPort()) : freePort();
-        vlk_Socket tester(nullptr, quick);
+        vlk_Socket tester(nullptr, kQuick);
         QSignalSpy answers(&tester, &vlk_Socket::testConnected);
 
         tester.test(address, port + beyondPort);
         auto* bar = dialog()->findChild<QProgressBar*>("progressBar");
-        QCOMPARE(bar->maximum(), quick.whole / quick.tick);
+        QCOMPARE(bar->maximum(), kQuick.whole / kQuick.tick);
         QTRY_VERIFY(bar->value() >= 3);
         QVERIFY(answers.isEmpty());
         QTRY_COMPARE(answers.count(), 1);
@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void userMayStopWaiting()
     {
-        vlk_Socket tester(nullptr, quick);
+        vlk_Socket tester(nullptr, kQuick);
         QSignalSpy answers(&tester, &vlk_Socket::testConnected);
         const std::function<void()> ways[] = {[] { QTest::keyClick(dialog(), Qt::Key_Escape); },
                                               [] { dialog()->close(); }};
@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
-        vlk_Socket tester(nullptr, quick);
+        vlk_Socket tester(nullptr, kQuick);
         QSignalSpy answers(&tester, &vlk_Socket::testConnected);
         tester.test(here_, server.serverPort());
         QTRY_COMPARE(answers.count(), 1);
@@ -138,7 +138,7 @@ private Q_SLOTS:
     {
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
-        auto* tester = new vlk_Socket(nullptr, quick);
+        auto* tester = new vlk_Socket(nullptr, kQuick);
         int answers = 0;
         connect(tester, &vlk_Socket::testConnected, this, [&](const QString&, const QString&, bool ok) {
             QVERIFY(ok);
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         for (int wait : {0, 1, 5}) {
-            auto tester = std::make_unique<vlk_Socket>(nullptr, quick);
+            auto tester = std::make_unique<vlk_Socket>(nullptr, kQuick);
             tester->test(here_, server.serverPort());
             QTest::qWait(wait);
             tester.reset();

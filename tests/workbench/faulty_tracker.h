@@ -89,7 +89,7 @@ struct Bench : OpenedWorkbench
     QString everything() { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
     tracker::SimulatedTracker& tracker() { return window.session().tracker(); }
 
-    static inline const QString newName = QStringLiteral("KAMAZ 5490");
+    static inline const QString kNewName = QStringLiteral("KAMAZ 5490");
     QString nameInTracker() { return tracker().configuration().text(QStringLiteral("TRANS/OBJECT/name")); }
 
     static QWidget* pluginWindow(const char* name)
@@ -144,7 +144,7 @@ struct Bench : OpenedWorkbench
         if (isWrite(step) || step == Search)
             action("action_Read")->trigger();
         if (isWrite(step))
-            configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(newName);
+            configuration()->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"))->setText(kNewName);
         if (isOfConfiguration(step))
             return;
         action("action_Telemetry")->trigger();

@@ -279,10 +279,10 @@ private Q_SLOTS:
         static const QRegularExpression confirmed(QStringLiteral("^(Written|Записано)"));
         const bool isConfirmed = said.contains(confirmed);
         if (step == Write || step == Send)
-            QCOMPARE(bench.nameInTracker() == Bench::newName,
+            QCOMPARE(bench.nameInTracker() == Bench::kNewName,
                      isConfirmed || (step == Send && faults.shortAnswers));
         if (step == Back) {
-            QCOMPARE(bench.nameInTracker(), Bench::newName);
+            QCOMPARE(bench.nameInTracker(), Bench::kNewName);
             const auto* report = bench.window.findChild<QTableView*>(QStringLiteral("tableView_Report"));
             QCOMPARE(report->findChild<QLabel*>(QStringLiteral("label_Empty"))->text(), QString());
         }

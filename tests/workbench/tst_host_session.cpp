@@ -162,7 +162,7 @@ private Q_SLOTS:
             QDir(path).removeRecursively();
             writeFile(path, "no folder");
             bench.session.newConfiguration(true);
-            const QString said = workbench::summary(bench.report());
+            QString said = workbench::summary(bench.report());
             QFile::remove(path);
             return said;
         };
