@@ -4,7 +4,7 @@
 // question for advice.
 
 #include "review/advice_rule.h"
-#include "settings/names.h"
+#include "settings/kinds/row.h"
 
 #include <QRegularExpression>
 

@@ -35,7 +35,7 @@ struct Names
     static constexpr bool kHasIndex = kType.index.list != BluetoothList::none;
 
     static constexpr Path kTypePath{kType.section, "type"};
-    static constexpr Path kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section, "idx"};
+    static constexpr PathOf<Choice> kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section, "idx"};
 
     static constexpr auto kVendorNumbers = [] {
         std::array<std::array<char, 2>, kType.vendors.size()> numbers{};

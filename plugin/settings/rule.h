@@ -8,7 +8,8 @@
 // it; at the end of an edit, a read or a reset what holds always. A read ends with what is set after it and
 // with the presets that agree.
 
-#include "settings/kinds/choice.h"
+#include "settings/kinds/digits.h"
+#include "settings/kinds/number.h"
 
 namespace vlk {
 
@@ -67,10 +68,10 @@ inline constexpr auto onSave = setsAt<Moment::save>;
 // of its own file stays as it is.
 struct Distance
 {
-    Path first;
-    Path second;
+    PathOf<Number> first;
+    PathOf<Number> second;
     double gap = 0;
-    Path gapFrom{};
+    PathOf<Number> gapFrom{};
     Name slider{}; // widget with two handles that shows both
     Numbers numbers{};
 
@@ -83,7 +84,7 @@ struct Distance
 struct RangeWhen
 {
     When when;
-    Path path;
+    PathOf<Number, Choice, Digits> path;
     double least = 0;
     double most = 0;
     const char* unit = nullptr;
@@ -104,7 +105,7 @@ struct RangeWhen
 // `split` differ.
 struct ExclusiveChoice
 {
-    Path path;
+    PathOf<Choice> path;
     When when{};
     When also{};
     const char* list = "";
@@ -132,7 +133,7 @@ struct PresetRow
 
 struct Presets
 {
-    Path trigger;
+    PathOf<Choice> trigger;
     std::array<Path, 8> fields{};
     std::span<const PresetRow> rows{};
     const char* other = nullptr;

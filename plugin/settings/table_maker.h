@@ -108,6 +108,21 @@ struct Finder
     Numbers numbers;
 };
 
+// Of rules: what they act on is of a kind that they can act on.
+struct RuleFinder : Finder
+{
+    using Finder::operator();
+    template <class... Kinds>
+    constexpr void operator()(PathOf<Kinds...>& path) const
+    {
+        operator()(static_cast<Path&>(path));
+        if (path && !(values[path.row]->template is<Kinds>() || ...))
+            throw "a rule acts on a setting of another kind";
+    }
+
+    std::span<const Setting* const> values; // by row
+};
+
 constexpr void checkTargets(const Enable& rule, NameTable widgets)
 {
     std::string_view names(rule.targets.tail);
@@ -141,6 +156,14 @@ struct Made
         }
         return all;
     }();
+    static constexpr auto kValues = [] {
+        std::array<const Setting*, kPaths.size()> values{};
+        for (std::size_t row = 0; const Setting& setting : kRows) {
+            if (!setting.is<Group>())
+                values[row++] = &setting;
+        }
+        return values;
+    }();
 };
 
 template <const auto& source, const auto& given>
@@ -149,7 +172,7 @@ struct MadeRules
     static constexpr auto kRules = [] {
         auto all = given;
         for (auto& rule : all) {
-            rule.eachPath(Finder{Made<source>::kPaths, rule.numbers});
+            rule.eachPath(RuleFinder{{Made<source>::kPaths, rule.numbers}, Made<source>::kValues});
             if constexpr (requires { rule.listHash; }) {
                 rule.listHash = hashOf(rule.list, rule.numbers);
                 rule.holderHash = hashOf(rule.holder, rule.numbers);

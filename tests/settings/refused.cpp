@@ -1,10 +1,10 @@
 // Tables that the compiler refuses, one a case; without a case it takes them. CMakeLists.txt tells the
 // reasons.
 
-#if CASE < 11
-#include "settings/settings_table.h"
-#else
+#if CASE == 11 || CASE == 12
 #include "review/advice_paths.h"
+#else
+#include "settings/settings_table.h"
 #endif
 
 namespace {
@@ -12,6 +12,8 @@ namespace {
 using namespace vlk;
 
 [[maybe_unused]] constexpr Code kCodes[] = {{.code = "a"}, {.code = "b"}};
+[[maybe_unused]] constexpr Position kPositions[] = {{"first"}, {"second"}};
+[[maybe_unused]] constexpr PeriodPart kParts[] = {{"seconds", 1, 0, 59, "abbr_003"}};
 
 constexpr auto kRows = rowsOf(group("A"), flag("on", 0).in("box"), flag("off", 0),
 #if CASE == 1
@@ -26,6 +28,12 @@ constexpr auto kRows = rowsOf(group("A"), flag("on", 0).in("box"), flag("off", 0
                               flag("twice", 1).in("box"),
 #elif CASE == 6
                               link("link", "A/nothing", 0),
+#elif CASE == 13
+                              digits("digits", "02", kPositions),
+#elif CASE == 14
+                              period("period", 5, kParts).atLeast(6),
+#elif CASE == 15
+                              integer("number", 5).switchedOnTo(7),
 #endif
                               integer("speed", 5).range(1, 5));
 
@@ -37,13 +45,23 @@ constexpr auto kSets = rulesOf(
 #endif
     always(when("A/speed", "5"), "A/off", "1"));
 
+#if CASE == 16
+constexpr auto kPairs = rulesOf(Distance{"A/speed", "A/on"});
+#elif CASE == 17
+constexpr auto kPairs = rulesOf(ExclusiveChoice{.path = "A/speed"});
+#elif CASE == 18
+constexpr auto kPairs = rulesOf(Presets{.trigger = "A/on"});
+#else
+constexpr auto kPairs = rulesOf(Distance{"A/speed", "A/speed"});
+#endif
+
 #if CASE == 9
 constexpr auto kEnables = rulesOf(enable("boxes", when("A/on")));
 #else
 constexpr auto kEnables = rulesOf(enable("box", when("A/on")), enable(parts("frame"), when("A/on")));
 #endif
 
-constexpr SettingsTable kTable = tableOf<kRows, kSets, kEnables>("S");
+constexpr SettingsTable kTable = tableOf<kRows, kSets, kPairs, kEnables>("S");
 
 // A kind without one of its functions.
 struct Forgotten : ShownOf<Forgotten>
@@ -52,7 +70,7 @@ struct Forgotten : ShownOf<Forgotten>
     int reset = 0;
 };
 
-#if CASE >= 11
+#if CASE == 11 || CASE == 12
 // Advice with a path that no setting has: of one number that is too many, or at all.
 constexpr std::array kAdvice{
     review::advice::rule("rule", review::Severity::hint, "key")
@@ -61,7 +79,7 @@ constexpr std::array kAdvice{
     review::advice::rule("rule", review::Severity::hint, "key")
         .when(review::advice::below("TRACK/POINTS/dist",
                                     CASE == 12 ? "TRACK/POINTS/none" : "TRACK/POINTS/angle"))};
-static_assert(review::advice::arePathsKnown<kAdvice>);
+static_assert(review::advice::kArePathsKnown<kAdvice>);
 #endif
 
 } // namespace

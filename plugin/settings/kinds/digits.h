@@ -33,6 +33,10 @@ constexpr void check(const Digits& row)
 {
     if (std::string_view(row.load).size() > row.positions.size())
         throw "a default has more digits than there are positions";
+    for (std::size_t i = 0; row.load[i]; ++i) {
+        if (row.load[i] < '0' || row.load[i] - '0' > row.positions[i].top)
+            throw "a default has a digit that its position lacks";
+    }
 }
 
 constexpr void eachBox(const Digits& row, auto take)

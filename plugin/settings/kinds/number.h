@@ -87,6 +87,8 @@ constexpr void check(const Number& row)
     };
     if (row.least > row.most)
         throw "a range is upside down";
+    if ((row.switchedOnAt >= 0 || row.negativeIsOn) && !row.zeroIsOff)
+        throw "what has no off cannot be switched on";
     if (!inRange(row.load) || (row.reset != 0 && !row.blankIsZero && !inRange(row.reset)))
         throw "a default is outside its range";
 }

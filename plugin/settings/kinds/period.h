@@ -37,6 +37,8 @@ constexpr void check(const Period& row)
 {
     if (row.parts.empty())
         throw "a period has no boxes";
+    if (row.load < row.least)
+        throw "a default is outside its range";
 }
 
 constexpr void eachBox(const Period& row, auto take)

@@ -5,11 +5,52 @@
 // setting.h lists the kinds.
 
 #include "base/code_list.h"
-#include "settings/names.h"
+#include "base/name.h"
+#include "base/numbered_name.h"
 
 #include <QStringList>
 
 namespace vlk {
+
+// A key whose row is found when its table is made (table_maker.h).
+struct Path : Name
+{
+    using Name::Name;
+    std::int16_t row = -1;
+};
+
+// One whose row is of one of the kinds.
+template <class... Kinds>
+struct PathOf : Path
+{
+    using Path::Path;
+};
+
+// Holds while the value at the path is one of `codes` ("NS+|NB+"), or not 0 and not empty where `codes` is
+// empty. Of whenSame(): while it is that of the same key in the element `codes`. Without a path it always
+// holds.
+struct When : Path
+{
+    bool negated = false;
+    bool same = false;
+    std::int16_t other = -1; // row of the same key
+    const char* codes = "";
+};
+
+constexpr When when(Path path, const char* codes = "")
+{
+    return {path, false, false, -1, codes};
+}
+
+constexpr When unless(Path path, const char* codes = "")
+{
+    return {path, true, false, -1, codes};
+}
+
+constexpr When whenSame(Path path, const char* element)
+{
+    return {path, false, true, -1, element};
+}
 
 // What becomes of a value that the file has no key for, or of one that lives in the window alone: its load
 // default, or it stays.

@@ -2,9 +2,10 @@
 
 // Names in two parts, told apart where they are written: "POINTS/angle" is the key `angle` of the element
 // POINTS, "TACH/comboBox_Type" a widget of the form TACH. In repeated rows and rules every name may hold
-// numbers.
+// numbers (base/numbered_name.h).
 
-#include "base/numbered_name.h"
+#include <cstdint>
+#include <string_view>
 
 namespace vlk {
 
@@ -33,38 +34,5 @@ struct Name
     const char* tail = nullptr; // the widget, the key
     std::uint8_t headSize = 0;
 };
-
-// A key whose row is found when its table is made (table_maker.h).
-struct Path : Name
-{
-    using Name::Name;
-    std::int16_t row = -1;
-};
-
-// Holds while the value at the path is one of `codes` ("NS+|NB+"), or not 0 and not empty where `codes` is
-// empty. Of whenSame(): while it is that of the same key in the element `codes`. Without a path it always
-// holds.
-struct When : Path
-{
-    bool negated = false;
-    bool same = false;
-    std::int16_t other = -1; // row of the same key
-    const char* codes = "";
-};
-
-constexpr When when(Path path, const char* codes = "")
-{
-    return {path, false, false, -1, codes};
-}
-
-constexpr When unless(Path path, const char* codes = "")
-{
-    return {path, true, false, -1, codes};
-}
-
-constexpr When whenSame(Path path, const char* element)
-{
-    return {path, false, true, -1, element};
-}
 
 } // namespace vlk
