@@ -5,27 +5,37 @@
 
 #include "link/messages.h"
 
+#include <algorithm>
+
 namespace vlk::requests {
 
 namespace detail {
 
 void send(Message id, void* p1 = nullptr, void* p2 = nullptr);
 
+// What stands in the table of messages as one to the host.
+constexpr bool isSent(Message id)
+{
+    return std::ranges::any_of(kMessages, [id](const MessageInfo& message) {
+        return message.number == id && message.direction == Direction::ToHost;
+    });
+}
+
 template <Message id>
-void plain()
+requires(isSent(id)) void plain()
 {
     send(id);
 }
 
 template <Message id>
-void withValue(int value)
+requires(isSent(id)) void withValue(int value)
 {
     send(id, asParameter(value));
 }
 
 // The value lives in this frame for the length of the call, as the host expects.
 template <Message id, class T>
-void withAddress(T value)
+requires(isSent(id)) void withAddress(T value)
 {
     send(id, &value);
 }

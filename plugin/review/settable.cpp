@@ -13,8 +13,14 @@ namespace vlk::review {
 
 namespace {
 
-// One function a kind whose loads take more than its windows do.
-bool isProper(const auto&, const QString&)
+// One function a kind: whether a window takes what a load would.
+template <IsStructure Row>
+bool isProper(const Row&, const QString&)
+{
+    return true;
+}
+
+bool isProper(const Period&, const QString&)
 {
     return true;
 }

@@ -14,8 +14,9 @@ namespace {
 using vlk::Change;
 using vlk::Limits;
 
-// One function a kind that can say it.
-QString expected(const auto&, const Limits&)
+// One function a kind.
+template <vlk::IsStructure Row>
+QString expected(const Row&, const Limits&)
 {
     return {};
 }

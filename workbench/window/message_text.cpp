@@ -134,8 +134,8 @@ constexpr RecordRow kRecords[] = {
      [](const void* p) { return numbers(p, "ended=%1 records=%2", &EndedSave::ended, &EndedSave::records); }},
     {Message::GetRunningWork,
      [](const void* p) {
-         return numbers(p, "saving=%1 automatic=%2 cancelled=%3", &RunningWork::saving,
-                        &RunningWork::automatic, &RunningWork::cancelled);
+         return numbers(p, "saving=%1 automatic=%2 clearing=%3 cancelled=%4", &RunningWork::saving,
+                        &RunningWork::automatic, &RunningWork::clearing, &RunningWork::cancelled);
      }},
     {Message::GetExtensions, [](const void* p) { return numbers(p, "newest=%1", &Extensions::newest); }},
     {Message::CompareFiles,

@@ -10,19 +10,49 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
+#include <concepts>
+
 namespace vlk {
 
 namespace {
 
+// One function a kind that a single widget shows.
+QWidget* inputOf(const Flag&)
+{
+    return new QCheckBox;
+}
+
+QWidget* inputOf(const Choice&)
+{
+    return new QComboBox;
+}
+
+QWidget* inputOf(const Text&)
+{
+    return new QLineEdit;
+}
+
+QWidget* inputOf(const Number& row)
+{
+    if (row.decimals > 0)
+        return new QDoubleSpinBox;
+    return new QSpinBox;
+}
+
+template <class Row>
+constexpr bool kHasInput =
+    !IsStructure<Row> && !std::same_as<Row, Period> && !std::same_as<Row, Digits> && !std::same_as<Row, Mask>;
+
 QWidget* newInput(const Setting& setting)
 {
-    if (setting.is<Flag>())
-        return new QCheckBox;
-    if (setting.is<Choice>())
-        return new QComboBox;
-    if (setting.is<Text>())
-        return new QLineEdit;
-    return new QSpinBox;
+    return std::visit(
+        []<class Row>(const Row& row) -> QWidget* {
+            if constexpr (kHasInput<Row>)
+                return inputOf(row);
+            else
+                qFatal("%s has no widget of its own", row.pathName());
+        },
+        setting.kind);
 }
 
 } // namespace
