@@ -61,7 +61,7 @@ public:
     void setTitle(const QString& title) { title_ = title; }
 
 Q_SIGNALS:
-    // What fillMask gives has changed, and what bytesBesideMask gives.
+    // What a fillMask...() gives has changed, and what bytesBesideMask() gives.
     void maskChanged();
     void bytesBesideMaskChanged();
 

@@ -8,7 +8,7 @@ namespace vlk {
 
 class ConfigPages;
 
-// `root` is the element DEVICE. Its balance request code goes to `ussdBuffer` (balanceUssdSize bytes), which
+// `root` is the element DEVICE. Its balance request code goes to `ussdBuffer` (kBalanceUssdSize bytes), which
 // an unusable document leaves as it is.
 void loadPages(const ConfigPages& pages, CXmlSection* root, char* ussdBuffer);
 // The attributes of the root and a section for each page.

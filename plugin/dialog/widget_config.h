@@ -44,7 +44,7 @@ public:
     using QDialog::open;
     // Resets both windows, loads the request's file into the full one, and into the quick one where that is
     // shown, and shows the window asked for. The balance request code of the file goes to `ussdBuffer`,
-    // vlk::balanceUssdSize bytes.
+    // vlk::kBalanceUssdSize bytes.
     void open(const vlk::OpenRequest& request, char* ussdBuffer);
     void deviceConnected();
     void deviceDisconnected();

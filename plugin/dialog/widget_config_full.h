@@ -25,7 +25,7 @@ public:
 
     // Replaces whatever the file holds. False when that failed, which the log says (base/save_log.h).
     bool saveFile(const QString& path);
-    // Reads a document into the pages, and its balance request code into `ussdBuffer` (vlk::balanceUssdSize
+    // Reads a document into the pages, and its balance request code into `ussdBuffer` (vlk::kBalanceUssdSize
     // bytes), which one that could not be read leaves as it is.
     void loadFromXml(CXmlSection* root, char* ussdBuffer);
     void saveToXml(CXmlSection* root);

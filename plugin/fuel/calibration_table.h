@@ -21,7 +21,7 @@ public:
 
     explicit CalibrationTable(QWidget* parent);
 
-    // An index into vlk::fuelKinds: how values are edited.
+    // An index into vlk::kFuelKinds: how values are edited.
     void setKind(int kind);
     void setCaptions(const vlk::FuelCaptions& captions);
 

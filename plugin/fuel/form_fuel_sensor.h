@@ -40,7 +40,7 @@ class VLK_Form_Fuel_Sensor : public QWidget
     Q_OBJECT
 
 public:
-    // The kind is an index into vlk::fuelKinds, the name a short one such as "D1", which goes into files.
+    // The kind is an index into vlk::kFuelKinds, the name a short one such as "D1", which goes into files.
     VLK_Form_Fuel_Sensor(int kind, const QString& name, const QIcon& addIcon, QWidget* parent);
     ~VLK_Form_Fuel_Sensor() override;
 

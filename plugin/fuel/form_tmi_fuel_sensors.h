@@ -124,7 +124,7 @@ private:
     QString proposedName(const QString& sensor) const;
 
     std::unique_ptr<Ui::VLK_Designer_Form_TMI_Fuel_Sensors> ui_;
-    // By the rows of vlk::fuelGroups and vlk::fuelSensors; null for what this model lacks.
+    // By the rows of vlk::kFuelGroups and vlk::kFuelSensors; null for what this model lacks.
     std::array<VLK_TabWidget*, vlk::kFuelGroupCount> groups_{};
     std::array<VLK_Form_Fuel_Sensor*, vlk::kFuelSensorCount> forms_{};
     vlk::KeptForms kept_;

@@ -13,7 +13,7 @@ struct FuelKind;
 class LiveReading
 {
 public:
-    // An index into vlk::fuelKinds.
+    // An index into vlk::kFuelKinds.
     void setKind(int kind);
     // In millivolts or as a code.
     void take(int raw);

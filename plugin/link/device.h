@@ -31,7 +31,7 @@ public:
     // First three version numbers, "3.3.0".
     virtual QString fileVersion() const = 0;
 
-    // Balance request code of the last configuration file read, balanceUssdSize bytes with their NUL.
+    // Balance request code of the last configuration file read, kBalanceUssdSize bytes with their NUL.
     virtual char* balanceUssd() = 0;
     // Who asked for the live key: 1 the telemetry view, 0 nobody.
     virtual void setLiveOwner(int owner) = 0;

@@ -14,7 +14,7 @@
 
 namespace vlk {
 
-// The numbers of all messages. The table `messages` below says which way each goes and what it carries.
+// The numbers of all messages. The table `kMessages` below says which way each goes and what it carries.
 enum class Message : std::uint32_t {
     // Host to plug-in
     GetLibraryFlag = 2001,
@@ -162,7 +162,7 @@ struct IdPair
     std::uint32_t high;
 };
 
-// SupplyValues: unsigned 16-bit values of which element `supplyElement` is the supply voltage in millivolts.
+// SupplyValues: unsigned 16-bit values of which element `kSupplyElement` is the supply voltage in millivolts.
 inline constexpr int kSupplyElement = 7;
 struct SupplyRecord
 {
@@ -379,7 +379,7 @@ struct BroughtSettings
     QByteArray* content = nullptr;      // filled when done: what the file would hold then
 };
 
-// AnalogRecord is a plain byte record of `analogRecordSize` bytes with unsigned 16-bit little-endian values:
+// AnalogRecord is a plain byte record of `kAnalogRecordSize` bytes with unsigned 16-bit little-endian values:
 // the lines IN1, IN2, IN3 in millivolts from byte 15, and the fuel sensors at the bytes that name them.
 inline constexpr int kAnalogRecordSize = 42;
 inline constexpr int kAnalogRecordLine1 = 15;
@@ -423,7 +423,7 @@ enum class Parameter : std::uint8_t {
     StringAddress,   // QString*
     BytesAddress,    // QByteArray*
     DateTimeAddress, // QDateTime*, UTC
-    TextBuffer,      // char*, at least balanceUssdSize bytes, filled by the receiver
+    TextBuffer,      // char*, at least kBalanceUssdSize bytes, filled by the receiver
     RecordAddress,   // one of the records above, or a byte record, named by the message
 };
 

@@ -2,7 +2,7 @@
 
 // Builds the tree of a document from the events of the XML reader. Values arrive decoded by the reader and
 // are decoded once more here; names are unescaped. Of attributes of one name the first counts. A document
-// nested deeper than maxDepth is refused, which keeps every walk over a tree short.
+// nested deeper than kMaxDepth is refused, which keeps every walk over a tree short.
 
 #include "xml/xml_node.h"
 

@@ -20,7 +20,7 @@ QString encodeValue(const QString& value);
 QString decodeValue(const QString& value);
 
 // What is left of a text after its way through a section: only characters of windows-1251, up to the first
-// NUL, cut at sectionTextLimit.
+// NUL, cut at kSectionTextLimit.
 QString sectionText(const QString& text);
 
 } // namespace vlk

@@ -64,7 +64,7 @@ struct NavigationRules
     bool operator==(const NavigationRules&) const = default;
 };
 
-// In the order of the codes in lineUses.
+// In the order of the codes in kLineUses.
 enum class LineUse { None, ClosedMinus, OpenMinus, ClosedPlus, OpenPlus, Analogue };
 
 struct LineRules
@@ -142,7 +142,7 @@ struct OutputRules
     bool operator==(const OutputRules&) const = default;
 };
 
-// What owns the serial line, in the order of the codes in lineOwners: these devices fill fields of a record.
+// What owns the serial line, in the order of the codes in kLineOwners: these devices fill fields of a record.
 enum class LineOwner { Other, Fuel, Tyres, Refrigerator, Tachograph, Counters };
 
 struct SerialLineRules
@@ -164,7 +164,7 @@ struct BluetoothRules
 
     bool used = false;
     std::array<Type, 4> type{};
-    std::array<int, 4> device{};      // in bluetoothDevices, -1 for none that is around
+    std::array<int, 4> device{};      // in kBluetoothDevices, -1 for none that is around
     std::array<int, 4> fuel{};        // the fuel level, 1 to 16, that it is told as
     std::array<int, 4> temperature{}; // the same of the precise temperatures, 1 to 4
 

@@ -40,7 +40,7 @@ struct FuelTableNames
 void putKeptTable(CXmlSection* root, const QString& sensor, const FuelTableNames& names,
                   const FuelRows& rows);
 
-// The table in the root of a document; none when it has more than maxFuelRows rows.
+// The table in the root of a document; none when it has more than kMaxFuelRows rows.
 std::optional<FuelRows> fuelTable(CXmlSection* root);
 QString fuelTableName(const CXmlSection* root);
 // The name that a document written here holds.

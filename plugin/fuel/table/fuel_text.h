@@ -61,7 +61,7 @@ enum class FuelCsvFault : std::uint8_t { NoTable, NoOrder };
 
 QByteArray fuelCsv(const FuelCaptions& captions, const FuelRows& rows);
 // The first line is dropped, whatever it says, and so are blank ones. None for what is no text or has more
-// than maxFuelRows rows.
+// than kMaxFuelRows rows.
 std::optional<FuelRows> readFuelCsv(const QByteArray& content, FuelOrder order = FuelOrder::ValueFirst);
 // What the first line says of a file: the captions of the screen, if there are any, or words of any language
 // of the texts. None where it does not tell.
@@ -93,7 +93,7 @@ struct PastedRows
 };
 
 // Headings may be there; what they say of the order counts, in whatever language it was saved, and that of
-// the screen or the given one without them. With more than maxFuelRows rows all is left out.
+// the screen or the given one without them. With more than kMaxFuelRows rows all is left out.
 PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, const FuelKind& kind,
                              FuelOrder order = FuelOrder::VolumeFirst);
 
