@@ -98,7 +98,7 @@ void print(const std::vector<Cell>& cells, const QString& path)
     plain.write(buffer.data(), end - buffer.data());
 }
 
-// Of a core, whatever else the machine does meanwhile.
+// What a core works, whatever else the machine does meanwhile.
 template <class Work>
 double workingSeconds(int who, Work work)
 {

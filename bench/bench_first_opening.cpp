@@ -15,7 +15,7 @@
 
 namespace {
 
-// Of making and showing it; what closing it takes is not counted.
+// What making and showing it takes; closing it is not counted.
 template <class Dialog>
 double secondsOf(void (*open)(Dialog&))
 {

@@ -17,7 +17,7 @@ constexpr quint32 kDay = 86'400;
 constexpr quint32 kStep = 31; // seconds
 constexpr int kDaysOfOneFilling = 3;
 
-// Of twenty-four hours it drives from the sixth to the eighteenth, and is filled up every third day.
+// The vehicle drives from six to eighteen o'clock, and is filled up every third day.
 RecordStore yearOfRecords()
 {
     std::mt19937 random(7106);

@@ -24,7 +24,7 @@ using namespace vlk;
 
 namespace {
 
-// Of this thread, whatever else the machine does meanwhile.
+// What this thread worked, whatever else the machine does meanwhile.
 double workedMilliseconds()
 {
     timespec time{};

@@ -49,7 +49,7 @@ FieldMask everySecondField(int /*number*/, std::mt19937& /*random*/)
     return mask;
 }
 
-// Of all sizes, each with a mask of its own.
+// Records of all sizes, each with a mask of its own.
 FieldMask anyFields(int number, std::mt19937& random)
 {
     FieldMask mask;

@@ -20,7 +20,7 @@ public:
 
     // No button without a text for it.
     void tell(const QString& sentence, const QString& button = {});
-    // Also to be called after rows were hidden or shown.
+    // To be called after rows were hidden or shown, too, of which the model tells nothing.
     void refresh();
 
 Q_SIGNALS:

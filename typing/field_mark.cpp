@@ -183,7 +183,7 @@ private:
         return {form, {std::max(0, field.left() - kMarkSize / 2), std::max(0, field.top() - kMarkSize / 2)}};
     }
 
-    // Beside a part of the form; where that begins at its edge, in the margin of what stands around it.
+    // A spot beside a part of the form; where that begins at its edge, in the margin of what is around it.
     std::optional<Spot> leftOf(const QRect& part) const
     {
         QPoint corner(part.left() - kMarkSize - kMarkGap, part.center().y() - kMarkSize / 2);
@@ -220,7 +220,7 @@ private:
             const auto [host, corner] = spot();
             if (host != parentWidget())
                 setParent(host);
-            // Whose place is the field's, too.
+            // The field moves with what stands around it, and so does the mark.
             for (QWidget* inner = field_->parentWidget(); inner != host; inner = inner->parentWidget())
                 inner->installEventFilter(this);
             move(corner);

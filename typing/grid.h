@@ -21,7 +21,7 @@ inline constexpr QMargins kAroundWindow{kWindow, kWindow, kWindow, kWindow};
 inline constexpr QMargins kAroundPage{kPage, kPage, kPage, kPage};
 inline constexpr QMargins kInGroup{kIndent, kRow, kPage, kPage};
 
-// Of layouts that say nothing of their own. What stands in another layout has the distance of that one.
+// Distances of layouts that say nothing of their own; what stands in another layout has those of that one.
 inline std::optional<int> metric(QStyle::PixelMetric metric)
 {
     switch (metric) {

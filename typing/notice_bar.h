@@ -70,7 +70,7 @@ public:
     // The property with the height that a bar with a kept place has without the host's notice, which is to
     // cover it whole.
     static constexpr const char* kOwnHeight = "ownHeight";
-    // So many notices wait behind this bar, in another one.
+    // How many notices wait behind this bar, in another one.
     void setBehind(int count);
     void retranslate();
     // For its first button; where the bar goes, the focus goes back.

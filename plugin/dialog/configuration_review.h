@@ -48,7 +48,7 @@ public:
     void compareWith(review::FileState before, const EditHistory::Words& name);
     // Empty unless a name was given.
     QString otherName() const { return otherName_ ? otherName_() : QString(); }
-    // Of another file or a preset.
+    // The name of the other file or of the preset.
     const QString& fileName() const { return fileName_; }
 
     const review::Differences& differences() const { return differences_; }
@@ -73,7 +73,7 @@ public:
     // What the quick window made of the file as it came, of a setting that it shows and no file holds; null
     // where that is what it shows now, and for every other setting.
     QString quickBefore(const PageSettings& page, int row) const;
-    // Also to what was there before it was written.
+    // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
     // As open_configuration.h tells of them.
@@ -138,7 +138,7 @@ private:
     OpenConfiguration open_;
     Configuration present_; // what the pages of the full window hold since the last step
     review::FileState opened_;
-    review::FileState asItCame_;                 // the same, or what has been written since then
+    review::FileState asItCame_;                 // as opened_, or what has been written since then
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
     Values quickAsItCame_;

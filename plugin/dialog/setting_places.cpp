@@ -135,7 +135,7 @@ void SettingPlaces::pointAt(QWidget* widget)
     if (!widget->isVisible())
         return;
     outline(widget->parentWidget(), widget->geometry());
-    // Beside it: below may stand the field that is being edited.
+    // The tip comes up beside the widget: below may stand the field that is being edited.
     constexpr int ownDrop = 16; // of a tip, below where it is asked for
     if (QApplication::mouseButtons() == Qt::NoButton)
         QToolTip::showText(widget->mapToGlobal({widget->width(), -ownDrop}), widget->toolTip(), widget);

@@ -104,7 +104,7 @@ void VLK_Widget_Config::addReview()
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, marks_, &vlk::SettingMarks::refresh);
     connect(&history_, &vlk::EditHistory::stepped, this, [this](int page, int row, const QString& other) {
         const vlk::Values& values = history_.pages()[page]->values();
-        // Of a record's fields the first one that is another now.
+        // The step leads to the first of a record's fields that it has changed.
         const std::vector<int> parts =
             vlk::review::differingParts(values.setting(row), values.held()[row], other);
         places_.goTo(vlk::review::FileKeys::all().tableOf(values.table()), row,

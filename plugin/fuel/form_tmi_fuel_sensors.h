@@ -112,7 +112,7 @@ private:
     void endShownAt();
     // A table without new rows that is as it stands in no file, be it for the fractions of its volumes alone.
     bool isToBeKept(const VLK_Form_Fuel_Sensor& form, int sensor) const;
-    // The same, or with rows that are in no XML file.
+    // A table that isToBeKept(), or one with rows that are in no XML file.
     bool isUnsaved(const VLK_Form_Fuel_Sensor& form, int sensor) const;
     void noteChange(int sensor);
     // False when the disk refused.

@@ -22,7 +22,7 @@ public:
     // What it ends with where the columns are to be read the other way round, beside those of QDialog.
     static constexpr int kSwapped = QDialog::Accepted + 1;
 
-    // Of the lines that are left out, the first ones by name.
+    // Why lines are left out, the first ones by name.
     static QString reasons(const std::vector<vlk::LeftOutLine>& leftOut, const vlk::FuelCaptions& captions);
 
     // The first volumes of points that fall back, as a sentence; empty where none does.

@@ -50,7 +50,7 @@ struct PresetProblem
     QString path;
     QString text;
     Change change = Change::none;
-    // Whose a bad value is, and what it can be.
+    // The setting that has the bad value, and what it can be.
     const Setting* setting = nullptr;
     Limits limits{};
     // The row in the same table of the setting that forbids the value, and what that one is worth.

@@ -173,7 +173,7 @@ std::vector<int> ownKeys(const Unsaved& unsaved)
 
 QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved)
 {
-    // Then it holds the very bytes, and what no setting of the full window reads, too.
+    // Where nothing changed meanwhile, the very bytes come back, with what no setting of the window reads.
     if (document == unsaved.before)
         return unsaved.after;
     const Differences differences(stateOf(unsaved.after), stateOf(document));

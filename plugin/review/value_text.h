@@ -14,7 +14,7 @@ QString captionText(const Setting& setting);
 QString headingText(const Setting& setting);
 // The text of an item in a list.
 QString codeText(const Code& code);
-// Of the codes "NS+|NB+" those that are offered.
+// The texts of those of the codes "NS+|NB+" that are offered.
 QStringList codeTexts(const Setting& setting, const char* codes);
 
 // What positions of a mask (maskPart()) say: the item of a list, "Yes", or which half of a field is on.

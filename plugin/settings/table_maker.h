@@ -108,7 +108,7 @@ struct Finder
     Numbers numbers;
 };
 
-// Of rules: what they act on is of a kind that they can act on.
+// Looks at rules: what they act on is of a kind that they can act on.
 struct RuleFinder : Finder
 {
     using Finder::operator();

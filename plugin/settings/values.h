@@ -97,10 +97,10 @@ private:
     // What a rule makes of a value (Sets::to).
     static QString laidOver(const QString& value, const char* to);
     void setAll(const std::vector<const Sets*>& rules, Changes* changed);
-    // By the rules of the row, which was worth `before`.
+    // What the rules of the row, which was worth `before`, set.
     void setBy(int row, bool isRead, const QString& before, Changes* changed);
     void change(int row, const QString& text, Changes* changed);
-    // Which preset a read has come to.
+    // Finds the preset that a read has come to.
     void settle(const Presets& presets);
 
     const TableLayout* layout_;

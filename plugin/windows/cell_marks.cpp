@@ -14,7 +14,7 @@ CellMarks& CellMarks::of(QTreeWidget* tree)
     return known ? *known : *new CellMarks(tree);
 }
 
-// Beside the viewport, which moves what lies in it when it scrolls.
+// A child of the tree beside its viewport, which moves what lies in it when it scrolls.
 CellMarks::CellMarks(QTreeWidget* tree) : QWidget(tree), tree_(tree)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -24,7 +24,7 @@ public:
     // How an element is written.
     enum Kind : qint32 {
         Element = 0,    // start tag, children, end tag; what a new node is
-        Attributed = 1, // the same; what the reader makes of an element with attributes
+        Attributed = 1, // as Element; what the reader makes of an element with attributes
         Text = 2,       // start tag, value, end tag on one line; children follow as siblings
         Empty = 3,      // empty element with attributes only, its name unescaped
     };

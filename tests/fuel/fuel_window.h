@@ -81,7 +81,7 @@ protected:
         edit(sensor, volume);
         form(sensor)->findChild<QPushButton*>("pushButton_Add")->click();
     }
-    // Of those whose group is marked too.
+    // The marked tabs whose group is marked too.
     QString markedTabs()
     {
         QStringList names;

@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(shown->item(3, 0)->toolTip() + shown->item(4, 1)->toolTip(), QString());
         editCell("A3", "0.21", 2, 1);
         QCOMPARE(shown->item(2, 1)->toolTip(), QString());
-        // Neither is a reading that still changes.
+        // A reading that still changes is allowed, too, and marked where it is taken.
         QCOMPARE(field("A3", "lineEdit_Param")->toolTip(), QString());
         add("A3", "40", 5000, 1);
         QCOMPARE(field("A3", "lineEdit_Param")->toolTip(), QString("cfgt6_422"));

@@ -79,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(fuel_.text("label_Notice"), QString("cfgt6_405"));
         pressInBar("cfgt6_406");
         QCOMPARE(rows("A3"), QString("10.5=12.34"));
-        // So is what is doubtful of it.
+        // What is doubtful of it is kept, too.
         host.send(Message::AnalogRecord, liveRecord().constData());
         add("A3", "20", 15000, 1);
         const auto* shown = table("A3");
@@ -245,7 +245,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(drafts.entryList(QDir::Files).size(), 1, 1000);
     }
 
-    // Of the sensor that begins its name; the rows wait for an XML file.
+    // The name begins with the sensor that it is of; the rows wait for an XML file.
     void loadsItsOwnCsv()
     {
         add("D2", "10,5", 7);

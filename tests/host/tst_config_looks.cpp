@@ -192,7 +192,7 @@ private Q_SLOTS:
         }
     }
 
-    // Of the sliders whose handles stand out of them at the ends of the scale.
+    // Handles of sliders stand out of them at the ends of the scale.
     void handlesAreWhole()
     {
         host_.open({});
@@ -283,7 +283,7 @@ private Q_SLOTS:
         }
     }
 
-    // Also a box that comes with a choice.
+    // A box that comes with a choice is looked at, too.
     void boxesHaveTheirWordsOnce()
     {
         host_.open({});

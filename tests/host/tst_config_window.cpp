@@ -350,7 +350,7 @@ private Q_SLOTS:
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(port, &wheel);
         QCOMPARE(port->value(), before);
-        // Nor in a form that is made when it is chosen.
+        // A form that is made when it is chosen changes nothing by the wheel either.
         auto* type = child<QComboBox>("comboBox_Type_Sens_1");
         type->setCurrentIndex(1);
         for (auto* list : type->parentWidget()->findChildren<QComboBox*>()) {

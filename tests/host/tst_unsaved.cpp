@@ -326,7 +326,7 @@ private Q_SLOTS:
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "<All>5556<Tab>"); // of what was brought back
         QVERIFY(offer().isEmpty());
         window->close();
-        // The same once more, as a death behind "Bring back" leaves it.
+        // A second file of these edits, as a death behind "Bring back" leaves it.
         QFile::copy(files()[0], QString(files()[0]).replace('-', "-0"));
         open("file");
         QCOMPARE(files().size(), 1);

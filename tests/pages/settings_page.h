@@ -104,7 +104,7 @@ public:
     }
 
 private:
-    // Of the elements below this one, by their paths.
+    // Takes the attributes of the elements below this one, by their paths.
     static void collect(const QDomElement& above, const QString& path, Values* values)
     {
         for (QDomElement element = above.firstChildElement(); !element.isNull();

@@ -159,7 +159,7 @@ private:
         return QToolTip::text().startsWith("cfgt6_45");
     }
 
-    // Of the line's own form, or of the page.
+    // A widget of the line's own form, or of the page.
     template <class T = QWidget>
     T* get(const QString& name) const
     {
@@ -188,7 +188,7 @@ private:
                 "value", state == "value other than 0" || state == "other than 0" ? 1 : value.toDouble());
     }
 
-    // Also what the list does not offer.
+    // Chooses what the list does not offer, too.
     void choose(const QString& list, const QString& code)
     {
         auto* outputs = qobject_cast<VLK_Form_Config_Lines_Out*>(window);

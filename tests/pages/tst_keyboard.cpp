@@ -201,7 +201,7 @@ private:
                     typeInField(fields[part], setting, keys.at(part), end);
                 }
                 const QByteArray written = saved(page);
-                // Of two values that keep a distance the range may leave less room than each has alone.
+                // Two values that keep a distance may leave each other less room than each has alone.
                 const bool isAsTyped = !samples[i].value || !core.row(index).distances.empty() ||
                                        core.value(index) == *samples[i].value;
                 if (written != expected || !isAsTyped)

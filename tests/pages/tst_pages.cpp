@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(throughTheQuickWindow(expected), savedAgain(quickSettings_, expected));
     }
 
-    // But for the few settings that a reset leaves alone.
+    // All but the few settings that a reset leaves alone.
     void resetForgetsWhatWasLoaded()
     {
         window_->setDefaults();

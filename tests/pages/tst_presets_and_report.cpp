@@ -198,8 +198,8 @@ private Q_SLOTS:
         };
         QVERIFY(dialog_->showPreset(path));
         QVERIFY(!notes().contains("rev_005"));
-        // Nor can it take the sensors of a line without their numbers, which only a
-        // choice of few leaves out.
+        // It cannot take the sensors of a line without their numbers, which only a choice of few leaves
+        // out.
         auto* differences = static_cast<vlk::DifferenceModel*>(model);
         const auto choose = [&](const auto& isChosen) {
             for (int line = 0; line < model->rowCount(); ++line)
@@ -327,7 +327,7 @@ private Q_SLOTS:
     {
         type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "8765");
         type(child<QLineEdit>("lineEdit_Name"), "MAZ/5440");
-        // Also what is still being typed.
+        // What is still being typed is in it, too.
         auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
         port->setFocus();
         port->selectAll();

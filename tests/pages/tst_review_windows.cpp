@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(!QApplication::clipboard()->text().contains("5555"));
         QCOMPARE(child<QLabel>("label_Unsaved")->text(), QString("rev_344"));
         QTest::keyClick(table, Qt::Key_Space);
-        // Of two lines one is left out, and is the one that stays.
+        // One of two lines is left out, and is the one that stays.
         table->setCurrentIndex(table->model()->index(0, 0));
         QTest::keyClick(table, Qt::Key_Space);
         child<QPushButton>("pushButton_TakeOver")->click();
@@ -458,7 +458,7 @@ private Q_SLOTS:
             QTest::keyClick(find, Qt::Key_Return);
             QTRY_COMPARE(QToolTip::text(), QString("rev_259"));
         }
-        // Of an input line it shows the use as a whole.
+        // A setting of an input line leads to its use as a whole.
         for (const char* path : {"SENSORS/IN1/normState", "SENSORS/IN1/ign", "SENSORS/IN2/ign"}) {
             QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
             auto* find = child<QLineEdit>("lineEdit_Find");

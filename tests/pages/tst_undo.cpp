@@ -88,7 +88,7 @@ private Q_SLOTS:
         }
     }
 
-    // Of a period a load drops whole days, and it takes no item of a list for one. Both can be edited.
+    // A load drops whole days of a period, and takes "no item" of a list for none. Both can be edited.
     void whatLoadsDropIsBroughtBack()
     {
         vlk::review::Unsaved unsaved;

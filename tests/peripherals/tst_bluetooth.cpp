@@ -364,7 +364,7 @@ private Q_SLOTS:
         QCOMPARE(sensor(2).type(), 0);
     }
 
-    // Of any type by its text; a text that no type has is none.
+    // Any type is known by its text; a text that no type has is none.
     void typesByTheirTexts_data()
     {
         DataTable<QString, int>({"text", "type"})

@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(line(differences, configuration, 0), told);
     }
 
-    // Of a key that quick setup alone writes, too.
+    // Holds for a key that quick setup alone writes, too.
     void addressWithoutADigit()
     {
         const auto text = textOf({.path = "BLUETOOTH/CHANNEL1/macaddr", .before = "1:::::", .after = ":::::"},
@@ -177,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(text.after, QString(":::::"));
     }
 
-    // Also those that no window shows, and those that the quick window alone writes.
+    // Keys that no window shows and those that the quick window alone writes have one, too.
     void everyKeyHasACaption()
     {
         QStringList bare;

@@ -61,7 +61,7 @@ private Q_SLOTS:
         QVERIFY(html.contains("cfgt1_122: 9; cfgt1_122: 10") && !html.contains("/ cfgt1_122: 9<"));
     }
 
-    // Of many sensors those that are in use have lines of their own, the others are named.
+    // Sensors that are in use have lines of their own, the others of many are named.
     void sensorsInUse()
     {
         vlk::Configuration fuel = configuration_;

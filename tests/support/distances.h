@@ -13,7 +13,7 @@ inline QStringList oddDistances(const QWidget* window)
     static const QSet<int> margins{0, 6, 9, 12, 16, 20};
     static const QSet<int> inRows{0, 8, 12, 16};
     static const QSet<int> inStacks{0, 6, 8, 12, 16};
-    // Of the toolkit, and of bars, which have a height of their own.
+    // Layouts in these are the toolkit's, or of bars, which have a height of their own.
     static const QStringList others{"QDialogButtonBox", "QStatusBar", "QToolBar",   "QMainWindow",
                                     "vlk::NoticeBar",   "QTabWidget", "QMessageBox"};
     QStringList found;

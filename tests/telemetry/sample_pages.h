@@ -46,7 +46,7 @@ inline std::unique_ptr<TmiPage_Zeta3> recordOf(const RecordParts& parts)
     return std::make_unique<TmiPage_Zeta3>(176, 30, parts.mask, parts.block);
 }
 
-// The same by indices.
+// A record with the values of these elements.
 inline std::unique_ptr<TmiPage_Zeta3> recordOf(std::initializer_list<std::pair<ElementIndex, quint64>> values)
 {
     RecordParts parts;

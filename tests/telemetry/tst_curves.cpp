@@ -217,13 +217,13 @@ void TestCurves::tellsStatesWithoutRoom()
     open(truckRecords(3000));
     auto* const all = view_->findChild<QToolButton*>(QStringLiteral("toolButton_AllStates"));
     QVERIFY(!all->isVisible());
-    // Nor do their names where the window is narrow: they go below the buttons.
+    // A narrow window has no room for the names of curves either: they go below the buttons.
     const auto* const legend = view_->findChild<QWidget*>(QStringLiteral("legend_Curves"));
     QVERIFY(legend->isVisible());
     view_->resize(340, 400);
     QCoreApplication::processEvents();
     QVERIFY(!legend->isVisible());
-    // Of low curves they are shortened before they take a line.
+    // Where the curves are low, they are shortened before they take a line.
     const auto narrowest = [&](int height) {
         int width = 1200;
         do {
@@ -400,8 +400,7 @@ void TestCurves::leavesOutDamagedTimes()
     QCOMPARE(records_->current(), 53);
 }
 
-// Of many records no view is made before the event loop had its turn; others, or one more, may come between.
-
+// With many records no view is made before the event loop had its turn; others, or one more, may come then.
 void TestCurves::leavesTurnsToOthers()
 {
     TrackView track(records_.get());

@@ -158,7 +158,7 @@ void TestCurvesMoves::comparesTwoMoments()
     key(Qt::Key_Escape);
     QCOMPARE(line().count(QLatin1Char('|')), 0);
     QCOMPARE(records_->current(), 2220);
-    // Of two A can go alone, and B tells its whole moment then.
+    // With two cursors A can go alone, and B tells its whole moment then.
     key(Qt::Key_B);
     records_->setCurrent(2223);
     key(Qt::Key_A);

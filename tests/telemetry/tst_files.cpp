@@ -173,7 +173,7 @@ private Q_SLOTS:
                  QStringLiteral("bu"));
     }
 
-    // Of a text on two lines neither would be one of the form.
+    // A text on two lines would make two, neither of them one of the form.
     void keepsTextsOnTheirLines()
     {
         TelemetryOrigin origin = sampleOrigin();
@@ -389,7 +389,7 @@ private Q_SLOTS:
         const QByteArray wide = masked(255);
         const QByteArray cut = masked(254);
         const QByteArray wider = masked(259);
-        // Of the one in the middle, and what of it is spoilt.
+        // Three records, a part of the one in the middle spoilt.
         const auto spoilt = [&](const char* part, const QByteArray& by) {
             return other + QByteArray(whole).replace(part, by) + other;
         };

@@ -11,7 +11,7 @@ using namespace vlk;
 
 Q_DECLARE_METATYPE(vlk::ExportForm)
 
-// Of the text that a file cannot be written: the file, and in a line of its own why. The button has a letter.
+// Gives the text that a file cannot be written two lines, the file and why, and the button a letter.
 class ReasonApart : public QTranslator
 {
 public:
@@ -84,7 +84,7 @@ private Q_SLOTS:
         QCOMPARE(table_->findChild<QWidget*>("pushButton_Empty")->isVisible(), numbers.isEmpty());
         const auto* frozen = child<QTableView>("tableWidget_Frozen");
         QTRY_COMPARE(frozen->height() > frozen->horizontalHeader()->height(), !numbers.isEmpty());
-        // Of one that cannot be read nothing is shown: what is on show is told with the fault.
+        // A filter that cannot be read shows nothing: what is on show is told with the fault.
         type("lineEdit_Filter", "Power > fast");
         pressInFilter(Qt::Key_Return);
         QCOMPARE(text("label_FilterFault"), QString("rec_005 rec_511"));
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QTRY_COMPARE(this->numbers().size(), 40);
     }
 
-    // Of any column; of all of them an hour around the record.
+    // Any column makes a filter; all of them make one of an hour around the record.
     void filterByCell_data()
     {
         DataTable<QString, QString, int>({"column", "choice", "count"})
@@ -602,7 +602,7 @@ private:
         qobject_cast<QFileDialog*>(files)->selectFile(path);
         ScriptedHost::child<QLineEdit>(files, "fileNameEdit")->setText(path);
     }
-    // Of what the window offers first.
+    // Takes the choice that the window offers first.
     void exportTo(ExportForm form, const QString& path, QString* begins = nullptr)
     {
         ScriptedHost::whenModal([&](QWidget* dialog) {

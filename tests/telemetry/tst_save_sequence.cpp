@@ -266,7 +266,7 @@ private Q_SLOTS:
         send(Message::RecordOfPeriod, 7, 13);
         QVERIFY(isIdle() && window->isVisible());
         QCOMPARE(text("label_SavedInPart"), QString());
-        // Or without a record.
+        // A cancelled save can be ended at once, without a record.
         press("pushButton_SaveToFile");
         QTest::keyClick(window, Qt::Key_Escape);
         press("label_SavedInPart_Action1");
@@ -394,7 +394,7 @@ private Q_SLOTS:
         host.send(Message::TrackerDetached);
         QCOMPARE(told(), QString("rec_543 rec_544 rec_545"));
         open();
-        // Nor are they told as those of the tracker that comes next.
+        // They are not told as records of the tracker that comes next.
         QCOMPARE(text("label_SavedInPart"), QString());
         send(Message::RecordByNumber, 17);
         QCOMPARE(rows(), 7);
@@ -404,7 +404,7 @@ private Q_SLOTS:
         QCOMPARE(told(), QString());
         send(Message::RecordByNumber, 18);
         QCOMPARE(rows(), 2);
-        // Nor does a part: in front of its last record some are missing.
+        // What a cancelled save has fetched ends nothing: in front of its last record some are missing.
         startSave(7, 30);
         press("pushButton_Save_Cancel");
         send(Message::RecordByNumber, 8);

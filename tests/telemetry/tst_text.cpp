@@ -260,7 +260,7 @@ private Q_SLOTS:
         }
     }
 
-    // Of the zone that the machine has now; here it changes at 1:00 UTC on the last Sunday of March.
+    // Times are those of the machine's zone; here it changes at 1:00 UTC on the last Sunday of March.
     void localTimes()
     {
         const char* const european = "CET-1CEST,M3.5.0,M10.5.0/3";

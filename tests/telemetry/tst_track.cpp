@@ -70,7 +70,7 @@ QStringList told(const std::vector<TrackPoint>& points)
     return all;
 }
 
-// Of the part of the track in that span.
+// A picture of the part of the track in that span.
 QImage pictureOf(const TrackView& view, const TimeSpan& span)
 {
     QImage image(600, 400, QImage::Format_RGB32);

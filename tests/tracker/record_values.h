@@ -20,7 +20,7 @@ T at(const QByteArray& bytes, int offset)
     return value;
 }
 
-// Of a record that holds every field.
+// The value of an element in a record that holds every field.
 template <typename T>
 T value(const QByteArray& record, vlk::ElementIndex index)
 {

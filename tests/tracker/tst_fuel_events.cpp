@@ -17,7 +17,7 @@ constexpr int kFirstVehicle = 151;
 constexpr int kVehicles = 75;
 constexpr int kDays = 2;
 
-// Of litres, which levels in whole codes cannot tell: a pour that close to its threshold may be taken or not.
+// In litres. Levels in whole codes tell no less: a pour that close to its threshold may be taken or not.
 constexpr double kResolution = 0.5;
 
 bool isAbove(double litres)

@@ -83,7 +83,7 @@ private:
         const int at = tank == 0 ? 19 : 25 + 3 * (static_cast<int>(tank) - 1);
         return qFromLittleEndian<quint16>(record.constData() + at);
     }
-    // Of the present record with every field.
+    // The level in the present record with every field.
     static int recorded(BenchTracker& bench, std::size_t tank)
     {
         bench.tracker->setFullDataSet(true);

@@ -55,7 +55,7 @@ private Q_SLOTS:
                      QByteArray::number(1704067200 + 60 * i) + "</Time>\r\n<LevelRS485_1>" +
                      QByteArray::number(2510 + i * 7919 % 100) + "</LevelRS485_1>\r\n</Page>\r\n";
         put("noisy.xml", noisy + "</TMI>\r\n");
-        // The same in two files that share a record; the drain is where they part.
+        // The drained levels in two files that share a record; the drain is where they part.
         const auto page = [&](int number) {
             return drained.indexOf("<Page",
                                    drained.indexOf(">" + QByteArray::number(number) + "</Num") - 100);

@@ -250,7 +250,7 @@ private Q_SLOTS:
         QCOMPARE(std::get<0>(run({"convert", "a.tmi", "--to", "csv", "-o", "headless.tmi"})), 2);
     }
 
-    // The same bytes that a save in the windows gives, from either form.
+    // A file of either form keeps the bytes that a save in the windows gives.
     void keepsAll()
     {
         for (const auto& [from, to] : {std::pair("many.xml", "xml"), {"many.tmi", "tmi"}}) {
@@ -387,7 +387,7 @@ private Q_SLOTS:
     }
 
 private:
-    // Of these numbers, a second apart.
+    // Records of these numbers, a second apart.
     static RecordStore storeOf(std::initializer_list<int> numbers)
     {
         RecordStore store;

@@ -266,7 +266,7 @@ private Q_SLOTS:
         QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 6);
         bench.session.tracker().setFaults({.silence = true});
         QVERIFY(bench.session.bringBack(2, {"A/y"})().contains("not brought back"));
-        // Which one it was, where the report says that it failed.
+        // The report of one that failed says which backup it was.
         bench.session.tracker().detach();
         QVERIFY(!bench.session.bringBack(2));
         QCOMPARE(workbench::summary(bench.report()).split('\n').value(1),

@@ -16,7 +16,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(folder_.isValid());
-        // Of an earlier tour, in the way of this one.
+        // A file of an earlier tour is in the way of this one.
         writeFile(folder_.filePath(QStringLiteral("quick.xml")), "<DEVICE/>");
         QProcess workbench;
         workbench.setProcessChannelMode(QProcess::MergedChannels);

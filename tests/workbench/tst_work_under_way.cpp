@@ -56,7 +56,7 @@ private Q_SLOTS:
         bench.take(Output);
         QTRY_VERIFY(bench.status().contains(QLatin1String("Output 1")));
         QTRY_VERIFY(noticeOn(Bench::telemetry()) && !noticeOn(calibration));
-        // And beside what is typed.
+        // The notice leaves the field free that is typed into.
         auto* title = calibration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Title"));
         title->setFocus();
         Bench::press(Bench::telemetry(), "pushButton_Get_Current");
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(bench.file()));
     }
 
-    // Nor in the configuration, where a window is not too low for it.
+    // The notice moves nothing in the configuration either, where a window is not too low for it.
     void movesNoPage()
     {
         Bench bench;

@@ -225,7 +225,7 @@ private:
             output.write(tableOf(names, std::move(values), lacking));
     }
 
-    // Beside the one that most files have, and of that one beside all others.
+    // The value in words that tell it from the one that most files have, and that one from all others.
     static QString wordsAt(std::size_t place, const std::vector<Held>& values, std::size_t at,
                            std::ptrdiff_t most)
     {

@@ -32,7 +32,7 @@ public:
     bool isEmpty() const { return written_ == 0; }
     // There is none that the form has a place for.
     bool lacksContent() const { return !writer_ || !writer_->hasContent(); }
-    // Of the file that the heading tells of.
+    // The vehicle and the zone of the file that the heading tells of.
     vlk::TelemetryOrigin origin() const { return first_ ? *first_ : vlk::TelemetryOrigin(); }
 
 private:

@@ -51,7 +51,7 @@ protected:
 // One file after the other.
 std::unique_ptr<RecordSource> recordsOf(const std::vector<TelemetryInput>& inputs, SourceListener listener);
 
-// The same, which come out of a temporary file when they are asked for again, where it can be written.
+// The records, which come out of a temporary file when they are asked for again, where it can be written.
 std::unique_ptr<RecordSource> keptForAgain(RecordSource& records);
 
 // Sorted by time; of those with the same number and time the first. Records of files that tell different

@@ -81,7 +81,7 @@ constexpr TypedRow kTyped[] = {{vlk::shared::kPasswordPattern, "cli_323"},
                                {vlk::shared::kPhonePattern, "cli_324"},
                                {R"(^\d{0,8}$)", "cli_327"}};
 
-// Of a text that is not too long.
+// What is asked of the signs of a text that is not too long.
 QString expectedSigns(const vlk::Text& row, const QString& refused)
 {
     if (vlk::sectionText(refused) == refused && vlk::decodeValue(refused) != refused)

@@ -14,7 +14,8 @@ enum class FileKind { configuration, telemetry, calibration, tachograph, unknown
 inline constexpr qint64 kBeginning = 4096;
 
 FileKind kindOf(const QByteArray& start);
-// Of a file: what has lost its beginning is known by its records, where its name says that it holds some.
+// The kind of a file: one that has lost its beginning is known by its records, where its name says that it
+// holds some.
 FileKind kindOf(QIODevice& device, const QString& name);
 // Nothing but blanks up to its end.
 inline bool isBlank(const QByteArray& start)

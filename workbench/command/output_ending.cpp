@@ -40,7 +40,7 @@ struct EndingRow
     bool (*isWritten)(const Call& call);
 };
 
-// Beside the forms of telemetry.
+// What writes files with these endings; those of telemetry have a table of their own.
 constexpr EndingRow kEndingRows[] = {
     {"pdf", "report", isReport},
     {"html", "report", isReport},

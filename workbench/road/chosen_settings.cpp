@@ -87,7 +87,7 @@ void write(QXmlStreamWriter& xml, const Element& element)
     xml.writeEndElement();
 }
 
-// Also an element without attributes counts as a key.
+// An element without attributes counts as a key, too.
 void copyElement(Element& parent, const Element* from, const QString& step)
 {
     Element* there = parent.child(step, from != nullptr);

@@ -35,7 +35,7 @@ struct Moment
     Odometers at;
     double outside = 0; // degrees Celsius
 
-    // Against the record before.
+    // Since the record before.
     double segmentKm = 0;
     int segmentSeconds = 0;
     int movingSeconds = 0;

@@ -34,7 +34,7 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(panel_);
     inside->addWidget(tanks);
-    // Beside each other where the screen is low.
+    // On a low screen the two stand beside each other.
     if (within(content->sizeHint(), screen()->availableSize()).height() < content->sizeHint().height()) {
         inside->setDirection(QBoxLayout::LeftToRight);
         inside->setAlignment(tanks, Qt::AlignTop);

@@ -10,7 +10,7 @@ namespace {
 
 using tracker::ConfigurationValues;
 
-// Also an empty value is one.
+// A null text is "no such key"; an empty value is a value.
 QString there(const QString& text)
 {
     return text.isNull() ? QStringLiteral("") : text;

@@ -259,7 +259,7 @@ void HostSession::finish(const RoadReport& report)
             edited_.trackerHolds(request.document);
         else
             edited_.written(request.document, report.tracker.number);
-        // Also of one that is open no longer: its edits are kept until then.
+        // The plug-in keeps the edits of a window, be it open no longer, until it is told.
         if (!request.file.isEmpty())
             link_.confirmWrite(request.document);
     }

@@ -267,7 +267,7 @@ void WorkbenchWindow::tellOfRun(const Sentence& text)
         return;
     }
     status_->tell(StatusLine::Program, text);
-    // Of a long sentence the line shows the beginning.
+    // The line shows no more than the beginning of a long sentence.
     bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::advice, text(), {}}; });
 }
 

@@ -316,8 +316,8 @@ PastedRows readFuelClipboard(const QString& text, const FuelCaptions& captions, 
             return true;
         }
         FuelRow row = rowOf(cells, pasted.order);
-        // Beside an empty cell its blanks may be those between two numbers; with one number it is the other
-        // cell that is at fault.
+        // A volume beside an empty cell may be two numbers with a blank between them; where it is one number,
+        // the other cell is at fault.
         if (row.value.isEmpty())
             row.volume = withoutThousandsBlanks(row.volume);
         if (const auto ofVolume = fit(row.volume, kVolumeLimit))

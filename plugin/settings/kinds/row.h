@@ -75,7 +75,7 @@ struct RowBase
     const char* key = "";       // of a group its path below the section
     const char* name = nullptr; // in paths, where the key or element stands twice; null: the key
     const Heading* heading = nullptr;
-    When present{}; // else the key is neither read nor written
+    When present{}; // where it does not hold, the key is neither read nor written
     Numbers numbers{};
     bool stored = true;  // false: lives in the window alone, the file has no such key
     bool last = false;   // read after all others; in a repetition after those of its number

@@ -94,7 +94,7 @@ std::vector<QRect> CurveLegend::places(int width) const
     return places;
 }
 
-// Whichever of the curves is the focused one.
+// The room for all entries, whichever of the curves is the focused one.
 int CurveLegend::widthOfAll() const
 {
     QFont font = this->font();

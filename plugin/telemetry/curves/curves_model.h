@@ -44,7 +44,7 @@ public:
     static constexpr int kMostAxes = 4;
     static constexpr int kMostBands = 6;
 
-    // Of other records that come it shows nothing until it is asked to.
+    // Shows nothing of other records that come until it is asked to.
     CurvesModel(ShownRecords* records, QObject* parent);
 
     ShownRecords& records() const { return *records_; }
@@ -53,7 +53,7 @@ public:
     // offered, and show where they have values or change; those that were chosen are shown in any case.
     enum class Choice { offered, chosen };
     void show(const QStringList& items, Choice choice);
-    // Likewise, as steps of what is done later.
+    // Does what show() does, as steps of what is done later.
     void showLater(const QStringList& items, Choice choice);
     // There is no telling yet what the records have.
     bool isBeingMade() const { return isBeingMade_ || records_->isBeingRead(); }
@@ -84,7 +84,7 @@ public:
 
     // "A 20.11.2026 09:12:04 312 l | B 09:40:10 251 l | 28 min -61 l".
     QString cursorLine() const;
-    // Of one that is there: "A 20.11.2026 09:12:04 312 l".
+    // One cursor that is there: "A 20.11.2026 09:12:04 312 l".
     QString cursorText(Cursor which) const;
 
     void retranslate();

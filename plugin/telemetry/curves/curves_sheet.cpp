@@ -50,7 +50,7 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
         layout->addWidget(new QLabel(
             hasA && hasB ? model.cursorLine() : model.cursorText(hasA ? Cursor::a : Cursor::b), &sheet));
     sheet.resize(size);
-    // So that all have their places before they are painted.
+    // Lays all out before they are painted.
     sheet.show();
     plot->refresh();
     if (painter.device()->devType() != QInternal::Printer)

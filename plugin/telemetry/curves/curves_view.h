@@ -34,7 +34,7 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // Of a span, as a picture.
+    // A picture of the span.
     void paint(QPainter& painter, const QSize& size, const TimeSpan& span) const;
     // What is in sight: as CSV, SVG or PNG by the suffix.
     void saveTo(const QString& path);

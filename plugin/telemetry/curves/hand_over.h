@@ -23,7 +23,7 @@ struct TimeSpan;
 // Paints the picture into that many pixels from the painter's origin on.
 using PaintPicture = std::function<void(QPainter& painter, const QSize& size)>;
 
-// Likewise, of what is between two moments.
+// Paints what is between two moments into that many pixels.
 using PaintSpan = std::function<void(QPainter& painter, const QSize& size, const TimeSpan& span)>;
 
 // Pixels of an image to each point of the picture, across and down.

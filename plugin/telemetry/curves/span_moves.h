@@ -11,7 +11,7 @@ namespace vlk {
 TimeSpan zoomed(const TimeSpan& span, double factor, double round, const TimeSpan& whole);
 // By a share of its length, as far as the ends of the whole.
 TimeSpan moved(const TimeSpan& span, double share, const TimeSpan& whole);
-// So that it holds the moment, in its middle where it did not.
+// The span moved to hold the moment, in its middle where it did not.
 TimeSpan holding(const TimeSpan& span, double moment, const TimeSpan& whole);
 
 } // namespace vlk

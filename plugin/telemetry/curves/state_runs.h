@@ -18,7 +18,7 @@ struct StateRuns
     };
 
     std::vector<Run> on;    // rising
-    std::vector<Run> known; // likewise
+    std::vector<Run> known; // rising
 
     // `state(record)` gives 1 or 0, and anything else where the record does not tell.
     template <class State>

@@ -306,7 +306,7 @@ private:
                 return compared(column_, comparison, *moment);
         }
         const std::optional<double> number = typedNumber(text, position, end);
-        // Of a date in another form than those that are read it takes the day.
+        // The day of a date in another form than those that are read is not to be taken for a number.
         const QString rest = number ? text.mid(*end).trimmed() : QString();
         const bool goesOn =
             !rest.isEmpty() && rest[0] != QLatin1Char(')') && (rest[0].isPunct() || rest[0].isDigit());

@@ -65,7 +65,7 @@ struct Filter
     QString text() const;
     QString text(const FilterWording& wording) const;
 
-    // Of all conditions, each once.
+    // The columns of all conditions, each once.
     std::vector<FilterColumn> columns() const;
 
     bool operator==(const Filter&) const = default;

@@ -289,7 +289,7 @@ private:
         const auto isOnTheWay = [&](double litres) {
             return std::isnan(litres) || (litres - median.litres) * sign > most;
         };
-        // Of a vehicle in motion all levels swing.
+        // In a vehicle in motion all levels swing.
         while (!median.moves && byTime_[place] != outermost && isOnTheWay(litres_[byTime_[place]]))
             place -= direction;
         int record = byTime_[place];

@@ -83,7 +83,7 @@ Journey::Steps Journey::stepsToMake(RecordColumns& columns, const NumberColumn& 
     return steps;
 }
 
-// Of the records by time from `first` to before `behind`, as the others.
+// Looks at the records, by time, from `first` to before `behind`; measureWay() counts so too.
 void Journey::takeStretches(Making& making, int first, int behind)
 {
     const std::vector<quint32>& times = making.columns.times();
@@ -116,7 +116,7 @@ void Journey::takeStretches(Making& making, int first, int behind)
     }
 }
 
-// Of the records in their order in the store.
+// Here `first` and `behind` count the records in their order in the store.
 void Journey::takePoints(Making& making, int first, int behind)
 {
     const std::optional<TrackPoint> before = making.last;
@@ -160,7 +160,7 @@ void Journey::measureWay(Making& making, int first, int behind)
     }
 }
 
-// Of a vehicle that is elsewhere afterwards, unless it was seen to move in between.
+// A vehicle that is elsewhere afterwards did not stand, unless it was seen to move in between.
 void Journey::noStandingInGaps(int first, int behind)
 {
     const auto between = std::span(stretches_).subspan(first, behind - first);

@@ -42,8 +42,8 @@ class Journey
 public:
     // Looks at all records once. `litres` may be empty: no fuel.
     Journey(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);
-    // Likewise, as steps in their order; it is to be used behind the last one, and what is given here is to
-    // be there until then.
+    // Looks at them in steps, to be called in their order; it is to be used behind the last one, and what is
+    // given here is to be there until then.
     using Steps = std::vector<std::function<void()>>;
     Journey() = default;
     Steps stepsToMake(RecordColumns& columns, const NumberColumn& litres, std::vector<FuelEvent> events);

@@ -39,7 +39,7 @@ Ignition ignitionOf(double state)
     return std::isnan(state) ? Ignition::Unknown : state != 0 ? Ignition::On : Ignition::Off;
 }
 
-// Of records in the order of the store.
+// Drops records whose times are far from those around them; they come in the order of the store.
 void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records)
 {
     const auto areFar = [&times](int record, int other) {

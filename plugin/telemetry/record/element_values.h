@@ -22,7 +22,7 @@ using CppValue =
                          std::tuple<std::uint8_t, std::uint16_t, std::uint32_t, std::uint64_t, std::int8_t,
                                     std::int16_t, std::int32_t, std::int64_t, float>>;
 
-// So many bytes as an unsigned number.
+// The first `width` bytes as an unsigned number.
 inline std::uint64_t rawAt(const std::uint8_t* bytes, int width)
 {
     switch (width) {

@@ -214,8 +214,8 @@ private:
         Crowd crowd(size_);
         painter_.setPen(QPen(base_, 1));
         painter_.setBrush(text_);
-        // Of a million events nobody looks for the place of each: events and points rise together, and of
-        // those at one place the first is drawn.
+        // With a million events none is looked for by itself: events and points rise together, and of those
+        // at one place the first is drawn.
         const std::vector<int>& records = model_.path().records();
         auto behind = records.begin();
         for (const int record : model_.events()) {

@@ -20,7 +20,8 @@ class TrackPath
 public:
     // The points of the records from that one on, which come after those it has.
     void add(RecordColumns& columns, int firstRecord = 0);
-    // Likewise while it has no point yet, as steps in their order; it is to be used behind the last one.
+    // For a path without points: adds them in steps, to be called in their order; it is to be used behind
+    // the last one.
     std::vector<std::function<void()>> stepsToAdd(RecordColumns& columns, int firstRecord = 0);
 
     // Made when they are asked for.

@@ -39,8 +39,8 @@ private:
 
     WorkProgress* progress_;
     std::unique_ptr<StoredFile> file_;
-    bool isRead_ = false;                         // and not yet told
-    std::shared_ptr<TelemetryContents> contents_; // likewise, once they are taken from the file
+    bool isRead_ = false;                         // the file is read, and that is not yet told
+    std::shared_ptr<TelemetryContents> contents_; // not yet told, once they are taken from the file
     QTimer slices_;
 };
 

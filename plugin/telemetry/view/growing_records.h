@@ -34,7 +34,7 @@ public:
     void end();
     // Whether the record is newer than all on show; it is to join them then.
     bool takes(quint32 number);
-    // Likewise of a present state that came under this number: whether a newer record is known by it.
+    // Whether a present state that came under this number tells that there is a newer record.
     bool takesPresent(quint32 number);
     bool isGrowing() const { return isGrowing_; }
 

@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-// Beside the host's configurations (base/settings_file.h).
+// A file beside the host's configurations (base/settings_file.h).
 QString recordsMemory(const char* name);
 
 } // namespace vlk

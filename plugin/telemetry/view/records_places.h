@@ -24,7 +24,7 @@ public:
     bool stepBack();
     // To the next view, or the one before, and round: the keyboard is at its tab then.
     void turn(int step);
-    // Of the part that has the keyboard, or of all.
+    // The page about the part that has the keyboard, or about all.
     const char* helpPage() const;
     // Null without views.
     QTabWidget* views() const { return views_; }

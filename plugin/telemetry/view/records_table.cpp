@@ -163,7 +163,7 @@ int RecordsTable::widthOfHead(int column) const
     return headWidth(head, fontMetrics()) + 4 * fontMetrics().averageCharWidth();
 }
 
-// Which is as wide as half the head is high.
+// The arrow of the sorting is as wide as half the head is high.
 void RecordsTable::makeRoomForArrow(int column)
 {
     if (column < 0)

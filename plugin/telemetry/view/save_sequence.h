@@ -65,7 +65,7 @@ public:
     bool isRunning() const { return saveState_ != Idle; }
     // A cancel waits for the next record.
     bool isCancelled() const { return isRunning() && saveCancelled_; }
-    // Of how many records how many have come; none before the file is named.
+    // How many records have come, and how many are to come in all; none before the file is named.
     struct Fetched
     {
         std::size_t records = 0;

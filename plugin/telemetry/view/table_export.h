@@ -25,7 +25,7 @@ public:
     TableExport(ShownRecords* shown, RecordsModel* model, RecordsTable* table, NoticeBar* notices,
                 WorkProgress* progress, QWidget* window);
 
-    // Of records that are called so, by the name of their file.
+    // What the records are called: the title of an export, and the name that is proposed for its file.
     void setName(const QString& name) { name_ = name; }
     void ask();
     // Before the window closes: ends an export that is under way, if the user agrees. False where the window
@@ -48,7 +48,7 @@ private:
     QWidget* window_;
     QString name_;
     ExportChoice choice_;
-    // Of the latest export.
+    // What the latest export counted.
     int exported_ = 0; // records
     int leftOut_ = 0;  // damaged ones of those that were to be exported
     bool isFormOfEnding_ = false;

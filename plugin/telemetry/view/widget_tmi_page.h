@@ -40,7 +40,7 @@ public:
     void retranslate();
 
 Q_SIGNALS:
-    // Of the file on show; empty where the records come from the table.
+    // The file on show as a table; an empty path where the records come from the table.
     void tableWanted(const QString& path);
     void recordShown(const std::shared_ptr<const vlk::TelemetryContents>& contents, int record);
 

@@ -43,7 +43,7 @@ public:
               Growth growth = Growth::none);
     // From its type byte on; takes part where it is newer than all on show, until the growth ends.
     void takeLive(const QByteArray& record, quint32 number);
-    // Likewise a present state, which came under the number of the latest record.
+    // A present state, which came under the number of the latest record.
     void takePresent(const QByteArray& state, quint32 number);
     void endGrowth();
     // Goes to a record that another window shows, where these records are on show.

@@ -158,6 +158,6 @@ private:
     quint32 lastWalk_ = 0;
     const char* blockedBy_ = nullptr;
     std::function<void()> showPeriod_;                // the one that was saved last
-    std::shared_ptr<vlk::TelemetryContents> growing_; // the same, where its end was the present; or null
+    std::shared_ptr<vlk::TelemetryContents> growing_; // that period, where its end was the present; or null
     QPointer<QWidget> focusBeforeSave_;               // null where the save closed no control that had it
 };
