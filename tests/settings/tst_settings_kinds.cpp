@@ -120,9 +120,10 @@ constexpr auto kOrderRows =
     rowsOf(group("O"), integer("low", 0), integer("high", 0),
            choice("list", kNumbers, "0").offering("").noItemIs("-").resetTo("-"),
            choice("first", kNumbers, "0"), choice("second", kNumbers, "0"), integer("ranged", 9),
-           integer("set", 0), integer("preset", 0), integer("held", 0));
+           choice("use", kNumbers, "0"), integer("set", 0), integer("preset", 0), integer("held", 0));
 constexpr When kSeven = when("O/low", "7");
-constexpr auto kOrderSets = rulesOf(always(kSeven, "O/held", "3"), onEdit(kSeven, "O/set", "1"));
+constexpr auto kOrderSets = rulesOf(always(kSeven, "O/held", "3"), onEdit(kSeven, "O/use", "1"),
+                                    onEdit(when("O/use", "1"), "O/set", "1"));
 constexpr auto kOrderDistances = rulesOf(Distance{.first = "O/low", .second = "O/high", .gap = 1});
 constexpr auto kOrderRanges =
     rulesOf(RangeWhen{.when = kSeven, .path = "O/ranged", .least = 0, .most = 5},
@@ -130,9 +131,8 @@ constexpr auto kOrderRanges =
 constexpr auto kOrderExclusives =
     rulesOf(ExclusiveChoice{.path = "O/first", .when = kSeven, .list = "list", .holder = "1"},
             ExclusiveChoice{.path = "O/second", .when = when("O/held", "9"), .list = "list", .holder = "2"});
-constexpr PresetRow kSevenRows[] = {{"7", {"2"}}};
-constexpr auto kOrderPresets =
-    rulesOf(Presets{.trigger = "O/low", .fields = {"O/preset"}, .rows = kSevenRows});
+constexpr PresetRow kUseRows[] = {{"1", {"2"}}};
+constexpr auto kOrderPresets = rulesOf(Presets{.trigger = "O/use", .fields = {"O/preset"}, .rows = kUseRows});
 constexpr SettingsTable kOrder =
     tableOf<kOrderRows, kOrderSets, kOrderDistances, kOrderRanges, kOrderExclusives, kOrderPresets>("ORDER");
 
@@ -405,7 +405,8 @@ private Q_SLOTS:
         QStringList changed;
         for (const int row : values.edit("O/low", "7"))
             changed << values.row(row).key + '=' + values.value(row);
-        QCOMPARE(changed.join(' '), QString("low=7 high=8 list=1 second=1 ranged=5 set=1 preset=2 held=3"));
+        QCOMPARE(changed.join(' '),
+                 QString("low=7 high=8 list=1 second=1 ranged=5 use=1 set=1 preset=2 held=3"));
     }
 
     void rulesAndReads()
