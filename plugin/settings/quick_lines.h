@@ -43,16 +43,21 @@ inline constexpr const char* kToSupply = "NS+|NB+";
 inline constexpr const char* kToGround = "NS-|NB-";
 inline constexpr const char* kDigital = "NS+|NB+|NS-|NB-";
 
-// For a rule: a mask with these fields of a record, which leaves the others alone.
-template <char to, int... fields>
-inline constexpr auto kFieldsAs = [] {
-    std::array<char, kFieldCount + 1> mask{};
-    std::fill_n(mask.begin(), kFieldCount, '*');
-    ((mask[fields] = to), ...);
+// A mask in which these fields of a record have one sign and the others another; for a rule "*" leaves them
+// alone.
+template <int count = kFieldCount>
+constexpr auto fieldsAs(char others, char sign, std::initializer_list<int> fields)
+{
+    std::array<char, count + 1> mask{};
+    std::fill_n(mask.begin(), count, others);
+    for (const int field : fields)
+        mask[field] = sign;
     return mask;
-}();
+}
 template <int... fields>
-inline constexpr const char* kWithFields = kFieldsAs<'1', fields...>.data();
+inline constexpr auto kMaskWithFields = fieldsAs('*', '1', {fields...});
+template <int... fields>
+inline constexpr const char* kWithFields = kMaskWithFields<fields...>.data();
 inline constexpr const char* kMask = "PROTOCOL/ZETA/mask";
 
 inline constexpr Heading kInputLines{"cfgwl_017"};

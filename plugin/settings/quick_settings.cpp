@@ -4,8 +4,6 @@
 #include "settings/quick_sensors.h"
 #include "settings/shared_rows.h"
 
-#include <algorithm>
-
 namespace vlk {
 
 namespace {
@@ -34,22 +32,13 @@ constexpr PresetRow kTrackRows[] = {
     {"detailed", {"1", "5", "1", "500", "1", "20", "600"}},
 };
 
-// Fields of the mask that the window begins with before it has read one.
-constexpr int kFirstFields[] = {
-    field("NumPage"),   field("Code"),     field("Time"),        field("State"),    field("Module1"),
-    field("Module2"),   field("GSM"),      field("StateNGauge"), field("LastTime"), field("Latitude"),
-    field("Longitude"), field("Speed"),    field("Course"),      field("Run"),      field("Power"),
-    field("Reserv"),    field("StateIn1"), field("Motochas"),
-};
-
-// A mask of the first two versions of the data set.
-constexpr auto kFirstMask = [] {
-    std::array<char, kEarlierFieldCount + 1> mask{};
-    std::fill_n(mask.begin(), kEarlierFieldCount, '0');
-    for (const int position : kFirstFields)
-        mask[position] = '1';
-    return mask;
-}();
+// The mask that the window begins with before it has read one, of the first two versions of the data set.
+constexpr auto kFirstMask = quick::fieldsAs<kEarlierFieldCount>(
+    '0', '1',
+    {field("NumPage"), field("Code"), field("Time"), field("State"), field("Module1"), field("Module2"),
+     field("GSM"), field("StateNGauge"), field("LastTime"), field("Latitude"), field("Longitude"),
+     field("Speed"), field("Course"), field("Run"), field("Power"), field("Reserv"), field("StateIn1"),
+     field("Motochas")});
 
 constexpr Heading kAccessPoint{"cfgt1_024"};
 constexpr Heading kServer{"cfgwl_001"};
@@ -97,8 +86,14 @@ constexpr auto kRows = rowsOf(
 
     quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);
 
-// Fields of a record that the window decides about.
-constexpr const char* kUndecided = quick::kFieldsAs<'0', field("StateU_Ain1"), field("StateU_Ain2"), field("StateU_Ain3"), field("StateIn1"), field("StateIn_Imp1"), field("StateIn_Imp2"), field("Frequency1"), field("Frequency2"), field("LevelRS485_1"), field("LevelRS485_2"), field("LevelRS485_3"), field("LevelRS485_4"), field("LevelRS232"), field("TempRS485_1"), field("TempRS485_2"), field("TempRS485_3"), field("TempRS485_4")>.data();
+// For a rule: clears the fields of a record that the window decides about.
+constexpr auto kUndecided =
+    quick::fieldsAs('*', '0',
+                    {field("StateU_Ain1"), field("StateU_Ain2"), field("StateU_Ain3"), field("StateIn1"),
+                     field("StateIn_Imp1"), field("StateIn_Imp2"), field("Frequency1"), field("Frequency2"),
+                     field("LevelRS485_1"), field("LevelRS485_2"), field("LevelRS485_3"),
+                     field("LevelRS485_4"), field("LevelRS232"), field("TempRS485_1"), field("TempRS485_2"),
+                     field("TempRS485_3"), field("TempRS485_4")});
 
 // After a reset the access point is open to all; choosing an operator decides who may edit it.
 constexpr auto kSets =
@@ -106,7 +101,7 @@ constexpr auto kSets =
             onSave(unless("TRANS/SRV1/format", "VLKB_ZETA"), "TRANS/SRV1/format", "VLKB_ZETA"),
             quick::kLineSets, quick::kSensorSets,
             // What the window decides about is cleared first, then set by what is switched on.
-            onSave({}, quick::kMask, kUndecided), quick::kLineMasks, quick::kSensorMasks);
+            onSave({}, quick::kMask, kUndecided.data()), quick::kLineMasks, quick::kSensorMasks);
 
 constexpr auto kPresets =
     rulesOf(Presets{.trigger = "TRANS/AP1/operator",
