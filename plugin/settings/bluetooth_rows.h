@@ -6,6 +6,7 @@
 #include "settings/bluetooth_settings.h"
 #include "settings/bluetooth_universal_rows.h"
 #include "settings/shared_rows.h"
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 
@@ -14,17 +15,23 @@ namespace vlk::bluetooth {
 inline constexpr const char* kSection = "BLUETOOTH";
 
 inline constexpr std::size_t kTypes = std::size(kBluetoothSensorTypes);
-using Text = std::array<char, 48>;
+using Label = std::array<char, 48>;
 
-constexpr Text textOf(std::initializer_list<std::string_view> parts)
+constexpr Label textOf(std::initializer_list<std::string_view> parts)
 {
-    Text text{};
+    Label text{};
     std::size_t size = 0;
     for (const std::string_view part : parts) {
         for (const char sign : part)
             text[size++] = sign;
     }
     return text;
+}
+
+// Vendors are numbered from 0.
+constexpr const char* vendorNumber(std::size_t n)
+{
+    return n == 0 ? "0" : universal::kNumberTexts.at(n - 1).code;
 }
 
 // What the rows of a type name, from its row in the table of types.
@@ -35,32 +42,26 @@ struct Names
     static constexpr bool kHasIndex = kType.index.list != BluetoothList::none;
 
     static constexpr Path kTypePath{kType.section, "type"};
-    static constexpr PathOf<Choice> kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section, "idx"};
+    static constexpr PathOf<Choice> kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section,
+                                               "idx"};
 
-    static constexpr auto kVendorNumbers = [] {
-        std::array<std::array<char, 2>, kType.vendors.size()> numbers{};
-        for (std::size_t n = 0; n < numbers.size(); ++n)
-            numbers[n][0] = static_cast<char>('0' + n);
-        return numbers;
-    }();
     static constexpr auto kVendors = [] {
         std::array<Code, kType.vendors.size()> codes{};
         for (std::size_t n = 0; n < codes.size(); ++n)
-            codes[n] = {.code = kVendorNumbers[n].data(),
-                        .label = kType.vendors[n].name,
-                        .offered = kType.vendors[n].offered};
+            codes[n] = {
+                .code = vendorNumber(n), .label = kType.vendors[n].name, .offered = kType.vendors[n].offered};
         return codes;
     }();
     // "1|2": those whose value takes a number, where not all do.
-    static constexpr Text kIndexedVendors = [] {
-        Text text{};
-        std::size_t size = 0;
+    static constexpr auto kIndexedVendors = [] {
+        std::array<char, 3 * kType.vendors.size() + 1> text{};
+        auto end = text.begin();
         for (std::size_t n = 0; n < kType.vendors.size(); ++n) {
             if (!kType.vendors[n].indexed)
                 continue;
-            if (size > 0)
-                text[size++] = '|';
-            text[size++] = kVendorNumbers[n][0];
+            if (end != text.begin())
+                *end++ = '|';
+            end = std::ranges::copy(std::string_view(vendorNumber(n)), end).out;
         }
         return text;
     }();
@@ -74,7 +75,7 @@ struct Names
     static constexpr When kIndexed = kAllIndexed ? When{} : when(kTypePath, kIndexedVendors.data());
 
     static constexpr auto kIndexFormats = [] {
-        std::array<Text, kType.index.known> formats{};
+        std::array<Label, kType.index.known> formats{};
         for (std::size_t n = 0; n < formats.size(); ++n) {
             const universal::NumberText& number = universal::kNumberTexts[n];
             formats[n] = textOf({"%1 ", kType.index.known > 9 ? number.label : number.code});
