@@ -1,5 +1,7 @@
 #pragma once
 
+// One array of single items and of arrays of them: joined(kFirst, kList, kLast).
+
 #include <algorithm>
 #include <array>
 
@@ -26,7 +28,6 @@ constexpr auto joinedLists(const std::array<Item, sizes>&... lists)
     return all;
 }
 
-// Items and arrays of items in one array.
 constexpr auto joined(const auto&... items)
 {
     return joinedLists(listOf(items)...);

@@ -19,8 +19,6 @@ namespace vlk {
 
 namespace {
 
-// Low, so that the longest list fits into a small window.
-
 // What the positions of a field hold while its widget is in this state.
 QString stateOf(const MaskField& field, const QWidget* widget)
 {

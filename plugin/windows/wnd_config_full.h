@@ -2,7 +2,7 @@
 
 // What settings pages and their embedded forms may ask of the window around them: names of user parameters,
 // jumps to other tabs, live values and what else goes to the tracker. This base answers nothing and goes
-// nowhere; VLK_Widget_Config_Full does.
+// nowhere; VLK_Widget_Config_Full does. All are names that others know: some have no caller here.
 
 #include <QWidget>
 

@@ -3,8 +3,8 @@
 // The headings of the columns and the items below them. A heading is text in which
 //
 //     tmizta_123, abbr_047   stand for their texts, up to a "<val>" in it
-//     tmizta_192++           is that key for the first column of the row, the next key for the next, and so
-//     on #                      is the number of the column: `first` for the first one, then counting up
+//     tmizta_192++           is that key for the first column of the row, then the next key for each
+//     #                      is the number of the column: `first` for the first one, then counting up
 //     tmizta_211#            puts the number in the place of the "<val>"
 //
 // Several headings, apart by "|", take turns; each round of them has the same number. Items are named as in
