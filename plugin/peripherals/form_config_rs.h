@@ -39,7 +39,6 @@ public:
     void deviceConnected() { setConnected(true); }
     void deviceDisconnected() { setConnected(false); }
     vlk::PageSettings& settings() { return settings_; }
-    bool isConnected() const { return connected_; }
 
     // Stored code of a user parameter from its name, and the way back; empty when no form knows it.
     QString userParamCode(const QString& text) const;

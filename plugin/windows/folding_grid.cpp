@@ -140,16 +140,6 @@ FoldingGrid::Needs FoldingGrid::needs(int pair) const
     return needs;
 }
 
-int FoldingGrid::wholeWidth() const
-{
-    int width = 0;
-    for (QLayoutItem* item : items()) {
-        if (places_[item].columns > kColumnsOfPair && !item->isEmpty())
-            width = std::max(width, item->minimumSize().width());
-    }
-    return width;
-}
-
 QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
 {
     const auto all = items();

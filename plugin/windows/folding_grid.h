@@ -38,8 +38,6 @@ public:
     // The captions in the first (0) and in the second (1) pair of columns, as they stand unfolded.
     QWidgetList captions(int pair) const;
     Needs needs(int pair) const;
-    // What stands across all four columns.
-    int wholeWidth() const;
     void fold(bool folded);
     // How wide captions and fields are at least. Fields of a single pair are no wider, 0: they take what
     // there is.
