@@ -6,12 +6,11 @@
 #include "base/windows1251.h"
 #include "bench/side_by_side.h"
 #include "telemetry/files/csv_columns.h"
-#include "telemetry/files/telemetry_binary_reader.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_csv_writer.h"
-#include "telemetry/files/telemetry_xml_reader.h"
 #include "telemetry/files/telemetry_xml_writer.h"
 #include "tests/support/records.h"
+#include "tests/support/whole_files.h"
 
 #include <QBuffer>
 

@@ -1,7 +1,7 @@
 // A file of the binary form: the way around, and damages that lie in the file.
 
 #include "round_trip.h"
-#include "telemetry/files/telemetry_binary_reader.h"
+#include "support/whole_files.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 
 using namespace vlk;

@@ -2,8 +2,8 @@
 // which every record has all columns: it takes several times as long as the reading that is tested.
 
 #include "round_trip.h"
+#include "support/whole_files.h"
 #include "telemetry/files/telemetry_csv_writer.h"
-#include "telemetry/files/telemetry_xml_reader.h"
 #include "telemetry/files/telemetry_xml_writer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

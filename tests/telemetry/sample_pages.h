@@ -11,6 +11,13 @@ namespace vlk {
 // Records one by one, each an object of its own.
 using TelemetryPages = std::vector<std::unique_ptr<TmiPage_Zeta3>>;
 
+// A mask as a record has it, 32 bytes.
+inline QByteArray maskBytes(const TmiPage_Zeta3& page)
+{
+    const FieldMask::Bytes& bytes = page.mask().bytes();
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), FieldMask::kBytes);
+}
+
 inline RecordStore storeOf(const TelemetryPages& pages)
 {
     RecordStore store;
@@ -23,7 +30,7 @@ inline RecordStore storeOf(const TelemetryPages& pages)
         } else {
             QByteArray record(1, static_cast<char>(page->type()));
             if (!page->isExtra())
-                record += static_cast<char>(page->ver()) + page->maskBytes();
+                record += static_cast<char>(page->ver()) + maskBytes(*page);
             record += payload;
             store.add(bytesAt(record.constData(), record.size()));
         }

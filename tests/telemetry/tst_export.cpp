@@ -3,9 +3,8 @@
 
 #include "sample_pages.h"
 #include "support/data_table.h"
+#include "support/whole_files.h"
 #include "telemetry/files/export_form.h"
-#include "telemetry/files/telemetry_binary_reader.h"
-#include "telemetry/files/telemetry_xml_reader.h"
 
 #include <QBuffer>
 #include <QJsonArray>

@@ -3,10 +3,9 @@
 #include "sample_pages.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
-#include "telemetry/files/telemetry_binary_reader.h"
+#include "support/whole_files.h"
 #include "telemetry/files/telemetry_binary_writer.h"
 #include "telemetry/files/telemetry_file.h"
-#include "telemetry/files/telemetry_xml_reader.h"
 #include "telemetry/files/telemetry_xml_writer.h"
 
 #include <QBuffer>
@@ -90,7 +89,7 @@ QVector<QByteArray> packed(const RecordStore& records)
 {
     QVector<QByteArray> all;
     records.forEach([&all](const TmiPage_Zeta3& page) {
-        const QByteArray head = QByteArray(1, '\xb0') + static_cast<char>(page.ver()) + page.maskBytes();
+        const QByteArray head = QByteArray(1, '\xb0') + static_cast<char>(page.ver()) + maskBytes(page);
         all << (page.isExtra() ? QByteArray("\xb1") : head) + page.payload();
     });
     return all;
@@ -195,7 +194,7 @@ private Q_SLOTS:
         // A record read from XML has no bytes of the tracker; it is packed from its values.
         TelemetryPages pages = samplePages();
         const QByteArray file = written(writeTelemetryBinary, pages);
-        const QByteArray mask = pages[0]->maskBytes();
+        const QByteArray mask = maskBytes(*pages[0]);
         const QByteArray payload = QByteArray::fromHex("2300") + little(kTime, 4) +
                                    QByteArray::fromHex("00004841"
                                                        "00247449"

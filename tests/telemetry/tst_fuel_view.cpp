@@ -5,6 +5,7 @@
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
+#include "support/whole_files.h"
 #include "telemetry/files/telemetry_file.h"
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"

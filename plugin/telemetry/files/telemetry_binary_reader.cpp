@@ -235,11 +235,6 @@ void TelemetryBinaryReader::report(FileDamage::Kind kind, qint64 offset, qint64 
     contents_.damages.push_back({kind, offset, bytes, total_});
 }
 
-TelemetryContents readTelemetryBinary(QIODevice& device)
-{
-    return readWhole<TelemetryBinaryReader>(device);
-}
-
 bool looksBinary(std::span<const std::uint8_t> start)
 {
     return start.size() > binary::kVersionAt &&

@@ -54,8 +54,6 @@ private:
     std::size_t lengthOfHead_ = RecordHead::kBytes;
 };
 
-TelemetryContents readTelemetryBinary(QIODevice& device);
-
 // Whether a file that begins with these bytes, 5 at least, says that it has this form.
 bool looksBinary(std::span<const std::uint8_t> start);
 

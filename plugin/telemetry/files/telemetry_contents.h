@@ -60,17 +60,6 @@ struct TelemetryContents
     int hidden = 0;           // whole records that salvaging would give besides these
 };
 
-// All that a reader of one form gives.
-template <class Reader, class... Options>
-TelemetryContents readWhole(QIODevice& device, Options... options)
-{
-    Reader reader(device, options...);
-    while (reader.step()) {
-    }
-    reader.finish();
-    return std::move(reader.contents());
-}
-
 // The time of a record, or of an extra packet's head.
 inline quint32 timeOf(const TmiPage_Zeta3& page)
 {

@@ -1,10 +1,8 @@
 #pragma once
 
-// Files of telemetry by their names.
+// Saves files of telemetry by their names.
 
 #include "telemetry/files/telemetry_csv_writer.h"
-
-#include <optional>
 
 namespace vlk {
 
@@ -15,10 +13,5 @@ enum class TelemetryForm { xml, csv, binary };
 // names of events.
 bool saveTelemetryFile(const QString& path, TelemetryForm form, const RecordStore& records,
                        const TelemetryOrigin& origin, const EventText& eventText = {});
-
-// Reads an XML or binary file, whichever it is. Nothing if it cannot be opened. What is damaged in it is in
-// the contents and in the log.
-std::optional<TelemetryContents> readTelemetryFile(const QString& path,
-                                                   TelemetryReading reading = TelemetryReading::asTold);
 
 } // namespace vlk

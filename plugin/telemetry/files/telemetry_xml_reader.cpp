@@ -221,9 +221,4 @@ void TelemetryXmlReader::finish()
         report(FileDamage::RecordCount, countAt_, countAt_);
 }
 
-TelemetryContents readTelemetryXml(QIODevice& device)
-{
-    return readWhole<TelemetryXmlReader>(device);
-}
-
 } // namespace vlk

@@ -60,7 +60,4 @@ private:
     qint64 nextAt_ = 0;
 };
 
-// From the present position of the device to its end.
-TelemetryContents readTelemetryXml(QIODevice& device);
-
 } // namespace vlk

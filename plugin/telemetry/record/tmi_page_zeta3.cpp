@@ -94,12 +94,6 @@ QString TmiPage_Zeta3::formatText() const
     return QString::fromStdString(mask().text());
 }
 
-QByteArray TmiPage_Zeta3::maskBytes() const
-{
-    const FieldMask::Bytes& bytes = mask().bytes();
-    return QByteArray(reinterpret_cast<const char*>(bytes.data()), FieldMask::kBytes);
-}
-
 // An extra packet has neither mask nor values; the bytes of its head must not be taken for a mask.
 void TmiPage_Zeta3::setExtra(const ExtraPacket& extra, std::span<const std::uint8_t> packet)
 {

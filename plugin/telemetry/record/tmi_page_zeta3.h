@@ -52,8 +52,7 @@ public:
     quint8 ver() const;
     quint32 number() const; // the record's number
 
-    QString formatText() const;   // the mask as 255 characters
-    QByteArray maskBytes() const; // the mask as 32 bytes
+    QString formatText() const; // the mask as 255 characters
 
     // What stands behind the head of a record; of an extra packet all behind its type byte.
     QByteArray payload() const { return payload_; }
