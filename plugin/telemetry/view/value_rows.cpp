@@ -84,9 +84,8 @@ void ValueRows::retranslate()
         if (!shown.unit)
             shown.value->setMinimumWidth(widestText(shown.value->fontMetrics(), shown.row.item));
         else
-            shown.unit->setText(shown.row.unitKey != nullptr
-                                    ? QCoreApplication::translate("vlk", shown.row.unitKey)
-                                    : parts.value(1));
+            shown.unit->setText(shown.row.unitKey ? QCoreApplication::translate("vlk", shown.row.unitKey)
+                                                  : parts.value(1));
     }
 }
 
