@@ -193,6 +193,24 @@ private Q_SLOTS:
                      qPrintable(text.key()));
     }
 
+    // Every page is there in both languages, made of as many parts of each sort, and the first page leads to
+    // it.
+    void helpAgrees()
+    {
+        const Texts& russian = help_[QStringLiteral("ru")];
+        const Texts& english = help_[QStringLiteral("en")];
+        QCOMPARE(english.keys(), russian.keys());
+        const QString index = QStringLiteral("index.html");
+        for (const QString& page : russian.keys()) {
+            for (const char* part : {"h1", "h2", "p", "li", "tr", "td", "a href"}) {
+                const QRegularExpression tag = pattern(QStringLiteral("<%1\\b").arg(QLatin1String(part)));
+                QVERIFY2(russian[page].count(tag) == english[page].count(tag), qPrintable(page + ' ' + part));
+            }
+            for (const Texts* help : {&russian, &english})
+                QVERIFY2(page == index || help->value(index).contains("href=\"" + page), qPrintable(page));
+        }
+    }
+
     // What stands in quotes or in bold is a caption, letter by letter, in the help and in texts that quote
     // one. Whatever else needs to stand out is in italics or in the typewriter's letters.
     void quotesCaptions_data()
