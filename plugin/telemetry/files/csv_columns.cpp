@@ -42,6 +42,8 @@ constexpr std::array<CsvColumn, kCsvColumnCount> kColumns = [] {
                     if (steps == kItemCount)
                         throw "a column names an item that does not exist";
                 }
+                if (first + position >= kCsvColumnCount)
+                    throw "fewer columns were expected";
                 columns[first + position] = {static_cast<ItemIndex>(item), static_cast<std::uint8_t>(row),
                                              static_cast<std::uint8_t>(position % headings),
                                              static_cast<std::uint8_t>(source.first + position / headings)};
@@ -53,7 +55,7 @@ constexpr std::array<CsvColumn, kCsvColumnCount> kColumns = [] {
         first += count;
     }
     if (first != kCsvColumnCount)
-        throw "another number of columns was expected";
+        throw "more columns were expected";
     return columns;
 }();
 
