@@ -4,6 +4,7 @@
 
 #include "bench/settle.h"
 #include "bench/side_by_side.h"
+#include "telemetry/files/telemetry_file.h"
 #include "telemetry/view/widget_tmi_page.h"
 #include "telemetry/view/widget_tmi_table.h"
 #include "tests/support/whole_files.h"
