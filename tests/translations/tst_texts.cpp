@@ -1,4 +1,5 @@
 // Texts are keys: every key in the sources has a text in both languages, and no text stands without a key.
+// Beside that the comments of the sources are looked at for names that have gone.
 
 #include "support/data_table.h"
 #include "telemetry/files/csv_columns.h"
@@ -48,7 +49,9 @@ private Q_SLOTS:
             while (files.hasNext()) {
                 QFile file(files.next());
                 QVERIFY(file.open(QIODevice::ReadOnly));
-                auto found = key.globalMatch(QString::fromUtf8(file.readAll()));
+                const QString source = QString::fromUtf8(file.readAll());
+                takeWords(source);
+                auto found = key.globalMatch(source);
                 while (found.hasNext()) {
                     const QString name = found.next().captured(1);
                     // "wb_event_" with a number behind it: a family that the code completes.
@@ -128,7 +131,34 @@ private Q_SLOTS:
         }
     }
 
+    // Comments call a constant by its name, which begins with a k; one of a single word may be a word.
+    void commentsNameConstants()
+    {
+        static const QRegularExpression severalWords(QStringLiteral("^[a-z]\\w*[A-Z]"));
+        QStringList wrong;
+        for (const QString& word : std::as_const(told_)) {
+            if (word.contains(severalWords) && !named_.contains(word) &&
+                named_.contains('k' + word.left(1).toUpper() + word.mid(1)))
+                wrong << word;
+        }
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(' ')));
+    }
+
 private:
+    void takeWords(const QString& source)
+    {
+        static const QRegularExpression name(QStringLiteral("[A-Za-z_]\\w+"));
+        for (const QStringRef& line : source.splitRef('\n')) {
+            const int comment = line.indexOf(QLatin1String("//"));
+            for (auto found = name.globalMatch(line); found.hasNext();) {
+                const QRegularExpressionMatch word = found.next();
+                (comment >= 0 && word.capturedStart() > comment ? told_ : named_) << word.captured();
+            }
+        }
+    }
+
+    QSet<QString> named_; // words of the code
+    QSet<QString> told_;  // words of its comments
     QSet<QString> keys_;
     QSet<QString> families_;
     QMap<QString, Texts> texts_; // by language
