@@ -105,6 +105,36 @@ std::vector<Typed> textsFor(const vlk::Text& setting)
     return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&\"2\""), QString::fromUtf8("Гр&\"2\"").left(6)}};
 }
 
+// What is typed into a setting of any kind, and the widgets that take it; nothing where a person chooses.
+struct Keyboard
+{
+    vlk::Limits limits;
+    QLatin1Char sign;
+    QVector<vlk::Name> widgets{};
+
+    std::vector<Typed> operator()(const vlk::Number& setting)
+    {
+        widgets = {setting.widget};
+        return setting.blankIsZero ? codesForCell() : numbersFor(setting, limits, sign);
+    }
+    std::vector<Typed> operator()(const vlk::Period& setting)
+    {
+        for (const vlk::PeriodPart& part : setting.parts)
+            widgets << part.widget;
+        return periodsFor(setting);
+    }
+    std::vector<Typed> operator()(const vlk::Text& setting)
+    {
+        widgets = {setting.widget};
+        return textsFor(setting);
+    }
+    std::vector<Typed> operator()(const vlk::Flag&) const { return {}; }
+    std::vector<Typed> operator()(const vlk::Choice&) const { return {}; }
+    std::vector<Typed> operator()(const vlk::Digits&) const { return {}; }
+    std::vector<Typed> operator()(const vlk::Mask&) const { return {}; }
+    std::vector<Typed> operator()(const vlk::IsStructure auto&) const { return {}; }
+};
+
 } // namespace
 
 class KeyboardTest : public QObject
@@ -163,31 +193,19 @@ private:
         vlk::Values core(settings.values().table());
         for (int index = 0; index < core.count(); ++index) {
             const vlk::Setting& setting = core.setting(index);
-            const vlk::Number* number = setting.number();
-            const auto* period = setting.as<vlk::Period>();
-            const auto* text = setting.as<vlk::Text>();
-            if (!number && !period && !text)
+            if (std::visit(Keyboard{{}, sign_}, setting.kind).empty())
                 continue;
             const int key = keyOf(core, index);
             const QByteArray file = fileFor(core, key);
             load(page, core, file);
-            const auto find = [&](const vlk::Name& name) {
-                return settings.binder().forms().find(name, setting.base().numbers);
-            };
+            Keyboard keyboard{core.limits(index), sign_};
+            const std::vector<Typed> samples = std::visit(keyboard, setting.kind);
             QList<QWidget*> fields;
-            if (period) {
-                for (const vlk::PeriodPart& part : period->parts)
-                    fields << find(part.widget);
-            } else {
-                fields << find(setting.shown()->widget);
-            }
+            for (const vlk::Name& name : std::as_const(keyboard.widgets))
+                fields << settings.binder().forms().find(name, setting.base().numbers);
             if (fields.contains(nullptr) || !core.isWritten(key) || isReadOnly(fields[0]))
                 continue;
             ++fields_;
-            const auto samples = number && number->blankIsZero ? codesForCell()
-                                 : number ? numbersFor(*number, core.limits(index), sign_)
-                                 : period ? periodsFor(*period)
-                                          : textsFor(*text);
             for (std::size_t i = 0; i < samples.size(); ++i) {
                 load(page, core, file);
                 switchOn(settings, core, fields[0]);

@@ -36,15 +36,14 @@ private Q_SLOTS:
         makeAllForms();
         QStringList sections;
         forEachPage([&](auto& page) {
-            QCOMPARE(page.settings().binder().problems(), QStringList());
-            QCOMPARE(page.settings().binder().waiting(), QStringList());
+            QCOMPARE(lacking(page.settings()), QStringList());
             sections << page.settings().values().table().section;
         });
         QStringList tables;
         for (const vlk::SettingsTable* table : vlk::allSettings())
             tables << table->section;
         QCOMPARE(sections, tables);
-        QCOMPARE(quick_->settings().binder().problems(), QStringList());
+        QCOMPARE(lacking(quick_->settings()), QStringList());
     }
 
     // Other programs know the slots by their names. Families are numbered from the first to the last.
@@ -161,7 +160,7 @@ private Q_SLOTS:
         QVector<QPair<QString, QString>> values;
         for (const vlk::Values& table : configuration_.tables()) {
             for (int row = 0; row < table.count(); ++row)
-                values.append({table.row(row).filePath, samplesOf(table.setting(row)).last()});
+                values.append({table.row(row).filePath, samplesOfAnyKind(table.setting(row)).last()});
         }
         throughTheWindow(documentWith(values));
         window_->setDefaults();
@@ -230,6 +229,26 @@ private:
         return titles;
     }
 
+    // What rules and rows name and no form has, and rows whose widget has no caption.
+    static QStringList lacking(vlk::PageSettings& settings)
+    {
+        const vlk::Values& values = settings.values();
+        QStringList all = settings.binder().problems();
+        for (int row = 0; row < values.count(); ++row) {
+            const vlk::Setting& setting = values.setting(row);
+            const QString path = values.row(row).path;
+            vlk::tables::eachWidget(setting, [&](auto form, auto name, vlk::Numbers numbers) {
+                const QString widget = vlk::numberedName(name, numbers);
+                if (!settings.binder().forms().find(vlk::numberedName(form, numbers), widget, numbers.outer))
+                    all << path + ": no " + widget;
+            });
+            const bool hasOwnTexts = setting.is<vlk::Choice>() || setting.is<vlk::Digits>();
+            if (!settings.binder().placesOf(row).empty() && !hasOwnTexts && !setting.shown()->captionKey)
+                all << path + ": no caption";
+        }
+        return all;
+    }
+
     static void compareHeadings(vlk::PageSettings& settings)
     {
         const vlk::Values& values = settings.values();
@@ -291,7 +310,7 @@ private:
         QVector<QPair<QString, QString>> values;
         for (const vlk::Values& table : tables) {
             for (int row = 0; row < table.count(); ++row) {
-                const QStringList samples = samplesOf(table.setting(table.holder(row)));
+                const QStringList samples = samplesOfAnyKind(table.setting(table.holder(row)));
                 values.append(
                     {table.row(row).filePath, samples.at((round + 7 * values.size()) % samples.size())});
             }

@@ -37,7 +37,7 @@ private Q_SLOTS:
             if (last == qMakePair(place, row))
                 continue;
             const std::vector<QString> held = page.values().held();
-            const QStringList samples = samplesOf(page.values().setting(row));
+            const QStringList samples = samplesOfAnyKind(page.values().setting(row));
             page.binder().set(row, samples[below(samples.size())]);
             history().settle();
             if (page.values().held() != held)
@@ -73,7 +73,7 @@ private Q_SLOTS:
             vlk::review::Unsaved unsaved;
             for (int edit = 0; edit < 5; ++edit) {
                 const int row = static_cast<int>(random() % static_cast<unsigned>(page.values().count()));
-                const QStringList samples = samplesOf(page.values().setting(row));
+                const QStringList samples = samplesOfAnyKind(page.values().setting(row));
                 page.binder().set(
                     row, samples[static_cast<int>(random() % static_cast<unsigned>(samples.size()))]);
             }
@@ -123,7 +123,7 @@ private Q_SLOTS:
         for (int round = 0; round < 300; ++round) {
             vlk::PageSettings& page = *history().pages()[random() % 10];
             const int row = static_cast<int>(random() % static_cast<unsigned>(page.values().count()));
-            const QStringList samples = samplesOf(page.values().setting(row));
+            const QStringList samples = samplesOfAnyKind(page.values().setting(row));
             page.binder().set(row,
                               samples[static_cast<int>(random() % static_cast<unsigned>(samples.size()))]);
         }

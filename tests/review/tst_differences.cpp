@@ -275,7 +275,7 @@ private Q_SLOTS:
         Differences differences(stateOf(factory()), FileState::ofConfiguration(full));
         for (int i = 0; i < 60; ++i) {
             const int row = static_cast<int>(random() % quick.count());
-            const QStringList samples = samplesOf(quick.setting(quick.holder(row)));
+            const QStringList samples = samplesOfAnyKind(quick.setting(quick.holder(row)));
             quick.edit(row, samples[static_cast<int>(random() % samples.size())]);
             differences.update(FileState::ofConfiguration(full), quick);
             vlk::XmlDocument written(saved(full), "DEVICE");
@@ -311,7 +311,7 @@ private Q_SLOTS:
         for (int i = 0; i < 40; ++i) {
             vlk::Values& table = configuration.tables()[below(configuration.tables().size())];
             const int row = below(table.count());
-            const QStringList samples = samplesOf(table.setting(table.holder(row)));
+            const QStringList samples = samplesOfAnyKind(table.setting(table.holder(row)));
             table.edit(row, samples[below(samples.size())]);
             differences.update(table);
         }

@@ -170,7 +170,7 @@ private Q_SLOTS:
         int taken = 0;
         for (int key = 0; key < keys.count(); ++key) {
             const QStringList samples =
-                samplesOf(*keys.layout(keys[key].table).rows[keys[key].rows.front()].setting);
+                samplesOfAnyKind(*keys.layout(keys[key].table).rows[keys[key].rows.front()].setting);
             for (int i = key % 7; i < samples.size(); i += 7) {
                 const QString& sample = samples[i];
                 const EditedFile edited = withEdits(factory, {{keys[key].path, sample}});

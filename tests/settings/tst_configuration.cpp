@@ -37,7 +37,7 @@ private Q_SLOTS:
         if (&table_.table() != tables()[table])
             table_ = vlk::Values(*tables()[table]);
         const vlk::TableLayout::Row& row = table_.row(index);
-        QStringList samples = samplesOf(table_.setting(table_.holder(index)));
+        QStringList samples = samplesOfAnyKind(table_.setting(table_.holder(index)));
         // What no list offers a way to is the same whatever a file holds.
         readAndWritten(table_, documentWith(presenceOf(table_, index)));
         if (row.base->stored && !table_.isWritten(index))

@@ -228,15 +228,24 @@ private:
     static QString kindOf(const vlk::Setting& row, const vlk::Setting& holder)
     {
         const vlk::Setting& own = row.is<vlk::Link>() ? holder : row;
-        if (const vlk::Number* number = own.number())
-            return number->isText ? QString("real%1").arg(number->decimals) : QString("integer");
-        return own.is<vlk::Constant>() ? "constant"
-               : own.is<vlk::Flag>()   ? "flag"
-               : own.is<vlk::Choice>() ? "choice"
-               : own.is<vlk::Period>() ? "period"
-               : own.is<vlk::Digits>() ? "digits"
-               : own.is<vlk::Mask>()   ? "mask"
-                                       : "text";
+        return std::visit([](const auto& kind) { return nameOf(kind); }, own.kind);
+    }
+    static QString nameOf(const vlk::Constant&) { return "constant"; }
+    static QString nameOf(const vlk::Flag&) { return "flag"; }
+    static QString nameOf(const vlk::Choice&) { return "choice"; }
+    static QString nameOf(const vlk::Period&) { return "period"; }
+    static QString nameOf(const vlk::Digits&) { return "digits"; }
+    static QString nameOf(const vlk::Mask&) { return "mask"; }
+    static QString nameOf(const vlk::Text&) { return "text"; }
+    static QString nameOf(const vlk::Number& number)
+    {
+        return number.isText ? QString("real%1").arg(number.decimals) : QString("integer");
+    }
+    // No key of a file.
+    template <vlk::IsStructure Row>
+    static QString nameOf(const Row&)
+    {
+        return "structure";
     }
 
     // What a save writes after a load of a file that lacks the key, the row's own conditions met.

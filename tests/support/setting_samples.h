@@ -68,7 +68,7 @@ inline QStringList samplesOf(const vlk::Mask& mask)
         texts << QString(field.positions[0], '0') + '9';
     return texts;
 }
-inline QStringList samplesOf(const vlk::Setting& setting)
+inline QStringList samplesOfAnyKind(const vlk::Setting& setting)
 {
     QStringList texts =
         hostileTexts() + std::visit([](const auto& row) { return samplesOf(row); }, setting.kind);
