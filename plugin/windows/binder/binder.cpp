@@ -420,28 +420,6 @@ void Binder::selectFirstItems()
     }
 }
 
-QStringList Binder::problems() const
-{
-    QStringList all = problems_;
-    for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        const Setting& setting = *layout_.rows[row].setting;
-        const bool hasOwnTexts = setting.is<Choice>() || setting.is<Digits>();
-        if (adapters_[row] && !hasOwnTexts && !setting.shown()->captionKey)
-            all << layout_.rows[row].path + QStringLiteral(": no caption");
-    }
-    return all;
-}
-
-QStringList Binder::waiting() const
-{
-    QStringList all;
-    for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        if (!adapters_[row] && isLate(*layout_.rows[row].setting))
-            all << layout_.rows[row].path;
-    }
-    return all;
-}
-
 QStringList Binder::disagreements() const
 {
     QStringList all;

@@ -60,9 +60,7 @@ public:
 
     // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
     // target. Empty when all is well.
-    QStringList problems() const;
-    // Rows that wait for their form.
-    QStringList waiting() const;
+    const QStringList& problems() const { return problems_; }
     // Rows whose widgets hold another value than the settings.
     QStringList disagreements() const;
 
