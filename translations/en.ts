@@ -2788,7 +2788,6 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_refused_root"><translation>Not a configuration file, root element:</translation></message>
     <message id="wb_refused_silence"><translation>The tracker does not answer.</translation></message>
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>
-    <message id="wb_refused_unreadable"><translation>The file cannot be read:</translation></message>
     <message id="wb_refused_unsaved"><translation>The file for the tracker cannot be saved, so nothing was sent.</translation></message>
     <message id="wb_report_again"><translation>Try again</translation></message>
     <message id="wb_report_back"><translation>Read back</translation></message>

@@ -2788,7 +2788,6 @@
     <message id="wb_refused_root"><translation>Файл не является конфигурацией, корневой элемент:</translation></message>
     <message id="wb_refused_silence"><translation>Трекер не отвечает.</translation></message>
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>
-    <message id="wb_refused_unreadable"><translation>Файл не читается:</translation></message>
     <message id="wb_refused_unsaved"><translation>Файл для трекера не сохранён, поэтому ничего не отправлено.</translation></message>
     <message id="wb_report_again"><translation>Повторить</translation></message>
     <message id="wb_report_back"><translation>Прочитано</translation></message>

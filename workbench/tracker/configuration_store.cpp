@@ -70,23 +70,22 @@ QByteArray textOf(const QDomDocument& document)
 
 // The new document with those sections of the old one behind it that it lacks: a file sets what it holds and
 // leaves the rest of the tracker alone.
-QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old, QStringList& kept)
+QByteArray withKeptSections(const QByteArray& taken, const QByteArray& old)
 {
     QDomDocument document;
     QDomDocument before;
     if (!document.setContent(taken) || !before.setContent(old))
         return taken;
     QDomElement root = document.documentElement();
+    bool isTaken = true;
     for (QDomElement section = before.documentElement().firstChildElement(); !section.isNull();
          section = section.nextSiblingElement()) {
         if (!root.firstChildElement(section.tagName()).isNull())
             continue;
         root.appendChild(document.importNode(section, true));
-        kept.append(section.tagName());
+        isTaken = false;
     }
-    if (kept.isEmpty())
-        return taken;
-    return textOf(document);
+    return isTaken ? taken : textOf(document);
 }
 
 // The new document with the first section that changed as it was before.
@@ -109,21 +108,12 @@ QByteArray withoutOneChange(const QByteArray& taken, const QByteArray& old)
     return textOf(document);
 }
 
-void compare(const ConfigurationValues& before, const ConfigurationValues& after, WriteReport& report)
+bool areSame(const ConfigurationValues& before, const ConfigurationValues& after)
 {
-    for (const QString& path : after.paths()) {
-        const KeyChange change{path, before.text(path), after.text(path)};
-        if (!before.contains(path))
-            report.added.append(change);
-        else if (change.before != change.after)
-            report.changed.append(change);
-    }
-    for (const QString& path : before.paths())
-        if (!after.contains(path))
-            report.removed.append({path, before.text(path), {}});
-    // The order of a document's attributes is not kept when sections are added to it.
-    for (auto* changes : {&report.changed, &report.added, &report.removed})
-        std::ranges::sort(*changes, {}, &KeyChange::path);
+    return before.paths().size() == after.paths().size() &&
+           std::ranges::all_of(after.paths(), [&](const QString& path) {
+               return before.contains(path) && before.text(path) == after.text(path);
+           });
 }
 
 // Replaces the file as a whole, or leaves what was there and says so in the log.
@@ -159,20 +149,6 @@ void ConfigurationStore::load()
     }
 }
 
-WriteReport ConfigurationStore::write(const QString& path)
-{
-    QFile file(path);
-    WriteReport report;
-    if (file.open(QIODevice::ReadOnly))
-        report = write(file.read(kLargestDocument + 1));
-    else
-        report.reasonKey = QStringLiteral("wb_refused_unreadable");
-    if (!file.isOpen())
-        report.detail = file.errorString();
-    report.file = path;
-    return report;
-}
-
 WriteReport ConfigurationStore::write(const QByteArray& taken)
 {
     WriteReport report;
@@ -184,14 +160,13 @@ WriteReport ConfigurationStore::write(const QByteArray& taken)
 
     if (taken.size() > kLargestDocument)
         return refuse("wb_refused_large", QString::number(taken.size()));
-    report.document = taken;
-    const ConfigurationValues asked(report.document);
+    const ConfigurationValues asked(taken);
     const Refusal refusal = check(asked);
     if (refusal.reasonKey)
         return refuse(refusal.reasonKey, refusal.detail);
     if (const int size = recordSize(asked); size > vlk::kLargestRecord)
         return refuse("wb_refused_record", QString::number(size));
-    QByteArray document = withKeptSections(report.document, document_, report.keptSections);
+    QByteArray document = withKeptSections(taken, document_);
     if (skipsPage_)
         document = withoutOneChange(document, document_);
     const ConfigurationValues values(document);
@@ -199,8 +174,8 @@ WriteReport ConfigurationStore::write(const QByteArray& taken)
     if (!saveWhole(backup(), document_, &reason) || !saveWhole(current(), document, &reason))
         return refuse("wb_refused_memory", reason);
 
-    compare(values_, values, report);
     report.accepted = true;
+    report.sameAsBefore = areSame(values_, values);
     document_ = document;
     values_ = values;
     return report;

@@ -16,8 +16,6 @@ public:
 
     // Checks the document, keeps the present configuration as the backup and takes the new one.
     WriteReport write(const QByteArray& document);
-    // Takes the document in a file.
-    WriteReport write(const QString& path);
     // As when the power goes in the middle of that: what was being written is damaged.
     void losePower(const QByteArray& document);
     const ConfigurationValues& values() const { return values_; }

@@ -100,8 +100,7 @@ struct SimulatedTracker::Parts
 
     RecordRequests::Present present() const { return {now(), dataSet()}; }
 
-    template <class Content>
-    WriteReport write(const Content& content)
+    WriteReport write(const QByteArray& document)
     {
         WriteReport refused;
         if (!line.plugged())
@@ -111,15 +110,14 @@ struct SimulatedTracker::Parts
         else if (line.faults().silence)
             refused.reasonKey = QStringLiteral("wb_refused_silence");
         else
-            return take(content);
+            return take(document);
         return refused;
     }
 
-    template <class Content>
-    WriteReport take(const Content& content)
+    WriteReport take(const QByteArray& document)
     {
         store.setSkipsPage(line.faults().skipsPage);
-        WriteReport report = store.write(content);
+        WriteReport report = store.write(document);
         if (report.accepted && settings.change(now(), WorkingSettings::of(store.values())))
             archive.settingsChanged(now());
         return report;
@@ -143,7 +141,6 @@ struct SimulatedTracker::Parts
 SimulatedTracker::SimulatedTracker(const QString& storeFolder, QObject* parent, Clock clock)
     : QObject(parent), parts_(std::make_unique<Parts>(storeFolder, std::move(clock)))
 {
-    qRegisterMetaType<tracker::WriteReport>();
     connect(&parts_->line, &AnswerLine::pulled, this, &SimulatedTracker::pulled);
     connect(&parts_->line, &AnswerLine::pulled, this, &SimulatedTracker::detach);
     connect(&parts_->line, &AnswerLine::faultsChanged, this, &SimulatedTracker::faultsChanged);
@@ -166,11 +163,6 @@ bool SimulatedTracker::handle(vlk::Message id, void* p1, void* p2, quint32 ticke
     if (id == Message::RequestEventText) {
         if (p2)
             *static_cast<QString*>(p2) = eventText(static_cast<quint16>(plainValue(p1)));
-        return true;
-    }
-    if (id == Message::WriteConfiguration) {
-        if (p1)
-            writeConfiguration(*static_cast<const QString*>(p1));
         return true;
     }
     const auto handler = parts_->handlers.find(id);
@@ -315,23 +307,12 @@ WriteReport SimulatedTracker::takeConfiguration(const QByteArray& document)
         report.reasonKey = QStringLiteral("wb_refused_unplugged");
         return report;
     }
-    return told(parts_->write(document));
-}
-
-WriteReport SimulatedTracker::writeConfiguration(const QString& path)
-{
-    WriteReport report = parts_->write(path);
-    report.file = path;
-    return told(report);
-}
-
-WriteReport SimulatedTracker::told(const WriteReport& report)
-{
-    if (report.accepted && !report.sameAsBefore())
+    WriteReport report = parts_->write(document);
+    if (report.accepted && !report.sameAsBefore)
         parts_->memory.change(parts_->now(), EventCode::ConfigurationChanged);
     if (parts_->line.takeUnplug())
         detach();
-    Q_EMIT configurationWritten(report);
+    Q_EMIT configurationWritten();
     return report;
 }
 

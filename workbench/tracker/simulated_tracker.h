@@ -94,10 +94,8 @@ public:
     const ConfigurationValues& configuration() const;
     // "fleet.example.com:4000", of servers 1 to 3; empty for none.
     QString serverAddress(int server) const;
-    // Takes a written file: checks it, keeps what was there as a backup, and applies it. Silence, a missing
-    // and a pulled cable refuse it.
-    WriteReport writeConfiguration(const QString& path);
-    // Takes a document that has come over the cable in blocks.
+    // Takes a document that has come over the cable in blocks: checks it, keeps what was there as a backup,
+    // and applies it. Silence, a missing and a pulled cable refuse it.
     WriteReport takeConfiguration(const QByteArray& document);
     enum class Block { Kept, Silent, Gone };
     Block takeBlock();
@@ -123,12 +121,11 @@ Q_SIGNALS:
     void pulled();
     // By the window, or because a fault has cleared itself.
     void faultsChanged();
-    // After every writeConfiguration, refused ones too.
-    void configurationWritten(const tracker::WriteReport& report);
+    // After every takeConfiguration, refused ones too.
+    void configurationWritten();
 
 private:
     Reading read(const QByteArray& document);
-    WriteReport told(const WriteReport& report);
 
     struct Parts;
     std::unique_ptr<Parts> parts_;
