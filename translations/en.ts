@@ -1016,6 +1016,7 @@
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
     <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
+    <message id="cfgt6_480"><translation>They are kept: the next opening of this window offers to bring them back.</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
