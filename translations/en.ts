@@ -2053,7 +2053,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3, and the last of the period. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
@@ -2099,7 +2099,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
-    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come, and the last of the period.</translation></message>
     <message id="tmiw_311"><translation>End the save</translation></message>
     <message id="tmiw_312"><translation>Go on saving</translation></message>
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
@@ -2863,7 +2863,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
-    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
+    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period: its name and its last record tell of the whole period.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile, so its telemetry window was closed.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>

@@ -2053,7 +2053,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3, и последняя запись периода. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
@@ -2099,7 +2099,7 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
-    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи и последняя запись периода.</translation></message>
     <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
     <message id="tmiw_312"><translation>Продолжить</translation></message>
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
@@ -2863,7 +2863,7 @@
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
-    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
+    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода: его имя и последняя запись говорят о целом периоде.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
