@@ -2631,7 +2631,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>
-    <message id="wb_full_data_set"><translation>&amp;Every field in records</translation></message>
+    <message id="wb_full_data_set"><translation>E&amp;very field in records</translation></message>
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
@@ -2777,7 +2777,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_read_failed"><translation>The configuration was not read from the tracker.</translation></message>
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
-    <message id="wb_recent"><translation>&amp;Recent files</translation></message>
+    <message id="wb_recent"><translation>R&amp;ecent files</translation></message>
     <message id="wb_recent_none"><translation>No file has been opened yet.</translation></message>
     <message id="wb_record_version"><translation>The tracker sends records of %1, and the telemetry window shows those of ZETA 3.0 alone: choose ZETA 3.0 on the tab "Data set" and write the configuration.</translation></message>
     <message id="wb_refused_detached"><translation>The tracker is not attached.</translation></message>
