@@ -2876,7 +2876,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_start_attached"><translation>%1 %2 is attached</translation></message>
     <message id="wb_start_detached"><translation>No tracker is attached</translation></message>
     <message id="wb_start_look"><translation>Look at the simulated tracker</translation></message>
-    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a vehicle opens, on its way or at a stop</translation></message>
+    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a vehicle opens</translation></message>
     <message id="wb_start_open"><translation>Open a file</translation></message>
     <message id="wb_start_open_line"><translation>or drop it on this window</translation></message>
     <message id="wb_start_read"><translation>Read from tracker</translation></message>

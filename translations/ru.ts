@@ -2876,7 +2876,7 @@
     <message id="wb_start_attached"><translation>Подключён %1 %2</translation></message>
     <message id="wb_start_detached"><translation>Трекер не подключён</translation></message>
     <message id="wb_start_look"><translation>Посмотреть на имитатор трекера</translation></message>
-    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия машины, в пути или на стоянке</translation></message>
+    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия машины</translation></message>
     <message id="wb_start_open"><translation>Открыть файл</translation></message>
     <message id="wb_start_open_line"><translation>или перетащите его в это окно</translation></message>
     <message id="wb_start_read"><translation>Прочитать из трекера</translation></message>
