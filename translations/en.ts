@@ -1017,7 +1017,7 @@
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
     <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
     <message id="cfgt6_480"><translation>They are kept: the next opening of this window offers to bring them back.</translation></message>
-    <message id="cfgt6_481"><translation>paused until you come back here</translation></message>
+    <message id="cfgt6_481"><translation>paused until you are back</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>

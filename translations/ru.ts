@@ -1017,7 +1017,7 @@
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
     <message id="cfgt6_460"><translation>Добавлено, пока показание ещё менялось. Измерьте снова, когда уровень установится.</translation></message>
     <message id="cfgt6_480"><translation>Они останутся: при следующем открытии этого окна их можно будет вернуть.</translation></message>
-    <message id="cfgt6_481"><translation>пауза, пока вы не вернётесь сюда</translation></message>
+    <message id="cfgt6_481"><translation>пауза до возврата сюда</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
