@@ -1016,6 +1016,8 @@
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
     <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
+    <message id="cfgt6_480"><translation>They are kept: the next opening of this window offers to bring them back.</translation></message>
+    <message id="cfgt6_481"><translation>paused until you are back</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -2051,7 +2053,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3, and the last of the period. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
@@ -2097,7 +2099,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
-    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come, and the last of the period.</translation></message>
     <message id="tmiw_311"><translation>End the save</translation></message>
     <message id="tmiw_312"><translation>Go on saving</translation></message>
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
@@ -2629,7 +2631,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>
-    <message id="wb_full_data_set"><translation>&amp;Every field in records</translation></message>
+    <message id="wb_full_data_set"><translation>E&amp;very field in records</translation></message>
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
@@ -2775,7 +2777,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_read_failed"><translation>The configuration was not read from the tracker.</translation></message>
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
-    <message id="wb_recent"><translation>&amp;Recent files</translation></message>
+    <message id="wb_recent"><translation>R&amp;ecent files</translation></message>
     <message id="wb_recent_none"><translation>No file has been opened yet.</translation></message>
     <message id="wb_record_version"><translation>The tracker sends records of %1, and the telemetry window shows those of ZETA 3.0 alone: choose ZETA 3.0 on the tab "Data set" and write the configuration.</translation></message>
     <message id="wb_refused_detached"><translation>The tracker is not attached.</translation></message>
@@ -2861,7 +2863,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
-    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
+    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile, so its telemetry window was closed.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
@@ -2874,7 +2876,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_start_attached"><translation>%1 %2 is attached</translation></message>
     <message id="wb_start_detached"><translation>No tracker is attached</translation></message>
     <message id="wb_start_look"><translation>Look at the simulated tracker</translation></message>
-    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a moving vehicle opens</translation></message>
+    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a vehicle opens</translation></message>
     <message id="wb_start_open"><translation>Open a file</translation></message>
     <message id="wb_start_open_line"><translation>or drop it on this window</translation></message>
     <message id="wb_start_read"><translation>Read from tracker</translation></message>

@@ -1016,6 +1016,8 @@
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
     <message id="cfgt6_460"><translation>Добавлено, пока показание ещё менялось. Измерьте снова, когда уровень установится.</translation></message>
+    <message id="cfgt6_480"><translation>Они останутся: при следующем открытии этого окна их можно будет вернуть.</translation></message>
+    <message id="cfgt6_481"><translation>пауза до возврата сюда</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -2051,7 +2053,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3, и последняя запись периода. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
@@ -2097,7 +2099,7 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
-    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи и последняя запись периода.</translation></message>
     <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
     <message id="tmiw_312"><translation>Продолжить</translation></message>
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
@@ -2861,7 +2863,7 @@
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
-    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
+    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
@@ -2874,7 +2876,7 @@
     <message id="wb_start_attached"><translation>Подключён %1 %2</translation></message>
     <message id="wb_start_detached"><translation>Трекер не подключён</translation></message>
     <message id="wb_start_look"><translation>Посмотреть на имитатор трекера</translation></message>
-    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия движущейся машины</translation></message>
+    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия машины</translation></message>
     <message id="wb_start_open"><translation>Открыть файл</translation></message>
     <message id="wb_start_open_line"><translation>или перетащите его в это окно</translation></message>
     <message id="wb_start_read"><translation>Прочитать из трекера</translation></message>

@@ -2,6 +2,7 @@
 
 #include "typing/area_keys.h"
 #include "typing/line_icon.h"
+#include "typing/two_line_label.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -32,13 +33,11 @@ constexpr int kNewsMs = 8000;
 } // namespace
 
 NoticeBar::NoticeBar(QWidget* parent, const QString& name)
-    : QFrame(parent), text_(new QLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
+    : QFrame(parent), text_(new TwoLineLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
       close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     text_->setObjectName(name);
-    text_->setWordWrap(true);
-    text_->setTextFormat(Qt::PlainText);
     place_->setObjectName(QStringLiteral("label_NoticePlace"));
     close_->setObjectName(name + QStringLiteral("_Close"));
     close_->setAutoRaise(true);
@@ -69,19 +68,20 @@ void NoticeBar::keepPlace(bool keeps)
     if (keeps == (keptHeight_ > 0))
         return;
     keptHeight_ = 0;
-    if (keeps) {
-        // As the label measures two lines, which is more than the font says.
-        const QString told = text_->text();
-        text_->setText(QStringLiteral("x x"));
-        keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
-        text_->setText(told);
-    }
+    if (keeps)
+        keptHeight_ = std::max(kHeight, text_->twoLines() + 2 * kRim);
+    text_->setLimited(keeps);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(keeps);
     setSizePolicy(policy);
     setMaximumHeight(QWIDGETSIZE_MAX);
     claimHeight();
     setVisible(isTelling() || roomBelow_ > 0);
+}
+
+void NoticeBar::keepToTwoLines()
+{
+    text_->setLimited(true);
 }
 
 // A layout that asks what height goes with a width asks all its widgets, and a scroll area then takes what

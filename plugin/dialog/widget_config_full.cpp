@@ -121,6 +121,7 @@ void VLK_Widget_Config_Full::addNotice(QWidget* bar)
 void VLK_Widget_Config_Full::setDefaults()
 {
     slot_Excess_Size(false);
+    answers_.monitor().end();
     pages_->forEach([](auto& page) { page.setDefaults(); });
 }
 

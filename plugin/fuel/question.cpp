@@ -7,9 +7,10 @@
 
 namespace vlk {
 
-bool agrees(QWidget* parent, const QString& text, const char* noKey)
+bool agrees(QWidget* parent, const QString& text, const char* noKey, const QString& hint)
 {
     QMessageBox box(QMessageBox::Warning, fuelWord("wrd_005"), text, QMessageBox::NoButton, parent);
+    box.setInformativeText(hint);
     auto* yes = box.addButton(fuelWord("wrd_001"), QMessageBox::YesRole);
     auto* no = box.addButton(fuelWord(noKey), QMessageBox::NoRole);
     // The words are those of values too, so they name no letter themselves.

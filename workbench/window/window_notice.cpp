@@ -33,6 +33,7 @@ WindowNotice::WindowNotice(QWidget* owner) : NoticeBar(owner, QStringLiteral("la
     setAttribute(Qt::WA_QuitOnClose, false);
     setFrameShape(QFrame::Box);
     setNewestFirst();
+    keepToTwoLines();
     QCoreApplication::instance()->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, &WindowNotice::place);
 }
