@@ -258,6 +258,7 @@ std::optional<FilterNode> FilterGrammar::wordNode(Comparison comparison, const s
     if (!isEqual && comparison != Comparison::notEqual)
         return fault(Expected::equality, begin);
     std::vector<FilterNode> parts;
+    parts.reserve(codes.size());
     for (const CodeRange& range : codes)
         parts.push_back(isEqual ? inside(column_, range) : outside(column_, range));
     position_ = end;
