@@ -1370,7 +1370,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= or &gt;=</translation></message>
     <message id="rec_102"><translation>a number</translation></message>
     <message id="rec_103"><translation>a number, or a word in quotes</translation></message>
-    <message id="rec_104"><translation>a time such as 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>a time with its year, such as 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>&quot;and&quot;, &quot;or&quot; or the end</translation></message>
     <message id="rec_106"><translation>a closing bracket</translation></message>
     <message id="rec_107"><translation>a closing quotation mark</translation></message>
@@ -1733,6 +1733,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

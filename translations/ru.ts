@@ -1370,7 +1370,7 @@
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
     <message id="rec_102"><translation>число</translation></message>
     <message id="rec_103"><translation>число или слово в кавычках</translation></message>
-    <message id="rec_104"><translation>время в виде 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>время с годом в виде 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>«и», «или» либо конец</translation></message>
     <message id="rec_106"><translation>закрывающая скобка</translation></message>
     <message id="rec_107"><translation>закрывающая кавычка</translation></message>
@@ -1733,6 +1733,7 @@
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_650"><translation>%1, а не «%2»: число вводится без единицы измерения</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

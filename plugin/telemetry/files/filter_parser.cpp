@@ -4,6 +4,8 @@
 #include "telemetry/files/filter_nodes.h"
 #include "telemetry/files/filter_values.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace vlk {
@@ -100,6 +102,21 @@ public:
     Expected expected() const { return expected_; }
     // What stands in quotes and is none of the words of its column; else null.
     const QString& unknownWord() const { return unknownWord_; }
+    // A number with a unit, or the unit alone, that stands where the fault is; else empty. The names of
+    // columns that have units end with them.
+    QString unit() const
+    {
+        static const QRegularExpression form(
+            QStringLiteral("(?:[+-]?\\d+(?:[.,]\\d+)?)?(?<unit>(?:\\p{L}|[%°])[^\\s()]*)"));
+        const auto match = form.match(text_, faultAt_, QRegularExpression::NormalMatch,
+                                      QRegularExpression::AnchoredMatchOption);
+        const QString ending = QStringLiteral(", ") + foldedForFilter(match.captured(QStringLiteral("unit")));
+        const bool isUnit = std::ranges::any_of(
+            names_.foldedNames(), [&ending](const QString& name) { return name.endsWith(ending); });
+        const bool isAtValue =
+            expected_ == Expected::joint || expected_ == Expected::number || expected_ == Expected::word;
+        return isAtValue && match.hasMatch() && isUnit ? match.captured() : QString();
+    }
     // The last name that was read: its column, where it begins and where it ends.
     FilterColumn column() const { return column_; }
     int nameBegin() const { return nameBegin_; }
@@ -352,9 +369,13 @@ QStringList matching(const QStringList& all, const QString& typed)
 }
 
 // What was expected, and in place of a name the word that is none.
-QString faultText(Expected expected, const QString& text, int position)
+QString faultText(const Parser& parser, const QString& text)
 {
+    const Expected expected = parser.expected();
+    const int position = parser.position();
     const QString needed = translated(kExpected[static_cast<int>(expected)]);
+    if (const QString unit = parser.unit(); !unit.isEmpty())
+        return translated("rec_650").arg(needed, unit);
     const auto isInWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == QLatin1Char('_'); };
     const auto end = std::ranges::find_if_not(text.begin() + position, text.end(), isInWord);
     const QString word = text.mid(position, static_cast<int>(end - text.begin()) - position);
@@ -389,7 +410,7 @@ ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::opt
     Parser parser(text, names, utcOffset);
     ParsedFilter parsed{parser.parse(), {}};
     if (!parsed.filter)
-        parsed.fault = {parser.position(), faultText(parser.expected(), text, parser.position())};
+        parsed.fault = {parser.position(), faultText(parser, text)};
     if (!parsed.filter && !parser.unknownWord().isNull())
         parsed.fault.expected =
             unknownWordText(text.mid(parser.nameBegin(), parser.nameEnd() - parser.nameBegin()),
