@@ -1734,6 +1734,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
     <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
+    <message id="rec_651"><translation>Without a place and therefore not in the file: %1.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
