@@ -40,6 +40,18 @@ private Q_SLOTS:
             telemetry += "<Page type=\"176\" ver=\"30\" format=\"1111\">\r\n<NumPage>" + QByteArray(record) +
                          "</Time>\r\n</Page>\r\n";
         put("telemetry.xml", telemetry + "</TMI>\r\n");
+        // A packet has its number among the records, and a present state, which stands there too, has none.
+        QByteArray packet =
+            "<Page type=\"177\" size=\"60\" stVer=\"1\" stSize=\"50\" hVer=\"1\" hSize=\"6\">\r\n"
+            "<NumPage>9</NumPage>\r\n";
+        for (const char* element :
+             {"Code", "Time", "StateNGauge", "LastTime", "Latitude", "Longitude", "Altitude", "Speed",
+              "Course", "Run", "State", "StateOut1", "StateIn_Imp1", "StateIn_Imp2", "Motochas"})
+            packet += QByteArray("<") + element + ">0</" + element + ">\r\n";
+        const int last = telemetry.lastIndexOf("<Page");
+        const QByteArray present = telemetry.mid(last).replace(">10<", ">0<");
+        put("numbered.xml",
+            telemetry.left(last) + packet + "</Page>\r\n" + present + telemetry.mid(last) + "</TMI>\r\n");
         // The litres are a tenth of the level; 61 of them are gone after the tenth minute.
         QByteArray drained = "<TMI model=\"R-7106\">\r\n";
         for (int i = 0; i < 20; ++i)
@@ -172,12 +184,20 @@ private Q_SLOTS:
                  "\n"
                  R"({"file":"telemetry.xml","what":"telemetry","model":"R-7106","name":null,)"
                  R"("objectId":null,"records":3,)"
-                 R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1})"
+                 R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,"missing":1})"
                  "\n"
                  R"({"file":"fleet/notes.txt","what":"unknown","model":null,"name":null,)"
                  R"("objectId":null,"records":null,"from":null,"to":null,"gaps":null})"
                  "\n",
                  "")
+            .row(
+                "what is missing", "info numbered.xml telemetry.xml", 0,
+                "numbered.xml: telemetry, R-7106, records: 5, from 2024-01-01T00:00:00Z to "
+                "2024-01-01T00:05:00Z\n"
+                "telemetry.xml: telemetry, R-7106, records: 3, from 2024-01-01T00:00:00Z to "
+                "2024-01-01T00:05:00Z, gaps: 1, part of a period: in front of the last record 1 are missing, "
+                "between No.\u00a08 and No.\u00a010\n",
+                "")
             .row("what is damaged", "info --json spoilt.xml", 1,
                  R"({"file":"spoilt.xml","what":"telemetry","model":"R-7106","name":null,"objectId":null,)"
                  R"("records":2,"from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,)"
