@@ -53,6 +53,7 @@ HostSession::HostSession(const QString& trackerFolder, const QString& backupsFol
                                    },
                                    [this](const QByteArray& document) { return comparer_.advise(document); })
 {
+    unwritten_.dropOld(QDateTime::currentDateTimeUtc());
     tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
     connect(&link_, &PluginLink::received, this, &HostSession::receive);
@@ -320,9 +321,7 @@ Sentence HostSession::bringBackPrevious()
 
 void HostSession::keepFor(int days)
 {
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    backups_.keepFor(days, now);
-    unwritten_.dropOlder(days, now);
+    backups_.keepFor(days, QDateTime::currentDateTimeUtc());
 }
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)

@@ -68,7 +68,7 @@ public:
     // What is asked for when the plug-in wants a file to be written: a line for each field of it that was not
     // taken as it was typed.
     void setTyped(std::function<QStringList()> typed) { typed_ = std::move(typed); }
-    // Backups and files that were never written are kept for so many days; 0: for ever.
+    // Backups are kept for so many days; 0: for ever.
     void keepFor(int days);
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
