@@ -2921,6 +2921,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_retyped"><translation>%1: what was told of this setting holds no longer.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
+    <message id="wb_told_written"><translation>The unsaved changes are in the tracker now.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>
     <message id="wb_tracker_keys"><translation>Configuration in the tracker</translation></message>

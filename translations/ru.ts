@@ -2921,6 +2921,7 @@
     <message id="wb_told_retyped"><translation>%1: сказанное об этом параметре больше не верно.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Несохранённые изменения не удаётся держать на диске: файл %1 не записан: %2.</translation></message>
+    <message id="wb_told_written"><translation>Несохранённые изменения теперь в трекере.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>
     <message id="wb_tracker_filter"><translation>Фильтр: ключ, значение</translation></message>
     <message id="wb_tracker_keys"><translation>Конфигурация в трекере</translation></message>
