@@ -2646,9 +2646,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_against"><translation>against</translation></message>
     <message id="wb_history_alone"><translation>There is nothing to compare it with.</translation></message>
     <message id="wb_history_always"><translation>always</translation></message>
-    <message id="wb_history_bring"><translation>Bring back…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Bring chosen back from No.&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Bring back…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Bring &amp;chosen back…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Bring &amp;chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
@@ -2660,7 +2660,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_list"><translation>Backups</translation></message>
     <message id="wb_history_menu"><translation>&amp;History…</translation></message>
     <message id="wb_history_none"><translation>There are no backups yet: one is made before every write.</translation></message>
-    <message id="wb_history_note"><translation>Note…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Note…</translation></message>
     <message id="wb_history_note_failed"><translation>The note was not saved. Make room on the disk and try again.</translation></message>
     <message id="wb_history_note_head"><translation>Note</translation></message>
     <message id="wb_history_note_label"><translation>Note on the backup</translation></message>
@@ -2793,10 +2793,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>
     <message id="wb_refused_unreadable"><translation>The file cannot be read:</translation></message>
     <message id="wb_refused_unsaved"><translation>The file for the tracker cannot be saved, so nothing was sent.</translation></message>
-    <message id="wb_report_again"><translation>Try again</translation></message>
+    <message id="wb_report_again"><translation>Tr&amp;y again</translation></message>
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Bring back No.&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
     <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
     <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
@@ -2815,7 +2815,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
-    <message id="wb_report_other"><translation>Report of %1</translation></message>
+    <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>

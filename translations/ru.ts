@@ -2646,9 +2646,9 @@
     <message id="wb_history_against"><translation>и</translation></message>
     <message id="wb_history_alone"><translation>Сравнивать не с чем.</translation></message>
     <message id="wb_history_always"><translation>всегда</translation></message>
-    <message id="wb_history_bring"><translation>Вернуть…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Вернуть отмеченные из №&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Вернуть…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Вернуть &amp;отмеченные…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Вернуть &amp;отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
@@ -2660,7 +2660,7 @@
     <message id="wb_history_list"><translation>Резервные копии</translation></message>
     <message id="wb_history_menu"><translation>Ис&amp;тория…</translation></message>
     <message id="wb_history_none"><translation>Резервных копий ещё нет: они появляются перед каждой записью.</translation></message>
-    <message id="wb_history_note"><translation>Заметка…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Заметка…</translation></message>
     <message id="wb_history_note_failed"><translation>Заметка не сохранена. Освободите место на диске и повторите.</translation></message>
     <message id="wb_history_note_head"><translation>Заметка</translation></message>
     <message id="wb_history_note_label"><translation>Заметка к резервной копии</translation></message>
@@ -2793,10 +2793,10 @@
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>
     <message id="wb_refused_unreadable"><translation>Файл не читается:</translation></message>
     <message id="wb_refused_unsaved"><translation>Файл для трекера не сохранён, поэтому ничего не отправлено.</translation></message>
-    <message id="wb_report_again"><translation>Повторить</translation></message>
+    <message id="wb_report_again"><translation>&amp;Повторить</translation></message>
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Вернуть №&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
     <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
@@ -2815,7 +2815,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
-    <message id="wb_report_other"><translation>Отчёт за %1</translation></message>
+    <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>
