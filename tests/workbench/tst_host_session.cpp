@@ -120,8 +120,13 @@ private Q_SLOTS:
             QVERIFY(!(QFile::permissions(report.request.file) & (QFile::ReadGroup | QFile::ReadOther)));
         }
         QVERIFY(reports[0].request.document != reports[1].request.document);
-        // Once more, and the file has done its work.
+        // Given up at the review it is there for the next try.
         bench.session.tracker().attach();
+        bench.agrees = false;
+        QVERIFY(!bench.session.writeAgain(reports[0].request));
+        QVERIFY(bench.report().outcome == Outcome::cancelled && QFile::exists(reports[0].request.file));
+        bench.agrees = true;
+        // Once more, and the file has done its work.
         QVERIFY(!bench.session.writeAgain(reports[0].request));
         QVERIFY(bench.isConfirmed() && !QFile::exists(reports[0].request.file));
         QVERIFY(QFile::exists(reports[1].request.file) && !QFile::exists(reports[2].request.file));

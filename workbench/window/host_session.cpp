@@ -244,6 +244,7 @@ void HostSession::begin(const WriteRequest& request, int opened)
 {
     if (road_.begin(request)) {
         openedThen_ = opened;
+        isAgain_ = false;
         return;
     }
     QFile::remove(request.file);
@@ -255,6 +256,8 @@ void HostSession::finish(const RoadReport& report)
     using Outcome = RoadReport::Outcome;
     const WriteRequest& request = report.request;
     const bool isConfirmed = report.outcome == Outcome::confirmed;
+    // What is given up at its first try is in the window still; later the file may be all that is left.
+    const bool isGivenUp = report.outcome == Outcome::cancelled && !isAgain_;
     if (isConfirmed) {
         if (request.file.isEmpty() || openedThen_ != opened_)
             edited_.trackerHolds(request.document);
@@ -264,8 +267,8 @@ void HostSession::finish(const RoadReport& report)
         if (!request.file.isEmpty())
             link_.confirmWrite(request.document);
     }
-    if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
-        QFile::exists(request.file) && !QFile::remove(request.file))
+    if (!request.file.isEmpty() && (isConfirmed || isGivenUp) && QFile::exists(request.file) &&
+        !QFile::remove(request.file))
         qCWarning(lcSession) << "cannot remove" << request.file;
     if (isConfirmed)
         unwritten_.drop(request.document);
@@ -285,6 +288,7 @@ Sentence HostSession::writeAgain(const WriteRequest& request)
     if (road_.isBusy())
         return [] { return text("wb_write_busy"); };
     begin(request, openedThen_);
+    isAgain_ = true;
     return {};
 }
 

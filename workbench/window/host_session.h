@@ -111,7 +111,8 @@ private:
     UnwrittenFiles unwritten_;
     Backups backups_;
     WriteRoad road_;
-    int openedThen_ = -1; // which of the opened configurations is on the road; -1: one of an earlier run
+    bool isAgain_ = false; // what is on the road has been there before
+    int openedThen_ = -1;  // which of the opened configurations is on the road; -1: one of an earlier run
 };
 
 } // namespace workbench
