@@ -31,7 +31,7 @@ struct FaultRow
 constexpr FaultRow kFaultRows[] = {
     {Fault::badRequest, "wb_road_request", nullptr},
     {Fault::unsaved, "wb_refused_unsaved", kDisk},
-    {Fault::incomparable, "wb_road_incomparable", "wb_do_disk"},
+    {Fault::incomparable, "wb_road_incomparable", nullptr},
     {Fault::detached, "wb_refused_detached", "wb_do_attach"},
     {Fault::reattached, "wb_road_reattached", "wb_do_again"},
     {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
