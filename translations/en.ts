@@ -1372,7 +1372,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= or &gt;=</translation></message>
     <message id="rec_102"><translation>a number</translation></message>
     <message id="rec_103"><translation>a number, or a word in quotes</translation></message>
-    <message id="rec_104"><translation>a time such as 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>a time with its year, such as 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>&quot;and&quot;, &quot;or&quot; or the end</translation></message>
     <message id="rec_106"><translation>a closing bracket</translation></message>
     <message id="rec_107"><translation>a closing quotation mark</translation></message>
@@ -1506,6 +1506,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="cli_340"><translation>%1: none holds %2</translation></message>
     <message id="cli_345"><translation>the calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen</translation></message>
+    <message id="cli_360"><translation>part of a period: in front of the last record %1 are missing, between No.&#160;%2 and No.&#160;%3</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1735,6 +1736,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
+    <message id="rec_651"><translation>Without a place and therefore not in the file: %1.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
@@ -2645,9 +2648,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_against"><translation>against</translation></message>
     <message id="wb_history_alone"><translation>There is nothing to compare it with.</translation></message>
     <message id="wb_history_always"><translation>always</translation></message>
-    <message id="wb_history_bring"><translation>Bring back…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Bring chosen back from No.&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Bring back…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Bring &amp;chosen back…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Bring &amp;chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
@@ -2659,7 +2662,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_list"><translation>Backups</translation></message>
     <message id="wb_history_menu"><translation>&amp;History…</translation></message>
     <message id="wb_history_none"><translation>There are no backups yet: one is made before every write.</translation></message>
-    <message id="wb_history_note"><translation>Note…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Note…</translation></message>
     <message id="wb_history_note_failed"><translation>The note was not saved. Make room on the disk and try again.</translation></message>
     <message id="wb_history_note_head"><translation>Note</translation></message>
     <message id="wb_history_note_label"><translation>Note on the backup</translation></message>
@@ -2792,10 +2795,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>
     <message id="wb_refused_unreadable"><translation>The file cannot be read:</translation></message>
     <message id="wb_refused_unsaved"><translation>The file for the tracker cannot be saved, so nothing was sent.</translation></message>
-    <message id="wb_report_again"><translation>Try again</translation></message>
+    <message id="wb_report_again"><translation>Tr&amp;y again</translation></message>
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Bring back No.&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
     <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
     <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
@@ -2814,7 +2817,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
-    <message id="wb_report_other"><translation>Report of %1</translation></message>
+    <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>
@@ -2920,6 +2923,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_retyped"><translation>%1: what was told of this setting holds no longer.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
+    <message id="wb_told_written"><translation>The unsaved changes are in the tracker now.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>
     <message id="wb_tracker_keys"><translation>Configuration in the tracker</translation></message>

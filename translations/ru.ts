@@ -1372,7 +1372,7 @@
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
     <message id="rec_102"><translation>число</translation></message>
     <message id="rec_103"><translation>число или слово в кавычках</translation></message>
-    <message id="rec_104"><translation>время в виде 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>время с годом в виде 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>«и», «или» либо конец</translation></message>
     <message id="rec_106"><translation>закрывающая скобка</translation></message>
     <message id="rec_107"><translation>закрывающая кавычка</translation></message>
@@ -1506,6 +1506,7 @@
     <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
     <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
     <message id="cli_345"><translation>в тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны</translation></message>
+    <message id="cli_360"><translation>часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3)</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1735,6 +1736,8 @@
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_650"><translation>%1, а не «%2»: число вводится без единицы измерения</translation></message>
+    <message id="rec_651"><translation>Без координат, поэтому не в файле: %1.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
@@ -2645,9 +2648,9 @@
     <message id="wb_history_against"><translation>и</translation></message>
     <message id="wb_history_alone"><translation>Сравнивать не с чем.</translation></message>
     <message id="wb_history_always"><translation>всегда</translation></message>
-    <message id="wb_history_bring"><translation>Вернуть…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Вернуть отмеченные из №&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Вернуть…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Вернуть &amp;отмеченные…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Вернуть &amp;отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
@@ -2659,7 +2662,7 @@
     <message id="wb_history_list"><translation>Резервные копии</translation></message>
     <message id="wb_history_menu"><translation>Ис&amp;тория…</translation></message>
     <message id="wb_history_none"><translation>Резервных копий ещё нет: они появляются перед каждой записью.</translation></message>
-    <message id="wb_history_note"><translation>Заметка…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Заметка…</translation></message>
     <message id="wb_history_note_failed"><translation>Заметка не сохранена. Освободите место на диске и повторите.</translation></message>
     <message id="wb_history_note_head"><translation>Заметка</translation></message>
     <message id="wb_history_note_label"><translation>Заметка к резервной копии</translation></message>
@@ -2792,10 +2795,10 @@
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>
     <message id="wb_refused_unreadable"><translation>Файл не читается:</translation></message>
     <message id="wb_refused_unsaved"><translation>Файл для трекера не сохранён, поэтому ничего не отправлено.</translation></message>
-    <message id="wb_report_again"><translation>Повторить</translation></message>
+    <message id="wb_report_again"><translation>&amp;Повторить</translation></message>
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Вернуть №&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
     <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
@@ -2814,7 +2817,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
-    <message id="wb_report_other"><translation>Отчёт за %1</translation></message>
+    <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>
@@ -2920,6 +2923,7 @@
     <message id="wb_told_retyped"><translation>%1: сказанное об этом параметре больше не верно.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Несохранённые изменения не удаётся держать на диске: файл %1 не записан: %2.</translation></message>
+    <message id="wb_told_written"><translation>Несохранённые изменения теперь в трекере.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>
     <message id="wb_tracker_filter"><translation>Фильтр: ключ, значение</translation></message>
     <message id="wb_tracker_keys"><translation>Конфигурация в трекере</translation></message>

@@ -29,6 +29,7 @@ constexpr int kRim = 1; // above and below, with a frame if there is one
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
 constexpr int kNewsMs = 8000;
+constexpr int kReactionMs = 300; // a click by then was meant for the notice before
 
 } // namespace
 
@@ -114,8 +115,11 @@ void NoticeBar::claimHeight()
         setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
     }
     const bool isCovered = keepsPlace && isOnShow && wanted > 0;
-    if (std::exchange(isCovered_, isCovered) != isCovered)
-        Q_EMIT coverChanged();
+    if (std::exchange(isCovered_, isCovered) == isCovered)
+        return;
+    if (!isCovered && isOnShow)
+        replaced_.start();
+    Q_EMIT coverChanged();
 }
 
 void NoticeBar::setBehind(int count)
@@ -167,6 +171,8 @@ void NoticeBar::closeShown()
         return;
     const int number = told->number;
     end(number);
+    // The user has seen this one come.
+    replaced_.invalidate();
     Q_EMIT closed(number);
 }
 
@@ -196,7 +202,9 @@ bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
             button->click();
         return isEnter;
     }
-    return event->type() == QEvent::MouseButtonDblClick;
+    const bool isLate = replaced_.isValid() && !replaced_.hasExpired(kReactionMs);
+    return event->type() == QEvent::MouseButtonDblClick ||
+           (event->type() == QEvent::MouseButtonPress && isLate);
 }
 
 void NoticeBar::put(Told told)
@@ -288,6 +296,9 @@ void NoticeBar::refresh()
         delete item;
     }
     const Told* shown = worst();
+    if (shown && onShow_ && onShow_ != shown->number)
+        replaced_.start();
+    onShow_ = shown ? std::optional(shown->number) : std::nullopt;
     if (!shown) {
         if (hadFocus && before_)
             before_->setFocus();

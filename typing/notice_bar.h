@@ -7,11 +7,13 @@
 
 #include "typing/field_mark.h"
 
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QPointer>
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -127,12 +129,14 @@ private:
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
-    int keptHeight_ = 0;       // 0 where no place is kept
-    int roomBelow_ = 0;        // what of the height is another's
-    bool isCovered_ = false;   // by the host's notice
-    int behind_ = 0;           // notices in another bar
-    QTimer news_;              // at whose end there are none
-    QPointer<QWidget> before_; // had the focus before F6
+    int keptHeight_ = 0;        // 0 where no place is kept
+    int roomBelow_ = 0;         // what of the height is another's
+    bool isCovered_ = false;    // by the host's notice
+    int behind_ = 0;            // notices in another bar
+    QTimer news_;               // at whose end there are none
+    std::optional<int> onShow_; // number of the notice that is on show
+    QElapsedTimer replaced_;    // since another one, or the host's, gave way to it
+    QPointer<QWidget> before_;  // had the focus before F6
 };
 
 } // namespace vlk

@@ -21,6 +21,9 @@ QString editSubject(const QString& path, bool isFile);
 // Logs which configurations edits of are kept in the host's folder, for whoever shows what is logged: they
 // are offered only when one of these is opened.
 void tellKeptEdits(const QString& folder);
+// The attached tracker has the content: edits from which it came are kept no longer, whichever run they are
+// of. Those that are in sight are the keeper's.
+void dropWrittenEdits(const QString& folder, const QByteArray& content);
 
 class EditKeeper : public QObject
 {

@@ -464,6 +464,39 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 0);
     }
 
+    // A write that its run did not see the end of is tried again by the next run, which knows of it by what
+    // the tracker has now alone.
+    void confirmedInTheNextRun_data()
+    {
+        DataTable<QString, bool> table({"source", "full"});
+        for (const char* source : {"tracker", "new", "file"})
+            table.row(source, source, true);
+        table.row("quick", "tracker", false);
+    }
+    void confirmedInTheNextRun()
+    {
+        QFETCH(QString, source);
+        QFETCH(bool, full);
+        host_.send(Message::ConfirmWrite);
+        open(source, full);
+        edit(full);
+        vlk::WriteConfirmation told;
+        told.step = vlk::WriteConfirmation::confirmed;
+        const QByteArray content = written(full);
+        told.content = &content;
+        const QString kept = files().value(0);
+        QVERIFY(QFile::copy(kept, kept.chopped(qstrlen(".unsaved")) + "0.unsaved"));
+        auto unsaved = vlk::review::unsavedIn(kept);
+        QVERIFY(unsaved);
+        unsaved->subject = "tracker firmware\n2"; // which has not got it
+        const QString other = vlk::review::recoveryPath(kept_->path(), unsaved->subject);
+        QString reason;
+        QVERIFY(vlk::review::keepUnsaved(other, *unsaved, &reason));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes are written: "));
+        host_.send(Message::ConfirmWrite, &told);
+        QCOMPARE(files(), QStringList{other});
+    }
+
 private:
     // The first window of a process is told of what an earlier one left while it has no size yet.
     void toldInTheFirstWindow()

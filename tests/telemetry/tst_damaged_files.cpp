@@ -110,6 +110,8 @@ private Q_SLOTS:
             .row("lacks one and its end", full + sparse, {FileDamage::CutShort, full.size(), sparse.size()},
                  2, true, "2")
             .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
+            .row("an element on the line of its page", spoilt("\"1\">\n", "\"1\">"), lost(-1), 3, false,
+                 "3 3")
             .row("bytes between pages", other + "XXXX\n" + other, {FileDamage::Records, other.size(), 5}, 2,
                  false, "3 3")
             .row("lines that the form does not know",

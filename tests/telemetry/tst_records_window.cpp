@@ -238,6 +238,13 @@ private Q_SLOTS:
         QString begins;
         exportTo(ExportForm::gpx, folder_.filePath("b.gpx"), &begins);
         QCOMPARE(begins, folder_.filePath("office"));
+        QCOMPARE(text("label_Damage"), QString("rec_096"));
+        // What a track has no place for is told.
+        TelemetryPages pages = drive();
+        pages.push_back(recordOf({{"NumPage", 1040}, {"Time", 1738402800}}));
+        show(pages);
+        exportTo(ExportForm::gpx, folder_.filePath("c.gpx"));
+        QCOMPARE(text("label_Damage"), QString("rec_096. rec_651"));
     }
 
     // A file that takes a while is read from the event loop: it can be cancelled, and neither another file

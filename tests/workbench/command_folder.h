@@ -39,6 +39,18 @@ public:
             telemetry += "<Page type=\"176\" ver=\"30\" format=\"1111\">\r\n<NumPage>" + QByteArray(record) +
                          "</Time>\r\n</Page>\r\n";
         put("telemetry.xml", telemetry + "</TMI>\r\n");
+        // A packet has its number among the records, and a present state, which stands there too, has none.
+        QByteArray packet =
+            "<Page type=\"177\" size=\"60\" stVer=\"1\" stSize=\"50\" hVer=\"1\" hSize=\"6\">\r\n"
+            "<NumPage>9</NumPage>\r\n";
+        for (const char* element :
+             {"Code", "Time", "StateNGauge", "LastTime", "Latitude", "Longitude", "Altitude", "Speed",
+              "Course", "Run", "State", "StateOut1", "StateIn_Imp1", "StateIn_Imp2", "Motochas"})
+            packet += QByteArray("<") + element + ">0</" + element + ">\r\n";
+        const int last = telemetry.lastIndexOf("<Page");
+        const QByteArray present = telemetry.mid(last).replace(">10<", ">0<");
+        put("numbered.xml",
+            telemetry.left(last) + packet + "</Page>\r\n" + present + telemetry.mid(last) + "</TMI>\r\n");
         // The litres are a tenth of the level; 61 of them are gone after the tenth minute.
         QByteArray drained = "<TMI model=\"R-7106\">\r\n";
         for (int i = 0; i < 20; ++i)

@@ -89,12 +89,20 @@ private Q_SLOTS:
                  "\n"
                  R"({"file":"telemetry.xml","what":"telemetry","model":"R-7106","name":null,)"
                  R"("objectId":null,"records":3,)"
-                 R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1})"
+                 R"("from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,"missing":1})"
                  "\n"
                  R"({"file":"fleet/notes.txt","what":"unknown","model":null,"name":null,)"
                  R"("objectId":null,"records":null,"from":null,"to":null,"gaps":null})"
                  "\n",
                  "")
+            .row(
+                "what is missing", "info numbered.xml telemetry.xml", 0,
+                "numbered.xml: telemetry, R-7106, records: 5, from 2024-01-01T00:00:00Z to "
+                "2024-01-01T00:05:00Z\n"
+                "telemetry.xml: telemetry, R-7106, records: 3, from 2024-01-01T00:00:00Z to "
+                "2024-01-01T00:05:00Z, gaps: 1, part of a period: in front of the last record 1 are missing, "
+                "between No.\u00a08 and No.\u00a010\n",
+                "")
             .row("what is damaged", "info --json spoilt.xml", 1,
                  R"({"file":"spoilt.xml","what":"telemetry","model":"R-7106","name":null,"objectId":null,)"
                  R"("records":2,"from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,)"

@@ -145,7 +145,8 @@ private Q_SLOTS:
             .row("a span of time", "a.tmi --to csv --from 15.11.2023_01:13:22 --to-time 2023-11-14T22:13:23Z",
                  0, head + row(2), "")
             .row("no time", "a.tmi --to csv --from yesterday", 2, "",
-                 "r7106: --from: at character 1 there should be a time such as 20.11.2026 08:29\n")
+                 "r7106: --from: at character 1 there should be a time with its year, such as 20.11.2026 "
+                 "08:29\n")
             .row("no span", "a.tmi --to csv --from 16.11.2023 --to-time 15.11.2023", 2, "",
                  "r7106: --from is after --to-time\n")
             .row("one day", "a.tmi --to csv --from 15.11.2023 --to-time 15.11.2023 --where NumPage=1", 0,

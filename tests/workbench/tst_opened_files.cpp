@@ -291,6 +291,14 @@ private Q_SLOTS:
         qCWarning(found, "changes of 18:44: truck.xml");
         const auto* bar = bench.window.findChild<QLabel*>(QStringLiteral("label_Notice"));
         QTRY_VERIFY(bar->isVisible());
+        // Where the tracker has them by now, nothing waits any more.
+        const QLoggingCategory written("vlk.unsaved.written");
+        for (const char* name : {"van.xml", "truck.xml"}) {
+            qCWarning(written, "changes are written: %s", name);
+            QCOMPARE(bar->isVisible(), qstrcmp(name, "van.xml") == 0);
+        }
+        qCWarning(found, "changes of 18:44: truck.xml");
+        QTRY_VERIFY(bar->isVisible());
         QCOMPARE(bar->text(), QStringLiteral("Unsaved changes of 18:44: truck.xml. Open it again to bring "
                                              "them back."));
         QCOMPARE(bench.text("label_Status"), bar->text());

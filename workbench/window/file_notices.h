@@ -2,7 +2,8 @@
 
 // Tells what the plug-in finds out about a file that was opened, as it tells its log: in the status line and,
 // where no window of the plug-in shows it, in a box, all that comes of one command together. Edits that wait
-// for their configuration stand in the main window's bar, until one is opened or the user closes it.
+// for their configuration stand in the main window's bar, until one is opened, they are written or the user
+// closes it.
 
 #include "window/plugin_log.h"
 
@@ -31,12 +32,18 @@ public:
 
 private:
     void note(PluginLog::Topic topic, const QString& category, const QString& message);
+    // The edits that are written wait no longer.
+    void forget(const QString& category, const QString& message);
     void tell();
+    void tellWaiting();
 
     StatusLine& status_;
     vlk::NoticeBar& bar_;
     QWidget* mainWindow_;
-    QVector<QPair<QString, QString>> noted_; // category and message
+    using Noted = QVector<QPair<QString, QString>>; // category and message
+
+    Noted noted_;
+    Noted waiting_; // the edits in the bar
     bool needsBox_ = false;
 };
 

@@ -3,6 +3,8 @@
 #include "telemetry/files/filter_nodes.h"
 #include "telemetry/files/filter_values.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace vlk {
@@ -60,6 +62,20 @@ using namespace nodes;
 FilterGrammar::FilterGrammar(const QString& text, const FilterNames& names, std::optional<qint32> utcOffset)
     : text_(text), folded_(foldedForFilter(text)), names_(names), utcOffset_(utcOffset)
 {
+}
+
+QString FilterGrammar::unit() const
+{
+    static const QRegularExpression form(
+        QStringLiteral("(?:[+-]?\\d+(?:[.,]\\d+)?)?(?<unit>(?:\\p{L}|[%°])[^\\s()]*)"));
+    const auto match =
+        form.match(text_, faultAt_, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+    const QString ending = QStringLiteral(", ") + foldedForFilter(match.captured(QStringLiteral("unit")));
+    const bool isUnit = std::ranges::any_of(names_.foldedNames(),
+                                            [&ending](const QString& name) { return name.endsWith(ending); });
+    const bool isAtValue =
+        expected_ == Expected::joint || expected_ == Expected::number || expected_ == Expected::word;
+    return isAtValue && match.hasMatch() && isUnit ? match.captured() : QString();
 }
 
 bool FilterGrammar::beginsQuoted(const QString& text)

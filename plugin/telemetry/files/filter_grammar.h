@@ -35,6 +35,9 @@ public:
     Expected expected() const { return expected_; }
     // What stands in quotes and is none of the words of its column; else null.
     const QString& unknownWord() const { return unknownWord_; }
+    // A number with a unit, or the unit alone, that stands where the fault is; else empty. The names of
+    // columns that have units end with them.
+    QString unit() const;
     // The last name that was read: its column, where it begins and where it ends.
     FilterColumn column() const { return column_; }
     int nameBegin() const { return nameBegin_; }

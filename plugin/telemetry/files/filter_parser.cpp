@@ -43,9 +43,13 @@ QStringList matching(const QStringList& all, const QString& typed)
 }
 
 // What was expected, and in place of a name the word that is none.
-QString faultText(Expected expected, const QString& text, int position)
+QString faultText(const FilterGrammar& parser, const QString& text)
 {
+    const Expected expected = parser.expected();
+    const int position = parser.position();
     const QString needed = translated(kExpected[static_cast<int>(expected)]);
+    if (const QString unit = parser.unit(); !unit.isEmpty())
+        return translated("rec_650").arg(needed, unit);
     const auto isInWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == QLatin1Char('_'); };
     const auto end = std::ranges::find_if_not(text.begin() + position, text.end(), isInWord);
     const QString word = text.mid(position, static_cast<int>(end - text.begin()) - position);
@@ -80,7 +84,7 @@ ParsedFilter parseFilter(const QString& text, const FilterNames& names, std::opt
     FilterGrammar parser(text, names, utcOffset);
     ParsedFilter parsed{parser.parse(), {}};
     if (!parsed.filter)
-        parsed.fault = {parser.position(), faultText(parser.expected(), text, parser.position())};
+        parsed.fault = {parser.position(), faultText(parser, text)};
     if (!parsed.filter && !parser.unknownWord().isNull())
         parsed.fault.expected =
             unknownWordText(text.mid(parser.nameBegin(), parser.nameEnd() - parser.nameBegin()),
