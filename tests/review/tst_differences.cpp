@@ -202,7 +202,7 @@ private Q_SLOTS:
     void secretsAreToldOnDemandAlone()
     {
         const QByteArray file =
-            QByteArray(factory()).replace("<AP1 ", "<AP1 pass=\"eins\"/><AP1 name=\"x\" ");
+            QByteArray(factory()).replace("<AP1 ", "<AP1 pass=\"eins\" pass=\"drei\"/><AP1 name=\"x\" ");
         vlk::Configuration configuration = loaded(file);
         configuration.edit("TRANS/AP1/pass", "zwei");
         const Differences differences(stateOf(file), FileState::ofConfiguration(configuration));
@@ -211,7 +211,7 @@ private Q_SLOTS:
             masked += line(differences, configuration, i);
             shown += line(differences, configuration, i, vlk::review::Secrets::shown);
         }
-        for (const char* secret : {"eins", "zwei", "mts|"}) {
+        for (const char* secret : {"eins", "zwei", "drei", "mts|"}) {
             QVERIFY2(!masked.contains(secret), secret);
             QVERIFY2(shown.contains(secret), secret);
         }
