@@ -21,6 +21,7 @@ constexpr int kMostLines = 5;
 constexpr int kMostInBar = 2;
 
 const QString kUnsaved = QStringLiteral("vlk.unsaved.");
+const QString kFound = QStringLiteral("vlk.unsaved.found");
 constexpr int kWaiting = 1; // number of the notice
 
 using Noted = QVector<QPair<QString, QString>>;
@@ -45,6 +46,12 @@ FileNotices::FileNotices(const PluginLog& log, StatusLine& status, vlk::NoticeBa
                 if (topic == PluginLog::Topic::File || topic == PluginLog::Topic::Damage)
                     note(topic, category, text);
             });
+    connect(&bar_, &vlk::NoticeBar::closed, this, [this](int number) {
+        if (number != kWaiting)
+            return;
+        for (const auto& [category, message] : std::as_const(waiting_))
+            known_.insert(message);
+    });
 }
 
 void FileNotices::note(PluginLog::Topic topic, const QString& category, const QString& message)
@@ -58,16 +65,21 @@ void FileNotices::note(PluginLog::Topic topic, const QString& category, const QS
 
 void FileNotices::tell()
 {
-    const Noted noted = std::exchange(noted_, {});
-    const auto sentence = [noted] { return told(noted, kMostLines); };
-    status_.tell(StatusLine::Command, sentence);
-    if (std::exchange(needsBox_, false))
-        showWarning(sentence(), mainWindow_);
-    Noted waiting;
-    std::ranges::copy_if(noted, std::back_inserter(waiting),
-                         [](const auto& entry) { return entry.first.startsWith(kUnsaved); });
-    if (!waiting.isEmpty()) {
-        bar_.tell(kWaiting, [waiting] {
+    Noted noted = std::exchange(noted_, {});
+    const auto waits = [](const auto& entry) { return entry.first.startsWith(kUnsaved); };
+    waiting_.clear();
+    std::ranges::copy_if(noted, std::back_inserter(waiting_), [&](const auto& entry) {
+        return waits(entry) && !(entry.first == kFound && known_.contains(entry.second));
+    });
+    noted.erase(std::remove_if(noted.begin(), noted.end(), waits), noted.end());
+    if (!noted.isEmpty()) {
+        const auto sentence = [noted] { return told(noted, kMostLines); };
+        status_.tell(StatusLine::Command, sentence);
+        if (std::exchange(needsBox_, false))
+            showWarning(sentence(), mainWindow_);
+    }
+    if (!waiting_.isEmpty()) {
+        bar_.tell(kWaiting, [waiting = waiting_] {
             return vlk::Notice{vlk::Mark::advice, told(waiting, kMostInBar), {}};
         });
     }
