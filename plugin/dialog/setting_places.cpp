@@ -69,15 +69,23 @@ void tellWhereLookedFor(QWidget* form, const QString& text)
         QToolTip::showText(form->mapToGlobal(form->rect().center()), text, form);
 }
 
-// The row that a form shows for a key of the file: its own, or the choice that sets it along with others. -1
-// for none.
+// The row that a form shows for a key of the file: its own, or the choice that sets it, alone or along with
+// others. -1 for none.
 int shownRowOf(const Values& values, const QString& path)
 {
     const int row = values.layout().rowAt(path);
-    if (row < 0 || review::canBeShown(values.setting(values.holder(row))))
+    if (row < 0)
         return row;
+    const int holder = values.holder(row);
+    if (review::canBeShown(values.setting(holder)))
+        return holder;
+    for (const Sets& rule : values.table().all<Sets>()) {
+        if (rule.moment == Moment::always && rule.path.row == holder && rule.when.row >= 0 &&
+            review::canBeShown(values.setting(rule.when.row)))
+            return rule.when.row;
+    }
     for (const Presets& presets : values.table().all<Presets>()) {
-        const auto isIt = [&](const Path& field) { return field.row == values.holder(row); };
+        const auto isIt = [&](const Path& field) { return field.row == holder; };
         if (std::ranges::any_of(presets.fields, isIt) &&
             review::canBeShown(values.setting(presets.trigger.row)))
             return presets.trigger.row;
@@ -179,6 +187,14 @@ std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
         }
     }
     return {};
+}
+
+review::Hit SettingPlaces::onShow(const review::Hit& hit) const
+{
+    const auto [page, own] = placeOf(hit.table, hit.row);
+    if (!page || pageOf(hit.table) == page)
+        return hit;
+    return {.table = review::FileKeys::all().tableOf(page->values().table()), .row = own};
 }
 
 QWidget* SettingPlaces::widgetOf(int table, int row, int part) const
