@@ -41,7 +41,7 @@ QString lineOf(const review::Hit& hit, const Values& values, const QString& whyH
 {
     const Setting& setting = values.setting(hit.row);
     const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
-    QStringList place{told.page, told.group, told.caption};
+    QStringList place{hit.table == kQuickTable ? QString() : told.page, told.group, told.caption};
     if (hit.part >= 0)
         place << review::partCaption(setting, hit.part);
     place.removeAll(QString());
@@ -53,7 +53,8 @@ QString lineOf(const review::Hit& hit, const Values& values, const QString& whyH
         hit.part < 0
             ? valueText(values, hit.row)
             : review::partText(setting, hit.part, review::partOf(setting, hit.part, values.value(hit.row)));
-    return path + QStringLiteral(":  ") + value;
+    // A box of a choice says what it chooses.
+    return path + QStringLiteral(":  ") + (value == told.caption ? yesNo(true) : value);
 }
 
 constexpr const char* kMarkProperty = "mark";
