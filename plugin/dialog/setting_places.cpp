@@ -100,6 +100,16 @@ QString sentenceOf(const char* key)
     return QCoreApplication::translate("vlk", key);
 }
 
+// Also where its widget stands in a part of the form that is hidden as a whole.
+std::optional<review::Needed> neededToShow(PageSettings& page, int row)
+{
+    if (auto needed = review::neededToShow(page.values(), row))
+        return needed;
+    const QWidget* widget = page.binder().widgetOf(row);
+    const When* unmet = widget ? page.binder().hiddenBy(widget) : nullptr;
+    return unmet ? std::optional(review::neededFor(page.values(), *unmet)) : std::nullopt;
+}
+
 // Makes the cell of a list that shows the setting the current one; null where it stands in none.
 QTreeWidget* chooseCell(QWidget* widget, const Setting& setting)
 {
@@ -208,7 +218,7 @@ QString SettingPlaces::whyHidden(int table, int row) const
     const auto [page, own] = placeOf(table, row);
     if (!page)
         return sentenceOf("rev_259");
-    const auto needed = review::neededToShow(page->values(), own);
+    const auto needed = neededToShow(*page, own);
     return needed ? needed->text : QString();
 }
 
@@ -236,7 +246,7 @@ void SettingPlaces::goTo(int table, int row, int part)
     }
     QString told;
     for (int step = 0; step < kMostNeeded; ++step) {
-        const auto needed = review::neededToShow(page->values(), own);
+        const auto needed = neededToShow(*page, own);
         if (!needed)
             break;
         told = sentenceOf("rev_258").arg(needed->text);

@@ -360,6 +360,15 @@ private Q_SLOTS:
         QCOMPARE(notice->text(), QString("rev_198"));
     }
 
+    // What quick setup makes anew is nobody's change.
+    void reportOfNoEdit()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        QTest::keyClick(dialog_.get(), Qt::Key_P, Qt::ControlModifier);
+        const QString report = child<QTextBrowser>("textBrowser_Report")->toPlainText();
+        QVERIFY(report.contains("rev_370") && !report.contains("rev_352"));
+    }
+
     // One page is filled, with letters that can be read.
     void onePageIsFilled()
     {

@@ -536,6 +536,12 @@ private Q_SLOTS:
             QCOMPARE(QApplication::focusWidget()->objectName(),
                      QString("comboBox_NormState_In_%1").arg(path[10]));
         }
+        // A box in a part of the form that is hidden leads to what shows that part.
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "BLUETOOTH/sensor3");
+        QVERIFY(child<QListWidget>("listWidget_Found")->item(0)->text().endsWith("(cfgwl_030: wrd_001)"));
+        QTest::keyClick(child<QLineEdit>("lineEdit_Find"), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("checkBox_BT_Use"));
         // What can be reached comes first.
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "TRANS");

@@ -78,6 +78,9 @@ public:
     // The rule that disables the widget, in words; its tool tip where no rule does.
     QString whyDisabled(const QWidget* widget) const { return ruled_.whyDisabled(widget); }
 
+    // What does not hold of the rule that hides the widget; null where none does.
+    const When* hiddenBy(const QWidget* widget) const { return ruled_.hiddenBy(widget); }
+
     const Values& values() const override { return values_; }
     const BoundForms& forms() const override { return forms_; }
     bool isShowing() const override { return showing_ > 0; }

@@ -72,13 +72,32 @@ QString RuledWidgets::whyDisabled(const Target& target) const
     for (const Enable* rule : target.rules) {
         if (values_.holds(*rule))
             continue;
-        const int missing =
-            std::ranges::find_if_not(rule->when, [&](const When& one) { return values_.holds(one); })->row;
+        const int missing = unmetOf(*rule)->row;
         const QString caption = captionText(values_.setting(missing));
         const QString value = valueText(values_, missing);
         return notAvailableWith(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
     }
     return {};
+}
+
+const When* RuledWidgets::unmetOf(const Enable& rule) const
+{
+    return &*std::ranges::find_if_not(rule.when, [&](const When& one) { return values_.holds(one); });
+}
+
+const When* RuledWidgets::hiddenBy(const QWidget* widget) const
+{
+    for (const QWidget* outer = widget; outer && !outer->isWindow(); outer = outer->parentWidget()) {
+        for (const Target& target : targets_) {
+            if (target.widget != outer || target.effect != Enable::Effect::shown)
+                continue;
+            const auto unmet = std::ranges::find_if_not(
+                target.rules, [&](const auto* rule) { return values_.holds(*rule); });
+            if (unmet != target.rules.end())
+                return unmetOf(**unmet);
+        }
+    }
+    return nullptr;
 }
 
 QString RuledWidgets::whyDisabled(const QWidget* widget) const

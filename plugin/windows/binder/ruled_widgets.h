@@ -26,6 +26,8 @@ public:
     void evaluate() const;
     // The rule that disables the widget, in words; its tool tip where no rule does.
     QString whyDisabled(const QWidget* widget) const;
+    // What does not hold of the rule that hides the widget, or what is around it; null where none does.
+    const When* hiddenBy(const QWidget* widget) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -39,6 +41,8 @@ private:
     };
 
     QString whyDisabled(const Target& target) const;
+    // Of a rule that does not hold.
+    const When* unmetOf(const Enable& rule) const;
 
     const Values& values_;
     std::vector<Target> targets_;
