@@ -30,12 +30,13 @@ using Against = ConfigurationReview::Against;
 
 namespace {
 
-// The least that columns are cut to, one after the other, where the window is small: long values before
-// names. The tool tip tells what is cut.
-constexpr std::pair<int, int> kNarrowest[] = {
-    {DifferenceModel::Before, 180}, {DifferenceModel::Now, 180},  {DifferenceModel::Before, 140},
-    {DifferenceModel::Now, 140},    {DifferenceModel::Note, 260}, {DifferenceModel::Caption, 230},
-    {DifferenceModel::Before, 110}, {DifferenceModel::Now, 110},  {DifferenceModel::Page, 90}};
+// The least that columns are cut to, one after the other, where the window is small: long values and names,
+// then values before names. The tool tip tells what is cut.
+constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Before, 180},  {DifferenceModel::Now, 180},
+                                              {DifferenceModel::Caption, 300}, {DifferenceModel::Before, 140},
+                                              {DifferenceModel::Now, 140},     {DifferenceModel::Note, 260},
+                                              {DifferenceModel::Caption, 230}, {DifferenceModel::Before, 110},
+                                              {DifferenceModel::Now, 110},     {DifferenceModel::Page, 90}};
 
 // By Against.
 constexpr const char* kSides[] = {"rev_109", "rev_110", "rev_111", "rev_193"};
