@@ -1755,7 +1755,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_257"><translation>Differences from what was written (%1)</translation></message>
     <message id="rev_258"><translation>To show it, set: %1</translation></message>
     <message id="rev_259"><translation>In full setup only</translation></message>
-    <message id="rev_260"><translation>Unsaved changes: %1. They are offered when this is opened again: %2.</translation></message>
+    <message id="rev_260"><translation>Unsaved changes: %1 (%2). Open it again to bring back what was edited.</translation></message>
     <message id="rev_270"><translation>Compare with another file</translation></message>
     <message id="rev_271"><translation>Apply a preset</translation></message>
     <message id="rev_272"><translation>Pushed by</translation></message>
@@ -1786,11 +1786,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_350"><translation>Unsaved changes of this configuration are damaged and cannot be brought back. What is left of them: %1</translation></message>
     <message id="rev_351"><translation>Changed here and not written to the tracker: %1</translation></message>
     <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
+    <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
+    <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
-    <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
+    <message id="rev_330"><translation>Unsaved changes: %1 (new configuration). Open a new one to bring back what was edited.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>

@@ -1755,7 +1755,7 @@
     <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
     <message id="rev_258"><translation>Чтобы показать, задайте: %1</translation></message>
     <message id="rev_259"><translation>Только в полной настройке</translation></message>
-    <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда снова откроют: %2.</translation></message>
+    <message id="rev_260"><translation>Несохранённые изменения: %1 (%2). Откройте снова, чтобы вернуть.</translation></message>
     <message id="rev_270"><translation>Сравнение с другим файлом</translation></message>
     <message id="rev_271"><translation>Применение шаблона</translation></message>
     <message id="rev_272"><translation>Сдвинуто параметром</translation></message>
@@ -1786,11 +1786,13 @@
     <message id="rev_350"><translation>Несохранённые изменения этой конфигурации повреждены, вернуть их нельзя. Что от них осталось: %1</translation></message>
     <message id="rev_351"><translation>Изменено здесь и не записано в трекер: %1</translation></message>
     <message id="rev_352"><translation>Изменено здесь после открытия конфигурации: %1</translation></message>
+    <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
+    <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
-    <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
+    <message id="rev_330"><translation>Несохранённые изменения: %1 (новая конфигурация). Откройте новую, чтобы вернуть.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>

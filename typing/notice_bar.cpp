@@ -308,7 +308,7 @@ void NoticeBar::refresh()
         setVisible(roomBelow_ > 0);
         return;
     }
-    QWidget* before = place_; // in the order of Tab, in front of the cross
+    QWidget* before = close_; // in the order of Tab
     for (const Notice::Action& action : shown->notice.actions) {
         auto* button = new QPushButton(action.text, this);
         button->setObjectName(
@@ -321,6 +321,8 @@ void NoticeBar::refresh()
         setTabOrder(std::exchange(before, button), button);
         button->show();
     }
+    // The cross is the last one.
+    setTabOrder(before, close_);
     showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);

@@ -73,6 +73,8 @@ public:
     // What the quick window made of the file as it came, of a setting that it shows and no file holds; null
     // where that is what it shows now, and for every other setting.
     QString quickBefore(const PageSettings& page, int row) const;
+    // What is checked in the quick window because the file says nothing of it: a sensor that is not there.
+    QStringList takenForUsed() const;
     // Also to what was there before it was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;

@@ -80,9 +80,9 @@ QString editSubject(const QString& path, bool isFile)
            QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
 }
 
-void tellKeptEdits(const QString& folder)
+void tellKeptEdits(const QString& folder, const QString& but)
 {
-    QStringList subjects;
+    QStringList subjects{but};
     for (const review::KeptUnsaved& kept : review::keptUnsaved(folder)) {
         if (subjects.contains(kept.unsaved.subject))
             continue;
@@ -184,20 +184,22 @@ bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Hide && !event->spontaneous()) {
         leave();
         isInSight_ = false;
-        tellKept();
+        if (!subject_.isEmpty())
+            tellKeptEdits(folder_, tellKept() ? subject_ : QString());
     }
     return QObject::eventFilter(watched, event);
 }
 
 // The window is gone: whoever shows what is logged says it.
-void EditKeeper::tellKept() const
+bool EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
-        return;
+        return false;
     const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
     if (!own.empty())
         qCWarning(lcKept).noquote().nospace()
             << own.size() << " changes are kept: " << nameOfSubject(subject_);
+    return !own.empty();
 }
 
 void EditKeeper::switched()

@@ -1,6 +1,7 @@
 #include "fuel/question.h"
 
 #include "fuel/table/fuel_sensors.h"
+#include "windows/page_style.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -13,6 +14,7 @@ bool agrees(QWidget* parent, const QString& text, const char* noKey, const QStri
     box.setInformativeText(hint);
     auto* yes = box.addButton(fuelWord("wrd_001"), QMessageBox::YesRole);
     auto* no = box.addButton(fuelWord(noKey), QMessageBox::NoRole);
+    dressMessageBox(box);
     // The words are those of values too, so they name no letter themselves.
     for (QPushButton* button : {yes, no})
         button->setShortcut(QKeySequence::mnemonic(QLatin1Char('&') + button->text()));

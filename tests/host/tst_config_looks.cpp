@@ -4,6 +4,7 @@
 #include "support/data_table.h"
 #include "support/distances.h"
 #include "support/scripted_host.h"
+#include "window/appearance.h"
 #include "window/house_style.h"
 #include "window/languages.h"
 
@@ -316,6 +317,48 @@ private Q_SLOTS:
         }
         for (auto* line : window_->findChildren<QLineEdit*>(QRegularExpression("^lineEdit_CurLevel_SH")))
             QVERIFY(line->isReadOnly() && !line->hasFrame() && !(line->focusPolicy() & Qt::TabFocus));
+    }
+
+    // By keys, on light and on dark: its outline has three times the light of the window, or a third of it.
+    void focusIsSeen()
+    {
+        for (const auto appearance : {workbench::Appearance::Light, workbench::Appearance::Dark}) {
+            workbench::apply(appearance);
+            QDialog window;
+            QVBoxLayout layout(&window);
+            QLineEdit elsewhere;
+            QPushButton button(QStringLiteral("Save"));
+            button.setAutoDefault(false);
+            QCheckBox box(QStringLiteral("Passwords"));
+            QToolButton tool;
+            tool.setText(QStringLiteral("Presets"));
+            QComboBox list;
+            list.addItem(QStringLiteral("All"));
+            QTextBrowser page;
+            for (QWidget* widget : QWidgetList{&elsewhere, &button, &box, &tool, &list, &page})
+                layout.addWidget(widget);
+            window.show();
+            QApplication::setActiveWindow(&window);
+            elsewhere.setFocus();
+            for (QWidget* widget : QWidgetList{&button, &box, &tool, &list, &page}) {
+                const QImage without = widget->grab().toImage();
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                QVERIFY(widget->hasFocus());
+                const QImage with = widget->grab().toImage();
+                int outline = 0;
+                for (int x = 0; x < with.width(); ++x) {
+                    for (int y = 0; y < with.height(); ++y) {
+                        const bool isSeen =
+                            with.pixel(x, y) != without.pixel(x, y) &&
+                            contrast(with.pixelColor(x, y), window.palette().window().color()) > 3;
+                        outline += isSeen ? 1 : 0;
+                    }
+                }
+                QVERIFY2(outline > 100, qPrintable(QString::fromLatin1(widget->metaObject()->className()) +
+                                                   QLatin1Char(' ') + QString::number(outline)));
+            }
+        }
+        workbench::apply(workbench::Appearance::System);
     }
 
 private:

@@ -281,6 +281,8 @@ private Q_SLOTS:
             QString text;
             whenOpen<QMessageBox>([&](QMessageBox& box) {
                 text = box.text();
+                for (const QAbstractButton* button : box.buttons())
+                    QVERIFY(!button->shortcut().isEmpty());
                 box.buttons().at(agree ? 0 : 1)->click();
             });
             press("pushButton_ConfigLight");

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -21,6 +22,7 @@ constexpr int kMostLines = 5;
 constexpr int kMostInBar = 2;
 
 const QString kUnsaved = QStringLiteral("vlk.unsaved.");
+const QString kFound = QStringLiteral("vlk.unsaved.found");
 constexpr int kWaiting = 1; // number of the notice
 
 QString told(const QVector<QPair<QString, QString>>& noted, int most)
@@ -46,8 +48,11 @@ FileNotices::FileNotices(const PluginLog& log, StatusLine& status, vlk::NoticeBa
                     forget(category, text);
             });
     connect(&bar_, &vlk::NoticeBar::closed, this, [this](int number) {
-        if (number == kWaiting)
-            waiting_.clear();
+        if (number != kWaiting)
+            return;
+        for (const auto& [category, message] : std::as_const(waiting_))
+            known_.insert(message);
+        waiting_.clear();
     });
 }
 
@@ -62,17 +67,24 @@ void FileNotices::note(PluginLog::Topic topic, const QString& category, const QS
 
 void FileNotices::tell()
 {
-    const Noted noted = std::exchange(noted_, {});
+    Noted noted = std::exchange(noted_, {});
+    const bool needsBox = std::exchange(needsBox_, false);
+    const auto waits = [](const auto& entry) { return entry.first.startsWith(kUnsaved); };
+    const auto edits = std::stable_partition(noted.begin(), noted.end(), std::not_fn(waits));
+    if (edits != noted.end()) {
+        waiting_.clear();
+        std::copy_if(edits, noted.end(), std::back_inserter(waiting_), [&](const auto& entry) {
+            return entry.first != kFound || !known_.contains(entry.second);
+        });
+        noted.erase(edits, noted.end());
+        tellWaiting();
+    }
+    if (noted.isEmpty())
+        return;
     const auto sentence = [noted] { return told(noted, kMostLines); };
     status_.tell(StatusLine::Command, sentence);
-    if (std::exchange(needsBox_, false))
+    if (needsBox)
         showWarning(sentence(), mainWindow_);
-    const auto waits = [](const auto& entry) { return entry.first.startsWith(kUnsaved); };
-    if (std::ranges::none_of(noted, waits))
-        return;
-    waiting_.clear();
-    std::ranges::copy_if(noted, std::back_inserter(waiting_), waits);
-    tellWaiting();
 }
 
 void FileNotices::forget(const QString& category, const QString& message)

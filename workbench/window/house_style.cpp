@@ -52,6 +52,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     outlineOnDark(element, *option, *painter);
+    outlineFocus(element, *option, *painter, widget);
 }
 
 QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
