@@ -199,6 +199,12 @@ void TestCurves::showsWhatThereIs()
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, 250.5)}});
     QTest::keyClick(presets, Qt::Key_Home);
     QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("Tank, l; ")));
+    // The curve that the user has told stays the one, whatever comes in front of it.
+    records_->setComputed({});
+    key(Qt::Key_Down);
+    const QString told = line();
+    records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, 250.5)}});
+    QCOMPARE(line(), told);
     QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
     // Without a value in any record they are shown to who chose them alone.
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, kNone)}});

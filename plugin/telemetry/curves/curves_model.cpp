@@ -66,6 +66,7 @@ void CurvesModel::restart()
     stops_.reset();
     events_.clear();
     focused_ = -1;
+    chosenName_.clear();
     cursors_ = {records_->current(), -1};
     moving_ = Cursor::a;
     Q_EMIT changed();
@@ -112,7 +113,7 @@ void CurvesModel::show(const QStringList& items, Choice choice)
 {
     items_ = items;
     choice_ = choice;
-    focused_ = -1;
+    chosenName_.clear();
     isBeingMade_ = false;
     rebuild();
 }
@@ -182,7 +183,12 @@ void CurvesModel::rebuild()
     if (stops_ && !stops_->on.empty())
         bands_.insert(behindEngine, {QString(), translated("rec_165"), stops_});
     makeMarks();
-    focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
+    // Others may have come in front of it.
+    const auto chosen = std::ranges::find_if(
+        curves_, [this](const Curve& curve) { return curve.column.name == chosenName_; });
+    focused_ = curves_.empty()           ? -1
+               : chosen == curves_.end() ? 0
+                                         : static_cast<int>(chosen - curves_.begin());
     Q_EMIT changed();
 }
 
@@ -318,6 +324,7 @@ void CurvesModel::setFocused(int curve)
         return;
     focused_ = curve;
     Q_EMIT cursorsChanged();
+    chosenName_ = curves_[curve].column.name;
 }
 
 void CurvesModel::setMoving(Cursor which)
