@@ -1700,8 +1700,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
     <message id="rec_410"><translation>first to last chosen row</translation></message>
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
-    <message id="rec_412"><translation>States without room: %1</translation></message>
-    <message id="rec_413"><translation>Fewer states</translation></message>
+    <message id="rec_412"><translation>Rows without room: %1</translation></message>
+    <message id="rec_413"><translation>Fewer rows</translation></message>
     <message id="rec_414"><translation>Type the calibration table: %1…</translation></message>
     <message id="rec_415"><translation>%1 has no calibration table, and without one there are no litres. If there is no file of it, type it: the menu of sensors has a line for that.</translation></message>
     <message id="rec_416"><translation>Save and use</translation></message>

@@ -1700,8 +1700,8 @@
     <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
     <message id="rec_410"><translation>от первой до последней выбранной строки</translation></message>
     <message id="rec_411"><translation>Выберите в таблице несколько строк: стрелками с Shift или мышью.</translation></message>
-    <message id="rec_412"><translation>Не поместилось состояний: %1</translation></message>
-    <message id="rec_413"><translation>Меньше состояний</translation></message>
+    <message id="rec_412"><translation>Не поместилось строк: %1</translation></message>
+    <message id="rec_413"><translation>Меньше строк</translation></message>
     <message id="rec_414"><translation>Ввести тарировочную таблицу: %1…</translation></message>
     <message id="rec_415"><translation>Нет тарировочной таблицы: %1. Без неё нет литров. Если нет файла, введите её: в меню датчиков есть для этого строка.</translation></message>
     <message id="rec_416"><translation>Сохранить и применить</translation></message>

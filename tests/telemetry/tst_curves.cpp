@@ -157,7 +157,6 @@ void TestCurves::choosesRoundMoments()
     QTEST(static_cast<int>(ticks.major.size()), "count");
     QVERIFY(ticks.minor.size() >= ticks.major.size());
 }
-
 void TestCurves::tellsTimes()
 {
     const auto plain = [](QString text) { return text.replace(QChar::Nbsp, QLatin1Char(' ')); };
@@ -169,14 +168,6 @@ void TestCurves::tellsTimes()
     QCOMPARE(momentText(kTruckStart, kTruckStart - 86'400, 10'800), QStringLiteral("18.11.2026 03:00:00"));
     QCOMPARE(zoneText(10'800) + zoneText(0) + zoneText(-12'600), QStringLiteral("UTC+3UTCUTC-3:30"));
 }
-
-// A press in a gap goes to what is in sight, be it further away than what is not; where nothing is, it goes
-
-// nowhere and tells the gap.
-
-// Among the events below the curves, where a press near the mark goes to its record, though the mark of an
-
-// earlier event is under it.
 
 void TestCurves::showsWhatThereIs()
 {
@@ -207,6 +198,7 @@ void TestCurves::showsWhatThereIs()
     QCOMPARE(line(), told);
     QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
     // Without a value in any record they are shown to who chose them alone.
+    QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, kNone)}});
     model.show({"*", "Speed"}, CurvesModel::Choice::offered);
     QCOMPARE(model.shownNames(), QStringList("Speed"));

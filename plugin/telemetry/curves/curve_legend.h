@@ -16,6 +16,7 @@ class CurveLegend : public QWidget
 public:
     // Wrapped, the entries take as many lines as they need at the width that it was given.
     CurveLegend(CurvesModel* model, bool isWrapped, QWidget* parent = nullptr);
+    void setWrapped(bool isWrapped);
 
     // That the entries need on one line.
     int widthOfAll() const;
