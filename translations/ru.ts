@@ -1733,6 +1733,7 @@
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_600"><translation>По номерам пропущено: %1.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -248,10 +248,11 @@ std::shared_ptr<const StateRuns> CurvesModel::runsOf(ItemIndex state)
     if (!runs) {
         const int bit = bitOf(kItems[state]);
         const RawValues values(records_->records(), kItems[state].element);
-        runs = std::make_shared<StateRuns>(records_->byTime(), records_->columns().times(), [&](int record) {
-            const std::optional<std::uint64_t> raw = values.at(record);
-            return raw ? static_cast<int>(*raw >> bit & 1) : -1;
-        });
+        runs =
+            std::make_shared<StateRuns>(records_->byTime(), RecordGaps(records_->columns()), [&](int record) {
+                const std::optional<std::uint64_t> raw = values.at(record);
+                return raw ? static_cast<int>(*raw >> bit & 1) : -1;
+            });
     }
     return runs;
 }
@@ -298,7 +299,7 @@ void CurvesModel::addTo(CurveSeries& series, const CurveColumn& column, std::spa
     std::vector<bool> holding;
     for (const RecordLayout& layout : store.layouts())
         holding.push_back(column.item ? layout.has(kItems[*column.item].element) : !layout.isPacket());
-    series.add(byTime, records_->columns().times(), numbers, [&](int record) {
+    series.add(byTime, RecordGaps(records_->columns()), numbers, [&](int record) {
         return holding[store.layoutNumber(record)] && record < static_cast<int>(numbers.size());
     });
 }
@@ -323,8 +324,8 @@ void CurvesModel::setFocused(int curve)
     if (curve < 0 || curve >= static_cast<int>(curves_.size()) || curve == focused_)
         return;
     focused_ = curve;
-    Q_EMIT cursorsChanged();
     chosenName_ = curves_[curve].column.name;
+    Q_EMIT cursorsChanged();
 }
 
 void CurvesModel::setMoving(Cursor which)

@@ -2,7 +2,7 @@
 
 #include "base/clock.h"
 #include "telemetry/files/title_lines.h"
-#include "telemetry/fuel/vehicle_times.h"
+#include "telemetry/files/vehicle_times.h"
 
 #include <algorithm>
 #include <numeric>
