@@ -1734,6 +1734,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
     <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
     <message id="rec_600"><translation>By their numbers %1 are missing.</translation></message>
+    <message id="rec_601"><translation>Records with a time that cannot be right, left out of curves, fuel and summary: %1.</translation></message>
+    <message id="rec_602"><translation>Records with a time that cannot be right, left out here: %1.</translation></message>
+    <message id="rec_603"><translation>records with a time that cannot be right, left out here: %1</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

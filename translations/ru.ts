@@ -1734,6 +1734,9 @@
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
     <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
     <message id="rec_600"><translation>По номерам пропущено: %1.</translation></message>
+    <message id="rec_601"><translation>Записи с невозможным временем, не учтены в графиках, топливе и сводке: %1.</translation></message>
+    <message id="rec_602"><translation>Записи с невозможным временем, здесь не учтены: %1.</translation></message>
+    <message id="rec_603"><translation>записи с невозможным временем, здесь не учтены: %1</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

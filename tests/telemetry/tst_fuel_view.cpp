@@ -269,6 +269,19 @@ private Q_SLOTS:
         QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
     }
 
+    // Nor is what happened at a time that cannot be right.
+    void leavesOutDamagedTimes()
+    {
+        TelemetryContents contents = drained();
+        const RecordParts strayed{{"NumPage", 100}, {"Time", kStart + 90 * 86'400}};
+        contents.records.add(30, strayed.mask, strayed.block);
+        const RecordParts behind{{"NumPage", 101}, {"Time", kStart + 40 * 60}};
+        contents.records.add(30, behind.mask, behind.block);
+        records_->setContents(std::move(contents));
+        choose(good_);
+        QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 1."));
+    }
+
     // Its end hides the drain: the list tells of it, not that nothing happened alone.
     void saysThatATableIsTooShort()
     {

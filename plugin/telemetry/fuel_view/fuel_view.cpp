@@ -351,6 +351,8 @@ QStringList FuelView::news() const
         news.prepend(ofTable);
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
         news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
+    if (const auto strayed = records_.strayed().size(); strayed > 0)
+        news << tr("rec_602").arg(QLocale().toString(qulonglong(strayed)));
     return news;
 }
 
