@@ -23,6 +23,7 @@ public:
     // With which something is left of each name.
     int leastWidth() const;
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
     int heightForWidth(int width) const override;
 
 protected:

@@ -349,6 +349,8 @@ QStringList FuelView::news() const
     QStringList news = tellReadingsBeyond() + tellBlindLevels() + markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
+    if (tanks_->tanks().empty())
+        return news;
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
         news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
     if (const auto strayed = records_.strayed().size(); strayed > 0)
