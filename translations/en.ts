@@ -1732,7 +1732,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
-    <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_570"><translation>The calibration table of %1 has one reading for several volumes (%2): the middle is taken, what happens between them goes unseen.</translation></message>
     <message id="rec_600"><translation>By their numbers %1 are missing.</translation></message>
     <message id="rec_601"><translation>Records with a time that cannot be right, left out of curves, fuel and summary: %1.</translation></message>
     <message id="rec_602"><translation>Records with a time that cannot be right, left out here: %1.</translation></message>

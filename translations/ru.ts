@@ -1732,7 +1732,7 @@
     <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1; в файле их нет.</translation></message>
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
-    <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_570"><translation>В тарировочной таблице %1 одно показание для разных объёмов (%2): взята середина, изменения между ними не видны.</translation></message>
     <message id="rec_600"><translation>По номерам пропущено: %1.</translation></message>
     <message id="rec_601"><translation>Записи с невозможным временем, не учтены в графиках, топливе и сводке: %1.</translation></message>
     <message id="rec_602"><translation>Записи с невозможным временем, здесь не учтены: %1.</translation></message>

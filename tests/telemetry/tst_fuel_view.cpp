@@ -297,8 +297,9 @@ private Q_SLOTS:
     {
         choose(file("blind.csv", "Level;Volume, l\n0;0\n2800;251\n2800;312\n4100;410\n"));
         const auto* news = view_->findChild<QLabel*>("label_FuelNews");
-        QVERIFY2(news->text().contains("of RS-485 Fuel level 1 has one reading, 2,800.0, for 251.0 to 312.0"),
-                 qPrintable(news->text()));
+        QVERIFY2(
+            news->text().contains("RS-485 Fuel level 1 has one reading for several volumes (2,800: 251–312"),
+            qPrintable(news->text()));
     }
 
     // Its scale ends at 1023, all that is above it is an error.

@@ -44,6 +44,11 @@ QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
     return box;
 }
 
+QString shortText(double number)
+{
+    return numberText(number, number == std::trunc(number) ? 0 : 1);
+}
+
 } // namespace
 
 FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
@@ -336,9 +341,13 @@ QStringList FuelView::tellBlindLevels() const
 {
     QStringList texts;
     for (const TankSensor& tank : tanks_->tanks()) {
+        QStringList blinds;
         for (const FuelCurve::Blind& blind : tank.blinds())
-            texts << tr("rec_570").arg(numberText(blind.least, 1), numberText(blind.most, 1),
-                                       numberText(blind.level, 1), levelSensorCaption(*tank.sensor));
+            blinds << QStringLiteral("%1: %2–%3")
+                          .arg(shortText(blind.level), shortText(blind.least),
+                               shortText(blind.most) + QChar::Nbsp + tr("abbr_026"));
+        if (!blinds.isEmpty())
+            texts << tr("rec_570").arg(levelSensorCaption(*tank.sensor), blinds.join(QLatin1String("; ")));
     }
     return texts;
 }
