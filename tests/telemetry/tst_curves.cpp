@@ -261,6 +261,15 @@ void TestCurves::tellsStatesWithoutRoom()
         QVERIFY(strip->geometry().bottom() < view_->height());
     }
     QVERIFY(rows > 4);
+    // Names have their room, with a title at the axis or without.
+    int left = 0;
+    for (const int height : {700, 260}) {
+        view_->resize(900, height);
+        QCoreApplication::processEvents();
+        if (left == 0)
+            left = canvas()->x();
+        QCOMPARE(canvas()->x(), left);
+    }
     view_->resize(900, 120);
     QCoreApplication::processEvents();
     QTest::keyClick(all, Qt::Key_Space);

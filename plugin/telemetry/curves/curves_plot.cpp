@@ -232,13 +232,18 @@ const QwtScaleDiv& CurvesPlot::divisionOf(int axis) const
 
 void CurvesPlot::fitMargins()
 {
+    setContentsMargins(fittingMargins());
+    updateLayout();
+}
+
+QMargins CurvesPlot::fittingMargins() const
+{
     const auto widthOf = [](const QwtScaleWidget* axis) {
         return axis->isVisibleTo(axis->parentWidget()) ? axis->sizeHint().width() : 0;
     };
     const int outer = widthOf(outerLeft_);
     const int inner = axisEnabled(yLeft) ? axisWidget(yLeft)->sizeHint().width() : 0;
-    setContentsMargins(std::max(outer, leftWidth_ - inner), 0, widthOf(outerRight_), 0);
-    updateLayout();
+    return {std::max(outer, leftWidth_ - inner), 0, widthOf(outerRight_), 0};
 }
 
 void CurvesPlot::updateLayout()
@@ -317,11 +322,14 @@ void CurvesPlot::focusOutEvent(QFocusEvent* event)
     dress();
 }
 
-// More room, more ticks.
+// More room, more ticks, and titles that leave other room on the left.
 bool CurvesPlot::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == canvas() && event->type() == QEvent::Resize)
+    if (watched == canvas() && event->type() == QEvent::Resize) {
         setAxes();
+        if (fittingMargins() != contentsMargins())
+            fitMargins();
+    }
     return QwtPlot::eventFilter(watched, event);
 }
 

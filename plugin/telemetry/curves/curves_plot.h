@@ -57,6 +57,7 @@ private:
     void setValueAxis(int axis);
     void dress();
     void fitMargins();
+    QMargins fittingMargins() const;
     void placeOuterAxes();
     // A moment without records.
     struct Between
