@@ -1703,8 +1703,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
     <message id="rec_410"><translation>first to last chosen row</translation></message>
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
-    <message id="rec_412"><translation>States without room: %1</translation></message>
-    <message id="rec_413"><translation>Fewer states</translation></message>
+    <message id="rec_412"><translation>Rows without room: %1</translation></message>
+    <message id="rec_413"><translation>Fewer rows</translation></message>
     <message id="rec_414"><translation>Type the calibration table: %1…</translation></message>
     <message id="rec_415"><translation>%1 has no calibration table, and without one there are no litres. If there is no file of it, type it: the menu of sensors has a line for that.</translation></message>
     <message id="rec_416"><translation>Save and use</translation></message>
@@ -1735,7 +1735,11 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
-    <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_570"><translation>The calibration table of %1 has one reading for several volumes (%2): the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_600"><translation>By their numbers %1 are missing.</translation></message>
+    <message id="rec_601"><translation>Records with a time that cannot be right, left out of curves, fuel and summary: %1.</translation></message>
+    <message id="rec_602"><translation>Records with a time that cannot be right, left out here: %1.</translation></message>
+    <message id="rec_603"><translation>records with a time that cannot be right, left out here: %1</translation></message>
     <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
     <message id="rec_651"><translation>Without a place and therefore not in the file: %1.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>

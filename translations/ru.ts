@@ -1703,8 +1703,8 @@
     <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
     <message id="rec_410"><translation>от первой до последней выбранной строки</translation></message>
     <message id="rec_411"><translation>Выберите в таблице несколько строк: стрелками с Shift или мышью.</translation></message>
-    <message id="rec_412"><translation>Не поместилось состояний: %1</translation></message>
-    <message id="rec_413"><translation>Меньше состояний</translation></message>
+    <message id="rec_412"><translation>Не поместилось строк: %1</translation></message>
+    <message id="rec_413"><translation>Меньше строк</translation></message>
     <message id="rec_414"><translation>Ввести тарировочную таблицу: %1…</translation></message>
     <message id="rec_415"><translation>Нет тарировочной таблицы: %1. Без неё нет литров. Если нет файла, введите её: в меню датчиков есть для этого строка.</translation></message>
     <message id="rec_416"><translation>Сохранить и применить</translation></message>
@@ -1735,7 +1735,11 @@
     <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1; в файле их нет.</translation></message>
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
-    <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_570"><translation>В тарировочной таблице %1 одно показание для разных объёмов (%2): взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_600"><translation>По номерам пропущено: %1.</translation></message>
+    <message id="rec_601"><translation>Записи с невозможным временем, не учтены в графиках, топливе и сводке: %1.</translation></message>
+    <message id="rec_602"><translation>Записи с невозможным временем, здесь не учтены: %1.</translation></message>
+    <message id="rec_603"><translation>записи с невозможным временем, здесь не учтены: %1</translation></message>
     <message id="rec_650"><translation>%1, а не «%2»: число вводится без единицы измерения</translation></message>
     <message id="rec_651"><translation>Без координат, поэтому не в файле: %1.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>

@@ -159,6 +159,7 @@ private Q_SLOTS:
             .row("no value", "Temp1 < 100", "2")
             .row("no number", "Run > 0 or Run <= 0", "3")
             .row("times", "Time = 14.11.2023", "0 3")
+            .row("no time", "Time < 1.1.2020 or Time != 14.11.2023", "1")
             .row("a bit or a number", "IN2 = 1 or NumPage = 1", "0 2");
     }
     void passes()

@@ -371,6 +371,19 @@ private Q_SLOTS:
         }
     }
 
+    // Of a time that cannot be right a line tells, and leads to it.
+    void strayedTime()
+    {
+        show(drive());
+        const QString path = folder_.filePath("telemetry.xml");
+        QByteArray content = readFile(path);
+        content[content.indexOf("<Time>", content.indexOf("<NumPage>1003<")) + 6] = '3';
+        open(writeFile(path, content));
+        QCOMPARE(text("label_Damage"), QString("rec_601"));
+        ScriptedHost::child<QAbstractButton>(window, "label_Damage_Action1")->click();
+        QCOMPARE(table_->currentIndex().row(), 3);
+    }
+
     // The division between curves and table is the user's, whatever size the window takes, and is written
     // down.
     void keepsHowTheWindowIsDivided_data()

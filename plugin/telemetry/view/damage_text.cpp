@@ -99,6 +99,17 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
     });
 }
 
+void tellStrayed(NoticeBar* bar, const std::vector<int>& records, const std::function<void(int record)>& goTo)
+{
+    if (records.empty())
+        return bar->end(kStrayed);
+    bar->tell(kStrayed, [goTo, first = records.front(), count = std::ssize(records)] {
+        return Notice{Mark::advice,
+                      translated("rec_601").arg(number(count)),
+                      {{translated("tmiw_200"), [goTo, first] { goTo(first); }}}};
+    });
+}
+
 void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions)
 {
     if (contents.damages.empty()) {

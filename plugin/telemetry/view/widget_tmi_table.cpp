@@ -267,6 +267,7 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
                 [this] { opening_->start(path_, TelemetryReading::salvage); }});
     tellPart(notices_, *contents, [this](int record) { shown_->setCurrent(record); });
     shown_->setContents(contents);
+    tellStrayed(notices_, shown_->strayed(), [this](int record) { shown_->setCurrent(record); });
 }
 
 void VLK_Widget_Tmi_Table::takeColumns()
