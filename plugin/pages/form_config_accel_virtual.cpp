@@ -131,7 +131,7 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
     age_.retranslate();
     int width = 0;
     for (const Sensor& sensor : sensors_)
-        width = qMax(width, sensor.level->sizeHint().width());
+        width = std::max(width, sensor.level->sizeHint().width());
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         const Sensor& sensor = sensors_[i];
         const QString name = QStringLiteral("%1 %2").arg(

@@ -12,6 +12,7 @@
 #include <QtWidgets>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -205,9 +206,10 @@ private Q_SLOTS:
                 for (int tab = 0; tab < tabs_->count(); ++tab) {
                     tabs_->setCurrentIndex(tab);
                     settle();
-                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name)))
+                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name))) {
                         if (found->isVisible())
                             return found;
+                    }
                 }
                 qFatal("nowhere");
             };
@@ -427,8 +429,8 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     workbench::HouseStyle::setUp();
-    ConfigLooksTest test;
-    return QTest::qExec(&test, argc, argv);
+    const auto test = std::make_unique<ConfigLooksTest>();
+    return QTest::qExec(test.get(), argc, argv);
 }
 
 #include "tst_config_looks.moc"

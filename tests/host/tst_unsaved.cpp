@@ -13,6 +13,7 @@
 #include <QtWidgets>
 
 #include <cstdio>
+#include <memory>
 #include <random>
 
 using vlk::Message;
@@ -590,8 +591,8 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     if (qEnvironmentVariableIsSet(kFolder))
         return editUntilKilled(qEnvironmentVariable(kFolder));
-    UnsavedTest test;
-    return QTest::qExec(&test, argc, argv);
+    const auto test = std::make_unique<UnsavedTest>();
+    return QTest::qExec(test.get(), argc, argv);
 }
 
 #include "tst_unsaved.moc"

@@ -163,10 +163,12 @@ private Q_SLOTS:
             const QImage drawn = tree->findChild<QWidget*>("marks_treeWidget_ListApn")
                                      ->grab({corner, QSize(vlk::kMarkSize, vlk::kMarkSize)})
                                      .toImage();
-            for (int x = 0; x < drawn.width(); ++x)
-                for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x) {
+                for (int y = 0; y < drawn.height(); ++y) {
                     if (drawn.pixelColor(x, y) == vlk::markColor(mark, tree->palette()))
                         return true;
+                }
+            }
             return false;
         };
         QCOMPARE(told(0) + told(2), QString());

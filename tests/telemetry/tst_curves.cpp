@@ -12,8 +12,8 @@
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/shown/work_progress.h"
 #include "telemetry/track/track_view.h"
-#include "telemetry/view/work_progress.h"
 #include "typing/notice_bar.h"
 
 #include <QPrintDialog>

@@ -380,9 +380,10 @@ private Q_SLOTS:
         summary.show();
         const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
         const auto value = [model](const char* key) {
-            for (int i = 0; i < model->rowCount(); ++i)
+            for (int i = 0; i < model->rowCount(); ++i) {
                 if (model->index(i, 0).data() == QLatin1String(key))
                     return model->index(i, 1).data().toString();
+            }
             return QString();
         };
         QCOMPARE(value("Standing, h:min"), QString("0:39"));

@@ -71,9 +71,10 @@ private Q_SLOTS:
         type("lineEdit_Filter", "NumPage < 1003");
         pressInFilter(Qt::Key_Return);
         QCOMPARE(this->numbers().size(), 3);
-        for (auto* button : child<QLineEdit>("lineEdit_Filter")->findChildren<QToolButton*>())
+        for (auto* button : child<QLineEdit>("lineEdit_Filter")->findChildren<QToolButton*>()) {
             if (button->defaultAction()->objectName() == "_q_qlineeditclearaction")
                 button->click();
+        }
         QTRY_COMPARE(this->numbers().size(), 40);
     }
 

@@ -7,10 +7,10 @@
 #include "telemetry/files/rare_events.h"
 #include "telemetry/files/stops.h"
 #include "telemetry/files/track_points.h"
+#include "telemetry/shown/shown_records.h"
 #include "telemetry/track/track_path.h"
 #include "telemetry/track/track_view.h"
 #include "telemetry/track/value_classes.h"
-#include "telemetry/view/shown_records.h"
 
 #include <QtTest>
 #include <QtWidgets>

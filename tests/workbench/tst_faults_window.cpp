@@ -10,9 +10,10 @@ namespace {
 
 QWidget* visibleFaults()
 {
-    for (QWidget* window : QApplication::topLevelWidgets())
+    for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->objectName() == QLatin1String("dialog_Faults"))
             return window;
+    }
     return nullptr;
 }
 
@@ -157,10 +158,11 @@ private Q_SLOTS:
         QTRY_VERIFY(configuration.isActiveWindow());
         QTest::keyClick(&configuration, Qt::Key_F9);
         QVERIFY(visibleFaults());
-        for (const QPushButton* button : configuration.findChildren<QPushButton*>())
+        for (const QPushButton* button : configuration.findChildren<QPushButton*>()) {
             if (button->window() == &configuration)
                 QVERIFY(
                     !visibleFaults()->geometry().intersects({button->mapToGlobal(QPoint()), button->size()}));
+        }
     }
 
     // What is no question to the tracker does not bring them up, nor does what came up after it.

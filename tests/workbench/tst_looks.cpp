@@ -16,9 +16,10 @@ namespace {
 
 QWidget* windowOf(const char* name)
 {
-    for (QWidget* candidate : QApplication::topLevelWidgets())
+    for (QWidget* candidate : QApplication::topLevelWidgets()) {
         if (qstrcmp(candidate->metaObject()->className(), name) == 0 && candidate->isVisible())
             return candidate;
+    }
     return nullptr;
 }
 
@@ -68,18 +69,21 @@ QString sharedLetters(const QWidget* window, const QStringList& more = {})
     QStringList shared;
     const auto look = [&shared](const QStringList& texts) {
         QMap<QString, QStringList> byLetter;
-        for (const QString& text : texts)
+        for (const QString& text : texts) {
             if (const QKeySequence letter = QKeySequence::mnemonic(text); !letter.isEmpty())
                 byLetter[letter.toString()] << text;
-        for (const QStringList& same : byLetter)
+        }
+        for (const QStringList& same : byLetter) {
             if (same.size() > 1)
                 shared << same.join(" = ");
+        }
     };
     const auto wordsOf = [](const QList<QAction*>& actions) {
         QStringList words;
-        for (const QAction* action : actions)
+        for (const QAction* action : actions) {
             if (action->isVisible())
                 words << action->text();
+        }
         return words;
     };
     QStringList texts = more;
@@ -136,10 +140,11 @@ private Q_SLOTS:
     void nothingIsCut_data()
     {
         DataTable<QString, QSize> table({"language", "size"});
-        for (const char* language : {"ru", "en"})
+        for (const char* language : {"ru", "en"}) {
             for (const QSize size : {QSize(960, 460), QSize(1016, 564)})
                 table.row(qPrintable(QStringLiteral("%1 %2").arg(language).arg(size.width())), language,
                           size);
+        }
     }
     void nothingIsCut()
     {
@@ -158,7 +163,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             if (window->width() > size.width() || window->height() > size.height())
                 return QStringLiteral("it is larger than the screen");
-            for (auto* tabs : window->findChildren<QTabWidget*>())
+            for (auto* tabs : window->findChildren<QTabWidget*>()) {
                 for (int i = 0; i < tabs->count(); ++i) {
                     tabs->setCurrentIndex(i);
                     QCoreApplication::processEvents();
@@ -166,6 +171,7 @@ private Q_SLOTS:
                     if (!cut.isEmpty())
                         return tabs->tabText(i) + ": " + cut;
                 }
+            }
             return cutIn(window);
         };
         QCOMPARE(look(&bench.window), QString());

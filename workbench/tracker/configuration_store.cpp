@@ -118,9 +118,10 @@ void compare(const ConfigurationValues& before, const ConfigurationValues& after
         else if (change.before != change.after)
             report.changed.append(change);
     }
-    for (const QString& path : before.paths())
+    for (const QString& path : before.paths()) {
         if (!after.contains(path))
             report.removed.append({path, before.text(path), {}});
+    }
     // The order of a document's attributes is not kept when sections are added to it.
     for (auto* changes : {&report.changed, &report.added, &report.removed})
         std::ranges::sort(*changes, {}, &KeyChange::path);

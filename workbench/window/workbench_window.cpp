@@ -481,11 +481,12 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    for (const QUrl& url : event->mimeData()->urls())
+    for (const QUrl& url : event->mimeData()->urls()) {
         if (url.isLocalFile()) {
             openFile(url.toLocalFile());
             return;
         }
+    }
 }
 
 } // namespace workbench

@@ -5,7 +5,7 @@
 
 #include "telemetry/curves/extreme_pyramid.h"
 #include "telemetry/files/record_gaps.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QPolygonF>
 

@@ -5,7 +5,7 @@
 #include "telemetry/files/rare_events.h"
 #include "telemetry/files/raw_values.h"
 #include "telemetry/files/stops.h"
-#include "telemetry/view/absent_value.h"
+#include "telemetry/shown/absent_value.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "telemetry/curves/time_scale.h"
 
 #include "base/translated.h"
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 
 #include <algorithm>
 #include <cmath>

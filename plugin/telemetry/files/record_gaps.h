@@ -5,6 +5,8 @@
 
 #include "telemetry/files/record_columns.h"
 
+#include <cstdlib>
+
 namespace vlk {
 
 // Records further apart in time do not belong to one run of records.
@@ -12,7 +14,7 @@ inline constexpr qint64 kGapSeconds = qint64{5} * 60;
 
 inline bool areFarApart(quint32 time, quint32 other)
 {
-    return qAbs(qint64{other} - time) > kGapSeconds;
+    return std::abs(qint64{other} - time) > kGapSeconds;
 }
 
 // For as long as the store does not grow.

@@ -107,8 +107,8 @@ void TrackPath::setMiddle()
 {
     if (isEmpty())
         return;
-    const auto [south, north] = std::ranges::minmax(places_, {}, &QPointF::y);
-    middleLatitude_ = (south.y() + north.y()) / 2;
+    const auto [south, north] = std::ranges::minmax_element(places_, {}, &QPointF::y);
+    middleLatitude_ = (south->y() + north->y()) / 2;
     middleLongitude_ = places_.front().x();
     metresPerDegreeEast_ =
         kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);

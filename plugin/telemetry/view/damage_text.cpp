@@ -1,7 +1,7 @@
 #include "telemetry/view/damage_text.h"
 
 #include "base/translated.h"
-#include "telemetry/view/records_notices.h"
+#include "telemetry/shown/records_notices.h"
 #include "typing/notice_bar.h"
 
 #include <QLocale>

@@ -2,11 +2,11 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/shown/records_notices.h"
+#include "telemetry/shown/shown_records.h"
 #include "telemetry/view/records_export.h"
 #include "telemetry/view/records_model.h"
-#include "telemetry/view/records_notices.h"
 #include "telemetry/view/records_table.h"
-#include "telemetry/view/shown_records.h"
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
 

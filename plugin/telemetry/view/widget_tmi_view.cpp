@@ -4,8 +4,8 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/shown/absent_value.h"
 #include "telemetry/text/key_text.h"
-#include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "typing/area_keys.h"

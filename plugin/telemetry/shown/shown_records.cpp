@@ -1,4 +1,4 @@
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include "base/clock.h"
 #include "telemetry/files/title_lines.h"

@@ -7,7 +7,7 @@
 
 #include "telemetry/files/record_columns.h"
 #include "telemetry/files/telemetry_contents.h"
-#include "telemetry/view/step_queue.h"
+#include "telemetry/shown/step_queue.h"
 
 #include <QObject>
 
