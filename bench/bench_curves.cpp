@@ -5,8 +5,8 @@
 #include "bench/settle.h"
 #include "bench/side_by_side.h"
 #include "telemetry/curves/curves_view.h"
+#include "telemetry/shown/shown_records.h"
 #include "telemetry/track/track_view.h"
-#include "telemetry/view/shown_records.h"
 #include "tests/support/truck_records.h"
 
 #include <QComboBox>

@@ -1016,6 +1016,8 @@
     <message id="cfgt6_451"><translation>since %1</translation></message>
     <message id="cfgt6_452"><translation>Not available with "%1"</translation></message>
     <message id="cfgt6_460"><translation>Added while the reading still changed. Measure again when the level has settled.</translation></message>
+    <message id="cfgt6_480"><translation>They are kept: the next opening of this window offers to bring them back.</translation></message>
+    <message id="cfgt6_481"><translation>paused until you are back</translation></message>
     <message id="cfgt7_001"><translation>Temperature sensors</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1370,7 +1372,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= or &gt;=</translation></message>
     <message id="rec_102"><translation>a number</translation></message>
     <message id="rec_103"><translation>a number, or a word in quotes</translation></message>
-    <message id="rec_104"><translation>a time such as 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>a time with its year, such as 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>&quot;and&quot;, &quot;or&quot; or the end</translation></message>
     <message id="rec_106"><translation>a closing bracket</translation></message>
     <message id="rec_107"><translation>a closing quotation mark</translation></message>
@@ -1504,6 +1506,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_333"><translation>this call does not write .%1; what does: %2</translation></message>
     <message id="cli_340"><translation>%1: none holds %2</translation></message>
     <message id="cli_345"><translation>the calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen</translation></message>
+    <message id="cli_360"><translation>part of a period: in front of the last record %1 are missing, between No.&#160;%2 and No.&#160;%3</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>
@@ -1700,8 +1703,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
     <message id="rec_410"><translation>first to last chosen row</translation></message>
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
-    <message id="rec_412"><translation>States without room: %1</translation></message>
-    <message id="rec_413"><translation>Fewer states</translation></message>
+    <message id="rec_412"><translation>Rows without room: %1</translation></message>
+    <message id="rec_413"><translation>Fewer rows</translation></message>
     <message id="rec_414"><translation>Type the calibration table: %1…</translation></message>
     <message id="rec_415"><translation>%1 has no calibration table, and without one there are no litres. If there is no file of it, type it: the menu of sensors has a line for that.</translation></message>
     <message id="rec_416"><translation>Save and use</translation></message>
@@ -1732,7 +1735,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_543"><translation>Records that came from the tracker since: %1. The file does not hold them.</translation></message>
     <message id="rec_544"><translation>Not read in between: %1.</translation></message>
     <message id="rec_545"><translation>The tracker is detached: no more come.</translation></message>
-    <message id="rec_570"><translation>The calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_570"><translation>The calibration table of %1 has one reading for several volumes (%2): the middle is taken, what happens between them goes unseen.</translation></message>
+    <message id="rec_600"><translation>By their numbers %1 are missing.</translation></message>
+    <message id="rec_601"><translation>Records with a time that cannot be right, left out of curves, fuel and summary: %1.</translation></message>
+    <message id="rec_602"><translation>Records with a time that cannot be right, left out here: %1.</translation></message>
+    <message id="rec_603"><translation>records with a time that cannot be right, left out here: %1</translation></message>
+    <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
+    <message id="rec_651"><translation>Without a place and therefore not in the file: %1.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
@@ -1750,7 +1759,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_257"><translation>Differences from what was written (%1)</translation></message>
     <message id="rev_258"><translation>To show it, set: %1</translation></message>
     <message id="rev_259"><translation>In full setup only</translation></message>
-    <message id="rev_260"><translation>Unsaved changes: %1. They are offered when this is opened again: %2.</translation></message>
+    <message id="rev_260"><translation>Unsaved changes: %1 (%2). Open it again to bring back what was edited.</translation></message>
     <message id="rev_270"><translation>Compare with another file</translation></message>
     <message id="rev_271"><translation>Apply a preset</translation></message>
     <message id="rev_272"><translation>Pushed by</translation></message>
@@ -1781,11 +1790,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_350"><translation>Unsaved changes of this configuration are damaged and cannot be brought back. What is left of them: %1</translation></message>
     <message id="rev_351"><translation>Changed here and not written to the tracker: %1</translation></message>
     <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
+    <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
+    <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
-    <message id="rev_330"><translation>Unsaved changes: %1. They are offered when a new configuration is begun again.</translation></message>
+    <message id="rev_330"><translation>Unsaved changes: %1 (new configuration). Open a new one to bring back what was edited.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>
     <message id="tmiex_002"><translation>Receiver</translation></message>
@@ -2051,7 +2062,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_183"><translation>No record at this position: numbers are missing in the file. The record shown is the one opened before.</translation></message>
     <message id="tmiw_184"><translation>To the beginning of the file</translation></message>
     <message id="tmiw_185"><translation>To the end of the file</translation></message>
-    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3. File: %4</translation></message>
+    <message id="tmiw_186"><translation>Saved in part: %1 of %2 records, until %3, and the last of the period. File: %4</translation></message>
     <message id="tmiw_187"><translation>%1 cannot be written: %2. Choose another name or another folder.</translation></message>
     <message id="tmiw_188"><translation>Whole records: %1.</translation></message>
     <message id="tmiw_189"><translation>Whole records: %1, the file should hold %2.</translation></message>
@@ -2097,7 +2108,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_301"><translation>The column of the file is &quot;%1&quot;, that of %2 is &quot;%3&quot;. Check whether it is the right file.</translation></message>
     <message id="tmiw_302"><translation>The save was cancelled. It ends with the next record from the tracker.</translation></message>
     <message id="tmiw_303"><translation>End it now</translation></message>
-    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come.</translation></message>
+    <message id="tmiw_310"><translation>A period is being saved, %1 of %2 records have come. End the save? The file then gets the records that have come, and the last of the period.</translation></message>
     <message id="tmiw_311"><translation>End the save</translation></message>
     <message id="tmiw_312"><translation>Go on saving</translation></message>
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
@@ -2629,7 +2640,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_folders"><translation>Data folders</translation></message>
     <message id="wb_folders_menu"><translation>&amp;Data folders…</translation></message>
     <message id="wb_folders_use"><translation>Use these folders</translation></message>
-    <message id="wb_full_data_set"><translation>&amp;Every field in records</translation></message>
+    <message id="wb_full_data_set"><translation>E&amp;very field in records</translation></message>
     <message id="wb_help"><translation>Help</translation></message>
     <message id="wb_help_back"><translation>Back</translation></message>
     <message id="wb_help_contents"><translation>Contents</translation></message>
@@ -2643,9 +2654,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_against"><translation>against</translation></message>
     <message id="wb_history_alone"><translation>There is nothing to compare it with.</translation></message>
     <message id="wb_history_always"><translation>always</translation></message>
-    <message id="wb_history_bring"><translation>Bring back…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Bring chosen back…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Bring chosen back from No.&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Bring back…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Bring &amp;chosen back…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Bring &amp;chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
@@ -2657,7 +2668,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_list"><translation>Backups</translation></message>
     <message id="wb_history_menu"><translation>&amp;History…</translation></message>
     <message id="wb_history_none"><translation>There are no backups yet: one is made before every write.</translation></message>
-    <message id="wb_history_note"><translation>Note…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Note…</translation></message>
     <message id="wb_history_note_failed"><translation>The note was not saved. Make room on the disk and try again.</translation></message>
     <message id="wb_history_note_head"><translation>Note</translation></message>
     <message id="wb_history_note_label"><translation>Note on the backup</translation></message>
@@ -2775,7 +2786,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_read_failed"><translation>The configuration was not read from the tracker.</translation></message>
     <message id="wb_read_short"><translation>Read</translation></message>
     <message id="wb_ready"><translation>Ready</translation></message>
-    <message id="wb_recent"><translation>&amp;Recent files</translation></message>
+    <message id="wb_recent"><translation>R&amp;ecent files</translation></message>
     <message id="wb_recent_none"><translation>No file has been opened yet.</translation></message>
     <message id="wb_record_version"><translation>The tracker sends records of %1, and the telemetry window shows those of ZETA 3.0 alone: choose ZETA 3.0 on the tab "Data set" and write the configuration.</translation></message>
     <message id="wb_refused_detached"><translation>The tracker is not attached.</translation></message>
@@ -2789,10 +2800,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_refused_silence"><translation>The tracker does not answer.</translation></message>
     <message id="wb_refused_unplugged"><translation>The tracker was unplugged during the write and keeps what it had.</translation></message>
     <message id="wb_refused_unsaved"><translation>The file for the tracker cannot be saved, so nothing was sent.</translation></message>
-    <message id="wb_report_again"><translation>Try again</translation></message>
+    <message id="wb_report_again"><translation>Tr&amp;y again</translation></message>
     <message id="wb_report_back"><translation>Read back</translation></message>
     <message id="wb_report_backup"><translation>Backup No.&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Bring back No.&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Bring back No.&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Backup No.&#160;%1 was brought back.</translation></message>
     <message id="wb_report_brought_chosen"><translation>The chosen settings of backup No.&#160;%1 were brought back.</translation></message>
     <message id="wb_report_brought_previous"><translation>The previous configuration, which the tracker had kept, was brought back.</translation></message>
@@ -2811,7 +2822,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
-    <message id="wb_report_other"><translation>Report of %1</translation></message>
+    <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>
@@ -2860,7 +2871,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
-    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4.</translation></message>
+    <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile, so its telemetry window was closed.</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
@@ -2873,7 +2884,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_start_attached"><translation>%1 %2 is attached</translation></message>
     <message id="wb_start_detached"><translation>No tracker is attached</translation></message>
     <message id="wb_start_look"><translation>Look at the simulated tracker</translation></message>
-    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a moving vehicle opens</translation></message>
+    <message id="wb_start_look_line"><translation>no hardware needed: telemetry of a vehicle opens</translation></message>
     <message id="wb_start_open"><translation>Open a file</translation></message>
     <message id="wb_start_open_line"><translation>or drop it on this window</translation></message>
     <message id="wb_start_read"><translation>Read from tracker</translation></message>
@@ -2917,6 +2928,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_told_retyped"><translation>%1: what was told of this setting holds no longer.</translation></message>
     <message id="wb_told_unreadable"><translation>%1 was not read: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Unsaved changes cannot be kept: %1 was not written: %2.</translation></message>
+    <message id="wb_told_written"><translation>The unsaved changes are in the tracker now.</translation></message>
     <message id="wb_toolbar"><translation>Tool bar</translation></message>
     <message id="wb_tracker_filter"><translation>Filter: key, value</translation></message>
     <message id="wb_tracker_keys"><translation>Configuration in the tracker</translation></message>

@@ -1016,6 +1016,8 @@
     <message id="cfgt6_451"><translation>с %1</translation></message>
     <message id="cfgt6_452"><translation>Недоступно при «%1»</translation></message>
     <message id="cfgt6_460"><translation>Добавлено, пока показание ещё менялось. Измерьте снова, когда уровень установится.</translation></message>
+    <message id="cfgt6_480"><translation>Они останутся: при следующем открытии этого окна их можно будет вернуть.</translation></message>
+    <message id="cfgt6_481"><translation>пауза до возврата сюда</translation></message>
     <message id="cfgt7_001"><translation>Датчики температуры</translation></message>
     <message id="cfgt7_002"><translation>Min</translation></message>
     <message id="cfgt7_003"><translation>Max</translation></message>
@@ -1370,7 +1372,7 @@
     <message id="rec_101"><translation>=, !=, &lt;, &gt;, &lt;= или &gt;=</translation></message>
     <message id="rec_102"><translation>число</translation></message>
     <message id="rec_103"><translation>число или слово в кавычках</translation></message>
-    <message id="rec_104"><translation>время в виде 20.11.2026 08:29</translation></message>
+    <message id="rec_104"><translation>время с годом в виде 20.11.2026 08:29</translation></message>
     <message id="rec_105"><translation>«и», «или» либо конец</translation></message>
     <message id="rec_106"><translation>закрывающая скобка</translation></message>
     <message id="rec_107"><translation>закрывающая кавычка</translation></message>
@@ -1504,6 +1506,7 @@
     <message id="cli_333"><translation>такая команда не пишет .%1; пишет: %2</translation></message>
     <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
     <message id="cli_345"><translation>в тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны</translation></message>
+    <message id="cli_360"><translation>часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3)</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>
@@ -1700,8 +1703,8 @@
     <message id="rec_400"><translation>%1 %2&#160;л ниже шума уровня, %3&#160;л: возможны ложные.</translation></message>
     <message id="rec_410"><translation>от первой до последней выбранной строки</translation></message>
     <message id="rec_411"><translation>Выберите в таблице несколько строк: стрелками с Shift или мышью.</translation></message>
-    <message id="rec_412"><translation>Не поместилось состояний: %1</translation></message>
-    <message id="rec_413"><translation>Меньше состояний</translation></message>
+    <message id="rec_412"><translation>Не поместилось строк: %1</translation></message>
+    <message id="rec_413"><translation>Меньше строк</translation></message>
     <message id="rec_414"><translation>Ввести тарировочную таблицу: %1…</translation></message>
     <message id="rec_415"><translation>Нет тарировочной таблицы: %1. Без неё нет литров. Если нет файла, введите её: в меню датчиков есть для этого строка.</translation></message>
     <message id="rec_416"><translation>Сохранить и применить</translation></message>
@@ -1732,7 +1735,13 @@
     <message id="rec_543"><translation>С тех пор с трекера пришло записей: %1; в файле их нет.</translation></message>
     <message id="rec_544"><translation>Между ними не прочитано: %1.</translation></message>
     <message id="rec_545"><translation>Трекер отключён, новых не будет.</translation></message>
-    <message id="rec_570"><translation>В тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_570"><translation>В тарировочной таблице %1 одно показание для разных объёмов (%2): взята середина, изменения между ними не видны.</translation></message>
+    <message id="rec_600"><translation>По номерам пропущено: %1.</translation></message>
+    <message id="rec_601"><translation>Записи с невозможным временем, не учтены в графиках, топливе и сводке: %1.</translation></message>
+    <message id="rec_602"><translation>Записи с невозможным временем, здесь не учтены: %1.</translation></message>
+    <message id="rec_603"><translation>записи с невозможным временем, здесь не учтены: %1</translation></message>
+    <message id="rec_650"><translation>%1, а не «%2»: число вводится без единицы измерения</translation></message>
+    <message id="rec_651"><translation>Без координат, поэтому не в файле: %1.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
@@ -1750,7 +1759,7 @@
     <message id="rev_257"><translation>Отличия от записанного (%1)</translation></message>
     <message id="rev_258"><translation>Чтобы показать, задайте: %1</translation></message>
     <message id="rev_259"><translation>Только в полной настройке</translation></message>
-    <message id="rev_260"><translation>Несохранённые изменения: %1. Их предложат, когда снова откроют: %2.</translation></message>
+    <message id="rev_260"><translation>Несохранённые изменения: %1 (%2). Откройте снова, чтобы вернуть.</translation></message>
     <message id="rev_270"><translation>Сравнение с другим файлом</translation></message>
     <message id="rev_271"><translation>Применение шаблона</translation></message>
     <message id="rev_272"><translation>Сдвинуто параметром</translation></message>
@@ -1781,11 +1790,13 @@
     <message id="rev_350"><translation>Несохранённые изменения этой конфигурации повреждены, вернуть их нельзя. Что от них осталось: %1</translation></message>
     <message id="rev_351"><translation>Изменено здесь и не записано в трекер: %1</translation></message>
     <message id="rev_352"><translation>Изменено здесь после открытия конфигурации: %1</translation></message>
+    <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
+    <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
-    <message id="rev_330"><translation>Несохранённые изменения: %1. Их предложат, когда снова начнут новую конфигурацию.</translation></message>
+    <message id="rev_330"><translation>Несохранённые изменения: %1 (новая конфигурация). Откройте новую, чтобы вернуть.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>
     <message id="tmiex_002"><translation>Приёмник</translation></message>
@@ -2051,7 +2062,7 @@
     <message id="tmiw_183"><translation>На этой позиции нет записи: в файле пропущены номера. Показана запись, открытая до этого.</translation></message>
     <message id="tmiw_184"><translation>В начало файла</translation></message>
     <message id="tmiw_185"><translation>В конец файла</translation></message>
-    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3. Файл: %4</translation></message>
+    <message id="tmiw_186"><translation>Сохранено не целиком: записей %1 из %2, до %3, и последняя запись периода. Файл: %4</translation></message>
     <message id="tmiw_187"><translation>Файл %1 записать нельзя: %2. Выберите другое имя или другую папку.</translation></message>
     <message id="tmiw_188"><translation>Целых записей: %1.</translation></message>
     <message id="tmiw_189"><translation>Целых записей: %1, в файле должно быть %2.</translation></message>
@@ -2097,7 +2108,7 @@
     <message id="tmiw_301"><translation>Столбец файла — «%1», а столбец %2 — «%3». Проверьте, тот ли это файл.</translation></message>
     <message id="tmiw_302"><translation>Сохранение отменено. Оно закончится со следующей записью от трекера.</translation></message>
     <message id="tmiw_303"><translation>Закончить сейчас</translation></message>
-    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи.</translation></message>
+    <message id="tmiw_310"><translation>Период сохраняется, получено записей: %1 из %2. Закончить сохранение? В файл тогда попадут только полученные записи и последняя запись периода.</translation></message>
     <message id="tmiw_311"><translation>Закончить сохранение</translation></message>
     <message id="tmiw_312"><translation>Продолжить</translation></message>
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
@@ -2643,9 +2654,9 @@
     <message id="wb_history_against"><translation>и</translation></message>
     <message id="wb_history_alone"><translation>Сравнивать не с чем.</translation></message>
     <message id="wb_history_always"><translation>всегда</translation></message>
-    <message id="wb_history_bring"><translation>Вернуть…</translation></message>
-    <message id="wb_history_bring_chosen"><translation>Вернуть отмеченные…</translation></message>
-    <message id="wb_history_bring_chosen_of"><translation>Вернуть отмеченные из №&#160;%1…</translation></message>
+    <message id="wb_history_bring"><translation>&amp;Вернуть…</translation></message>
+    <message id="wb_history_bring_chosen"><translation>Вернуть &amp;отмеченные…</translation></message>
+    <message id="wb_history_bring_chosen_of"><translation>Вернуть &amp;отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
@@ -2657,7 +2668,7 @@
     <message id="wb_history_list"><translation>Резервные копии</translation></message>
     <message id="wb_history_menu"><translation>Ис&amp;тория…</translation></message>
     <message id="wb_history_none"><translation>Резервных копий ещё нет: они появляются перед каждой записью.</translation></message>
-    <message id="wb_history_note"><translation>Заметка…</translation></message>
+    <message id="wb_history_note"><translation>&amp;Заметка…</translation></message>
     <message id="wb_history_note_failed"><translation>Заметка не сохранена. Освободите место на диске и повторите.</translation></message>
     <message id="wb_history_note_head"><translation>Заметка</translation></message>
     <message id="wb_history_note_label"><translation>Заметка к резервной копии</translation></message>
@@ -2789,10 +2800,10 @@
     <message id="wb_refused_silence"><translation>Трекер не отвечает.</translation></message>
     <message id="wb_refused_unplugged"><translation>Трекер отключился во время записи, в нём осталось прежнее.</translation></message>
     <message id="wb_refused_unsaved"><translation>Файл для трекера не сохранён, поэтому ничего не отправлено.</translation></message>
-    <message id="wb_report_again"><translation>Повторить</translation></message>
+    <message id="wb_report_again"><translation>&amp;Повторить</translation></message>
     <message id="wb_report_back"><translation>Прочитано</translation></message>
     <message id="wb_report_backup"><translation>Резервная копия №&#160;%1</translation></message>
-    <message id="wb_report_bring_back"><translation>Вернуть №&#160;%1…</translation></message>
+    <message id="wb_report_bring_back"><translation>&amp;Вернуть №&#160;%1…</translation></message>
     <message id="wb_report_brought"><translation>Возвращена резервная копия №&#160;%1.</translation></message>
     <message id="wb_report_brought_chosen"><translation>Возвращены отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_report_brought_previous"><translation>Возвращена предыдущая конфигурация, которую хранил трекер.</translation></message>
@@ -2811,7 +2822,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
-    <message id="wb_report_other"><translation>Отчёт за %1</translation></message>
+    <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>
@@ -2860,7 +2871,7 @@
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
-    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4.</translation></message>
+    <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
@@ -2873,7 +2884,7 @@
     <message id="wb_start_attached"><translation>Подключён %1 %2</translation></message>
     <message id="wb_start_detached"><translation>Трекер не подключён</translation></message>
     <message id="wb_start_look"><translation>Посмотреть на имитатор трекера</translation></message>
-    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия движущейся машины</translation></message>
+    <message id="wb_start_look_line"><translation>оборудование не нужно: откроется телеметрия машины</translation></message>
     <message id="wb_start_open"><translation>Открыть файл</translation></message>
     <message id="wb_start_open_line"><translation>или перетащите его в это окно</translation></message>
     <message id="wb_start_read"><translation>Прочитать из трекера</translation></message>
@@ -2917,6 +2928,7 @@
     <message id="wb_told_retyped"><translation>%1: сказанное об этом параметре больше не верно.</translation></message>
     <message id="wb_told_unreadable"><translation>Файл %1 не прочитан: %2.</translation></message>
     <message id="wb_told_unsaved"><translation>Несохранённые изменения не удаётся держать на диске: файл %1 не записан: %2.</translation></message>
+    <message id="wb_told_written"><translation>Несохранённые изменения теперь в трекере.</translation></message>
     <message id="wb_toolbar"><translation>Панель инструментов</translation></message>
     <message id="wb_tracker_filter"><translation>Фильтр: ключ, значение</translation></message>
     <message id="wb_tracker_keys"><translation>Конфигурация в трекере</translation></message>

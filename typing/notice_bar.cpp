@@ -2,6 +2,7 @@
 
 #include "typing/area_keys.h"
 #include "typing/line_icon.h"
+#include "typing/two_line_label.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -28,17 +29,16 @@ constexpr int kRim = 1; // above and below, with a frame if there is one
 constexpr int kGap = 8;
 constexpr double kTint = 0.12;
 constexpr int kNewsMs = 8000;
+constexpr int kReactionMs = 300; // a click by then was meant for the notice before
 
 } // namespace
 
 NoticeBar::NoticeBar(QWidget* parent, const QString& name)
-    : QFrame(parent), text_(new QLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
+    : QFrame(parent), text_(new TwoLineLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
       close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     text_->setObjectName(name);
-    text_->setWordWrap(true);
-    text_->setTextFormat(Qt::PlainText);
     place_->setObjectName(QStringLiteral("label_NoticePlace"));
     close_->setObjectName(name + QStringLiteral("_Close"));
     close_->setAutoRaise(true);
@@ -69,19 +69,20 @@ void NoticeBar::keepPlace(bool keeps)
     if (keeps == (keptHeight_ > 0))
         return;
     keptHeight_ = 0;
-    if (keeps) {
-        // As the label measures two lines, which is more than the font says.
-        const QString told = text_->text();
-        text_->setText(QStringLiteral("x x"));
-        keptHeight_ = std::max(kHeight, text_->heightForWidth(1) + 2 * kRim);
-        text_->setText(told);
-    }
+    if (keeps)
+        keptHeight_ = std::max(kHeight, text_->twoLines() + 2 * kRim);
+    text_->setLimited(keeps);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(keeps);
     setSizePolicy(policy);
     setMaximumHeight(QWIDGETSIZE_MAX);
     claimHeight();
     setVisible(isTelling() || roomBelow_ > 0);
+}
+
+void NoticeBar::keepToTwoLines()
+{
+    text_->setLimited(true);
 }
 
 // A layout that asks what height goes with a width asks all its widgets, and a scroll area then takes what
@@ -114,8 +115,11 @@ void NoticeBar::claimHeight()
         setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
     }
     const bool isCovered = keepsPlace && isOnShow && wanted > 0;
-    if (std::exchange(isCovered_, isCovered) != isCovered)
-        Q_EMIT coverChanged();
+    if (std::exchange(isCovered_, isCovered) == isCovered)
+        return;
+    if (!isCovered && isOnShow)
+        replaced_.start();
+    Q_EMIT coverChanged();
 }
 
 void NoticeBar::setBehind(int count)
@@ -167,6 +171,8 @@ void NoticeBar::closeShown()
         return;
     const int number = told->number;
     end(number);
+    // The user has seen this one come.
+    replaced_.invalidate();
     Q_EMIT closed(number);
 }
 
@@ -196,7 +202,9 @@ bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
             button->click();
         return isEnter;
     }
-    return event->type() == QEvent::MouseButtonDblClick;
+    const bool isLate = replaced_.isValid() && !replaced_.hasExpired(kReactionMs);
+    return event->type() == QEvent::MouseButtonDblClick ||
+           (event->type() == QEvent::MouseButtonPress && isLate);
 }
 
 void NoticeBar::put(Told told)
@@ -288,6 +296,9 @@ void NoticeBar::refresh()
         delete item;
     }
     const Told* shown = worst();
+    if (shown && onShow_ && onShow_ != shown->number)
+        replaced_.start();
+    onShow_ = shown ? std::optional(shown->number) : std::nullopt;
     if (!shown) {
         if (hadFocus && before_)
             before_->setFocus();
@@ -297,7 +308,7 @@ void NoticeBar::refresh()
         setVisible(roomBelow_ > 0);
         return;
     }
-    QWidget* before = place_; // in the order of Tab, in front of the cross
+    QWidget* before = close_; // in the order of Tab
     for (const Notice::Action& action : shown->notice.actions) {
         auto* button = new QPushButton(action.text, this);
         button->setObjectName(
@@ -310,6 +321,8 @@ void NoticeBar::refresh()
         setTabOrder(std::exchange(before, button), button);
         button->show();
     }
+    // The cross is the last one.
+    setTabOrder(before, close_);
     showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);

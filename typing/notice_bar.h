@@ -7,11 +7,13 @@
 
 #include "typing/field_mark.h"
 
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QPointer>
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -19,6 +21,8 @@ class QLabel;
 class QToolButton;
 
 namespace vlk {
+
+class TwoLineLabel;
 
 struct Notice
 {
@@ -58,9 +62,11 @@ public:
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
     // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
-    // and go while the user presses buttons, nothing may move under the mouse. A window too low for that
-    // takes the place back.
+    // and go while the user presses buttons, nothing may move under the mouse. A longer sentence is cut
+    // there. A window too low for that takes the place back.
     void keepPlace(bool keeps = true);
+    // Cuts longer sentences; the tool tip has them whole.
+    void keepToTwoLines();
     bool isTelling() const { return worst() != nullptr; }
     // The property in which the host says how many pixels its own notice wants. A bar with a kept place has
     // it stand there, over what the bar tells, which waits as in any bar that tells several things. Another
@@ -110,25 +116,27 @@ private:
     // Null when there is none.
     const Told* worst() const;
     void refresh();
-    // With the room below; that of a kept place, and more where the text has more lines.
+    // With the room below; that of a kept place, and more where something else in the bar is higher.
     void claimHeight();
     void showPlace();
     // In the colour of the palette.
     void setCross();
     void toggleFocus();
 
-    QLabel* text_;
+    TwoLineLabel* text_;
     QHBoxLayout* buttons_;
     QLabel* place_;
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
-    int keptHeight_ = 0;       // 0 where no place is kept
-    int roomBelow_ = 0;        // what of the height is another's
-    bool isCovered_ = false;   // by the host's notice
-    int behind_ = 0;           // notices in another bar
-    QTimer news_;              // at whose end there are none
-    QPointer<QWidget> before_; // had the focus before F6
+    int keptHeight_ = 0;        // 0 where no place is kept
+    int roomBelow_ = 0;         // what of the height is another's
+    bool isCovered_ = false;    // by the host's notice
+    int behind_ = 0;            // notices in another bar
+    QTimer news_;               // at whose end there are none
+    std::optional<int> onShow_; // number of the notice that is on show
+    QElapsedTimer replaced_;    // since another one, or the host's, gave way to it
+    QPointer<QWidget> before_;  // had the focus before F6
 };
 
 } // namespace vlk

@@ -3,14 +3,45 @@
 #include "typing/kept_palette.h"
 
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QStyleOptionFrame>
 
 namespace vlk {
 
 namespace {
 constexpr auto kIsPresent = "isPresentValue";
-}
+const QString kDash = QStringLiteral("–");
+
+class DashInstead : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Paint)
+            return false;
+        auto* line = static_cast<QLineEdit*>(watched);
+        QStyleOptionFrame panel;
+        panel.initFrom(line);
+        panel.lineWidth = 0; // as a line without a frame has it
+        QPainter painter(line);
+        line->style()->drawPrimitive(QStyle::PE_PanelLineEdit, &panel, &painter, line);
+        constexpr int kBefore = 2; // of the text
+        const QPalette colours = line->palette();
+        painter.setPen(between(colours.color(QPalette::Text), colours.color(QPalette::Base)));
+        painter.drawText(line->contentsRect().adjusted(kBefore, 0, -kBefore, 0),
+                         static_cast<int>(line->alignment()), kDash);
+        return true;
+    }
+};
+
+} // namespace
 
 void standOut(QWidget* value, bool present)
 {
@@ -69,7 +100,19 @@ void showPresentValue(QDoubleSpinBox* box, double value)
 void showNoPresentValue(QDoubleSpinBox* box)
 {
     box->setValue(box->minimum());
-    box->setSpecialValueText(QStringLiteral("–"));
+    box->setSpecialValueText(kDash);
+}
+
+void showDash(QLineEdit* line, bool isAbsent)
+{
+    auto* dash = line->findChild<DashInstead*>(QString(), Qt::FindDirectChildrenOnly);
+    if (isAbsent && !dash)
+        line->installEventFilter(new DashInstead(line));
+    else if (!isAbsent)
+        delete dash;
+    line->update();
 }
 
 } // namespace vlk
+
+#include "present_value.moc"

@@ -4,6 +4,7 @@
 // as if it could be typed over.
 
 class QDoubleSpinBox;
+class QLineEdit;
 class QWidget;
 
 namespace vlk {
@@ -22,5 +23,7 @@ void showAllAsOld(const QWidget* among, bool old);
 // A measured value, or a dash before the first one; the box holds its least value meanwhile.
 void showPresentValue(QDoubleSpinBox* box, double value);
 void showNoPresentValue(QDoubleSpinBox* box);
+// Draws the dash in the place of what a line holds before the first value.
+void showDash(QLineEdit* line, bool isAbsent);
 
 } // namespace vlk

@@ -1,13 +1,17 @@
 #include "typing/title_style.h"
 
+#include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/kept_palette.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QGroupBox>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTextBrowser>
 
 #include <algorithm>
 
@@ -47,6 +51,7 @@ void TitleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     outlineOnDark(element, *option, *painter);
+    outlineFocus(element, *option, *painter, widget);
 }
 
 QRect TitleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -97,6 +102,28 @@ void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option,
         between(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window)));
     painter.setBrush(Qt::NoBrush);
     isRound ? painter.drawEllipse(outline) : painter.drawRect(outline);
+    painter.restore();
+}
+
+void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter,
+                  const QWidget* widget)
+{
+    constexpr QStyle::State focused = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    const bool isFocused = (option.state & focused) == focused;
+    const bool isButton = element == QStyle::PE_PanelButtonCommand;
+    const bool isPage = element == QStyle::PE_Frame && qobject_cast<const QTextBrowser*>(widget);
+    // A push button has one round it, and asks for one inside too.
+    const bool isInside = element == QStyle::PE_FrameFocusRect && !qobject_cast<const QPushButton*>(widget) &&
+                          !qobject_cast<const QAbstractItemView*>(widget);
+    if (!isFocused || !(isButton || isPage || isInside))
+        return;
+    constexpr qreal width = 2;
+    const qreal inside = isPage ? 0 : width / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(markColor(Mark::changed, option.palette), width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
     painter.restore();
 }
 

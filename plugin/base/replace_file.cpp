@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace vlk {
@@ -160,6 +161,36 @@ bool replaceFile(const QString& path, const WriteContent& write, QString* reason
         *reason = fault;
     else
         qCWarning(lcSave).noquote().nospace() << path << ": " << fault;
+    return false;
+}
+
+bool openBeside(QFile& file, const QString& path)
+{
+    const QFileInfo target = targetOf(path);
+    if (!whyClosed(target).isEmpty())
+        return false;
+    const QByteArray folder = QFile::encodeName(target.path());
+    const int number = open(folder.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0666);
+    return number >= 0 && file.open(number, QIODevice::ReadWrite, QFileDevice::AutoCloseHandle);
+}
+
+bool putInPlace(QFile& file, const QString& path)
+{
+    const QFileInfo target = targetOf(path);
+    QString reason;
+    if (!whyClosed(target).isEmpty() || !flushToDisk(file, &reason))
+        return false;
+    if (target.exists())
+        file.setPermissions(target.permissions());
+    const QString hidden = nameBeside(target);
+    removeStrays(hidden);
+    const QByteArray beside = QFile::encodeName(hidden);
+    const QByteArray nameless = "/proc/self/fd/" + QByteArray::number(file.handle());
+    if (linkat(AT_FDCWD, nameless.constData(), AT_FDCWD, beside.constData(), AT_SYMLINK_FOLLOW) != 0)
+        return false;
+    if (std::rename(beside.constData(), QFile::encodeName(target.filePath()).constData()) == 0)
+        return true;
+    QFile::remove(hidden);
     return false;
 }
 

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QFile;
 class QIODevice;
 
 namespace vlk {
@@ -29,6 +30,12 @@ bool replaceFile(const QString& path, const QByteArray& content, QString* reason
 // Replaces a file that its owner alone may read, from its first byte on. The log says nothing: `reason` tells
 // why it came to nothing.
 bool replacePrivateFile(const QString& path, const QByteArray& content, QString* reason);
+
+// A file without a name in the folder of `path`, in which much is collected before putInPlace() makes it the
+// content there: of a process that is killed nothing is left. False where the folder takes none.
+bool openBeside(QFile& file, const QString& path);
+// As replaceFile() does. False where that is not possible; the content is still in the file then.
+bool putInPlace(QFile& file, const QString& path);
 
 // Why a file at `path` could not be written now, as the system words it; empty if it could. Tries it out, and
 // leaves everything as it was.

@@ -28,7 +28,7 @@ inline bool flushToDisk(QFileDevice& file, QString* error)
 }
 
 // The reason why a save came to nothing.
-inline QString whyNotSaved(QSaveFile& file)
+inline QString whyNotSaved(QFileDevice& file)
 {
 #ifdef Q_OS_UNIX
     // Qt gives no reason for a write that was done in part. One more byte gives it, and harms nothing in a

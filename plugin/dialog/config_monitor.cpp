@@ -48,6 +48,9 @@ void ConfigMonitor::start(Tab kind, bool on, int periodMs)
         end();
     }
     timerAnalog_.stop();
+    if (on && paused_ != kind)
+        forgetPause();
+    paused_ = Tab::Other;
     monitorPeriodMs_ = periodMs;
     running_ = on ? kind : Tab::Other;
     if (on)
@@ -74,13 +77,47 @@ void ConfigMonitor::startLines(bool on, const QByteArray& list, int periodMs)
 
 void ConfigMonitor::end()
 {
+    forgetPause();
+    endBy(window_.stopPage);
+}
+
+// Where the user has left no more than the window.
+void ConfigMonitor::endOrPause()
+{
+    if (!connected_ || !isOn() || window_.currentTab() != running_) {
+        end();
+        return;
+    }
+    const Tab paused = running_;
+    endBy(window_.pausePage);
+    paused_ = paused;
+}
+
+void ConfigMonitor::forgetPause()
+{
+    if (const Tab paused = std::exchange(paused_, Tab::Other); paused != Tab::Other)
+        window_.stopPage(paused);
+}
+
+void ConfigMonitor::activated()
+{
+    if (paused_ == Tab::Other)
+        return;
+    if (connected_ && window_.currentTab() == paused_)
+        window_.resumePage(std::exchange(paused_, Tab::Other));
+    else
+        forgetPause();
+}
+
+void ConfigMonitor::endBy(const std::function<void(Tab)>& tellPage)
+{
     timerAnalog_.stop();
     repeat_.stop();
     awaitingAnswer_ = 0;
     monitorStep_ = Idle;
     commandGivenUp_ = commandGivenUp_ || commandsOnTheWay_ > 0;
     if (const Tab ended = std::exchange(running_, Tab::Other); ended != Tab::Other)
-        window_.stopPage(ended);
+        tellPage(ended);
 }
 
 // A request by hand on one tab tells that the user has left the other.
@@ -118,7 +155,7 @@ void ConfigMonitor::pollCurrentTab()
 void ConfigMonitor::requestAccel()
 {
     if (running_ == Tab::Accel && !mayGoOn()) {
-        end();
+        endOrPause();
         return;
     }
     endIfLeft();
@@ -213,7 +250,7 @@ void ConfigMonitor::timeout()
 {
     timerAnalog_.stop();
     if (!mayGoOn())
-        end();
+        endOrPause();
     else if (running_ == Tab::InputLines)
         sendLines(monitorList_);
 }

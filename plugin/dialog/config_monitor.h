@@ -3,7 +3,8 @@
 // Polls the tracker while a page with live values is on top. It sends the request of the tab that is current
 // and goes on only when an answer has come, so that an answer that never comes just stops it. One kind of
 // monitor runs at a time: the accelerometer's or the input lines'. It ends, and its page with it, when
-// something is due while another tab is current or the user does not work in its window.
+// something is due while another tab is current or the user does not work in its window. In the latter case
+// it begins anew as soon as the user is back.
 //
 // A command to the accelerometer that the tracker refuses is sent again until it is carried out.
 
@@ -28,6 +29,8 @@ public:
         std::function<Tab()> currentTab;
         std::function<bool()> isActive;
         std::function<void(Tab)> stopPage;       // the page shows that its monitor has ended
+        std::function<void(Tab)> pausePage;      // and that it will begin anew
+        std::function<void(Tab)> resumePage;     // now
         std::function<void()> clearAccelDisplay; // an accelerometer command was carried out
     };
 
@@ -39,6 +42,9 @@ public:
     void startLines(bool on, const QByteArray& list, int periodMs);
     // Whatever runs; its page is told.
     void end();
+
+    // The user works in the window again.
+    void activated();
 
     // One request of the current tab, as a page asks for it.
     void pollCurrentTab();
@@ -62,6 +68,9 @@ private:
     enum Step { Idle = 0, Reading = 1, WaitingForCommand = 2 };
 
     bool mayGoOn() const;
+    void endBy(const std::function<void(Tab)>& tellPage);
+    void endOrPause();
+    void forgetPause();
     void start(Tab kind, bool on, int periodMs);
     void endIfLeft();
     void sendRequestOfTab();
@@ -71,6 +80,7 @@ private:
 
     Window window_;
     Tab running_ = Tab::Other; // whose monitor runs
+    Tab paused_ = Tab::Other;  // whose begins anew
     QByteArray monitorList_;
     int awaitingAnswer_ = 0;
     int monitorStep_ = Idle;

@@ -58,7 +58,8 @@ concept LimitsTheRecord = requires
     &Page::signal_Excess_Size;
 };
 
-// showLineValues(QByteArray), showAnalogRecord(record), stopAuto(): the input lines
+// showLineValues(QByteArray), showAnalogRecord(record), stopAuto(), pauseAuto(), resumeAuto(): the input
+// lines
 template <class Page>
 concept ShowsLines = requires
 {
@@ -72,7 +73,8 @@ concept ShowsSupply = requires
     &Page::setCurrentSupply;
 };
 
-// showPresentValues(AccelValues), clearPresentValues(), stopAuto(): the accelerometer
+// showPresentValues(AccelValues), clearPresentValues(), stopAuto(), pauseAuto(), resumeAuto(): the
+// accelerometer
 template <class Page>
 concept ShowsAccel = requires
 {

@@ -3,7 +3,9 @@
 #include "document/values_document.h"
 #include "review/compare_files.h"
 #include "review/quick_reach.h"
+#include "review/setting_parts.h"
 #include "review/take_over.h"
+#include "review/value_text.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
@@ -213,6 +215,29 @@ QString ConfigurationReview::quickBefore(const PageSettings& page, int row) cons
     return before == values.value(row) ? QString() : before;
 }
 
+QStringList ConfigurationReview::takenForUsed() const
+{
+    QStringList captions;
+    if (!isQuick())
+        return captions;
+    const Values& quick = open_.quickPage().values();
+    for (int row = 0; row < quick.count(); ++row) {
+        const int holder = quick.holder(row);
+        const Setting& setting = quick.setting(holder);
+        const int key = FileKeys::all().at(quick.row(row).filePath);
+        const bool isSwitch = setting.is<Flag>() || setting.is<Choice>();
+        if (holder == row || key < 0 || !isSwitch || !review::canBeShown(setting) ||
+            asItCame_.at(key).isThere)
+            continue;
+        // By the file, and not by an edit.
+        if (quickAsItCame_.value(holder) != QLatin1String("1") || quick.value(holder) != QLatin1String("1"))
+            continue;
+        const QString caption = captionText(setting);
+        captions << (caption.isEmpty() ? valueText(quick, holder) : caption);
+    }
+    return captions;
+}
+
 bool ConfigurationReview::isOwn(int key) const
 {
     return edited_.isDifferent(key) && !edited_.isAlong(key) && !isAnew(key);
@@ -220,7 +245,9 @@ bool ConfigurationReview::isOwn(int key) const
 
 bool ConfigurationReview::isEdited(int table, int row) const
 {
-    return std::ranges::any_of(FileKeys::all().heldBy(table, row), [this](int key) { return isOwn(key); });
+    const PageSettings* page = pageOf(table);
+    return page && (std::ranges::any_of(keysOf(*page, row), [this](int key) { return isOwn(key); }) ||
+                    !quickBefore(*page, row).isNull());
 }
 
 int ConfigurationReview::madeAnew() const

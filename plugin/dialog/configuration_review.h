@@ -73,6 +73,8 @@ public:
     // What the quick window made of the file as it came, of a setting that it shows and no file holds; null
     // where that is what it shows now, and for every other setting.
     QString quickBefore(const PageSettings& page, int row) const;
+    // What is checked in the quick window because the file says nothing of it: a sensor that is not there.
+    QStringList takenForUsed() const;
     // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
@@ -138,7 +140,7 @@ private:
     OpenConfiguration open_;
     Configuration present_; // what the pages of the full window hold since the last step
     review::FileState opened_;
-    review::FileState asItCame_;                 // as opened_, or what has been written since then
+    review::FileState asItCame_;                 // the same, or what has been written since then
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
     Values quickAsItCame_;

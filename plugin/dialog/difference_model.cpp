@@ -155,6 +155,11 @@ void DifferenceModel::showLines()
     }
 }
 
+bool DifferenceModel::hasNotes() const
+{
+    return std::ranges::any_of(shown_, [this](int place) { return !lines_[place].text.note.isEmpty(); });
+}
+
 void DifferenceModel::toggleHead(int line)
 {
     const QString path = lineAt(line).difference.path;
@@ -281,17 +286,14 @@ int DifferenceModel::columnCount(const QModelIndex& parent) const
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
     const Line& line = lineAt(index.row());
-    const bool isProblem = index.row() < problems_;
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        const int column = !isProblem || index.column() < Now ? index.column()
-                           : index.column() == Now            ? int(Note)
-                                                              : int(Now);
+        const int column = index.column();
         const bool isSign = line.members > 0 && column == Caption && role == Qt::DisplayRole;
         const char* sign = open_.contains(line.difference.path) ? "▾ " : "▸ ";
         return (isSign ? QString::fromUtf8(sign) : QString()) +
                cell(line.text, review::placeText(line.text), column);
     }
-    if (role == Qt::DecorationRole && index.column() == Page && isProblem)
+    if (role == Qt::DecorationRole && index.column() == Page && index.row() < problems_)
         return markIcon(Mark::advice, QGuiApplication::palette());
     if (role == Qt::CheckStateRole && index.column() == Page && hasCheckMark(line))
         return isChosen(line) ? Qt::Checked : Qt::Unchecked;

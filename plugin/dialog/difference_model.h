@@ -34,8 +34,8 @@ public:
     void toggleHead(int line);
     // What quick setup would do that nobody has asked for; empty where it does nothing.
     QString quickSummary() const;
-    // How many lines there are at first of what cannot be applied; the reason stands in place of what is now.
-    int problems() const { return problems_; }
+    // Of the lines on show.
+    bool hasNotes() const;
     // Lines that cannot be applied stay as they are.
     void choose(const QVector<int>& lines, bool isChosen);
     // Keys of the chosen lines that can be taken over.
@@ -82,7 +82,7 @@ private:
     ConfigurationReview& review_;
     std::vector<Line> lines_;
     std::vector<int> shown_; // of the lines
-    int problems_ = 0;
+    int problems_ = 0;       // how many of them come first, of what cannot be applied
     QSet<QString> unchosen_; // paths
     QSet<QString> open_;     // of heads
 };

@@ -22,6 +22,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
 Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
 Q_LOGGING_CATEGORY(lcFound, "vlk.unsaved.found")
+Q_LOGGING_CATEGORY(lcWritten, "vlk.unsaved.written")
 
 const QString kNew = QStringLiteral("new");
 const QString kFile = QStringLiteral("file ");
@@ -49,6 +50,13 @@ QString trackerSubject()
     return identity.size() > 1 ? kTracker + identity : QString();
 }
 
+// For whoever shows what was logged of them.
+void tellWritten(const QString& folder, const QString& subject)
+{
+    if (review::keptUnsaved(folder, subject).empty())
+        qCWarning(lcWritten).noquote().nospace() << "changes are written: " << nameOfSubject(subject);
+}
+
 // Behind an edit. With the time that a slow disk or a busy machine takes it stays below a second.
 constexpr int kDelayMs = 300;
 // More are never in work at a time.
@@ -72,15 +80,24 @@ QString editSubject(const QString& path, bool isFile)
            QString::fromLatin1(QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex());
 }
 
-void tellKeptEdits(const QString& folder)
+void tellKeptEdits(const QString& folder, const QString& but)
 {
-    QStringList subjects;
+    QStringList subjects{but};
     for (const review::KeptUnsaved& kept : review::keptUnsaved(folder)) {
         if (subjects.contains(kept.unsaved.subject))
             continue;
         subjects << kept.unsaved.subject;
         qCWarning(lcFound).noquote().nospace()
             << "changes of " << momentOf(kept.unsaved) << ": " << nameOfSubject(kept.unsaved.subject);
+    }
+}
+
+void dropWrittenEdits(const QString& folder, const QByteArray& content)
+{
+    for (const auto& [path, unsaved] : review::keptUnsaved(folder)) {
+        const bool isOfAnother = unsaved.subject.startsWith(kTracker) && unsaved.subject != trackerSubject();
+        if (!isOfAnother && review::isResult(content, unsaved) && QFile::remove(path))
+            tellWritten(folder, unsaved.subject);
     }
 }
 
@@ -167,20 +184,22 @@ bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Hide && !event->spontaneous()) {
         leave();
         isInSight_ = false;
-        tellKept();
+        if (!subject_.isEmpty())
+            tellKeptEdits(folder_, tellKept() ? subject_ : QString());
     }
     return QObject::eventFilter(watched, event);
 }
 
 // The window is gone: whoever shows what is logged says it.
-void EditKeeper::tellKept() const
+bool EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
-        return;
+        return false;
     const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
     if (!own.empty())
         qCWarning(lcKept).noquote().nospace()
             << own.size() << " changes are kept: " << nameOfSubject(subject_);
+    return !own.empty();
 }
 
 void EditKeeper::switched()
@@ -223,6 +242,7 @@ void EditKeeper::confirmed(const QByteArray& content)
     handedOver_.erase(handedOver_.begin(), found.base());
     if (written.path == path_) {
         Q_EMIT this->written(written.content, written.quick);
+        const QString subject = subject_;
         // What was new is the tracker's now, and its next reading offers what is edited from here on.
         if (const QString tracker = trackerSubject(); subject_ == kNew && !tracker.isEmpty())
             setSubject(tracker);
@@ -231,13 +251,15 @@ void EditKeeper::confirmed(const QByteArray& content)
             return;
         if (path_ != written.path)
             QFile::remove(written.path);
+        if (!isInSight_)
+            tellWritten(folder_, subject);
         Q_EMIT safe();
         return;
     }
     // Another configuration has been opened since then. What was edited in between stays.
     const std::optional<review::Unsaved> left = review::unsavedIn(written.path);
-    if (left && left->after == written.document)
-        QFile::remove(written.path);
+    if (left && left->after == written.document && QFile::remove(written.path))
+        tellWritten(folder_, left->subject);
 }
 
 void EditKeeper::setFailure(const QString& reason)

@@ -19,8 +19,11 @@ namespace vlk {
 QString editSubject(const QString& path, bool isFile);
 
 // Logs which configurations edits of are kept in the host's folder, for whoever shows what is logged: they
-// are offered only when one of these is opened.
-void tellKeptEdits(const QString& folder);
+// are offered only when one of these is opened. `but`: what is told otherwise.
+void tellKeptEdits(const QString& folder, const QString& but = {});
+// The attached tracker has the content: edits from which it came are kept no longer, whichever run they are
+// of. Those that are in sight are the keeper's.
+void dropWrittenEdits(const QString& folder, const QByteArray& content);
 
 class EditKeeper : public QObject
 {
@@ -72,7 +75,8 @@ private:
     void setSubject(const QString& subject);
     void beginWith(const QByteArray& document);
     void setFailure(const QString& reason);
-    void tellKept() const;
+    // False when nothing is.
+    bool tellKept() const;
 
     ConfigurationReview& review_;
     QTimer due_;

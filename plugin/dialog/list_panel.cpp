@@ -84,6 +84,7 @@ void ListPanel::addToHead(const QWidgetList& widgets)
     QWidgetList order = widgets;
     const auto buttons = std::stable_partition(
         order.begin(), order.end(), [](QWidget* widget) { return !qobject_cast<QPushButton*>(widget); });
+    first_ = buttons == order.begin() ? nullptr : order.front();
     order.insert(buttons, table_);
     order << close_;
     for (int next = 1; next < order.size(); ++next)
@@ -134,10 +135,12 @@ void ListPanel::showNow()
         table_->setCurrentIndex(table_->model()->index(0, 0));
 }
 
+// Of an empty list what fills it.
 void ListPanel::open()
 {
     showNow();
-    table_->setFocus(Qt::ShortcutFocusReason);
+    const bool isEmpty = table_->model()->rowCount() == 0;
+    (isEmpty && first_ ? first_ : table_)->setFocus(Qt::ShortcutFocusReason);
 }
 
 bool ListPanel::eventFilter(QObject* watched, QEvent* event)

@@ -69,7 +69,8 @@ private:
     QTableView* table_;
     EmptyNote* empty_ = nullptr;
     QToolButton* close_;
-    QWidget* edge_; // to be moved
+    QWidget* edge_;            // to be moved
+    QWidget* first_ = nullptr; // of the head, what fills the list; null where nothing does
 };
 
 } // namespace vlk

@@ -4,6 +4,8 @@
 #include "dialog/tab_navigation.h"
 #include "link/requests.h"
 
+#include <QEvent>
+
 namespace vlk {
 
 PageServices::PageServices(QWidget* parent)
@@ -19,6 +21,14 @@ PageServices::~PageServices()
 {
     if (vlkConfigFull == this)
         vlkConfigFull = nullptr;
+}
+
+bool PageServices::event(QEvent* event)
+{
+    const bool isDone = VLK_Wnd_Config_Full::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        answers_.monitor().activated();
+    return isDone;
 }
 
 // The quick window on top hides the full one, too.

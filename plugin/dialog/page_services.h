@@ -46,6 +46,7 @@ public:
     void deleteUserParam(const QString& code, const QString& name, const QString& third, int size) override;
 
 protected:
+    bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
     std::unique_ptr<ConfigPages> pages_;

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
+#include <QSet>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -27,6 +28,7 @@ namespace vlk {
 namespace {
 
 constexpr int kMostHits = 100;
+constexpr int kQuickTable = -1; // of a hit, which is none of review::FileKeys
 constexpr int kLinesOnShow = 10;
 constexpr QSize kIconSize(20, 16);
 const QStringList kUndoKeys{QStringLiteral("Ctrl+Z")};
@@ -39,7 +41,7 @@ QString lineOf(const review::Hit& hit, const Values& values, const QString& whyH
 {
     const Setting& setting = values.setting(hit.row);
     const review::SettingWords told = review::wordsOf(values.layout(), hit.row);
-    QStringList place{told.page, told.group, told.caption};
+    QStringList place{hit.table == kQuickTable ? QString() : told.page, told.group, told.caption};
     if (hit.part >= 0)
         place << review::partCaption(setting, hit.part);
     place.removeAll(QString());
@@ -51,7 +53,8 @@ QString lineOf(const review::Hit& hit, const Values& values, const QString& whyH
         hit.part < 0
             ? valueText(values, hit.row)
             : review::partText(setting, hit.part, review::partOf(setting, hit.part, values.value(hit.row)));
-    return path + QStringLiteral(":  ") + value;
+    // A box of a choice says what it chooses.
+    return path + QStringLiteral(":  ") + (value == told.caption ? yesNo(true) : value);
 }
 
 constexpr const char* kMarkProperty = "mark";
@@ -221,20 +224,48 @@ void ReviewBar::setAdvice(int count, std::optional<Mark> worst)
     advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
 
+void ReviewBar::makeSearch()
+{
+    std::vector<const Values*> tables(review::FileKeys::all().tables());
+    for (std::size_t table = 0; table < tables.size(); ++table)
+        tables[table] = review_.valuesOf(static_cast<int>(table));
+    searchesQuick_ = review_.isQuick();
+    if (searchesQuick_)
+        tables.push_back(review_.valuesOf(kQuickTable));
+    const bool isRussian = QLocale().language() == QLocale::Russian;
+    search_ = std::make_unique<review::Search>(tables, vlkDevice ? vlkDevice->textsIn(isRussian ? "en" : "ru")
+                                                                 : TextSource());
+}
+
+// Quick setup has names and values of its own, and one setting for several of the full one's.
+std::vector<review::Hit> ReviewBar::found(const QString& words)
+{
+    if (!search_ || searchesQuick_ != review_.isQuick())
+        makeSearch();
+    const std::vector<review::Hit> all = search_->find(words);
+    if (!searchesQuick_)
+        return all;
+    std::vector<review::Hit> hits;
+    QSet<int> quick;
+    for (review::Hit hit : all) {
+        if (hit.table == review::FileKeys::all().tables())
+            hit.table = kQuickTable;
+        hit = places_.onShow(hit);
+        if (hit.table == kQuickTable && quick.contains(hit.row))
+            continue;
+        if (hit.table == kQuickTable)
+            quick.insert(hit.row);
+        hits.push_back(hit);
+    }
+    return hits;
+}
+
 void ReviewBar::find()
 {
     const QString words = find_->text().trimmed();
     if (words.isEmpty() && !changedOnly_->isChecked())
         return closeHits();
-    if (!search_) {
-        std::vector<const Values*> tables(review::FileKeys::all().tables());
-        for (std::size_t table = 0; table < tables.size(); ++table)
-            tables[table] = review_.valuesOf(static_cast<int>(table));
-        const bool isRussian = QLocale().language() == QLocale::Russian;
-        search_ = std::make_unique<review::Search>(
-            tables, vlkDevice ? vlkDevice->textsIn(isRussian ? "en" : "ru") : TextSource());
-    }
-    hits_ = search_->find(words);
+    hits_ = found(words);
     if (changedOnly_->isChecked())
         std::erase_if(hits_,
                       [this](const review::Hit& hit) { return !review_.isEdited(hit.table, hit.row); });

@@ -47,6 +47,8 @@ protected:
 private:
     void showState();
     void find();
+    void makeSearch();
+    std::vector<review::Hit> found(const QString& words);
     void addLine(const review::Hit& hit);
     void goTo(int line);
     void closeHits();
@@ -54,6 +56,7 @@ private:
     ConfigurationReview& review_;
     SettingPlaces& places_;
     std::unique_ptr<review::Search> search_; // made when it is first needed
+    bool searchesQuick_ = false;             // it, the quick window's settings too
     std::vector<review::Hit> hits_;
     QToolButton* undo_;
     QToolButton* redo_;

@@ -30,9 +30,11 @@ using Against = ConfigurationReview::Against;
 
 namespace {
 
-// The least that columns are cut to, one after the other, where the window is small; the tool tip tells what
-// is cut.
+// The least that columns are cut to, one after the other, where the window is small: long values and names,
+// then values before names. The tool tip tells what is cut.
 constexpr std::pair<int, int> kNarrowest[] = {{DifferenceModel::Before, 180},  {DifferenceModel::Now, 180},
+                                              {DifferenceModel::Caption, 300}, {DifferenceModel::Before, 140},
+                                              {DifferenceModel::Now, 140},     {DifferenceModel::Note, 260},
                                               {DifferenceModel::Caption, 230}, {DifferenceModel::Before, 110},
                                               {DifferenceModel::Now, 110},     {DifferenceModel::Page, 90}};
 
@@ -126,8 +128,6 @@ void ReviewPanel::showState()
     summary_->setText(summary);
     summary_->setVisible(!summary.isEmpty());
     table()->clearSpans();
-    for (int line = 0; line < model_.problems(); ++line)
-        table()->setSpan(line, DifferenceModel::Now, 1, 2);
     for (int line = 0; line < model_.rowCount(); ++line) {
         if (model_.isHead(line))
             table()->setSpan(line, DifferenceModel::Caption, 1,
@@ -140,6 +140,8 @@ void ReviewPanel::fitTable()
 {
     // It would keep the width that the last column had once.
     table()->horizontalHeader()->setStretchLastSection(false);
+    const bool hasNotes = model_.hasNotes();
+    table()->setColumnHidden(DifferenceModel::Note, !hasNotes);
     table()->resizeColumnsToContents();
     int excess = -table()->viewport()->width();
     for (int column = 0; column < DifferenceModel::ColumnCount; ++column)
@@ -150,8 +152,9 @@ void ReviewPanel::fitTable()
         excess -= width - table()->columnWidth(column);
     }
     // What the columns leave belongs to the last one.
+    const int last = hasNotes ? DifferenceModel::Note : DifferenceModel::Now;
     if (excess < 0)
-        table()->setColumnWidth(DifferenceModel::Note, table()->columnWidth(DifferenceModel::Note) - excess);
+        table()->setColumnWidth(last, table()->columnWidth(last) - excess);
 }
 
 bool ReviewPanel::choosePreset()

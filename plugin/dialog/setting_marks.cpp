@@ -213,6 +213,23 @@ void SettingMarks::pointAtMoved(const Page& page, const Spots& before)
     }
 }
 
+void SettingMarks::markCell(const PageSettings& settings, QTreeWidget* tree, const Spot& spot,
+                            const Told& told)
+{
+    std::optional<Mark> worst;
+    QStringList texts;
+    if (told.isChanged) {
+        worst = Mark::changed;
+        texts << changeText(review_, settings, spot.first, spot.second);
+    }
+    if (!told.advice.isEmpty()) {
+        worst = std::max(worst, std::optional(told.severity));
+        texts << told.advice;
+    }
+    const Shown& shown = *settings.values().setting(spot.first).shown();
+    CellMarks::of(tree).set(shown.numbers.outer - 1, shown.column, worst, texts.join(QLatin1Char('\n')));
+}
+
 void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
 {
     const Page& page = pages_[&settings];
@@ -224,10 +241,7 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
         const auto told = page.told.find(spot);
         const bool isTold = told != page.told.end() && page.marked.at(spot) == widget;
         if (tree) {
-            const Shown& shown = *settings.values().setting(spot.first).shown();
-            CellMarks::of(tree).set(
-                shown.numbers.outer - 1, shown.column, isTold ? std::optional(Mark::changed) : std::nullopt,
-                isTold ? changeText(review_, settings, spot.first, spot.second) : QString());
+            markCell(settings, tree, spot, isTold ? told->second : Told{});
             continue;
         }
         if (!isTold)

@@ -13,6 +13,7 @@
 #include <map>
 
 class QContextMenuEvent;
+class QTreeWidget;
 
 namespace vlk {
 
@@ -69,6 +70,7 @@ private:
     Spots spotsOf(const PageSettings& page) const;
     void addAdvice(const PageSettings& page, Spots* spots) const;
     void mark(const PageSettings& page, QWidget* widget);
+    void markCell(const PageSettings& page, QTreeWidget* tree, const Spot& spot, const Told& told);
     // At what another value has moved since.
     static void pointAtMoved(const Page& page, const Spots& before);
     void markTabs();

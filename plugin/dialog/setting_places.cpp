@@ -69,15 +69,23 @@ void tellWhereLookedFor(QWidget* form, const QString& text)
         QToolTip::showText(form->mapToGlobal(form->rect().center()), text, form);
 }
 
-// The row that a form shows for a key of the file: its own, or the choice that sets it along with others. -1
-// for none.
+// The row that a form shows for a key of the file: its own, or the choice that sets it, alone or along with
+// others. -1 for none.
 int shownRowOf(const Values& values, const QString& path)
 {
     const int row = values.layout().rowAt(path);
-    if (row < 0 || review::canBeShown(values.setting(values.holder(row))))
+    if (row < 0)
         return row;
+    const int holder = values.holder(row);
+    if (review::canBeShown(values.setting(holder)))
+        return holder;
+    for (const Sets& rule : values.table().all<Sets>()) {
+        if (rule.moment == Moment::always && rule.path.row == holder && rule.when.row >= 0 &&
+            review::canBeShown(values.setting(rule.when.row)))
+            return rule.when.row;
+    }
     for (const Presets& presets : values.table().all<Presets>()) {
-        const auto isIt = [&](const Path& field) { return field.row == values.holder(row); };
+        const auto isIt = [&](const Path& field) { return field.row == holder; };
         if (std::ranges::any_of(presets.fields, isIt) &&
             review::canBeShown(values.setting(presets.trigger.row)))
             return presets.trigger.row;
@@ -90,6 +98,16 @@ constexpr int kMostNeeded = 4; // that wait for each other
 QString sentenceOf(const char* key)
 {
     return QCoreApplication::translate("vlk", key);
+}
+
+// Also where its widget stands in a part of the form that is hidden as a whole.
+std::optional<review::Needed> neededToShow(PageSettings& page, int row)
+{
+    if (auto needed = review::neededToShow(page.values(), row))
+        return needed;
+    const QWidget* widget = page.binder().widgetOf(row);
+    const When* unmet = widget ? page.binder().hiddenBy(widget) : nullptr;
+    return unmet ? std::optional(review::neededFor(page.values(), *unmet)) : std::nullopt;
 }
 
 // Makes the cell of a list that shows the setting the current one; null where it stands in none.
@@ -181,6 +199,14 @@ std::pair<PageSettings*, int> SettingPlaces::placeOf(int table, int row) const
     return {};
 }
 
+review::Hit SettingPlaces::onShow(const review::Hit& hit) const
+{
+    const auto [page, own] = placeOf(hit.table, hit.row);
+    if (!page || pageOf(hit.table) == page)
+        return hit;
+    return {.table = review::FileKeys::all().tableOf(page->values().table()), .row = own};
+}
+
 QWidget* SettingPlaces::widgetOf(int table, int row, int part) const
 {
     const auto [page, own] = placeOf(table, row);
@@ -192,7 +218,7 @@ QString SettingPlaces::whyHidden(int table, int row) const
     const auto [page, own] = placeOf(table, row);
     if (!page)
         return sentenceOf("rev_259");
-    const auto needed = review::neededToShow(page->values(), own);
+    const auto needed = neededToShow(*page, own);
     return needed ? needed->text : QString();
 }
 
@@ -220,7 +246,7 @@ void SettingPlaces::goTo(int table, int row, int part)
     }
     QString told;
     for (int step = 0; step < kMostNeeded; ++step) {
-        const auto needed = review::neededToShow(page->values(), own);
+        const auto needed = neededToShow(*page, own);
         if (!needed)
             break;
         told = sentenceOf("rev_258").arg(needed->text);

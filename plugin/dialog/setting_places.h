@@ -3,6 +3,7 @@
 // Where settings stand in the windows, and the way there: their tab, the middle of what scrolls, the focus,
 // and an outline for a moment.
 
+#include "review/search.h"
 #include "windows/binder/page_settings.h"
 
 #include <functional>
@@ -22,6 +23,8 @@ public:
     // The setting of review::FileKeys; `part` as in review::Hit. Null where no form on show has it: it
     // stands in one that the present values do not call for, or in the other window.
     QWidget* widgetOf(int table, int row, int part = -1) const;
+    // The setting by which the quick window, if it is on show, has this one; else the same.
+    review::Hit onShow(const review::Hit& hit) const;
     // What has to be set to show it, "Device: Fuel level sensors", or that the other window has it. Empty
     // where it is on show.
     QString whyHidden(int table, int row) const;

@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -14,6 +15,9 @@ TabNavigation::TabNavigation(QTabWidget* tabs, const Buttons& buttons) : TabMenu
     buttons_.last->hide();
     buttons_.menu->setMenu(menu());
     tabs->setIconSize({kMarkSize, kMarkSize});
+    // The arrow keys go over the tabs; what scrolls them is for the mouse.
+    for (QToolButton* arrow : tabs->tabBar()->findChildren<QToolButton*>())
+        arrow->setFocusPolicy(Qt::NoFocus);
 }
 
 void TabNavigation::retranslate()

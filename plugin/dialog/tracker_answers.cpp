@@ -7,16 +7,22 @@
 
 namespace vlk {
 
+template <class Act>
+void TrackerAnswers::onLivePage(ConfigMonitor::Tab kind, Act act)
+{
+    if (kind == ConfigMonitor::Tab::Accel)
+        pages_.forEach([&](ShowsAccel auto& page) { act(page); });
+    else
+        pages_.forEach([&](ShowsLines auto& page) { act(page); });
+}
+
 TrackerAnswers::TrackerAnswers(const ConfigPages& pages, std::function<int()> currentTab,
                                std::function<bool()> isActive)
     : pages_(pages), currentTab_(std::move(currentTab)),
       monitor_({[this] { return liveTab(); }, std::move(isActive),
-                [this](ConfigMonitor::Tab kind) {
-                    if (kind == ConfigMonitor::Tab::Accel)
-                        pages_.forEach([](ShowsAccel auto& page) { page.stopAuto(); });
-                    else
-                        pages_.forEach([](ShowsLines auto& page) { page.stopAuto(); });
-                },
+                [this](ConfigMonitor::Tab kind) { onLivePage(kind, [](auto& page) { page.stopAuto(); }); },
+                [this](ConfigMonitor::Tab kind) { onLivePage(kind, [](auto& page) { page.pauseAuto(); }); },
+                [this](ConfigMonitor::Tab kind) { onLivePage(kind, [](auto& page) { page.resumeAuto(); }); },
                 [this] { pages_.forEach([](ShowsAccel auto& page) { page.clearPresentValues(); }); }})
 {
 }

@@ -32,6 +32,9 @@ public:
 
 private:
     ConfigMonitor::Tab liveTab() const;
+    // On the page that has a monitor of that kind.
+    template <class Act>
+    void onLivePage(ConfigMonitor::Tab kind, Act act);
 
     const ConfigPages& pages_;
     std::function<int()> currentTab_;

@@ -1,5 +1,6 @@
 #include "dialog/unsaved_bar.h"
 
+#include "typing/file_error.h"
 #include "xml/xml_document.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,8 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace vlk {
 
@@ -17,6 +20,7 @@ namespace {
 constexpr int kFailure = 0;
 constexpr int kFile = -1;
 constexpr int kDamaged = -2;
+constexpr int kTakenForUsed = std::numeric_limits<int>::max(); // behind the offers
 
 QString words(const char* key)
 {
@@ -35,7 +39,7 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
-        if (number > kFailure)
+        if (number > kFailure && number != kTakenForUsed)
             offers_[number - 1].isClosed = true;
         if (number == kDamaged) {
             review::setKnown(damaged_.takeLast());
@@ -49,6 +53,8 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
     end(kFile);
+    end(kTakenForUsed);
+    takenForUsed_.clear();
     offers_.clear();
     for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
@@ -117,6 +123,20 @@ void UnsavedBar::refresh()
         else
             end(number);
     }
+    tellTakenForUsed();
+}
+
+void UnsavedBar::tellTakenForUsed()
+{
+    const QStringList taken = review_.takenForUsed();
+    if (std::exchange(takenForUsed_, taken) == taken)
+        return;
+    if (taken.isEmpty())
+        return end(kTakenForUsed);
+    tell(kTakenForUsed, [this] {
+        const QString sensors = review_.takenForUsed().join(QStringLiteral(", "));
+        return Notice{Mark::advice, words("rev_371").arg(sensors), {}};
+    });
 }
 
 void UnsavedBar::tellOffer(int number)
@@ -198,7 +218,9 @@ void UnsavedBar::tellFailure(const QString& reason)
     if (reason.isEmpty())
         end(kFailure);
     else
-        tell(kFailure, [reason] { return Notice{Mark::invalid, words("rev_145").arg(reason), {}}; });
+        tell(kFailure, [reason] {
+            return Notice{Mark::invalid, words("rev_145").arg(fileErrorText(reason)), {}};
+        });
 }
 
 } // namespace vlk

@@ -3,7 +3,8 @@
 // The bar of the configuration's window. Offers what was edited earlier and has reached neither a file nor
 // the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
 // editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
-// been shown it can be discarded, which happens when the window closes.
+// been shown it can be discarded, which happens when the window closes. It tells, too, which sensors quick
+// setup takes for used though the file has none.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
@@ -56,6 +57,7 @@ private:
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void tellDamaged();
+    void tellTakenForUsed();
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);
@@ -66,6 +68,7 @@ private:
 
     ConfigurationReview& review_;
     QStringList damaged_;       // what is left of changes that cannot be offered; the last one is told
+    QStringList takenForUsed_;  // ConfigurationReview::takenForUsed() when it was told last
     std::vector<Offer> offers_; // a notice has the number of its place, from 1 on
 };
 

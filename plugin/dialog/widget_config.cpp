@@ -2,11 +2,11 @@
 
 #include "ui_VLK_Designer_Widget_Config.h"
 
-#include "dialog/advice_panel.h"
 #include "dialog/config_pages.h"
 #include "dialog/document_menu.h"
 #include "dialog/file_names.h"
 #include "dialog/report_dialog.h"
+#include "dialog/review_area.h"
 #include "dialog/review_panel.h"
 #include "dialog/setting_marks.h"
 #include "dialog/tab_navigation.h"
@@ -73,29 +73,20 @@ void VLK_Widget_Config::addReview()
     fullWindow_->pages().forEach([this](auto& page) { history_.watch(page.settings()); });
     connect(lightWindow_, &VLK_Widget_Config_Light::formMade, this,
             [this](vlk::PageSettings& settings) { history_.watch(settings); });
-    bar_ = new vlk::ReviewBar(review_, places_, this);
-    panel_ = new vlk::ReviewPanel(review_, places_, this);
-    advice_ = new vlk::AdvicePanel(review_, places_, this);
+    // In front of the bar for the eye, and so for Tab.
+    unsaved_ = new vlk::UnsavedBar(review_, this);
+    area_ = new vlk::ReviewArea(review_, places_, this, [this] {
+        isQuick() ? lightWindow_->focusFirstField() : fullWindow_->focusFirstField();
+    });
     // Both windows share them.
     const auto place = [this] {
-        for (QWidget* panel : QWidgetList{panel_, advice_})
-            isQuick() ? lightWindow_->addReview(bar_, panel) : fullWindow_->addReview(bar_, panel);
+        for (QWidget* panel : area_->panels())
+            isQuick() ? lightWindow_->addReview(area_->bar(), panel)
+                      : fullWindow_->addReview(area_->bar(), panel);
     };
     connect(ui_->stackedWidget, &QStackedWidget::currentChanged, this, place);
     place();
     new vlk::AreaKeys(this, [this] { return areas(); });
-    connect(bar_, &vlk::ReviewBar::panelRequested, this, &VLK_Widget_Config::showPanel);
-    for (vlk::ListPanel* panel : std::initializer_list<vlk::ListPanel*>{panel_, advice_}) {
-        connect(panel, &vlk::ListPanel::closed, this, [this] { showPanel(vlk::ReviewBar::None); });
-        connect(panel, &vlk::ListPanel::heightChosen, this, [this](int height) {
-            kept_.height = height;
-            kept_.save();
-            for (vlk::ListPanel* other : std::initializer_list<vlk::ListPanel*>{panel_, advice_})
-                other->setPanelHeight(height);
-        });
-    }
-    connect(advice_, &vlk::AdvicePanel::changed, this,
-            [this] { bar_->setAdvice(advice_->count(), advice_->mark()); });
     marks_ = new vlk::SettingMarks(
         review_, [this] { return pageOnShow(); }, this);
     vlk::TabNavigation& tabs = fullWindow_->navigation();
@@ -115,17 +106,17 @@ void VLK_Widget_Config::addReview()
 void VLK_Widget_Config::addDocuments()
 {
     documents_ = new vlk::DocumentMenu(this);
-    bar_->addLast(documents_);
+    area_->bar()->addLast(documents_);
     connect(documents_, &vlk::DocumentMenu::presetToApply, this, [this] {
-        if (panel_->choosePreset())
-            showPanel(vlk::ReviewBar::Differences);
+        if (area_->differences()->choosePreset())
+            area_->show(vlk::ReviewBar::Differences);
     });
     connect(documents_, &vlk::DocumentMenu::presetToSave, this, [this] {
         // What is closed was compared with the defaults or a file for another purpose.
-        if (!panel_->isVisible())
+        if (!area_->differences()->isVisible())
             review_.compareWith(vlk::ConfigurationReview::Against::file);
-        showPanel(vlk::ReviewBar::Differences);
-        panel_->saveAsPreset();
+        area_->show(vlk::ReviewBar::Differences);
+        area_->differences()->saveAsPreset();
     });
     connect(documents_, &vlk::DocumentMenu::reportWanted, this, &VLK_Widget_Config::showReport);
 }
@@ -134,7 +125,7 @@ bool VLK_Widget_Config::showPreset(const QString& path)
 {
     if (!isVisible() || !review_.compareWith(vlk::ConfigurationReview::Against::preset, path))
         return false;
-    showPanel(vlk::ReviewBar::Differences);
+    area_->show(vlk::ReviewBar::Differences);
     return true;
 }
 
@@ -162,14 +153,17 @@ QStringList VLK_Widget_Config::about() const
         lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
     }
     // A reader would take them for what the tracker has.
-    if (const int changed = review_.edited() + review_.madeAnew(); changed > 0)
-        lines << tr(isOfTracker_ ? "rev_351" : "rev_352").arg(QLocale().toString(changed));
+    const std::pair<const char*, int> counts[] = {{isOfTracker_ ? "rev_351" : "rev_352", review_.edited()},
+                                                  {"rev_370", review_.madeAnew()}};
+    for (const auto& [key, count] : counts) {
+        if (count > 0)
+            lines << tr(key).arg(QLocale().toString(count));
+    }
     return lines;
 }
 
 void VLK_Widget_Config::addKeeper()
 {
-    unsaved_ = new vlk::UnsavedBar(review_, this);
     const auto place = [this] {
         isQuick() ? lightWindow_->addNotice(unsaved_) : fullWindow_->addNotice(unsaved_);
     };
@@ -184,8 +178,8 @@ void VLK_Widget_Config::addKeeper()
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });
-    connect(panel_, &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
-    connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { showPanel(vlk::ReviewBar::Differences); });
+    connect(area_->differences(), &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
+    connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { area_->show(vlk::ReviewBar::Differences); });
 }
 
 // A page that moves under the mouse is a wrong key or a wrong press. Where the screen is low the page needs
@@ -197,66 +191,27 @@ void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
     QDialog::resizeEvent(event);
 }
 
-void VLK_Widget_Config::showKeptPanel()
-{
-    kept_ = vlk::PanelMemory::load();
-    const auto panel = static_cast<vlk::ReviewBar::Panel>(kept_.open);
-    bar_->setPanel(panel);
-    const std::pair<vlk::ListPanel*, vlk::ReviewBar::Panel> panels[] = {{panel_, vlk::ReviewBar::Differences},
-                                                                        {advice_, vlk::ReviewBar::Advice}};
-    for (const auto& [widget, which] : panels) {
-        widget->setPanelHeight(kept_.height);
-        widget->hide();
-        if (panel == which)
-            widget->showNow();
-    }
-}
-
 std::vector<QWidgetList> VLK_Widget_Config::areas() const
 {
-    const QWidgetList panels{panel_, advice_};
+    const QWidgetList panels = area_->panels();
     QWidgetList content;
     QWidgetList buttons;
     const QWidget* window = isQuick() ? static_cast<QWidget*>(lightWindow_) : fullWindow_;
     for (QWidget* part : window->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (part == bar_ || part == unsaved_ || panels.contains(part))
+        if (part == area_->bar() || part == unsaved_ || panels.contains(part))
             continue;
         // Some stand in a frame.
         const bool isButton = qobject_cast<QPushButton*>(part) ||
                               part->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
         (isButton ? buttons : content).append(part);
     }
-    return {{bar_}, content, panels, buttons};
+    return {{area_->bar()}, content, panels, buttons};
 }
 
 void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEscape = event->key() == Qt::Key_Escape;
-    if (isEscape && bar_->isAncestorOf(focusWidget()))
-        ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
-    else if (isEscape && (panel_->isVisible() || advice_->isVisible()))
-        showPanel(vlk::ReviewBar::None);
-    else
+    if (event->key() != Qt::Key_Escape || !area_->escape())
         QDialog::keyPressEvent(event);
-}
-
-void VLK_Widget_Config::showPanel(vlk::ReviewBar::Panel panel)
-{
-    const bool wasInPanel = panel_->isAncestorOf(focusWidget()) || advice_->isAncestorOf(focusWidget());
-    // The panel takes room from the page: what is being edited stays in sight.
-    if (QWidget* edited = focusWidget(); edited && ui_->stackedWidget->isAncestorOf(edited))
-        QTimer::singleShot(0, edited, [edited] { vlk::SettingPlaces::keepInSight(edited); });
-    kept_.open = panel;
-    kept_.save();
-    bar_->setPanel(panel);
-    panel_->setVisible(panel == vlk::ReviewBar::Differences);
-    advice_->setVisible(panel == vlk::ReviewBar::Advice);
-    if (panel == vlk::ReviewBar::Differences)
-        panel_->open();
-    else if (panel == vlk::ReviewBar::Advice)
-        advice_->open();
-    else if (wasInPanel)
-        ui_->stackedWidget->currentWidget()->setFocus(Qt::OtherFocusReason);
 }
 
 bool VLK_Widget_Config::isQuick() const
@@ -310,7 +265,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     if (!isFull)
         lightWindow_->prepare();
     review_.begin(path.isEmpty() ? nullptr : document.root());
-    bar_->begin();
+    area_->bar()->begin();
     if (vlkDevice) {
         const QString folder = vlkDevice->xmlFolder();
         const QString subject = vlk::editSubject(path, request.fromFile == 1);
@@ -319,7 +274,7 @@ void VLK_Widget_Config::open(const vlk::OpenRequest& request, char* ussdBuffer)
     }
     vlk::fitToScreen(this);
     show();
-    showKeptPanel();
+    area_->showKept();
     if (isFull)
         fullWindow_->focusFirstField();
     else
@@ -438,10 +393,8 @@ void VLK_Widget_Config::retranslate()
 void VLK_Widget_Config::retranslateReview()
 {
     review_.retranslate();
-    bar_->retranslate();
     unsaved_->retranslate();
-    panel_->retranslate();
-    advice_->retranslate();
+    area_->retranslate();
     marks_->retranslate();
     documents_->retranslate();
     if (report_)

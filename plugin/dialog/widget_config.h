@@ -7,8 +7,6 @@
 
 #include "dialog/configuration_review.h"
 #include "dialog/edit_keeper.h"
-#include "dialog/panel_memory.h"
-#include "dialog/review_bar.h"
 #include "dialog/setting_places.h"
 
 #include <QDialog>
@@ -24,10 +22,9 @@ class VLK_Designer_Widget_Config;
 }
 
 namespace vlk {
-class AdvicePanel;
 class DocumentMenu;
 class ReportDialog;
-class ReviewPanel;
+class ReviewArea;
 class SettingMarks;
 class UnsavedBar;
 struct OpenRequest;
@@ -83,13 +80,10 @@ private:
     void fileSaved(const QString& path);
     // That F6 goes to.
     std::vector<QWidgetList> areas() const;
-    void showPanel(vlk::ReviewBar::Panel panel);
     void addDocuments();
     void showReport();
     // Lines that say what the configuration is of.
     QStringList about() const;
-    // What was open the last time, without the focus.
-    void showKeptPanel();
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;
@@ -99,13 +93,10 @@ private:
     vlk::SettingPlaces places_;
     vlk::EditKeeper keeper_;
     vlk::UnsavedBar* unsaved_ = nullptr;
-    vlk::ReviewBar* bar_ = nullptr;
-    vlk::ReviewPanel* panel_ = nullptr;
-    vlk::AdvicePanel* advice_ = nullptr;
+    vlk::ReviewArea* area_ = nullptr;
     vlk::DocumentMenu* documents_ = nullptr;
     vlk::ReportDialog* report_ = nullptr; // made when it is first wanted
     QString file_;                        // that the user opened, without its folder
     bool isOfTracker_ = false;
     vlk::SettingMarks* marks_ = nullptr;
-    vlk::PanelMemory kept_;
 };

@@ -7,6 +7,7 @@
 #include "dialog/file_names.h"
 #include "dialog/held_button.h"
 #include "dialog/tab_navigation.h"
+#include "fuel/question.h"
 #include "link/device.h"
 #include "link/requests.h"
 #include "windows/disabled_reason.h"
@@ -19,7 +20,6 @@
 
 #include <QCloseEvent>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QShortcut>
 
@@ -121,6 +121,7 @@ void VLK_Widget_Config_Full::addNotice(QWidget* bar)
 void VLK_Widget_Config_Full::setDefaults()
 {
     slot_Excess_Size(false);
+    answers_.monitor().end();
     pages_->forEach([](auto& page) { page.setDefaults(); });
 }
 
@@ -219,16 +220,8 @@ void VLK_Widget_Config_Full::slot_pressed_Btn_Close()
 
 void VLK_Widget_Config_Full::slot_pressed_Btn_ConfigLight()
 {
-    QMessageBox box(QMessageBox::Warning, tr("wrd_005"),
-                    QStringLiteral("%1<br><br>").arg(tr("cfgwnd_005")) + tr("cfgwnd_006"),
-                    QMessageBox::NoButton, this);
-    const auto* yes = box.addButton(tr("wrd_001"), QMessageBox::YesRole);
-    auto* no = box.addButton(tr("wrd_002"), QMessageBox::NoRole);
-    vlk::dressMessageBox(box);
-    box.setDefaultButton(no);
-    box.setEscapeButton(no);
-    box.exec();
-    if (box.clickedButton() == yes)
+    const QString question = QStringLiteral("%1<br><br>").arg(tr("cfgwnd_005")) + tr("cfgwnd_006");
+    if (vlk::agrees(this, question, "wrd_002"))
         Q_EMIT quickRequested();
 }
 

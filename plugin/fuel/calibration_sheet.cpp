@@ -1,6 +1,7 @@
 #include "fuel/calibration_sheet.h"
 
 #include "fuel/fuelsensor_graph.h"
+#include "fuel/paste_preview.h"
 #include "fuel/table/fuel_sensors.h"
 
 #include <QBuffer>
@@ -69,10 +70,21 @@ QString table(const CalibrationSheet& sheet)
         }
         html += QStringLiteral("</tr>");
     }
-    html += QStringLiteral("</table>");
-    const bool anyMarked =
-        std::ranges::any_of(sheet.rows, [](const FuelRow& row) { return !row.changing.isEmpty(); });
-    return anyMarked ? html + QStringLiteral("<p>* %1</p>").arg(fuelWord("cfgt6_460")) : html;
+    return html + QStringLiteral("</table>");
+}
+
+// What the marks in the table and the rings round points of the curve say in the window.
+QString notes(const CalibrationSheet& sheet)
+{
+    QString html;
+    const auto add = [&html](const QString& text) {
+        html += QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+    };
+    if (std::ranges::any_of(sheet.rows, [](const FuelRow& row) { return !row.changing.isEmpty(); }))
+        add(QStringLiteral("* ") + fuelWord("cfgt6_460"));
+    if (const QString falling = PastePreview::fallingText(sheet.points); !falling.isEmpty())
+        add(falling);
+    return html;
 }
 
 } // namespace
@@ -80,7 +92,7 @@ QString table(const CalibrationSheet& sheet)
 QString sheetHtml(const CalibrationSheet& sheet)
 {
     const QString curve = QStringLiteral("<p><img src=\"curve\" width=%1 height=%2></p>");
-    return head(sheet) + curve.arg(kCurve.width()).arg(kCurve.height()) + table(sheet);
+    return head(sheet) + curve.arg(kCurve.width()).arg(kCurve.height()) + table(sheet) + notes(sheet);
 }
 
 QByteArray sheetPdf(const CalibrationSheet& sheet)

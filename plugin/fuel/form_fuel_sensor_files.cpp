@@ -22,7 +22,9 @@
 
 bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
-    return vlk::keepTable(path, name_, vehicle, {ui_->lineEdit_Name->text(), offeredName_}, rows(), time);
+    const auto unsaved = dirty_ ? vlk::Unsaved::added : edited_ ? vlk::Unsaved::changed : vlk::Unsaved::cut;
+    return vlk::keepTable(path, name_, vehicle, {ui_->lineEdit_Name->text(), offeredName_}, rows(), time,
+                          unsaved);
 }
 
 bool VLK_Form_Fuel_Sensor::saveCsv(const QString& path) const

@@ -322,8 +322,8 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 {
     const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
                                  .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
-    const auto mayLose = [&] { return agrees(this, question, "wrd_031"); };
-    if ((!hasUnsaved() || mayLose()) && (keepUnsaved() || mayLose()))
+    const auto mayLose = [&](const QString& hint) { return agrees(this, question, "wrd_031", hint); };
+    if ((!hasUnsaved() || mayLose(canKeep_ ? tr("cfgt6_480") : QString())) && (keepUnsaved() || mayLose({})))
         QDialog::reject();
 }
 

@@ -165,7 +165,11 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     XmlDocument document(table.path, QLatin1String(kFuelRoot));
     if (!load(*form, [&] { return form->loadXml(document.root()); }))
         return;
-    form->setEdited(true);
+    // As unsaved as it was.
+    if (table.unsaved == Unsaved::cut)
+        cutIn_[currentSensor()] = cutVolumes(form->rows());
+    form->setDirty(table.unsaved == Unsaved::added);
+    form->setEdited(table.unsaved != Unsaved::cut);
     kept_.show(*form, table.path, std::make_unique<FileClaim>(table.path));
     offerKeptTables();
 }

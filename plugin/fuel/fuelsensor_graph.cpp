@@ -44,9 +44,10 @@ double roundStep(double maximum)
 {
     const double most = maximum / 5;
     const double power = std::pow(10, std::floor(std::log10(most)));
-    for (const int times : {5, 2})
+    for (const int times : {5, 2}) {
         if (times * power <= most)
             return times * power;
+    }
     return power;
 }
 

@@ -192,8 +192,12 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
 void VLK_Device_R7106::confirmWrite(const vlk::WriteConfirmation& told)
 {
     confirmsWrites_ = true;
-    if (told.step == vlk::WriteConfirmation::confirmed && configDialog_)
+    if (told.step != vlk::WriteConfirmation::confirmed)
+        return;
+    if (configDialog_)
         configDialog_->confirmWritten(told.content ? *told.content : QByteArray());
+    if (told.content)
+        vlk::dropWrittenEdits(pathXml_, *told.content);
 }
 
 void VLK_Device_R7106::openTelemetry(const QString& configurationPath)

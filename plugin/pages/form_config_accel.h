@@ -28,6 +28,8 @@ public:
     void showPresentValues(const vlk::AccelValues& values) { virtual_->showPresentValues(values); }
     void clearPresentValues() { virtual_->clearPresentValues(); }
     void stopAuto() { virtual_->stopAuto(); }
+    void pauseAuto() { virtual_->pauseAuto(); }
+    void resumeAuto() { virtual_->resumeAuto(); }
 
 public Q_SLOTS:
     void slot_indexChangeed_tabWidget(int index);

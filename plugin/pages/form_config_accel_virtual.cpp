@@ -131,7 +131,7 @@ void VLK_Form_Config_Accel_Virtual::retranslate()
     age_.retranslate();
     int width = 0;
     for (const Sensor& sensor : sensors_)
-        width = qMax(width, sensor.level->sizeHint().width());
+        width = std::max(width, sensor.level->sizeHint().width());
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         const Sensor& sensor = sensors_[i];
         const QString name = QStringLiteral("%1 %2").arg(
@@ -175,6 +175,7 @@ void VLK_Form_Config_Accel_Virtual::showPresentValues(const vlk::AccelValues& va
         const double end = kScales[i].presentEnd;
         sensors_[i].present->setValue(static_cast<int>(std::clamp(present[i] * 10, 0.0, end)));
         showPresent(i, QString::asprintf("%.1f", present[i]));
+        vlk::showDash(sensors_[i].presentText, false);
     }
     age_.answered();
     pending_ = monitoring_;
@@ -187,6 +188,7 @@ void VLK_Form_Config_Accel_Virtual::clearPresentValues()
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         sensors_[i].present->setValue(0);
         showPresent(i, QStringLiteral("0"));
+        vlk::showDash(sensors_[i].presentText, true);
     }
     age_.clear();
 }
@@ -221,6 +223,18 @@ void VLK_Form_Config_Accel_Virtual::compareAll()
 void VLK_Form_Config_Accel_Virtual::stopAuto()
 {
     ui_->checkBox_Auto->setChecked(false);
+    age_.setPaused(false);
+}
+
+void VLK_Form_Config_Accel_Virtual::pauseAuto()
+{
+    stopAuto();
+    age_.setPaused(true);
+}
+
+void VLK_Form_Config_Accel_Virtual::resumeAuto()
+{
+    ui_->checkBox_Auto->setChecked(true);
 }
 
 void VLK_Form_Config_Accel_Virtual::slot_stateChanged_checkBox_Auto(int state)

@@ -46,6 +46,9 @@ public:
     void showPresentValues(const vlk::AccelValues& values);
     void clearPresentValues();
     void stopAuto();
+    // While the user works in another window, and when that is over.
+    void pauseAuto();
+    void resumeAuto();
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.

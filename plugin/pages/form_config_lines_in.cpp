@@ -104,6 +104,18 @@ void VLK_Form_Config_Lines_In::showAnalogRecord(const uchar* record)
 void VLK_Form_Config_Lines_In::stopAuto()
 {
     ui_->checkBox_AutoQuest->setChecked(false);
+    age_.setPaused(false);
+}
+
+void VLK_Form_Config_Lines_In::pauseAuto()
+{
+    stopAuto();
+    age_.setPaused(true);
+}
+
+void VLK_Form_Config_Lines_In::resumeAuto()
+{
+    ui_->checkBox_AutoQuest->setChecked(true);
 }
 
 void VLK_Form_Config_Lines_In::slot_stateChanged_checkBox_Auto(int state)

@@ -39,8 +39,10 @@ public:
     // hexadecimal; a record with three words (messages.h), which may be null.
     void showLineValues(const QByteArray& answer);
     void showAnalogRecord(const uchar* record);
-    // The monitor has stopped.
+    // The monitor has stopped, for as long as the user works in another window, or begins anew.
     void stopAuto();
+    void pauseAuto();
+    void resumeAuto();
 
 public Q_SLOTS:
     // An empty one names an edit that the settings take from its widget themselves.

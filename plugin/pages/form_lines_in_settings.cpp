@@ -114,7 +114,7 @@ void VLK_Form_Lines_In_Settings::fitHeight()
         return;
     QWidget* page = ui_.get()->*use->page;
     const int usual = page == ui_->page_AIN && !levelsVisible_ ? kHeightWithoutLevels : use->height;
-    setFixedHeight(qMax(usual, vlk::neededHeight(page, width())));
+    setFixedHeight(std::max(usual, vlk::neededHeight(page, width())));
 }
 
 // A normally open contact triggers above the thresholds, a normally closed one below.

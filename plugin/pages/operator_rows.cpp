@@ -1,5 +1,7 @@
 #include "pages/operator_rows.h"
 
+#include "typing/field_mark.h"
+
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 
@@ -28,12 +30,30 @@ protected:
     }
 };
 
+// Leaves the corner to the mark of a cell (cell_marks.h), whether it has one or not: nothing moves.
+class ListedDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // The style adds a margin on both sides.
+        constexpr int kBesideMargins = kMarkSize - 6;
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = {kBesideMargins, 1};
+    }
+};
+
 } // namespace
 
 void makeOperatorRows(QTreeWidget* tree, int count)
 {
     for (int row = 0; row < count; ++row)
         (new QTreeWidgetItem(tree))->setTextAlignment(0, Qt::AlignCenter);
+    tree->setItemDelegate(new ListedDelegate(tree));
     tree->setItemDelegateForColumn(0, new NumberDelegate(tree));
     numberOperatorRows(tree);
     // The keys that open a cell come without a double click.

@@ -12,6 +12,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 using vlk::BleSensorForm;
@@ -182,7 +184,7 @@ void VLK_Form_Config_Bluetooth_Device_Type::fitHeight()
 {
     const BleSensorForm* form = formOf(type_);
     const int usual = form ? form->type().height : kHeightWithoutForm;
-    setFixedHeight(qMax(usual, vlk::neededHeight(stack_->currentWidget(), width())));
+    setFixedHeight(std::max(usual, vlk::neededHeight(stack_->currentWidget(), width())));
 }
 
 bool VLK_Form_Config_Bluetooth_Device_Type::event(QEvent* event)

@@ -24,7 +24,7 @@ void refill(QComboBox* box, const QStringList& texts)
     const int current = box->currentIndex();
     box->clear();
     box->addItems(texts);
-    box->setCurrentIndex(qMax(current, 0));
+    box->setCurrentIndex(std::max(current, 0));
 }
 
 } // namespace
@@ -165,7 +165,7 @@ void ModbusRow::retranslate(const ModbusLists& lists)
 
 void ModbusRow::showNumber()
 {
-    const int kind = qMax(registerType->currentIndex(), 0);
+    const int kind = std::max(registerType->currentIndex(), 0);
     registerNumber->setValue(vlk::registerNumber({registerAddress->value(), kind}));
 }
 

@@ -24,6 +24,13 @@ void walk(const CXmlNode& element, const QString& path, const Take& take)
         ++taken;
     }
     QHash<QString, int> seen;
+    for (const CXmlAttribute& attribute : element.passedOver) {
+        if (isSection && attribute.name == QLatin1String("page"))
+            continue;
+        const QString name = sectionText(attribute.name);
+        take(QStringLiteral("%1/%2[%3]").arg(path, name).arg(++seen[name] + 1), attribute.value);
+    }
+    seen.clear();
     for (const auto& child : element.children) {
         QString below = path + QLatin1Char('/') + child->name;
         // Settings read a key from an element of its name too.

@@ -44,7 +44,8 @@ FileKeys::FileKeys()
 
 bool FileKeys::looksSecret(const QString& path) const
 {
-    return secretNames_.contains(path.section(QLatin1Char('/'), -1));
+    // "key[2]" is a second "key".
+    return secretNames_.contains(path.section(QLatin1Char('/'), -1).section(QLatin1Char('['), 0, 0));
 }
 
 int FileKeys::tableOfSection(const QString& path) const

@@ -56,10 +56,13 @@ const When* unmetOf(const Values& values, int row)
 std::optional<Needed> neededToShow(const Values& values, int row)
 {
     const When* unmet = unmetOf(values, row);
-    if (!unmet)
-        return {};
-    int needed = unmet->row;
-    const char* codes = unmet->codes;
+    return unmet ? std::optional(neededFor(values, *unmet)) : std::nullopt;
+}
+
+Needed neededFor(const Values& values, const When& unmet)
+{
+    int needed = unmet.row;
+    const char* codes = unmet.codes;
     // What no window shows follows what one does.
     for (const Sets& rule : values.table().all<Sets>()) {
         const Shown* shown = values.setting(needed).shown();
@@ -74,14 +77,14 @@ std::optional<Needed> neededToShow(const Values& values, int row)
     QString text = captionText(setting);
     if (text.isEmpty())
         text = headingText(setting);
-    const bool isAnyOther = unmet->negated || unmet->same;
+    const bool isAnyOther = unmet.negated || unmet.same;
     const QStringList texts = isAnyOther           ? QStringList()
                               : setting.is<Flag>() ? QStringList(yesNo(true))
                               : *codes             ? codeTexts(setting, codes)
                                                    : QStringList();
     if (!texts.isEmpty())
         text += QStringLiteral(": ") + texts.join(QStringLiteral(" / "));
-    return Needed{needed, text};
+    return {needed, text};
 }
 
 } // namespace vlk::review

@@ -16,5 +16,7 @@ struct Needed
 
 // Nothing for a setting that windows show as things stand.
 std::optional<Needed> neededToShow(const Values& values, int row);
+// For a condition that does not hold.
+Needed neededFor(const Values& values, const When& unmet);
 
 } // namespace vlk::review

@@ -171,6 +171,11 @@ std::vector<int> ownKeys(const Unsaved& unsaved)
     return Differences(stateOf(unsaved.before), stateOf(unsaved.after)).ownKeys();
 }
 
+bool isResult(const QByteArray& document, const Unsaved& unsaved)
+{
+    return Differences(stateOf(unsaved.after), stateOf(document)).all().empty();
+}
+
 QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved)
 {
     // Where nothing changed meanwhile, the very bytes come back, with what no setting of the window reads.

@@ -52,6 +52,8 @@ QString momentOf(const Unsaved& unsaved);
 // The keys (file_keys.h) that the edits have changed, and of these the ones that a person would count.
 std::vector<int> editedKeys(const Unsaved& unsaved);
 std::vector<int> ownKeys(const Unsaved& unsaved);
+// Whether a document is, by what it means, what a save would have written after the edits.
+bool isResult(const QByteArray& document, const Unsaved& unsaved);
 // The document of a save with the edits laid over it. Whatever else has changed since then stays.
 QByteArray withEdits(const QByteArray& document, const Unsaved& unsaved);
 

@@ -1,6 +1,7 @@
 #include "review/setting_words.h"
 
 #include "base/shown_text.h"
+#include "review/setting_parts.h"
 #include "review/value_text.h"
 
 #include <algorithm>
@@ -27,6 +28,15 @@ QString captionOfUnshown(const TableLayout::Row& row)
     const auto found = std::ranges::find_if(
         kUnshown, [&](const Unshown& unshown) { return row.filePath.endsWith(QLatin1String(unshown.end)); });
     return found == std::end(kUnshown) ? row.key : inOneLine(translated(found->caption));
+}
+
+// A choice may be one box to tick, which says what it chooses.
+QString boxText(const Setting& setting)
+{
+    const auto* choice = setting.as<Choice>();
+    if (!choice || std::ranges::count_if(choice->codes, [](const Code& code) { return !!code.widget; }) != 1)
+        return {};
+    return codeText(*std::ranges::find_if(choice->codes, [](const Code& code) { return !!code.widget; }));
 }
 
 bool isAlike(const TableLayout& layout, int row, int other)
@@ -68,9 +78,10 @@ SettingWords wordsOf(const TableLayout& layout, int row)
     SettingWords words{inOneLine(translated(layout.table->title)), headingText(*place.setting),
                        captionText(holder)};
     if (words.caption.isEmpty())
-        words.caption = holder.shown() && (holder.shown()->widget || holder.is<Digits>())
-                            ? words.group.section(QStringLiteral(" / "), -1)
-                            : captionOfUnshown(place);
+        words.caption = boxText(holder);
+    if (words.caption.isEmpty())
+        words.caption =
+            canBeShown(holder) ? words.group.section(QStringLiteral(" / "), -1) : captionOfUnshown(place);
     if (const QString use = useText(layout, row); !use.isEmpty())
         words.caption += QStringLiteral(" (%1)").arg(use);
     return words;

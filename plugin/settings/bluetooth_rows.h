@@ -197,24 +197,28 @@ constexpr auto elementRows(std::index_sequence<types...>)
 template <std::size_t... types>
 constexpr auto sensorRows(std::index_sequence<types...>)
 {
+    // clang-format off
     return rowsOf(
         group("SENS%1"), universal::kSensor,
-        choice("type", kTypeCodes, "0")
-            .byNumber()
-            .unknownIs("0")
-            .ifUnoffered(Unoffered::keepsValue)
-            .in("comboBox_Type_Sens_%1")
-            .caption("cfgt17_025"),
+        choice("type", kTypeCodes, "0").byNumber().unknownIs("0").ifUnoffered(Unoffered::keepsValue)
+                                                     .in("comboBox_Type_Sens_%1")     .caption("cfgt17_025"),  // Sensor type
         kForm,
-        shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),
-        text("name", "").in("lineEdit_Name_Sens_%1").caption("cfgt17_026"),
+        shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),  // MAC address
+        text("name", "")                             .in("lineEdit_Name_Sens_%1")     .caption("cfgt17_026"),  // Sensor name
         rowsOfType<types>("SENS%1/type")...);
+    // clang-format on
 }
 
 inline constexpr auto kSensorRows = sensorRows(std::make_index_sequence<kTypes>{});
 
-inline constexpr auto kRows =
-    rowsOf(group("GLOBAL"), flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"), group("CHANNEL1"),
-           constant("device", "SENS"), repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+// clang-format off
+inline constexpr auto kRows = rowsOf(
+    group("GLOBAL"),
+    flag("use", 1).in("checkBox_Bt_Use").caption("cfgt17_004"),  // Use Bluetooth
+
+    group("CHANNEL1"),
+    constant("device", "SENS"),
+    repeat<kBluetoothSensors>([](int) { return kSensorRows; }));
+// clang-format on
 
 } // namespace vlk::bluetooth

@@ -126,23 +126,25 @@ constexpr auto hidden(DataSetTab tab, const char* group, const Boxes&... boxes)
 
 constexpr const char* kTyres = "cfgt2f_130"; // of 5 and more, but for those that end in 2 to 4
 constexpr const char* kTyresFew = "cfgt2f_129";
+// clang-format off
 inline constexpr Code kTyreItems[] = {
-    {.code = "0000", .label = "cfgt2f_128"},
+    {.code = "0000", .label = "cfgt2f_128"},  // none
     {.code = "0100", .label = kTyresFew, .format = "4 %1"},
-    {.code = "1100", .label = kTyres, .format = "6 %1"},
-    {.code = "0010", .label = kTyres, .format = "8 %1"},
-    {.code = "1010", .label = kTyres, .format = "10 %1"},
-    {.code = "0110", .label = kTyres, .format = "12 %1"},
-    {.code = "1110", .label = kTyres, .format = "14 %1"},
-    {.code = "0001", .label = kTyres, .format = "16 %1"},
-    {.code = "1001", .label = kTyres, .format = "18 %1"},
-    {.code = "0101", .label = kTyres, .format = "20 %1"},
+    {.code = "1100", .label = kTyres,    .format = "6 %1"},
+    {.code = "0010", .label = kTyres,    .format = "8 %1"},
+    {.code = "1010", .label = kTyres,    .format = "10 %1"},
+    {.code = "0110", .label = kTyres,    .format = "12 %1"},
+    {.code = "1110", .label = kTyres,    .format = "14 %1"},
+    {.code = "0001", .label = kTyres,    .format = "16 %1"},
+    {.code = "1001", .label = kTyres,    .format = "18 %1"},
+    {.code = "0101", .label = kTyres,    .format = "20 %1"},
     {.code = "1101", .label = kTyresFew, .format = "22 %1"},
     {.code = "0011", .label = kTyresFew, .format = "24 %1"},
-    {.code = "1011", .label = kTyres, .format = "26 %1"},
-    {.code = "0111", .label = kTyres, .format = "28 %1"},
-    {.code = "1111", .label = kTyres, .format = "30 %1"},
+    {.code = "1011", .label = kTyres,    .format = "26 %1"},
+    {.code = "0111", .label = kTyres,    .format = "28 %1"},
+    {.code = "1111", .label = kTyres,    .format = "30 %1"},
 };
+// clang-format on
 
 constexpr DataSetBox tyres()
 {
@@ -155,32 +157,32 @@ constexpr DataSetBox tyres()
 
 } // namespace data_set
 
+// clang-format off
 inline constexpr DataSetGroup kDataSetGroups[] = {
-    {"groupBox_Main", "cfgt2f_002", 0, 0, 3, DataSetTab::main},
-    {"groupBox_Imp", "cfgt2f_016", 0, 1, 1, DataSetTab::main},
-    {"groupBox_Temp", "cfgt2f_021", 1, 1, 1, DataSetTab::main},
-    {"groupBox_Ain", "cfgt2f_024", 2, 1, 1, DataSetTab::main},
-    {"groupBox_Frequency", "cfgt2f_017", 3, 0, 1, DataSetTab::main},
-    {"groupBox_Motochas", "cfgt2f_018", 3, 1, 1, DataSetTab::main},
-    {"groupBox_Navi", "cfgt2f_027", 0, 0, 3, DataSetTab::navi},
-    {"groupBox_Accuracy", "cfgt2f_038", 0, 1, 1, DataSetTab::navi},
-    {"groupBox_LBS", "cfgt2f_055", 1, 1, 1, DataSetTab::navi},
-    {"groupBox_Geozone", "cfgt2f_048", 2, 1, 1, DataSetTab::navi},
-    {"groupBox_MNavi", "cfgt2f_041", 3, 0, 1, DataSetTab::navi},
-    {"groupBox_RS232", "cfgt2f_054", 0, 0, 1, DataSetTab::rs},
-    {"groupBox_RS485", nullptr, 1, 0, 1, DataSetTab::rs, true},
-    {"groupBox_Accel", "cfgt2f_082", 0, 0, 1, DataSetTab::accel},
-    {"groupBox_EcoDrive", "cfgt2f_083", 1, 0, 1, DataSetTab::accel},
-    {"groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, DataSetTab::more, true},
-    {"groupBox_Passager", "cfgt2f_132", 1, 0, 1, DataSetTab::more},
-    {"groupBox_Camera", "cfgt2f_134", 2, 0, 1, DataSetTab::more},
-    {"groupBox_VAccelAxels", "cfgt2f_135", 3, 0, 1, DataSetTab::more},
-    {"groupBox_Disp", "cfgt2f_136", 4, 0, 1, DataSetTab::more},
-    {"groupBox_Ainf", "cfgt2f_139", 5, 0, 1, DataSetTab::more},
-    {"groupBox_Tires", "cfgt2f_127", 6, 0, 1, DataSetTab::more},
+    {"groupBox_Main",          "cfgt2f_002", 0, 0, 3, DataSetTab::main},        // Tracker
+    {"groupBox_Imp",           "cfgt2f_016", 0, 1, 1, DataSetTab::main},        // Pulse-counting input
+    {"groupBox_Temp",          "cfgt2f_021", 1, 1, 1, DataSetTab::main},        // Temperature sensors
+    {"groupBox_Ain",           "cfgt2f_024", 2, 1, 1, DataSetTab::main},        // Analogue inputs
+    {"groupBox_Frequency",     "cfgt2f_017", 3, 0, 1, DataSetTab::main},        // Frequency input
+    {"groupBox_Motochas",      "cfgt2f_018", 3, 1, 1, DataSetTab::main},        // Engine hours
+    {"groupBox_Navi",          "cfgt2f_027", 0, 0, 3, DataSetTab::navi},        // Position and motion
+    {"groupBox_Accuracy",      "cfgt2f_038", 0, 1, 1, DataSetTab::navi},        // Satellites and accuracy
+    {"groupBox_LBS",           "cfgt2f_055", 1, 1, 1, DataSetTab::navi},        // Position without satellites
+    {"groupBox_Geozone",       "cfgt2f_048", 2, 1, 1, DataSetTab::navi},        // Geofences
+    {"groupBox_MNavi",         "cfgt2f_041", 3, 0, 1, DataSetTab::navi},        // High-precision receiver
+    {"groupBox_RS232",         "cfgt2f_054", 0, 0, 1, DataSetTab::rs},          // RS-232 level sensor
+    {"groupBox_RS485",         nullptr,      1, 0, 1, DataSetTab::rs,   true},
+    {"groupBox_Accel",         "cfgt2f_082", 0, 0, 1, DataSetTab::accel},       // Accelerometer
+    {"groupBox_EcoDrive",      "cfgt2f_083", 1, 0, 1, DataSetTab::accel},       // Driving style
+    {"groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, DataSetTab::more, true},  // High-precision temperature and humidity sensors
+    {"groupBox_Passager",      "cfgt2f_132", 1, 0, 1, DataSetTab::more},        // Passenger counters
+    {"groupBox_Camera",        "cfgt2f_134", 2, 0, 1, DataSetTab::more},        // Camera
+    {"groupBox_VAccelAxels",   "cfgt2f_135", 3, 0, 1, DataSetTab::more},        // External tilt sensor
+    {"groupBox_Disp",          "cfgt2f_136", 4, 0, 1, DataSetTab::more},        // Driver display
+    {"groupBox_Ainf",          "cfgt2f_139", 5, 0, 1, DataSetTab::more},        // Announcer
+    {"groupBox_Tires",         "cfgt2f_127", 6, 0, 1, DataSetTab::more},        // Tyre pressure
 };
 
-// clang-format off
 inline constexpr auto kDataSetBoxes = [] {
     using namespace data_set;
     using enum DataSetTab;

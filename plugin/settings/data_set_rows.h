@@ -23,11 +23,11 @@ inline constexpr auto kMaskFields = [] {
     return fields;
 }();
 
-inline constexpr auto kRows =
-    rowsOf(group("ZETA"),
-           choice("format", kVersions, "10").unknownIs("30").in("comboBox_FlashFormat").caption("cfgt2_002"),
-           mask("mask", kDefaultMaskText.data(), kFieldCount, kMaskFields)
-               .in("tabWidget_Zeta3")
-               .caption("cfgt2_006"));
+// clang-format off
+inline constexpr auto kRows = rowsOf(
+    group("ZETA"),
+    choice("format", kVersions, "10").unknownIs("30")              .in("comboBox_FlashFormat").caption("cfgt2_002"),   // Version of the transfer protocol
+    mask("mask", kDefaultMaskText.data(), kFieldCount, kMaskFields).in("tabWidget_Zeta3")     .caption("cfgt2_006"));  // Fields of the record
+// clang-format on
 
 } // namespace vlk::data_set

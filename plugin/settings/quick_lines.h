@@ -10,31 +10,33 @@
 
 namespace vlk::quick {
 
+// clang-format off
 inline constexpr Code kUses[] = {
-    {.code = "NU", .label = "cfgwl_012"},
-    {.code = "NS+", .label = "cfgt8_003", .format = "%1+"},
-    {.code = "NB+", .label = "cfgt8_004", .format = "%1+"},
-    {.code = "NB+ ignition", .label = "cfgt8_051"},
-    {.code = "NS+ ignition", .label = "cfgt8_052"},
-    {.code = "NB-", .label = "cfgt8_004", .format = "%1-"},
-    {.code = "NS-", .label = "cfgt8_003", .format = "%1-"},
-    {.code = "AIN", .label = "cfgwl_016"},
+    {.code = "NU",           .label = "cfgwl_012"},                   // Not used
+    {.code = "NS+",          .label = "cfgt8_003", .format = "%1+"},  // Normally closed+
+    {.code = "NB+",          .label = "cfgt8_004", .format = "%1+"},  // Normally open+
+    {.code = "NB+ ignition", .label = "cfgt8_051"},                   // Ignition, normally open
+    {.code = "NS+ ignition", .label = "cfgt8_052"},                   // Ignition, normally closed
+    {.code = "NB-",          .label = "cfgt8_004", .format = "%1-"},  // Normally open-
+    {.code = "NS-",          .label = "cfgt8_003", .format = "%1-"},  // Normally closed-
+    {.code = "AIN",          .label = "cfgwl_016"},                   // Analogue input
 };
 
 // State at rest and ignition of each use. Ignition on a line that switches to ground is no use of this
 // window.
 inline constexpr PresetRow kUseRows[] = {
-    {"NU", {"NU", "0"}},
-    {"NS+", {"NS+", "0"}},
-    {"NB+", {"NB+", "0"}},
+    {"NU",           {"NU", "0"}},
+    {"NS+",          {"NS+", "0"}},
+    {"NB+",          {"NB+", "0"}},
     {"NB+ ignition", {"NB+", "1"}},
     {"NS+ ignition", {"NS+", "1"}},
-    {"NB-", {"NB-", "0"}},
-    {"NS-", {"NS-", "0"}},
-    {"AIN", {"AIN", "0"}},
-    {"NU", {"NB-", "1"}},
-    {"NU", {"NS-", "1"}},
+    {"NB-",          {"NB-", "0"}},
+    {"NS-",          {"NS-", "0"}},
+    {"AIN",          {"AIN", "0"}},
+    {"NU",           {"NB-", "1"}},
+    {"NU",           {"NS-", "1"}},
 };
+// clang-format on
 
 inline constexpr Code kStates[] = {{.code = "NU"},  {.code = "NS+"}, {.code = "NB+"},
                                    {.code = "NB-"}, {.code = "NS-"}, {.code = "AIN"}};
@@ -60,7 +62,7 @@ template <int... fields>
 inline constexpr const char* kWithFields = kMaskWithFields<fields...>.data();
 inline constexpr const char* kMask = "PROTOCOL/ZETA/mask";
 
-inline constexpr Heading kInputLines{"cfgwl_017"};
+inline constexpr Heading kInputLines{"cfgwl_017"}; // Input lines
 
 struct Line
 {
@@ -70,38 +72,46 @@ struct Line
     double ignition;  // where the file lacks the element with the flag
 };
 
+// clang-format off
 inline constexpr Line kLines[] = {
-    {"NU|NS+|NB+|NB+ ignition|NS+ ignition", "cfgt8_010", "UIN1", 1},
-    {"NU|NB-|NS-", "cfgt8_011", "UIN2", 0},
-    {"NU|NS+|NB+|AIN", "cfgt8_012", "UIN3", 0},
+    {"NU|NS+|NB+|NB+ ignition|NS+ ignition", "cfgt8_010", "UIN1", 1},  // Line IN1
+    {"NU|NB-|NS-",                           "cfgt8_011", "UIN2", 0},  // Line IN2
+    {"NU|NS+|NB+|AIN",                       "cfgt8_012", "UIN3", 0},  // Line AIN3
 };
 
 inline constexpr auto kLineRows = rowsOf(
-    group("SENSORS"), constant("page", "SENSORS"), kInputLines, repeat<3>([](int number) {
+    group("SENSORS"),
+    constant("page", "SENSORS"),
+    kInputLines,
+    repeat<3>([](int number) {
         const Line& line = kLines[number - 1];
         return rowsOf(
             group("SENSORS/IN%1"),
-            choice("use", kUses, "NU")
-                .offering(line.uses)
-                .notStored()
-                .ifMissing(Missing::keepsValue)
-                .in("comboBox_NormState_In_%1")
-                .caption(line.caption),
-            choice("ign", kNoOrYes, "0").byNumber().unknownIs("0").notStored(),
-            choice("normState", kStates, "NU").unknownIs("").noItemIs(""), constant("name", line.name),
+            choice("use", kUses, "NU")        .offering(line.uses).notStored().ifMissing(Missing::keepsValue).in("comboBox_NormState_In_%1").caption(line.caption),
+            choice("ign", kNoOrYes, "0")      .byNumber().unknownIs("0").notStored(),
+            choice("normState", kStates, "NU").unknownIs("").noItemIs(""),
+            constant("name", line.name),
 
             group("SENSORS/IN%1/IN%1DIN").onlyWhen(when("SENSORS/IN%1/normState", kToGround)),
-            link("ign", "SENSORS/IN%1/ign", 0).ifNoElement(line.ignition), constant("cntlRestore", "1"),
+            link("ign", "SENSORS/IN%1/ign", 0).ifNoElement(line.ignition),
+            constant("cntlRestore", "1"),
             constant("analysTime", "2500"),
 
             group("SENSORS/IN%1/IN%1ADIN").onlyWhen(when("SENSORS/IN%1/normState", kToSupply)),
-            link("ign", "SENSORS/IN%1/ign", 1).ifNoElement(line.ignition), constant("cntlRestore", "0"),
-            constant("analysTime", "2500"), constant("lowLvl", "5000"), constant("highLvl", "6000"),
+            link("ign", "SENSORS/IN%1/ign", 1).ifNoElement(line.ignition),
+            constant("cntlRestore", "0"),
+            constant("analysTime", "2500"),
+            constant("lowLvl", "5000"),
+            constant("highLvl", "6000"),
 
             group("SENSORS/IN%1/IN%1AIN").onlyWhen(when("SENSORS/IN%1/normState", "AIN")),
-            constant("thld", "5000"), constant("trhldOff", "0"), constant("filterMode", "1"),
-            constant("filterLen", "30"), constant("filterLvl", "5"));
+            constant("thld", "5000"),
+            constant("trhldOff", "0"),
+            constant("filterMode", "1"),
+            constant("filterLen", "30"),
+            constant("filterLvl", "5"));
     }));
+// clang-format on
 
 inline constexpr auto kLineSets =
     repeat<3>([](int) { return onSave(when("SENSORS/IN%1/normState", "NU"), "SENSORS/IN%1/name", ""); });
@@ -118,8 +128,11 @@ inline constexpr const char* kLineVoltages[] = {
     kWithFields<field("StateU_Ain1")>, kWithFields<field("StateU_Ain2")>, kWithFields<field("StateU_Ain3")>};
 
 inline constexpr auto kLineMasks = repeat<3>([](int number) {
-    return rulesOf(onSave(when("SENSORS/IN%1/normState", kDigital), kMask, kWithFields<field("StateIn1")>),
-                   onSave(when("SENSORS/IN%1/normState", "AIN"), kMask, kLineVoltages[number - 1]));
+    // clang-format off
+    return rulesOf(
+        onSave(when("SENSORS/IN%1/normState", kDigital), kMask, kWithFields<field("StateIn1")>),
+        onSave(when("SENSORS/IN%1/normState", "AIN"),    kMask, kLineVoltages[number - 1]));
+    // clang-format on
 });
 
 } // namespace vlk::quick

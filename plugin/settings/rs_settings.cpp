@@ -33,10 +33,12 @@ constexpr auto kLineSets = [] {
 
 // Readers without a choice of the mode work in the first one.
 constexpr When kOneModeReaders = when("RFID/type", "ESCORT|MIELTA");
-constexpr auto kSets =
-    rulesOf(kLineSets, onEdit(kOneModeReaders, "RFID/mode", "0"),
-            onEdit(owned("RFID"), "RFID/mode", "0").onlyIf(kOneModeReaders),
-            repeat<kRsFuelSensors>([](int) { return onSave(unless("FLDS/type"), "FS%1/type", "0"); }));
+// clang-format off
+constexpr auto kSets = rulesOf(
+    kLineSets,
+    onEdit(kOneModeReaders, "RFID/mode", "0"),
+    onEdit(owned("RFID"),   "RFID/mode", "0").onlyIf(kOneModeReaders),
+    repeat<kRsFuelSensors>([](int) { return onSave(unless("FLDS/type"), "FS%1/type", "0"); }));
 
 // A type of tachograph brings its usual access.
 constexpr PresetRow kTachographAccess[] = {
@@ -45,24 +47,26 @@ constexpr PresetRow kTachographAccess[] = {
     {"MERK", {"1", "738205"}},
     {"KONT", {"1", "738205"}},
 };
+// clang-format on
 constexpr auto kPresets = rulesOf(
     Presets{.trigger = "TACH/type", .fields = {"TACH/login", "TACH/pass"}, .rows = kTachographAccess});
 
+// clang-format off
 constexpr auto kEnables = rulesOf(
-    show({"RFID", "spinBox_Address"}, when("RFID/type", "ESCORT|LLS|ADM20")),
-    show({"RFID", "comboBox_Mode"}, when("RFID/type", "LLS")),
+    show({"RFID", "spinBox_Address"},                when("RFID/type", "ESCORT|LLS|ADM20")),
+    show({"RFID", "comboBox_Mode"},                  when("RFID/type", "LLS")),
     show({"RFID", "checkBox_Nearest spinBox_Floor"}, when("RFID/type", "MIELTA|ADM20")),
-    show({"TACH", "lineEdit_ID"}, when("TACH/type", "ATOL")),
-    show({"TACH", "lineEdit_Key"}, when("TACH/type", "ATOL|STRH")),
-    show({"TACH", "checkBox_Ping"}, when("TACH/type", "KONT")), repeat<kRsFuelSensors>([](int) {
+    show({"TACH", "lineEdit_ID"},                    when("TACH/type", "ATOL")),
+    show({"TACH", "lineEdit_Key"},                   when("TACH/type", "ATOL|STRH")),
+    show({"TACH", "checkBox_Ping"},                  when("TACH/type", "KONT")),
+    repeat<kRsFuelSensors>([](int) {
         return rulesOf(
-            enable(
-                {"FLDS", "spinBox_Addres_%1 spinBox_Response_%1 checkBox_TrhldMoveOff_%1 checkBox_Filter_%1"},
-                when("FS%1/use")),
-            enable({"FLDS", "spinBox_Aver_%1 spinBox_Kalman_%1"}, when("FS%1/use"), when("FS%1/filterMode")));
+            enable({"FLDS", "spinBox_Addres_%1 spinBox_Response_%1 checkBox_TrhldMoveOff_%1 checkBox_Filter_%1"}, when("FS%1/use")),
+            enable({"FLDS", "spinBox_Aver_%1 spinBox_Kalman_%1"},                                                 when("FS%1/use"), when("FS%1/filterMode")));
     }),
     repeat<6>([](int) { return enable(parts("FLDS", "pushButton_Fuel_D%1"), when("FS%1/use")); }),
     enable({"PCNT", "comboBox_Event_In"}, when("PCNT/countEvent", "2")));
+// clang-format on
 
 } // namespace
 

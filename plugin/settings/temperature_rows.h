@@ -8,7 +8,7 @@ namespace vlk::temperature {
 
 inline constexpr const char* kSection = "TEMPSENS";
 
-inline constexpr Heading kSensor{"cfgt7_007", "%1 T%2"};
+inline constexpr Heading kSensor{"cfgt7_007", "%1 T%2"}; // Temperature sensor
 
 constexpr auto degrees(const char* key, double loadDefault)
 {
@@ -18,11 +18,14 @@ constexpr auto degrees(const char* key, double loadDefault)
 // The bounds are read in front of the hysteresis, which then pushes them apart where they are too near for
 // it.
 inline constexpr auto kRows = rowsOf(repeat<4>([](int) {
-    return rowsOf(group("SENS%1"), kSensor,
-                  degrees("min", -50).range(-50, 115).in("doubleSpinBox_Left_Temp_%1").caption("cfgt7_002"),
-                  degrees("max", 120).range(-45, 120).in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),
-                  integer("hyst", 5).range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1").caption("cfgt7_004"),
-                  flag("filterMode", 1).in("checkBox_Filtr_%1").caption("cfgt7_005"));
+    // clang-format off
+    return rowsOf(
+        group("SENS%1"), kSensor,
+        degrees("min", -50).range(-50, 115)              .in("doubleSpinBox_Left_Temp_%1") .caption("cfgt7_002"),   // Min
+        degrees("max", 120).range(-45, 120)              .in("doubleSpinBox_Right_Temp_%1").caption("cfgt7_003"),   // Max
+        integer("hyst", 5) .range(0, 10).unit("abbr_017").in("spinBox_Hyst_%1")            .caption("cfgt7_004"),   // Hysteresis
+        flag("filterMode", 1)                            .in("checkBox_Filtr_%1")          .caption("cfgt7_005"));  // Switch filtering on
+    // clang-format on
 }));
 
 } // namespace vlk::temperature

@@ -25,11 +25,20 @@ void PresentAge::setPeriod(int periodMs)
 {
     due_.stop();
     awaited_.stop();
+    isPaused_ = false;
     due_.setInterval(2 * periodMs);
-    if (periodMs > 0)
+    if (periodMs > 0) {
         due_.start();
-    else
+        retranslate();
+    } else {
         setOld(true);
+    }
+}
+
+void PresentAge::setPaused(bool isPaused)
+{
+    isPaused_ = isPaused;
+    retranslate();
 }
 
 void PresentAge::await(bool isAwaited)
@@ -74,8 +83,12 @@ void PresentAge::setOld(bool isOld)
 
 void PresentAge::retranslate()
 {
-    since_->setText(isOld_ ? QObject::tr("cfgt6_451").arg(last_.toString(QStringLiteral("HH:mm:ss")))
-                           : QString());
+    QStringList told;
+    if (isOld_)
+        told << QObject::tr("cfgt6_451").arg(last_.toString(QStringLiteral("HH:mm:ss")));
+    if (isPaused_)
+        told << QObject::tr("cfgt6_481");
+    since_->setText(told.join(QLatin1String(", ")));
 }
 
 } // namespace vlk

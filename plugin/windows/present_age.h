@@ -23,6 +23,8 @@ public:
     void tellIn(QLabel* since) { since_ = since; }
     // In milliseconds; 0 when no more answers are asked for.
     void setPeriod(int periodMs);
+    // Answers are asked for again later, which the label says until then.
+    void setPaused(bool isPaused);
     // One answer is asked for, or not waited for any more. Where they come in a period, that counts.
     void await(bool isAwaited);
     void answered();
@@ -45,6 +47,7 @@ private:
     QTimer awaited_; // the one that was asked for by hand
     QTime last_;     // null when nothing is on show
     bool isOld_ = false;
+    bool isPaused_ = false;
 };
 
 } // namespace vlk

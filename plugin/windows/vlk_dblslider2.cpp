@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -99,12 +100,12 @@ void VLK_DblSlider2::setValue2(double value)
 // Where the gap is wider than the scale, a value stops at the end of the scale.
 double VLK_DblSlider2::clampedValue1(double value) const
 {
-    return qMax(minimum_, qMin(value, maximum_ - gap_));
+    return std::max(minimum_, std::min(value, maximum_ - gap_));
 }
 
 double VLK_DblSlider2::clampedValue2(double value) const
 {
-    return qMin(maximum_, qMax(value, minimum_ + gap_));
+    return std::min(maximum_, std::max(value, minimum_ + gap_));
 }
 
 void VLK_DblSlider2::moveValue2(double value)
@@ -280,7 +281,8 @@ std::pair<int, int> VLK_DblSlider2::handlePixels() const
 {
     const int last = width() - 1;
     const int pixel1 = pixelOf(value1_);
-    return {pixel1 + kHandleHalf > last ? last - 5 : pixel1, qMin(qMax(pixelOf(value2_), kHandleHalf), last)};
+    return {pixel1 + kHandleHalf > last ? last - 5 : pixel1,
+            std::min(std::max(pixelOf(value2_), kHandleHalf), last)};
 }
 
 int VLK_DblSlider2::pixelOf(double value) const
@@ -288,7 +290,7 @@ int VLK_DblSlider2::pixelOf(double value) const
     if (maximum_ <= minimum_)
         return 0;
     const double position = width() / (maximum_ - minimum_) * (value - minimum_);
-    return position > 0 ? static_cast<int>(qMin(position, double(width()))) : 0;
+    return position > 0 ? static_cast<int>(std::min(position, double(width()))) : 0;
 }
 
 void VLK_DblSlider2::paintTrack(QPainter& painter, int pixel1, int pixel2) const

@@ -144,6 +144,7 @@ void CSerialize::clearContent(CXmlNode* node)
         return;
     node->children.clear();
     node->attributes.clear();
+    node->passedOver.clear();
 }
 
 bool closeDocument(CSerialize* document, bool save)

@@ -30,8 +30,8 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
     if (const int count = attributes.length(); count > 0) {
         current_->kind = CXmlNode::Attributed;
         current_->attributes.reserve(static_cast<std::size_t>(count));
-        // The reader passes a name that stands twice; the first one counts. Most elements have a handful of
-        // attributes, which are sooner compared than hashed.
+        // The reader passes on a name that stands twice; the first one counts. Most elements have a handful
+        // of attributes, which are sooner compared than hashed.
         constexpr int few = 64;
         QSet<QString> seen;
         for (int i = 0; i < count; ++i) {
@@ -40,8 +40,10 @@ bool CXmlDefaultHandler::startElement(const QString&, const QString&, const QStr
             if (count > few)
                 seen.insert(name);
             const auto isNamed = [&name](const CXmlAttribute& other) { return other.isNamed(name); };
-            if (count > few ? seen.size() > known : std::ranges::none_of(current_->attributes, isNamed))
-                current_->attributes.push_back({name, vlk::decodeValue(attributes.value(i))});
+            const bool isFirst =
+                count > few ? seen.size() > known : std::ranges::none_of(current_->attributes, isNamed);
+            (isFirst ? current_->attributes : current_->passedOver)
+                .push_back({name, vlk::decodeValue(attributes.value(i))});
         }
         sawContent_ = true;
     }

@@ -42,5 +42,6 @@ public:
     Kind kind = Element;
     List children;
     std::vector<CXmlAttribute> attributes; // each name once
+    std::vector<CXmlAttribute> passedOver; // by the reader: they came behind one of their name
     CXmlNode* parent = nullptr;
 };

@@ -88,9 +88,10 @@ protected:
         auto* groups = fuel_.child<QTabWidget>("tabWidget");
         for (int i = 0; i < groups->count(); ++i) {
             auto* group = qobject_cast<QTabWidget*>(groups->widget(i));
-            for (int at = 0; at < group->count(); ++at)
+            for (int at = 0; at < group->count(); ++at) {
                 if (isMarked(*group, at) && isMarked(*groups, i))
                     names << group->widget(at)->objectName();
+            }
         }
         return names.join(' ');
     }
@@ -104,9 +105,10 @@ protected:
     QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
     void pressInBar(const QString& caption)
     {
-        for (auto* button : bar()->findChildren<QPushButton*>())
+        for (auto* button : bar()->findChildren<QPushButton*>()) {
             if (!button->isHidden() && button->text() == caption)
                 return button->click();
+        }
         qFatal("no button %s", qPrintable(caption));
     }
     QTableWidget* table(const QString& sensor)

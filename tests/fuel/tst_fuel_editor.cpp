@@ -364,6 +364,10 @@ private Q_SLOTS:
         sheet.rows.front().changing = QStringList{"90", "100"};
         const QString doubtful = vlk::sheetHtml(sheet);
         QVERIFY(doubtful.contains(cell.arg(0) + cell.arg("100 *")) && doubtful.contains("<p>* cfgt6_460"));
+        // A point that is ringed in red on the curve is told in words.
+        QVERIFY(!doubtful.contains("cfgt6_403"));
+        sheet.points = {{0, 100}, {10, 90}};
+        QVERIFY(vlk::sheetHtml(sheet).contains("<p>cfgt6_403"));
         // The name of a file that was not taken is the tank's too.
         QTemporaryDir folder;
         const QString path = folder.filePath("load.xml");

@@ -315,7 +315,7 @@ private Q_SLOTS:
         for (const auto& [sensor, seconds, rows] :
              {std::tuple("old", 0, 4), {"none", 10, 0}, {"few", 9, 1}, {"many", 9, 3}})
             keepTable(newKeptPath(folder.path(), sensor, {}, time), sensor, {}, {},
-                      FuelRows(std::size_t(rows)), time.addSecs(seconds));
+                      FuelRows(std::size_t(rows)), time.addSecs(seconds), vlk::Unsaved::added);
         QStringList order;
         for (const KeptTable& table : keptTables(folder.path()))
             order << table.sensor;

@@ -4,6 +4,7 @@
 #include "support/data_table.h"
 #include "support/distances.h"
 #include "support/scripted_host.h"
+#include "window/appearance.h"
 #include "window/house_style.h"
 #include "window/languages.h"
 
@@ -11,6 +12,7 @@
 #include <QtWidgets>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -204,9 +206,10 @@ private Q_SLOTS:
                 for (int tab = 0; tab < tabs_->count(); ++tab) {
                     tabs_->setCurrentIndex(tab);
                     settle();
-                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name)))
+                    for (auto* found : tabs_->findChildren<QWidget*>(part.arg(name))) {
                         if (found->isVisible())
                             return found;
+                    }
                 }
                 qFatal("nowhere");
             };
@@ -318,6 +321,48 @@ private Q_SLOTS:
             QVERIFY(line->isReadOnly() && !line->hasFrame() && !(line->focusPolicy() & Qt::TabFocus));
     }
 
+    // By keys, on light and on dark: its outline has three times the light of the window, or a third of it.
+    void focusIsSeen()
+    {
+        for (const auto appearance : {workbench::Appearance::Light, workbench::Appearance::Dark}) {
+            workbench::apply(appearance);
+            QDialog window;
+            QVBoxLayout layout(&window);
+            QLineEdit elsewhere;
+            QPushButton button(QStringLiteral("Save"));
+            button.setAutoDefault(false);
+            QCheckBox box(QStringLiteral("Passwords"));
+            QToolButton tool;
+            tool.setText(QStringLiteral("Presets"));
+            QComboBox list;
+            list.addItem(QStringLiteral("All"));
+            QTextBrowser page;
+            for (QWidget* widget : QWidgetList{&elsewhere, &button, &box, &tool, &list, &page})
+                layout.addWidget(widget);
+            window.show();
+            QApplication::setActiveWindow(&window);
+            elsewhere.setFocus();
+            for (QWidget* widget : QWidgetList{&button, &box, &tool, &list, &page}) {
+                const QImage without = widget->grab().toImage();
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+                QVERIFY(widget->hasFocus());
+                const QImage with = widget->grab().toImage();
+                int outline = 0;
+                for (int x = 0; x < with.width(); ++x) {
+                    for (int y = 0; y < with.height(); ++y) {
+                        const bool isSeen =
+                            with.pixel(x, y) != without.pixel(x, y) &&
+                            contrast(with.pixelColor(x, y), window.palette().window().color()) > 3;
+                        outline += isSeen ? 1 : 0;
+                    }
+                }
+                QVERIFY2(outline > 100, qPrintable(QString::fromLatin1(widget->metaObject()->className()) +
+                                                   QLatin1Char(' ') + QString::number(outline)));
+            }
+        }
+        workbench::apply(workbench::Appearance::System);
+    }
+
 private:
     static void settle()
     {
@@ -384,8 +429,8 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     workbench::HouseStyle::setUp();
-    ConfigLooksTest test;
-    return QTest::qExec(&test, argc, argv);
+    const auto test = std::make_unique<ConfigLooksTest>();
+    return QTest::qExec(test.get(), argc, argv);
 }
 
 #include "tst_config_looks.moc"

@@ -42,10 +42,13 @@ private Q_SLOTS:
         active_ = true;
         answerWithinTheCall = nullptr;
         stopped_.clear();
+        paused_.clear();
+        resumed_.clear();
         cleared_ = 0;
-        monitor_ = std::make_unique<ConfigMonitor>(
-            ConfigMonitor::Window{[this] { return tab_; }, [this] { return active_; },
-                                  [this](Tab kind) { stopped_ << kind; }, [this] { ++cleared_; }});
+        monitor_ = std::make_unique<ConfigMonitor>(ConfigMonitor::Window{
+            [this] { return tab_; }, [this] { return active_; }, [this](Tab kind) { stopped_ << kind; },
+            [this](Tab kind) { paused_ << kind; }, [this](Tab kind) { resumed_ << kind; },
+            [this] { ++cleared_; }});
         monitor_->setConnected(true);
         take();
     }
@@ -183,9 +186,41 @@ private Q_SLOTS:
         monitor_->timeout();
         QCOMPARE(take(), QVector<Message>{});
         QVERIFY(!monitor_->isOn());
-        QCOMPARE(stopped_, QVector<Tab>{Tab::InputLines});
+        QCOMPARE(stopped_ + paused_, QVector<Tab>{Tab::InputLines});
+        QCOMPARE(paused_.isEmpty(), active);
         monitor_->linesAnswered();
         QVERIFY(!monitor_->timer()->isActive());
+        // Whoever has left no more than the window finds it going on; else nothing is said of that any more.
+        active_ = true;
+        monitor_->activated();
+        QCOMPARE(resumed_, paused_);
+        monitor_->activated();
+        QCOMPARE(resumed_.size() + stopped_.size(), 1);
+    }
+
+    void forgetsAPause_data()
+    {
+        DataTable<Action>({"act"})
+            .row("other tab", [this] { tab_ = Tab::System; })
+            .row("ended", [this] { monitor_->end(); })
+            .row("tracker gone", [this] { monitor_->setConnected(false); })
+            .row("the other monitor", [this] {
+                tab_ = Tab::Accel;
+                monitor_->startAccel(true, 5000);
+            });
+    }
+    void forgetsAPause()
+    {
+        QFETCH(Action, act);
+        monitor_->startLines(true, "21", 5000);
+        active_ = false;
+        monitor_->timeout();
+        QCOMPARE(paused_, QVector<Tab>{Tab::InputLines});
+        act();
+        active_ = true;
+        monitor_->activated();
+        QCOMPARE(resumed_, QVector<Tab>{});
+        QCOMPARE(stopped_, QVector<Tab>{Tab::InputLines});
     }
 
     // By the timeout, by a request of the other page, or by its monitor.
@@ -251,7 +286,7 @@ private Q_SLOTS:
         active_ = false;
         monitor_->requestAccel();
         QCOMPARE(take(), QVector<Message>{});
-        QCOMPARE(stopped_, QVector<Tab>{Tab::Accel});
+        QCOMPARE(paused_, QVector<Tab>{Tab::Accel});
         QVERIFY(!monitor_->timer()->isActive());
     }
 
@@ -318,6 +353,8 @@ private:
     Tab tab_ = Tab::Other;
     bool active_ = true;
     QVector<Tab> stopped_;
+    QVector<Tab> paused_;
+    QVector<Tab> resumed_;
     int cleared_ = 0;
     std::unique_ptr<ConfigMonitor> monitor_;
 };

@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
+#include <QLabel>
 #include <QSlider>
 #include <QTimer>
 #include <QtTest>
@@ -73,10 +74,13 @@ private Q_SLOTS:
         QFETCH(double, tilt);
         QFETCH(quint32, shock);
         check({{"checkBox_Auto", true}});
+        QVERIFY(isDash(1));
         page().showPresentValues({movement, tilt, shock});
         QTEST(seen(), "seen");
+        QVERIFY(!isDash(1) && isDash(4) == std::isnan(tilt));
         page().clearPresentValues();
         QCOMPARE(seen(), QString("0 % 0, 0 % 0, 0 % 0, 0 abbr_016 0"));
+        QVERIFY(isDash(1));
     }
 
     // Without a new answer.
@@ -189,6 +193,13 @@ private Q_SLOTS:
         QVERIFY(!query->isActive());
         QVERIFY(!full.answers().monitor().isOn());
         QVERIFY(get("pushButton_Quest")->isEnabledTo(get("groupBox_Quest")));
+        // Back in the window they go on; the line beside the box has said so.
+        const QString told = get<QLabel>("label_Quest_Since")->text();
+        QCOMPARE(told.contains("cfgt6_481"), end == "not active");
+        QApplication::setActiveWindow(&full);
+        QCOMPARE(isChecked("checkBox_Auto"), end == "not active");
+        QCOMPARE(take().size(), end == "not active" ? 1 : 0);
+        QVERIFY(!get<QLabel>("label_Quest_Since")->text().contains("cfgt6_481"));
     }
 
     void trackPageLeadsHere()
@@ -205,6 +216,20 @@ private:
     QDoubleSpinBox* box(int sensor)
     {
         return get<QDoubleSpinBox>(QString("doubleSpinBox_Level_SH%1").arg(sensor));
+    }
+
+    // Whether a dash is drawn in the place of the present value: it is lower than any digit.
+    bool isDash(int sensor)
+    {
+        const QImage drawn = get<QLineEdit>(QString("lineEdit_CurLevel_SH%1").arg(sensor))->grab().toImage();
+        int lines = 0;
+        for (int y = 0; y < drawn.height(); ++y) {
+            bool hasInk = false;
+            for (int x = 0; x < drawn.width(); ++x)
+                hasInk |= drawn.pixelColor(x, y) != drawn.pixelColor(drawn.width() - 1, 0);
+            lines += hasInk ? 1 : 0;
+        }
+        return lines > 0 && lines < 4;
     }
 
     // The present value as text and as the slider's position, with a mark when its colours stand out.

@@ -148,6 +148,44 @@ private Q_SLOTS:
         }
     }
 
+    // A code that two lines of a list have is told at both, and only the one that was typed is a changed one.
+    void cellsOfAList()
+    {
+        open({});
+        dialog_->review().mend({{"TRANS/AP1/name", ""}, {"TRANS/AP1/login", ""}, {"TRANS/AP1/pass", ""}},
+                               [] { return QString(); });
+        child<QTabWidget>("tabWidget")->setCurrentIndex(0);
+        child<QPushButton>("pushButton_AutoAPN_1")->click();
+        auto* tree = dialog_->findChild<QTreeWidget*>("treeWidget_ListApn");
+        const auto told = [tree](int line) { return tree->topLevelItem(line)->toolTip(1); };
+        const auto shows = [&](vlk::Mark mark, int line) {
+            const QPoint corner = tree->visualRect(tree->model()->index(line, 1)).topLeft();
+            const QImage drawn = tree->findChild<QWidget*>("marks_treeWidget_ListApn")
+                                     ->grab({corner, QSize(vlk::kMarkSize, vlk::kMarkSize)})
+                                     .toImage();
+            for (int x = 0; x < drawn.width(); ++x) {
+                for (int y = 0; y < drawn.height(); ++y) {
+                    if (drawn.pixelColor(x, y) == vlk::markColor(mark, tree->palette()))
+                        return true;
+                }
+            }
+            return false;
+        };
+        QCOMPARE(told(0) + told(2), QString());
+        tree->topLevelItem(2)->setText(1, tree->topLevelItem(0)->text(1));
+        QCoreApplication::processEvents();
+        QCOMPARE(told(0), QString("adv_191"));
+        QVERIFY(told(2).startsWith("rev_160") && told(2).endsWith("adv_191"));
+        QVERIFY(shows(vlk::Mark::advice, 0) && shows(vlk::Mark::advice, 2) && !shows(vlk::Mark::changed, 0));
+        tree->topLevelItem(2)->setText(1, "12a");
+        QCoreApplication::processEvents();
+        QVERIFY(told(0).isEmpty() && told(2).endsWith("adv_190"));
+        tree->topLevelItem(2)->setText(1, "25088");
+        QCoreApplication::processEvents();
+        QVERIFY(shows(vlk::Mark::changed, 2));
+        tree->window()->close();
+    }
+
     // Fields of a record have a mark and a menu each, and are found one by one.
     void boxesOfTheRecord()
     {

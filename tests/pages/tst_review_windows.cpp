@@ -2,6 +2,7 @@
 
 #include "dialog/difference_model.h"
 #include "dialog/tab_navigation.h"
+#include "dialog/unsaved_bar.h"
 #include "pages/opened_configuration.h"
 #include "support/data_table.h"
 #include "support/files.h"
@@ -123,6 +124,12 @@ private Q_SLOTS:
         QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile,
                                               VLK_SOURCE "/fuzz/corpus/settings/factory.xml"));
         QVERIFY(table->model()->rowCount() > 10);
+        QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
+        // Where no line has a note the others have its room.
+        QVERIFY(!table->isColumnHidden(vlk::DifferenceModel::Note));
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        QVERIFY(table->isColumnHidden(vlk::DifferenceModel::Note));
         QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
     }
 
@@ -264,6 +271,31 @@ private Q_SLOTS:
         QCOMPARE(dialog_->review().document(), before);
     }
 
+    // A file that has one sensor reads as one with two: told until the other one is unchecked.
+    void sensorsThatTheFileLacks()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        auto* window = child<QWidget>("page_Light");
+        for (const auto& [box, isUsed] : {std::pair("checkBox_Fuel_RS485_Use", false),
+                                          {"checkBox_BT_Use", true},
+                                          {"checkBox_BT_1", true},
+                                          {"checkBox_BT_2", false}})
+            window->findChild<QCheckBox*>(box)->setChecked(isUsed);
+        const QString path = folder_.filePath("one.xml");
+        QVERIFY(dialog_->saveQuickToFile(path));
+        open(path, 0);
+        auto* told = child<QLabel>("label_Unsaved");
+        QVERIFY(told->isVisible());
+        QCOMPARE(told->text(), QString("rev_371"));
+        window->findChild<QCheckBox*>("checkBox_BT_2")->click();
+        history().settle();
+        QVERIFY(!told->isVisible());
+        history().undo();
+        QVERIFY(told->isVisible());
+        dialog_->switchToFull();
+        QVERIFY(!told->isVisible());
+    }
+
     // The list of what has changed goes when the focus does.
     void changedOnly()
     {
@@ -403,6 +435,31 @@ private Q_SLOTS:
         QVERIFY(found->findChild<QWidget*>("frame_Found")->geometry().contains(cell));
     }
 
+    // Esc gives the focus back to where it was before the panel, or the bar, had it.
+    void escapeGoesBack()
+    {
+        auto* port = child<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        const auto focus = [] { return QApplication::focusWidget(); };
+        port->setFocus();
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        // An empty list has nothing to do but to choose what fills it.
+        QTest::keyClick(find, Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(focus()->objectName(), QString("comboBox_Against"));
+        QTest::keyClick(focus(), Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(focus()->objectName(), QString("tableView_Advice"));
+        QTest::keyClick(focus(), Qt::Key_Escape);
+        QCOMPARE(focus(), find);
+        QVERIFY(!child<QWidget>("widget_Advice")->isVisible());
+        QTest::keyClick(find, Qt::Key_Escape);
+        QCOMPARE(focus(), port);
+        QTest::keyClick(port, Qt::Key_D, Qt::ControlModifier);
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        child<QTableView>("tableView_Differences")->setFocus();
+        QTest::keyClick(focus(), Qt::Key_Escape);
+        QVERIFY(child<QTabWidget>("tabWidget")->currentWidget()->isAncestorOf(focus()));
+    }
+
     // The narrowest window shows all columns of the list, long values cut.
     void nothingIsBesideTheList()
     {
@@ -429,6 +486,16 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
         }
+        // What is told above the bar comes before it, the cross last.
+        auto* notices = dialog_->findChild<vlk::UnsavedBar*>();
+        notices->tell(9, {vlk::Mark::advice, "told", {{"one", [] {}}, {"two", [] {}}}});
+        QTest::keyClick(dialog_.get(), Qt::Key_F6);
+        for (const char* name :
+             {"label_Unsaved_Action1", "label_Unsaved_Action2", "label_Unsaved_Close", "toolButton_Undo"}) {
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        notices->end(9);
         // Enter presses a button as the space bar does.
         child<QPushButton>("pushButton_TakeOver")->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -469,6 +536,12 @@ private Q_SLOTS:
             QCOMPARE(QApplication::focusWidget()->objectName(),
                      QString("comboBox_NormState_In_%1").arg(path[10]));
         }
+        // A box in a part of the form that is hidden leads to what shows that part.
+        QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "BLUETOOTH/sensor3");
+        QVERIFY(child<QListWidget>("listWidget_Found")->item(0)->text().endsWith("(cfgwl_030: wrd_001)"));
+        QTest::keyClick(child<QLineEdit>("lineEdit_Find"), Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString("checkBox_BT_Use"));
         // What can be reached comes first.
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(child<QLineEdit>("lineEdit_Find"), "TRANS");
@@ -479,6 +552,55 @@ private Q_SLOTS:
         QVERIFY(reached > 0 && reached < list->count());
         for (int line = reached; line < list->count(); ++line)
             QVERIFY2(list->item(line)->text().endsWith(')'), qPrintable(list->item(line)->text()));
+    }
+
+    // By the words that stand at it, whatever full setup calls it.
+    void findsAllOfQuickSetup()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        auto* window = child<QWidget>("page_Light");
+        for (const char* use :
+             {"checkBox_Fuel_RS485_Use", "checkBox_BT_Use", "checkBox_BT_1", "checkBox_BT_2"})
+            window->findChild<QCheckBox*>(use)->setChecked(true);
+        window->findChild<QRadioButton*>("radioButton_Track_User")->click();
+        auto* operators = window->findChild<QComboBox*>("Transfer_comboBox_GSM_Operator_1");
+        type(operators, {});
+        QTest::keyClick(operators, Qt::Key_End);
+        auto* find = child<QLineEdit>("lineEdit_Find");
+        auto* list = child<QListWidget>("listWidget_Found");
+        vlk::PageSettings& quick = *history().pages().back();
+        int found = 0;
+        for (int row = 0; row < quick.values().count(); ++row) {
+            QWidgetList widgets;
+            for (const vlk::Binder::Place& place : quick.binder().placesOf(row))
+                widgets << place.widget;
+            for (QWidget* widget : widgets) {
+                if (!widget->isEnabled() || widget->window() != dialog_.get())
+                    continue;
+                auto* button = qobject_cast<QAbstractButton*>(widget);
+                const QLabel* label = captionOf(widget);
+                QString words = button ? button->text() : label ? label->text() : widget->accessibleName();
+                words.remove('&').replace(',', ' ');
+                QWidget* reached = nullptr;
+                const auto look = [&] {
+                    find->setFocus();
+                    find->clear();
+                    QTest::keyClicks(find, words);
+                };
+                look();
+                for (int line = 0; line < list->count() && !widgets.contains(reached); ++line) {
+                    look();
+                    if (list->item(line)->text().endsWith("(rev_259)"))
+                        break;
+                    list->setCurrentRow(line);
+                    QTest::keyClick(find, Qt::Key_Return);
+                    reached = QApplication::focusWidget();
+                }
+                QVERIFY2(widgets.contains(reached), qPrintable(widget->objectName() + ": " + words));
+                ++found;
+            }
+        }
+        QVERIFY2(found > 40, qPrintable(QString::number(found)));
     }
 
     // What the panels list is what the command line tells of the same files.

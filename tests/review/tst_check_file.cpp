@@ -72,6 +72,8 @@ private Q_SLOTS:
         table.row("empty unknown element", "<POINTS ", "<BOGUS/><POINTS ", "TRACK/BOGUS: rev_003");
         table.row("doubled element", "<LIMPOINT ", "<POINTS angle=\"7\"/><LIMPOINT ",
                   "TRACK/POINTS[2]/angle named: rev_023");
+        table.row("doubled key", "angle=\"5\" useDist", "angle=\"5\" angle=\"7\" useDist",
+                  "TRACK/POINTS/angle[2] named: rev_023");
         table.row("unknown section", "<TRACK ", "<BOGUS a=\"1\"><B c=\"2\"/></BOGUS><TRACK ",
                   "BOGUS: rev_022");
         table.row("doubled section", "</DEVICE>", "<TRACK><POINTS angle=\"7\" dist=\"9\"/></TRACK></DEVICE>",

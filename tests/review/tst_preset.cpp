@@ -66,6 +66,8 @@ private Q_SLOTS:
                  "TRACK/POINTS/angle=7", "0 TRACK/POINTS/bend 0 TRACK/X/y 0 Z")
             .row("the same key twice", "<TRACK><POINTS angle=\"7\"/><POINTS angle=\"8\"/></TRACK>",
                  "TRACK/POINTS/angle=7", "1 TRACK/POINTS[2]/angle")
+            .row("a key twice in one element", "<TRACK><POINTS angle=\"7\" angle=\"8\" angle=\"9\"/></TRACK>",
+                 "TRACK/POINTS/angle=7", "1 TRACK/POINTS/angle[2] 1 TRACK/POINTS/angle[3]")
             .row("the same section twice",
                  "<TRACK><POINTS angle=\"7\"/></TRACK><TRACK><POINTS dist=\"8\"/></TRACK>",
                  "TRACK/POINTS/angle=7", "1 TRACK[2]/POINTS/dist")

@@ -38,9 +38,10 @@ inline QPointer<QTimer> answerBox(const QString& button, const QString& text = {
     return whenOpen<QMessageBox>([=](QMessageBox& box) {
         if (!text.isEmpty())
             QCOMPARE(box.text(), text);
-        for (auto* found : box.findChildren<QPushButton*>())
+        for (auto* found : box.findChildren<QPushButton*>()) {
             if (found->text() == button)
                 return found->click();
+        }
         qFatal("no button %s", qPrintable(button));
     });
 }

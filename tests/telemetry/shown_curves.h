@@ -5,7 +5,7 @@
 #include "support/records.h"
 #include "support/truck_records.h"
 #include "telemetry/curves/curves_view.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QtTest>
 #include <QtWidgets>

@@ -12,8 +12,8 @@
 #include "telemetry/curves/time_scale.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/shown/work_progress.h"
 #include "telemetry/track/track_view.h"
-#include "telemetry/view/work_progress.h"
 #include "typing/notice_bar.h"
 
 #include <QPrintDialog>
@@ -31,20 +31,23 @@ struct Sample
 {
     quint32 time;
     double value;
+    quint32 missing = 0; // in front of it
 };
 
 CurveSeries seriesOf(const std::vector<Sample>& samples)
 {
     std::vector<quint32> times;
+    std::vector<quint32> missing;
     NumberColumn numbers;
     std::vector<int> byTime;
     for (const Sample& sample : samples) {
         byTime.push_back(static_cast<int>(times.size()));
         times.push_back(sample.time);
+        missing.push_back(sample.missing + (missing.empty() ? 0 : missing.back()));
         numbers.push_back(sample.value);
     }
     CurveSeries series;
-    series.add(byTime, times, numbers, [](int) { return true; });
+    series.add(byTime, RecordGaps(times, missing), numbers, [](int) { return true; });
     return series;
 }
 
@@ -99,6 +102,11 @@ void TestCurves::drawsPieces_data()
         .row("one beyond each end", {{0, 1}, {10, 2}, {20, 3}, {30, 4}, {40, 5}}, 15, 25, 10,
              "10:2 20:3 30:4")
         .row("a gap", {{0, 1}, {300, 2}, {601, 3}, {602, 4}}, 0, 999, 10, "0:1 300:2 / 601:3 602:4")
+        .row("records missing by their numbers", {{0, 1}, {1, 2}, {2, 3, 1}, {3, 4}}, 0, 9, 10,
+             "0:1 1:2 / 2:3 3:4")
+        .row("some, many a column",
+             {{0, 1}, {1, 1}, {2, 1}, {3, 1}, {4, 2, 9}, {5, 2}, {6, 2}, {7, 2}, {8, 2}}, 0, 8, 2,
+             "0:1 2:1 2:1 3:1 / 4:2 6:2 6:2 8:2")
         .row("no value", {{0, 1}, {1, kNone}, {2, 3}, {3, 4}}, 0, 9, 10, "0:1 / 2:3 3:4")
         .row("one moment", {{7, 1}, {7, 5}, {7, 2}}, 7, 7, 10, "7:1 7:5 7:2")
         .row("many a column",
@@ -147,7 +155,6 @@ void TestCurves::choosesRoundMoments_data()
 }
 
 // From 03:00:01 on the clock of UTC+3.
-
 void TestCurves::choosesRoundMoments()
 {
     QFETCH(double, seconds);
@@ -169,14 +176,6 @@ void TestCurves::tellsTimes()
     QCOMPARE(momentText(kTruckStart, kTruckStart - 86'400, 10'800), QStringLiteral("18.11.2026 03:00:00"));
     QCOMPARE(zoneText(10'800) + zoneText(0) + zoneText(-12'600), QStringLiteral("UTC+3UTCUTC-3:30"));
 }
-
-// A press in a gap goes to what is in sight, be it further away than what is not; where nothing is, it goes
-
-// nowhere and tells the gap.
-
-// Among the events below the curves, where a press near the mark goes to its record, though the mark of an
-
-// earlier event is under it.
 
 void TestCurves::showsWhatThereIs()
 {
@@ -200,6 +199,12 @@ void TestCurves::showsWhatThereIs()
     QTest::keyClick(presets, Qt::Key_Home);
     QVERIFY(legend->accessibleDescription().startsWith(QLatin1String("Tank, l; ")));
     QCOMPARE(line().section(QLatin1Char(' '), 3), QStringLiteral("250.5%1l").arg(QChar(QChar::Nbsp)));
+    // The curve that the user has told stays the one, whatever comes in front of it.
+    records_->setComputed({});
+    key(Qt::Key_Down);
+    const QString told = line();
+    records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, 250.5)}});
+    QCOMPARE(line(), told);
     // Without a value in any record they are shown to who chose them alone.
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, kNone)}});
     model.show({"*", "Speed"}, CurvesModel::Choice::offered);
@@ -238,6 +243,35 @@ void TestCurves::tellsStatesWithoutRoom()
     QVERIFY(all->isVisible());
     QVERIFY(!all->toolTip().isEmpty());
     const int few = plot_->height();
+    // Each row, of a state or of marks, is drawn or told, and the least of the curves stays.
+    records_->setFound({{9, true, "Refuelling 60 l"}});
+    records_->setPassing({1, 2, 3});
+    int rows = 0;
+    for (const int height : {700, 140, 170, 200, 230, 260}) {
+        view_->resize(340, height);
+        QCoreApplication::processEvents();
+        const auto* const strip = view_->childAt(plot_->geometry().bottomLeft() + QPoint(2, 8));
+        QVERIFY(strip && strip != plot_);
+        const int drawn = strip->height() / (strip->fontMetrics().ascent() + 3);
+        const int told = all->isVisible() ? all->toolTip().split(", ").size() : 0;
+        if (height == 700)
+            rows = drawn;
+        QCOMPARE(drawn + told, rows);
+        QVERIFY(plot_->height() >= 60);
+        QVERIFY(strip->geometry().bottom() < view_->height());
+    }
+    QVERIFY(rows > 4);
+    // Names have their room, with a title at the axis or without.
+    int left = 0;
+    for (const int height : {700, 260}) {
+        view_->resize(900, height);
+        QCoreApplication::processEvents();
+        if (left == 0)
+            left = canvas()->x();
+        QCOMPARE(canvas()->x(), left);
+    }
+    view_->resize(900, 120);
+    QCoreApplication::processEvents();
     QTest::keyClick(all, Qt::Key_Space);
     QCoreApplication::processEvents();
     QCOMPARE(all->text(), QStringLiteral("rec_413"));

@@ -1,6 +1,7 @@
 // How a person goes through curves of records: the span in sight, the cursors, gaps and marks.
 
 #include "shown_curves.h"
+#include "telemetry/record/record_head.h"
 
 using namespace vlk;
 
@@ -132,6 +133,14 @@ void TestCurvesMoves::staysInSightByMouse()
     records_->setInSight({double(kTruckStart), kTruckStart + 60.0});
     hover(canvas());
     QVERIFY(!QToolTip::isVisible());
+    // Be it short: records are missing in it.
+    const QByteArray later = RecordParts{{"NumPage", 100'005}, {"Time", kTruckStart + 61 + gap}}.bytes();
+    records_->append(bytesAt(later.constData(), later.size()), ShownRecords::Current::stays);
+    records_->setInSight({kTruckStart + 60.0 + gap, kTruckStart + 61.0 + gap});
+    hover(canvas());
+    QCOMPARE(QToolTip::text(), QStringLiteral("rec_450 rec_600"));
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
     press(gap * 0.7, gap * 0.9, gap * 0.8);
     QCOMPARE(records_->current(), 3);
     QCOMPARE(QToolTip::text(), QStringLiteral("rec_450"));

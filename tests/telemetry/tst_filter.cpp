@@ -82,6 +82,9 @@ private Q_SLOTS:
             .row("no sign", "Speed 3", 6, "rec_101")
             .row("no number", "Speed > ", 8, "rec_102")
             .row("a number and more", "Speed > 3.5.1", 8, "rec_102")
+            .row("a unit behind a number", "Speed > 60 km/h and Run > 2", 11, "rec_105, without km/h")
+            .row("a unit at a number", "(Speed > 60KM/H)", 9, "rec_102, without 60KM/H")
+            .row("no unit behind a number", "Speed > 60 km", 11, "rec_105")
             .row("too large", "Speed > 1e999", 8, "rec_102")
             .row("another word", "Code = 'Parking'", 7, "rec_360")
             .row("another word that begins alike", "Code = 'draining'", 7, "rec_361")
@@ -101,7 +104,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         const TextSource english = [](const char* key) {
-            return QByteArray(key) == "rec_298" ? QStringLiteral("%1, not %2") : QLatin1String(key);
+            return QByteArray(key) == "rec_298"   ? QStringLiteral("%1, not %2")
+                   : QByteArray(key) == "rec_650" ? QStringLiteral("%1, without %2")
+                                                  : QLatin1String(key);
         };
         const TextsFrom texts(english);
         const ParsedFilter parsed = parseFilter(typed, names_, 0);
@@ -154,6 +159,7 @@ private Q_SLOTS:
             .row("no value", "Temp1 < 100", "2")
             .row("no number", "Run > 0 or Run <= 0", "3")
             .row("times", "Time = 14.11.2023", "0 3")
+            .row("no time", "Time < 1.1.2020 or Time != 14.11.2023", "1")
             .row("a bit or a number", "IN2 = 1 or NumPage = 1", "0 2");
     }
     void passes()

@@ -431,6 +431,34 @@ private Q_SLOTS:
         QCOMPARE(sum.until, kStart + 39 * 60.0);
     }
 
+    // By the numbers in the order of the file.
+    void missingRecords_data()
+    {
+        DataTable<QVector<int>, int, QVector<int>>({"numbers", "missing", "seconds"})
+            .row("none", {7, 8, 9}, 0, {})
+            .row("some", {7, 8, 11, 12, 14}, 3, {})
+            .row("a present state between", {7, 0, 10}, 2, {})
+            .row("no number at first", {0, 7, 8}, 0, {})
+            .row("once more", {7, 8, 7, 8, 9}, 0, {})
+            .row("out of order", {7, 10, 8, 11, 9, 13}, 1, {})
+            .row("counted from elsewhere", {7, 2'000'000, 2'000'001, 1, 2}, 0, {})
+            .row("a clock that fell back", {7, 8, 10, 11, 12}, 1, {0, 60, 120, 30, 90});
+    }
+    void missingRecords()
+    {
+        QFETCH(QVector<int>, numbers);
+        QFETCH(QVector<int>, seconds);
+        RecordStore store;
+        for (int i = 0; i < numbers.size(); ++i) {
+            const RecordParts parts{{"NumPage", quint64(numbers[i])},
+                                    {"Time", quint64(kStart + seconds.value(i, 60 * i))}};
+            store.add(30, parts.mask, parts.block);
+        }
+        RecordColumns columns(store);
+        QTEST(int(columns.missingUpTo().back()), "missing");
+        QTEST(int(Journey(columns, {}, {}).summary(0, 4e9).missing), "missing");
+    }
+
     // A straight line over records that are missing is no way, one over a time without records is the least.
     void wayOverAGap()
     {

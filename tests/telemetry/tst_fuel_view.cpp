@@ -270,6 +270,19 @@ private Q_SLOTS:
         QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 3."));
     }
 
+    // Nor is what happened at a time that cannot be right.
+    void leavesOutDamagedTimes()
+    {
+        TelemetryContents contents = drained();
+        const RecordParts strayed{{"NumPage", 100}, {"Time", kStart + 90 * 86'400}};
+        contents.records.add(30, strayed.mask, strayed.block);
+        const RecordParts behind{{"NumPage", 101}, {"Time", kStart + 40 * 60}};
+        contents.records.add(30, behind.mask, behind.block);
+        records_->setContents(std::move(contents));
+        choose(good_);
+        QVERIFY(view_->findChild<QLabel*>("label_FuelNews")->text().contains("left out here: 1."));
+    }
+
     // Its end hides the drain: the list tells of it, not that nothing happened alone.
     void saysThatATableIsTooShort()
     {
@@ -285,8 +298,9 @@ private Q_SLOTS:
     {
         choose(file("blind.csv", "Level;Volume, l\n0;0\n2800;251\n2800;312\n4100;410\n"));
         const auto* news = view_->findChild<QLabel*>("label_FuelNews");
-        QVERIFY2(news->text().contains("of RS-485 Fuel level 1 has one reading, 2,800.0, for 251.0 to 312.0"),
-                 qPrintable(news->text()));
+        QVERIFY2(
+            news->text().contains("RS-485 Fuel level 1 has one reading for several volumes (2,800: 251–312"),
+            qPrintable(news->text()));
     }
 
     // Its scale ends at 1023, all that is above it is an error.
@@ -367,9 +381,10 @@ private Q_SLOTS:
         summary.show();
         const auto* model = summary.findChild<QTableView*>("tableView_Summary")->model();
         const auto value = [model](const char* key) {
-            for (int i = 0; i < model->rowCount(); ++i)
+            for (int i = 0; i < model->rowCount(); ++i) {
                 if (model->index(i, 0).data() == QLatin1String(key))
                     return model->index(i, 1).data().toString();
+            }
             return QString();
         };
         QCOMPARE(value("Standing, h:min"), QString("0:39"));

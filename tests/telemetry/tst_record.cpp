@@ -149,9 +149,10 @@ private Q_SLOTS:
         Random random(2000);
         TmiPage_Zeta3 page;
         const FieldMask all = FieldMask::fromText(std::string(255, '1'));
-        for (int size = 0; size <= 2000 && !QTest::currentTestFailed(); ++size)
+        for (int size = 0; size <= 2000 && !QTest::currentTestFailed(); ++size) {
             for (const QByteArray& record : {recordOf(all, random.bytes(size)), random.bytes(size)})
                 check(page, record);
+        }
         for (const qsizetype size : {qsizetype{-1}, qsizetype{0}, qsizetype{100}}) {
             page.setRecord(nullptr, size);
             QVERIFY(page.type() == 0 && page.payload().isEmpty() &&

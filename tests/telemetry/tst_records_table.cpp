@@ -89,6 +89,8 @@ private Q_SLOTS:
             QVERIFY(table_->visualRect(table_->currentIndex()).left() >= frozen->width());
         }
         QTest::keyClick(table_, Qt::Key_End, Qt::ControlModifier);
+        // What is copied then is where the user went.
+        QVERIFY(table_->selectionModel()->isSelected(table_->currentIndex()));
         QCOMPARE(frozen->verticalScrollBar()->value(), table_->verticalScrollBar()->maximum());
         // Either head sorts, and both say so.
         QTest::mouseClick(frozen->horizontalHeader()->viewport(), Qt::LeftButton, {}, {10, 10});

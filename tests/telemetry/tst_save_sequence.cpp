@@ -1,35 +1,12 @@
 // Saving a period from the telemetry view: a host's answers in, files out.
 
-#include "opened_view.h"
+#include "saving_view.h"
 #include "support/data_table.h"
 #include "support/full_disk.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 using vlk::Message;
 
-namespace {
-
-using Numbers = QVector<qint64>;
-
-// Above the number itself, what kind of record has it.
-enum Kind : qint64 { Protocol2 = 1LL << 40, Extra = 2LL << 40, Short = 3LL << 40 };
-
-QByteArray record(qint64 kindAndNumber)
-{
-    const qint64 kind = kindAndNumber & ~0xffffffffLL;
-    const auto number = static_cast<quint32>(kindAndNumber);
-    if (kind == Extra)
-        return vlk::packetBytes(vlk::kSecondHead, -1, 37, vlk::navigationOf(number));
-    const QByteArray whole = vlk::RecordParts{{"NumPage", number}, {"Code", 35}, {"Time", 1700000000}}.bytes(
-        kind == Protocol2 ? 20 : 30);
-    return kind == Short ? whole.left(36) : whole;
-}
-
-} // namespace
-
-class SaveSequenceTest : public QObject, private OpenedView
+class SaveSequenceTest : public QObject, private SavingView
 {
     Q_OBJECT
 
@@ -342,135 +319,6 @@ private Q_SLOTS:
         }
     }
 
-    // A period that reaches up to the present grows by what the tracker sends, as long as it is there.
-    void growsByLiveRecords()
-    {
-        const auto show = [this] {
-            press("label_SavedInPart_Action1");
-            press("pushButton_Get_Current");
-            return ScriptedHost::window("VLK_Widget_Tmi_Table");
-        };
-        send(Message::RecordByNumber, 8);
-        startSave(7, 8);
-        QWidget* records = show();
-        auto* table = ScriptedHost::child<QTableView>(records, "tableWidget");
-        const auto rows = [table] { return table->model()->rowCount(); };
-        const auto number = [table](int row) {
-            QAbstractItemModel* const model = table->model();
-            int column = 0;
-            while (model->headerData(column, Qt::Horizontal).toString() != "tmizta_123")
-                ++column;
-            return model->index(row, column).data().toString();
-        };
-        for (const qint64 each : {9, 8, 9, 11})
-            send(Message::RecordByNumber, each);
-        QCOMPARE(rows(), 4);
-        QCOMPARE(number(3), QString("11"));
-        // What the file lacks is told, and which of them nobody has read.
-        const auto told = [records] { return ScriptedHost::child<QLabel>(records, "label_Damage")->text(); };
-        QCOMPARE(told(), QString("rec_543 rec_544"));
-        // Where the user is, what is selected and the filter stay.
-        table->selectRow(2);
-        QTest::keyClick(table, Qt::Key_Down, Qt::ShiftModifier);
-        const QModelIndexList selected = table->selectionModel()->selectedRows();
-        QVERIFY(selected.size() > 1);
-        send(Message::RecordByNumber, 12);
-        QCOMPARE(table->selectionModel()->selectedRows(), selected);
-        QCOMPARE(table->currentIndex().row(), 3);
-        send(Message::RecordByNumber, Extra + 13); // which brings a column
-        QCOMPARE(number(table->currentIndex().row()), QString("11"));
-        auto* filter = ScriptedHost::child<QLineEdit>(records, "lineEdit_Filter");
-        QTest::keyClicks(filter, "NumPage > 7 and NumPage != 15");
-        QTest::keyClick(filter, Qt::Key_Return);
-        for (const qint64 each : {14, 15})
-            send(Message::RecordByNumber, each);
-        QCOMPARE(rows(), 6);
-        QCOMPARE(number(5), QString("14"));
-        QCOMPARE(ScriptedHost::child<QLabel>(records, "label_Count")->text(), QString("rec_052"));
-        table->sortByColumn(table->horizontalHeader()->logicalIndex(0), Qt::DescendingOrder);
-        send(Message::RecordByNumber, 16);
-        QCOMPARE(number(0), QString("16"));
-        QCOMPARE(number(table->currentIndex().row()), QString("11"));
-        host.send(Message::TrackerDetached);
-        QCOMPARE(told(), QString("rec_543 rec_544 rec_545"));
-        open();
-        // They are not told as records of the tracker that comes next.
-        QCOMPARE(text("label_SavedInPart"), QString());
-        send(Message::RecordByNumber, 17);
-        QCOMPARE(rows(), 7);
-        // It ended before what is already known.
-        startSave(7, 8);
-        show();
-        QCOMPARE(told(), QString());
-        send(Message::RecordByNumber, 18);
-        QCOMPARE(rows(), 2);
-        // What a cancelled save has fetched ends nothing: in front of its last record some are missing.
-        startSave(7, 30);
-        press("pushButton_Save_Cancel");
-        send(Message::RecordByNumber, 8);
-        show();
-        send(Message::RecordByNumber, 31);
-        QCOMPARE(rows(), 2);
-    }
-
-    // Shown again the period has its rows and what is told of them; behind another file it is the file's
-    // alone.
-    void growsOnceMore()
-    {
-        startSave(7, 8);
-        press("label_SavedInPart_Action1");
-        press("pushButton_Get_Current");
-        send(Message::RecordByNumber, 11);
-        QWidget* const records = ScriptedHost::window("VLK_Widget_Tmi_Table");
-        const auto seen = [records] {
-            return qMakePair(ScriptedHost::child<QTableView>(records, "tableWidget")->model()->rowCount(),
-                             ScriptedHost::child<QLabel>(records, "label_Damage")->text());
-        };
-        QCOMPARE(seen(), qMakePair(3, QString("rec_543 rec_544")));
-        ScriptedHost::child<QAbstractButton>(records, "label_Damage_Close")->click();
-        records->close();
-        send(Message::RecordByNumber, 12);
-        QCOMPARE(seen(), qMakePair(4, QString()));
-        press("label_SavedInPart_Action1");
-        QCOMPARE(seen(), qMakePair(4, QString("rec_543 rec_544")));
-        const qint32 asTable = 1;
-        host.send(Message::ShowStoredFile, &file_, &asTable);
-        QTRY_COMPARE(seen(), qMakePair(2, QString()));
-        press("label_SavedInPart_Action1");
-        QCOMPARE(seen(), qMakePair(2, QString()));
-        send(Message::RecordByNumber, 9);
-        QCOMPARE(seen(), qMakePair(3, QString("rec_543")));
-    }
-
-    // The present state comes under the number of the latest record, which is another one.
-    void presentStateHasNoNumber()
-    {
-        startSave(7, 8);
-        press("label_SavedInPart_Action1");
-        press("pushButton_Get_Current");
-        QWidget* const records = ScriptedHost::window("VLK_Widget_Tmi_Table");
-        QAbstractItemModel* const model = ScriptedHost::child<QTableView>(records, "tableWidget")->model();
-        const auto sendPresent = [this](qint64 number) {
-            OpenedView::send(Message::CurrentRecord, behind(3, record(number)).leftJustified(101, '\0'));
-        };
-        const auto numbers = [model] {
-            QStringList numbers;
-            for (int row = 0; row < model->rowCount(); ++row)
-                numbers << model->index(row, 0).data().toString();
-            return numbers;
-        };
-        const auto* const told = ScriptedHost::child<QLabel>(records, "label_Damage");
-        for (const qint64 each : {8, 9, 9})
-            sendPresent(each);
-        QCOMPARE(numbers(), (QStringList{"7", "8", "–"}));
-        QCOMPARE(told->text(), QString("rec_543 rec_544"));
-        send(Message::RecordByNumber, 9);
-        QCOMPARE(numbers(), (QStringList{"7", "8", "–", "9"}));
-        QCOMPARE(told->text(), QString("rec_543")); // none is missing now
-        const int time = 2;
-        QCOMPARE(model->index(2, time).data(), model->index(3, time).data());
-    }
-
     void endedFromOutside_data()
     {
         DataTable<Message>({"message"})
@@ -605,62 +453,6 @@ private Q_SLOTS:
     }
 
 private:
-    void send(Message message, qint64 number, int header = 3)
-    {
-        OpenedView::send(message, behind(header, record(number)));
-    }
-    // Saves up to the file name, and gives it.
-    void startSave(qint64 first, qint64 last, const char* button = "pushButton_SaveToFile")
-    {
-        press(button);
-        giveName(file_);
-        send(Message::RecordOfPeriod, first, 13);
-        send(Message::RecordByTime, last, 13);
-    }
-    // To the next file dialog; an empty one cancels it.
-    void giveName(const QString& file)
-    {
-        ScriptedHost::whenModal([this, file](QWidget* modal) {
-            auto* dialog = qobject_cast<QFileDialog*>(modal);
-            if (file.isEmpty())
-                return dialog->reject();
-            filter_ = dialog->nameFilters().join(';');
-            proposed_ = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(file);
-            if (QFile::exists(file)) // the dialog asks whether to replace it
-                ScriptedHost::whenModal(
-                    [](QWidget* box) { qobject_cast<QMessageBox*>(box)->button(QMessageBox::Yes)->click(); });
-            QMetaObject::invokeMethod(dialog, "accept");
-            if (nowGiven_)
-                std::exchange(nowGiven_, {})();
-        });
-    }
-    // The numbers in an XML file.
-    Numbers saved() const
-    {
-        static const QRegularExpression number("<NumPage>(\\d+)</NumPage>");
-        Numbers numbers;
-        for (auto found = number.globalMatch(readFile(file_)); found.hasNext();)
-            numbers << found.next().captured(1).toLongLong();
-        return numbers;
-    }
-    bool isIdle() const
-    {
-        bool idle = child<QWidget>("pushButton_Save_Cancel")->isHidden() &&
-                    child<QWidget>("progressBar_Time")->isHidden();
-        for (const QLabel* label : child<QWidget>("frame_Progress")->findChildren<QLabel*>())
-            idle = idle && label->text().isEmpty();
-        for (const char* name :
-             {"groupBox_Btn_Get", "groupBox_Btn_Save", "pushButton_Taho", "pushButton_RFID",
-              "pushButton_Get_Current_Touch", "pushButton_Get_Current_RFID"})
-            idle = idle && isOn(name);
-        return idle;
-    }
-
-    QString file_;
-    std::function<void()> nowGiven_; // what comes after the next name
-    QString filter_;
-    QString proposed_;
     Numbers asked_;
     QVector<QDateTime> times_;
     bool answersAtOnce_ = false;

@@ -443,9 +443,10 @@ private Q_SLOTS:
             }
             const auto places = [&] {
                 QVector<QRect> rects;
-                for (const QLabel* label : tabs->currentWidget()->findChildren<QLabel*>())
+                for (const QLabel* label : tabs->currentWidget()->findChildren<QLabel*>()) {
                     if (!label->objectName().endsWith("_Dash"))
                         rects << QRect(label->mapTo(tabs, QPoint()), label->size());
+                }
                 return rects;
             };
             show(randomRecord(7));

@@ -7,10 +7,10 @@
 #include "telemetry/files/rare_events.h"
 #include "telemetry/files/stops.h"
 #include "telemetry/files/track_points.h"
+#include "telemetry/shown/shown_records.h"
 #include "telemetry/track/track_path.h"
 #include "telemetry/track/track_view.h"
 #include "telemetry/track/value_classes.h"
-#include "telemetry/view/shown_records.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -41,6 +41,7 @@ struct Fix
     double longitude;
     quint64 state = 2;
     float speed = 0;
+    quint64 number = 0;
 };
 
 RecordStore storeOf(const std::vector<Fix>& fixes)
@@ -48,11 +49,10 @@ RecordStore storeOf(const std::vector<Fix>& fixes)
     const auto raw = [](double degrees) { return quint64(qint64(std::llround(degrees * 600'000))); };
     RecordStore store;
     for (const Fix& fix : fixes) {
-        const RecordParts parts{{"Time", fix.time},
-                                {"Latitude", raw(fix.latitude)},
-                                {"Longitude", raw(fix.longitude)},
-                                {"StateNGauge", fix.state},
-                                {"Speed", std::bit_cast<quint32>(fix.speed)}};
+        const RecordParts parts{
+            {"NumPage", fix.number},         {"Time", fix.time},
+            {"Latitude", raw(fix.latitude)}, {"Longitude", raw(fix.longitude)},
+            {"StateNGauge", fix.state},      {"Speed", std::bit_cast<quint32>(fix.speed)}};
         store.add(30, parts.mask, parts.block);
     }
     return store;
@@ -155,6 +155,30 @@ void TestTrack::findsStopsAndRareEvents()
     for (const Stop& stop : stopsOf(columns, all))
         found << QStringLiteral("%1-%2").arg(stop.first).arg(stop.last);
     QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("1-3 9-10"));
+
+    // Nor did it stand, nor go its way, where records are missing.
+    RecordStore holed = storeOf({{kStart, 1, 1, 2, 0, 7},
+                                 {kStart + 120, 1, 1, 2, 0, 8},
+                                 {kStart + 180, 1, 1, 2, 0, 9},
+                                 {kStart + 240, 1, 1, 2, 0, 11},
+                                 {kStart + 300, 1, 1, 2, 0, 12}});
+    RecordColumns ofHoled(holed);
+    all.resize(5);
+    const std::vector<Stop> stops = stopsOf(ofHoled, all);
+    QCOMPARE(stops.size(), std::size_t(1));
+    QCOMPARE(stops[0].last, 2);
+    TrackPath path;
+    path.add(ofHoled);
+    QVERIFY(path.startsSegment(3) && !path.startsSegment(2) && !path.startsSegment(4));
+
+    // Any speed that a record tells counts.
+    RecordStore ofCan;
+    for (const quint64 second : {0, 100, 200}) {
+        const RecordParts parts{{"Time", kStart + second}, {"CAN_Speed", 0}};
+        ofCan.add(30, parts.mask, parts.block);
+    }
+    RecordColumns canColumns(ofCan);
+    QCOMPARE(stopsOf(canColumns, {0, 1, 2}).size(), std::size_t(1));
 
     const RecordStore truck = truckRecords(6000);
     RecordColumns ofTruck(truck);

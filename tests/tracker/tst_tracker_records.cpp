@@ -102,9 +102,10 @@ private Q_SLOTS:
         QFETCH(QByteArray, settings);
         BenchTracker bench;
         // A section that is not written stays.
-        for (const char* section : {"RS485", "BLUETOOTH"})
+        for (const char* section : {"RS485", "BLUETOOTH"}) {
             if (!settings.contains(section))
                 settings += QByteArray("<") + section + "/>";
+        }
         QVERIFY(bench.write("<DEVICE model=\"R-7106\">" + settings + "</DEVICE>").accepted);
         bench.now += 60;
         bench.tracker->setFullDataSet(true);

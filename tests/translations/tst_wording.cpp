@@ -145,10 +145,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("forbidden");
         QTest::addColumn<QString>("exceptKeys");
-        for (const Rule& rule : kRules)
+        for (const Rule& rule : kRules) {
             for (const QString& language : *rule.language ? QStringList{rule.language} : kLanguages)
                 QTest::addRow("%s, %s", qPrintable(language), rule.name)
                     << language << rule.pattern << rule.exceptKeys;
+        }
     }
     void keepsTheRule()
     {

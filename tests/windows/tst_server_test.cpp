@@ -18,9 +18,10 @@ private:
 
     static VLK_Form_IO_Progress* dialog()
     {
-        for (QWidget* window : QApplication::topLevelWidgets())
+        for (QWidget* window : QApplication::topLevelWidgets()) {
             if (auto* found = qobject_cast<VLK_Form_IO_Progress*>(window))
                 return found;
+        }
         return nullptr;
     }
     static int freePort()

@@ -31,9 +31,10 @@ struct RoadBench : OpenedWorkbench
         for (QWidget* top : tops) {
             if (top->isVisible() && top->objectName() == QLatin1String(name))
                 return qobject_cast<Widget*>(top);
-            for (QWidget* child : top->findChildren<QWidget*>(QLatin1String(name)))
+            for (QWidget* child : top->findChildren<QWidget*>(QLatin1String(name))) {
                 if (child->isVisible())
                     return qobject_cast<Widget*>(child);
+            }
         }
         return nullptr;
     }

@@ -145,7 +145,8 @@ private Q_SLOTS:
             .row("a span of time", "a.tmi --to csv --from 15.11.2023_01:13:22 --to-time 2023-11-14T22:13:23Z",
                  0, head + row(2), "")
             .row("no time", "a.tmi --to csv --from yesterday", 2, "",
-                 "r7106: --from: at character 1 there should be a time such as 20.11.2026 08:29\n")
+                 "r7106: --from: at character 1 there should be a time with its year, such as 20.11.2026 "
+                 "08:29\n")
             .row("no span", "a.tmi --to csv --from 16.11.2023 --to-time 15.11.2023", 2, "",
                  "r7106: --from is after --to-time\n")
             .row("one day", "a.tmi --to csv --from 15.11.2023 --to-time 15.11.2023 --where NumPage=1", 0,
@@ -271,7 +272,7 @@ private Q_SLOTS:
         // Where nothing can be kept beside the memory, files are read twice.
         const QByteArray table = std::get<1>(run({"convert", "many.xml", "--to", "csv"}));
         const QByteArray before = qgetenv("TMPDIR");
-        qputenv("TMPDIR", "/none");
+        qputenv("TMPDIR", "/proc"); // where nobody may make a file
         QVERIFY(std::get<1>(run({"convert", "many.xml", "--to", "csv"})) == table);
         before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QVERIFY(one.contains(toWindows1251(origin_.vendor)));
@@ -362,6 +363,30 @@ private Q_SLOTS:
             QCOMPARE(lines.size(), records + 2);
             QCOMPARE(lines[records], QByteArray::number(files + 1));
         }
+    }
+
+    // What goes to a file is collected beside it, and takes no room elsewhere. A file that was there keeps
+    // who may read it, and a link leads to it as before.
+    void outputFile()
+    {
+        QByteArray table = std::get<1>(run({"convert", "many.tmi", "--to", "csv"}));
+        table.prepend("\xEF\xBB\xBF");
+        put("old.csv", "before");
+        QFile::setPermissions(path("old.csv"), QFile::ReadOwner | QFile::WriteOwner);
+        QFile::link("old.csv", path("link.csv"));
+        const auto files = QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden);
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/proc"); // where nobody may make a file
+        for (const char* name : {"new.csv", "link.csv"}) {
+            QCOMPARE(std::get<2>(run({"convert", "many.tmi", "--to", "csv", "-o", name})), QByteArray());
+            QVERIFY(readFile(path(name)) == table);
+        }
+        before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+        const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+        QVERIFY(!(QFile::permissions(path("old.csv")) & others));
+        QVERIFY(QFileInfo(path("link.csv")).isSymLink() && readFile(path("old.csv")) == table);
+        QVERIFY(QFile::remove(path("new.csv")));
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), files);
     }
 
     // In the middle of what is written, to a file or where the output goes.

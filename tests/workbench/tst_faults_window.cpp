@@ -10,9 +10,10 @@ namespace {
 
 QWidget* visibleFaults()
 {
-    for (QWidget* window : QApplication::topLevelWidgets())
+    for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->objectName() == QLatin1String("dialog_Faults"))
             return window;
+    }
     return nullptr;
 }
 
@@ -118,7 +119,25 @@ private Q_SLOTS:
         telemetry.hide();
         box.hide();
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
-        // Without a box they go with it, as before.
+        // Nor with a window that goes without a box: they stay where they are, over the one below.
+        telemetry.show();
+        telemetry.activateWindow();
+        QTRY_VERIFY(telemetry.isActiveWindow());
+        QTest::keyClick(&telemetry, Qt::Key_F9);
+        visibleFaults()->move(3, 5);
+        const QRect place = visibleFaults()->geometry();
+        telemetry.hide();
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
+        QCOMPARE(visibleFaults()->geometry(), place);
+        {
+            QDialog above;
+            above.setModal(true);
+            above.show();
+            QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &above);
+        }
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
+        QCOMPARE(visibleFaults()->geometry(), place);
+        // With the last one they go.
         bench.window.hide();
         QTest::qWait(20);
         QVERIFY(!visibleFaults());
@@ -139,10 +158,11 @@ private Q_SLOTS:
         QTRY_VERIFY(configuration.isActiveWindow());
         QTest::keyClick(&configuration, Qt::Key_F9);
         QVERIFY(visibleFaults());
-        for (const QPushButton* button : configuration.findChildren<QPushButton*>())
+        for (const QPushButton* button : configuration.findChildren<QPushButton*>()) {
             if (button->window() == &configuration)
                 QVERIFY(
                     !visibleFaults()->geometry().intersects({button->mapToGlobal(QPoint()), button->size()}));
+        }
     }
 
     // What is no question to the tracker does not bring them up, nor does what came up after it.
@@ -169,6 +189,7 @@ private Q_SLOTS:
         ask();
         QTRY_VERIFY(visibleFaults());
         QWidget* faults = visibleFaults();
+        const QRect place = faults->geometry();
         QCOMPARE(faults->parentWidget(), &modal);
         QVERIFY(faults->testAttribute(Qt::WA_ShowWithoutActivating));
         // Beside the modal window they take the mouse, where the panel of the main window is out of reach.
@@ -203,6 +224,7 @@ private Q_SLOTS:
         // What is said of the tracker hides no control.
         QTRY_VERIFY(visibleFaults()->findChild<QWidget*>(QStringLiteral("label_FaultsTrouble"))->isVisible());
         QCoreApplication::processEvents();
+        QCOMPARE(visibleFaults()->geometry(), place);
         const auto* last = visibleFaults()->findChild<QWidget*>(QStringLiteral("spinBox_Delay"));
         QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
         modal.close();

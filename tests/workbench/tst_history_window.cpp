@@ -73,8 +73,8 @@ private Q_SLOTS:
         QCOMPARE(against->currentText(), compared);
         // The button says which of the two goes into the tracker, and asks in any case.
         const auto captionOf = [](const char* name) { return Bench::find<QPushButton>(name)->text(); };
-        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Bring back No.\u00A01…"));
-        QCOMPARE(captionOf("pushButton_BringChosen"), QString("Bring chosen back from No.\u00A01…"));
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("&Bring back No.\u00A01…"));
+        QCOMPARE(captionOf("pushButton_BringChosen"), QString("Bring &chosen back from No.\u00A01…"));
         bench.action("action_ReviewAlways")->trigger();
         for (const char* end : {"pushButton_Cancel", "pushButton_Write"}) {
             Bench::press("pushButton_BringChosen");
@@ -122,7 +122,7 @@ private Q_SLOTS:
                          "cable and try again."));
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
-        QCOMPARE(captionOf("pushButton_BringWhole"), QString("Вернуть №\u00A03…"));
+        QCOMPARE(captionOf("pushButton_BringWhole"), QString("&Вернуть №\u00A03…"));
     }
 
     // Nothing brings back what is dropped here.

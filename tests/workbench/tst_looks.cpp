@@ -16,9 +16,10 @@ namespace {
 
 QWidget* windowOf(const char* name)
 {
-    for (QWidget* candidate : QApplication::topLevelWidgets())
+    for (QWidget* candidate : QApplication::topLevelWidgets()) {
         if (qstrcmp(candidate->metaObject()->className(), name) == 0 && candidate->isVisible())
             return candidate;
+    }
     return nullptr;
 }
 
@@ -62,6 +63,51 @@ int excess(const QWidget* widget)
     return words(label->text()) - label->width();
 }
 
+// Letters with Alt that lead to more than one place, of the window and of each of its menus.
+QString sharedLetters(const QWidget* window, const QStringList& more = {})
+{
+    QStringList shared;
+    const auto look = [&shared](const QStringList& texts) {
+        QMap<QString, QStringList> byLetter;
+        for (const QString& text : texts) {
+            if (const QKeySequence letter = QKeySequence::mnemonic(text); !letter.isEmpty())
+                byLetter[letter.toString()] << text;
+        }
+        for (const QStringList& same : byLetter) {
+            if (same.size() > 1)
+                shared << same.join(" = ");
+        }
+    };
+    const auto wordsOf = [](const QList<QAction*>& actions) {
+        QStringList words;
+        for (const QAction* action : actions) {
+            if (action->isVisible())
+                words << action->text();
+        }
+        return words;
+    };
+    QStringList texts = more;
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        if (const auto* menu = qobject_cast<const QMenu*>(widget))
+            look(wordsOf(menu->actions()));
+        if (!widget->isVisible() || widget->window() != window)
+            continue;
+        if (const auto* bar = qobject_cast<const QMenuBar*>(widget))
+            texts << wordsOf(bar->actions());
+        else if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+            texts << button->text();
+        else if (const auto* label = qobject_cast<const QLabel*>(widget); label && label->buddy())
+            texts << label->text();
+        else if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+            texts << group->title();
+        else if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
+            for (int i = 0; i < tabs->count(); ++i)
+                texts << tabs->tabText(i);
+    }
+    look(texts);
+    return shared.join("; ");
+}
+
 QString cutIn(const QWidget* window)
 {
     QStringList cut;
@@ -79,7 +125,9 @@ QString cutIn(const QWidget* window)
         if (table && table->verticalHeader()->defaultSectionSize() != table->fontMetrics().height() + 8)
             cut << table->objectName() + " is high";
     }
-    return (cut + oddDistances(window)).join("; ");
+    const QString letters = sharedLetters(window);
+    return (cut + oddDistances(window) + (letters.isEmpty() ? QStringList() : QStringList(letters)))
+        .join("; ");
 }
 
 } // namespace
@@ -92,10 +140,11 @@ private Q_SLOTS:
     void nothingIsCut_data()
     {
         DataTable<QString, QSize> table({"language", "size"});
-        for (const char* language : {"ru", "en"})
+        for (const char* language : {"ru", "en"}) {
             for (const QSize size : {QSize(960, 460), QSize(1016, 564)})
                 table.row(qPrintable(QStringLiteral("%1 %2").arg(language).arg(size.width())), language,
                           size);
+        }
     }
     void nothingIsCut()
     {
@@ -114,7 +163,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             if (window->width() > size.width() || window->height() > size.height())
                 return QStringLiteral("it is larger than the screen");
-            for (auto* tabs : window->findChildren<QTabWidget*>())
+            for (auto* tabs : window->findChildren<QTabWidget*>()) {
                 for (int i = 0; i < tabs->count(); ++i) {
                     tabs->setCurrentIndex(i);
                     QCoreApplication::processEvents();
@@ -122,6 +171,7 @@ private Q_SLOTS:
                     if (!cut.isEmpty())
                         return tabs->tabText(i) + ": " + cut;
                 }
+            }
             return cutIn(window);
         };
         QCOMPARE(look(&bench.window), QString());
@@ -137,6 +187,9 @@ private Q_SLOTS:
         QCOMPARE(look(telemetry), QString());
         click(telemetry, "pushButton_Func");
         QCOMPARE(look(telemetry), QString());
+        // What its bar offers when a period is saved, or is being ended.
+        for (const char* key : {"rec_080", "tmiw_303"})
+            QCOMPARE(sharedLetters(telemetry, {QCoreApplication::translate("vlk", key)}), QString());
         click(telemetry, "pushButton_Taho");
         QCOMPARE(look(windowOf("VLK_Form_TMI_Taho")), QString());
         click(telemetry, "pushButton_FuelSensor");

@@ -308,12 +308,17 @@ private Q_SLOTS:
         const auto cell = [&](int column) { return table->model()->index(0, column).data().toString(); };
         QCOMPARE(cell(1) + cell(2) + cell(3), "TRANS/OBJECT/nameVan 1" + before);
         bench.session().tracker().setFaults({});
-        Bench::press("pushButton_Again");
+        const auto letter = [](Qt::Key key) {
+            QWidget* report = Bench::find("dialog_Report");
+            QApplication::setActiveWindow(report);
+            QTest::keyClick(report, key, Qt::AltModifier);
+        };
+        letter(Qt::Key_Y);
         QVERIFY(Bench::isReviewed());
         Bench::press("pushButton_Write");
         QVERIFY(Bench::comes("dialog_Report"));
         QCOMPARE(bench.nameInTracker(), QString("Van 1"));
-        Bench::press("pushButton_BringBack");
+        letter(Qt::Key_B);
         QVERIFY(Bench::isReviewed());
         QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("No.\u00A02 of this tracker"));
         Bench::press("pushButton_Write");

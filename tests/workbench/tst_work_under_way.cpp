@@ -192,6 +192,19 @@ private Q_SLOTS:
         QCOMPARE(bench.logged(QStringLiteral("ClearedRecord")), 0);
     }
 
+    // What is pressed after a command that was not sent, and is answered, is not told to have been refused.
+    void endsWhatWasRefusedWithAnAnswer()
+    {
+        Bench bench;
+        bench.beginSave();
+        bench.take(Clear);
+        QTRY_VERIFY(Bench::notice().contains(QLatin1String("not sent: a period is being saved")));
+        Bench::press(Bench::telemetry(), "pushButton_TM");
+        QTRY_VERIFY(Bench::notice().isEmpty());
+        QVERIFY(bench.window.session().link().runningWork().saving != 0);
+        bench.endSave();
+    }
+
     // What blocks an engine on the road is asked for first, and nothing is sent without a yes.
     void asksBeforeItSwitchesOnTheRoad_data()
     {

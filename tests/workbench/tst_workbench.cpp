@@ -63,13 +63,15 @@ private Q_SLOTS:
     {
         const DataTable<QString, QString> table({"language", "page"});
         QSet<QString> pages;
-        for (const QString& language : workbench::Languages::codes())
+        for (const QString& language : workbench::Languages::codes()) {
             for (const QString& page : QDir(QDir(kHelp).filePath(language)).entryList(QDir::Files))
                 pages << page;
+        }
         // A page of one language stands in the others too.
-        for (const QString& language : workbench::Languages::codes())
+        for (const QString& language : workbench::Languages::codes()) {
             for (const QString& page : std::as_const(pages))
                 table.row(qPrintable(language + '/' + page), language, page);
+        }
     }
     void helpPagesExistAndTheirLinksResolve()
     {
@@ -284,7 +286,7 @@ private Q_SLOTS:
         viewer.setPalette(palette);
         const auto* browser = viewer.findChild<QTextBrowser*>(QStringLiteral("textBrowser_Help"));
         int links = 0;
-        for (QTextBlock block = browser->document()->begin(); block.isValid(); block = block.next())
+        for (QTextBlock block = browser->document()->begin(); block.isValid(); block = block.next()) {
             for (auto part = block.begin(); !part.atEnd(); ++part) {
                 const QTextCharFormat format = part.fragment().charFormat();
                 if (format.anchorHref().isEmpty())
@@ -293,6 +295,7 @@ private Q_SLOTS:
                 const int contrast = qGray(format.foreground().color().rgb()) - qGray(base.rgb());
                 QVERIFY2(std::abs(contrast) > 90, qPrintable(format.foreground().color().name()));
             }
+        }
         QVERIFY(links > 2);
     }
 

@@ -11,10 +11,11 @@ namespace {
 QStringList textsOf(const QWidget& window)
 {
     QStringList texts{window.windowTitle()};
-    for (const QObject* object : window.findChildren<QObject*>())
+    for (const QObject* object : window.findChildren<QObject*>()) {
         for (const char* property :
              {"text", "title", "toolTip", "placeholderText", "accessibleName", "currentText"})
             texts.append(object->property(property).toString());
+    }
     texts.removeAll(QString());
     return texts;
 }

@@ -61,10 +61,11 @@ std::optional<AnswerProblem> AnswerCheck::look(Message answer, const void* p1, c
         if (!areLines(text.mid(kLinesHeader), asked.lines))
             return AnswerProblem{AnswerProblem::Damaged, text.size(), 0};
     }
-    for (const SealedRow& row : kSealedRows)
+    for (const SealedRow& row : kSealedRows) {
         if (row.answer == answer &&
             !tracker::isSealed(QByteArray::fromRawData(static_cast<const char*>(p1), row.size), row.request))
             return AnswerProblem{AnswerProblem::Damaged, row.size, 0};
+    }
     return {};
 }
 

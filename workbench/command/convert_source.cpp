@@ -11,7 +11,10 @@ namespace workbench::command {
 
 namespace {
 
-constexpr int kRecordsOfBatch = 1024;
+// Handing a batch over costs what writing some ten records does; large records are written as much longer
+// texts, of which several wait.
+constexpr int kRecordsOfBatch = 4096;
+constexpr std::size_t kBytesOfBatch = 256 << 10;
 
 class FileSource : public RecordSource
 {
@@ -82,8 +85,12 @@ private:
             origin_.reset();
         }
         vlk::TelemetryContents& contents = reader_->contents();
-        while (!isRead_ && contents.records.size() < kRecordsOfBatch) {
+        std::size_t bytes = 0;
+        while (!isRead_ && contents.records.size() < kRecordsOfBatch && bytes < kBytesOfBatch) {
+            const int before = contents.records.size();
             isRead_ = !reader_->step();
+            for (int record = before; record < contents.records.size(); ++record)
+                bytes += contents.records.bytes(record).size();
             if (isRead_)
                 finish(input);
             tellDamages(input, contents);

@@ -12,6 +12,7 @@
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/identity_text.h"
 #include "telemetry/files/telemetry_reader.h"
+#include "telemetry/files/vehicle_times.h"
 #include "telemetry/fuel/calibration.h"
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/level_noise.h"
@@ -201,6 +202,7 @@ public:
         const QString sensor = vlk::elementsOf(tanks_);
         refuseWithoutLevels(columns, litres, sensor);
         warnOfEnds(files.front(), columns);
+        warnOfTimes(columns);
         const std::vector<vlk::LevelMedian> medians = vlk::levelMedians(columns, litres);
         warnOfNoise(files.front(), vlk::levelNoise(medians));
         for (const FuelEvent& event :
@@ -285,6 +287,18 @@ private:
         }
         part.end = records_.size();
         parts_.push_back(std::move(part));
+    }
+
+    void warnOfTimes(vlk::RecordColumns& columns)
+    {
+        std::vector<int> strayed;
+        vlk::recordsByTime(columns, &strayed);
+        for (const Part& part : parts_) {
+            const auto count = std::ranges::count_if(
+                strayed, [&part](int record) { return record >= part.begin && record < part.end; });
+            if (count > 0)
+                outcome_.complaints += complaint(part.file.name, text("rec_603").arg(count));
+        }
     }
 
     // Warns of thresholds below the noise of the level.

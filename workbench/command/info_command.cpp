@@ -35,6 +35,7 @@ struct Facts
     std::optional<qint64> gaps{};
     QString from{};
     QString to{};
+    std::optional<vlk::PeriodHole> hole{};
     QStringList damages{};
 };
 
@@ -63,6 +64,8 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
             .addRaw("gaps", number(facts.gaps));
         if (facts.isPreset)
             line.addRaw("preset", "true");
+        if (facts.hole)
+            line.addRaw("missing", QByteArray::number(facts.hole->missing()));
         if (!facts.damages.isEmpty())
             line.add("damage", facts.damages);
         return line.line();
@@ -80,6 +83,8 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
         told << text("cli_066").arg(facts.from, facts.to);
     if (facts.gaps.value_or(0) > 0)
         told << text("cli_067").arg(*facts.gaps);
+    if (facts.hole)
+        told << text("cli_360").arg(facts.hole->missing()).arg(facts.hole->before).arg(facts.hole->behind);
     return complaint(file.name, told.join(QStringLiteral(", ")));
 }
 
@@ -90,6 +95,7 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
     facts.model = summary.model.isEmpty() ? QString() : summary.model;
     facts.from = timeText(summary.from);
     facts.to = timeText(summary.to);
+    facts.hole = summary.hole;
     QByteArray complaints;
     for (const vlk::FileDamage& damage : summary.damages) {
         facts.damages << damageText(damage, device.size());

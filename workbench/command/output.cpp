@@ -4,10 +4,12 @@
 #include "command/json_line.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
+#include "plugin/base/whole_file.h"
 #include "review/value_text.h"
 #include "window/languages.h"
 
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 #include <cerrno>
 #include <cstdio>
@@ -19,8 +21,20 @@ Output::Output(const QString& name, Readers readers) : Output(name, readers, tex
 Output::Output(const QString& name, Readers readers, const QString& complaint)
     : name_(name == QLatin1String("-") ? QString() : name), readers_(readers), complaint_(complaint)
 {
-    if (isFile() && !kept_.open())
-        fault_ = kept_.errorString();
+    if (isFile())
+        open();
+}
+
+void Output::open()
+{
+    kept_ = std::make_unique<QFile>();
+    isBeside_ = readers_ == Readers::usual && vlk::openBeside(*kept_, name_);
+    if (isBeside_)
+        return;
+    auto temporary = std::make_unique<QTemporaryFile>();
+    if (!temporary->open())
+        fault_ = temporary->errorString();
+    kept_ = std::move(temporary);
 }
 
 bool Output::isReachable()
@@ -47,8 +61,8 @@ void Output::writeRecords(const QByteArray& bytes)
     if (bytes.isEmpty() || isDropped_ || !fault_.isEmpty())
         return;
     if (isFile()) {
-        if (kept_.write(bytes) != bytes.size())
-            fault_ = kept_.errorString();
+        if (kept_->write(bytes) != bytes.size())
+            fault_ = vlk::whyNotSaved(*kept_);
     } else if (std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout) !=
                static_cast<std::size_t>(bytes.size())) {
         takeError();
@@ -64,6 +78,35 @@ void Output::takeError()
         fault_ = qt_error_string(errno);
 }
 
+void Output::putInPlace()
+{
+    const auto copy = [this](QIODevice& device) {
+        kept_->seek(0);
+        while (!kept_->atEnd()) {
+            const QByteArray piece = kept_->read(1 << 20);
+            if (piece.isEmpty() || device.write(piece) != piece.size())
+                return false;
+        }
+        return true;
+    };
+    const QFileInfo target(name_);
+    if (!kept_->flush()) {
+        fault_ = vlk::whyNotSaved(*kept_);
+    } else if (target.isDir()) {
+        fault_ = qt_error_string(EISDIR);
+    } else if (target.exists() && !target.isFile()) {
+        // A device cannot be replaced.
+        QFile device(name_);
+        if (!device.open(QIODevice::WriteOnly) || !copy(device) || !device.flush())
+            fault_ = device.errorString();
+    } else if (readers_ == Readers::owner) {
+        kept_->seek(0);
+        vlk::replacePrivateFile(name_, kept_->readAll(), &fault_);
+    } else if (!isBeside_ || !vlk::putInPlace(*kept_, name_)) {
+        vlk::replaceFile(name_, copy, &fault_);
+    }
+}
+
 bool Output::close()
 {
     if (isDropped_)
@@ -72,31 +115,7 @@ bool Output::close()
         if (fault_.isEmpty() && std::fflush(stdout) != 0)
             takeError();
     } else if (fault_.isEmpty()) {
-        const auto copy = [this](QIODevice& device) {
-            kept_.seek(0);
-            while (!kept_.atEnd()) {
-                const QByteArray piece = kept_.read(1 << 20);
-                if (piece.isEmpty() || device.write(piece) != piece.size())
-                    return false;
-            }
-            return true;
-        };
-        const QFileInfo target(name_);
-        if (!kept_.flush()) {
-            fault_ = kept_.errorString();
-        } else if (target.isDir()) {
-            fault_ = qt_error_string(EISDIR);
-        } else if (target.exists() && !target.isFile()) {
-            // A device cannot be replaced.
-            QFile device(name_);
-            if (!device.open(QIODevice::WriteOnly) || !copy(device) || !device.flush())
-                fault_ = device.errorString();
-        } else if (readers_ == Readers::owner) {
-            kept_.seek(0);
-            vlk::replacePrivateFile(name_, kept_.readAll(), &fault_);
-        } else {
-            vlk::replaceFile(name_, copy, &fault_);
-        }
+        putInPlace();
     }
     if (fault_.isEmpty())
         return true;

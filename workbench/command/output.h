@@ -2,7 +2,9 @@
 
 // Where a command writes to: standard output, or a file that is there as a whole once the command is through.
 
-#include <QTemporaryFile>
+#include <QFile>
+
+#include <memory>
 
 namespace workbench::command {
 
@@ -32,17 +34,22 @@ public:
     // A file that spreadsheets open: they look for a mark in front of UTF-8.
     bool isSpreadsheet() const { return name_.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive); }
     // A file that could be written, and nothing is in it.
-    bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_.size() == 0; }
+    bool isEmptyFile() const { return isFile() && fault_.isEmpty() && kept_->size() == 0; }
     // Something that is masked was written.
     bool hasMask() const { return hasMask_; }
 
 private:
+    void open();
     void takeError();
+    void putInPlace();
 
     QString name_;
     Readers readers_;
     QString complaint_;
-    QTemporaryFile kept_;
+    // Where the output is collected: beside the file, without a name, or where that cannot be among the
+    // temporary files. Null for standard output.
+    std::unique_ptr<QFile> kept_;
+    bool isBeside_ = false;
     QString fault_;
     bool isDropped_ = false;
     bool hasMask_ = false;

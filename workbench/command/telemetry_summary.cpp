@@ -22,25 +22,29 @@ public:
 
     void take(const TmiPage_Zeta3& page)
     {
-        constexpr vlk::ElementIndex number = vlk::element("NumPage");
         ++summary_.records;
         // A record that has no time reads as the beginning of all of them.
         if (const quint32 time = timeOf(page); time != 0) {
             summary_.from = std::min(summary_.from.value_or(time), time);
             summary_.to = std::max(summary_.to.value_or(time), time);
         }
-        if (page.isExtra())
+        const quint32 number = vlk::recordNumberOf(page);
+        if (summary_.records == 1)
+            first_ = number;
+        summary_.hole = vlk::holeOfPart(summary_.records, first_, last_, number);
+        last_ = number;
+        // One without a number, such as a present state, has no place among the others.
+        if (number == 0)
             return;
-        const auto now = static_cast<quint32>(page.value<number>());
-        summary_.gaps += isBehind_ && now != before_ && now != before_ + 1;
-        before_ = now;
-        isBehind_ = true;
+        summary_.gaps += before_ != 0 && number != before_ && number != before_ + 1;
+        before_ = number;
     }
 
 private:
     TelemetrySummary& summary_;
-    bool isBehind_ = false; // another record
-    quint32 before_ = 0;
+    quint32 first_ = 0;
+    quint32 last_ = 0;
+    quint32 before_ = 0; // the last one that is a number
 };
 
 } // namespace
@@ -69,6 +73,8 @@ TelemetrySummary summaryOf(QIODevice& device, const QString& name)
     }
     reader.finish();
     summary.damages = reader.contents().damages;
+    if (!summary.damages.empty())
+        summary.hole.reset();
     return summary;
 }
 

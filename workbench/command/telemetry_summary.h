@@ -14,7 +14,8 @@ struct TelemetrySummary
     qint64 records = 0; // and packets
     std::optional<quint32> from;
     std::optional<quint32> to;
-    qint64 gaps = 0; // places at which numbers are missing
+    qint64 gaps = 0;                     // places at which numbers are missing
+    std::optional<vlk::PeriodHole> hole; // of a whole file that looks like a part of a period
     std::vector<vlk::FileDamage> damages;
 };
 

@@ -24,10 +24,11 @@ struct Element
     {
         const QString wanted = step.section(QLatin1Char('['), 0, 0);
         int left =
-            qMax(1, step.section(QLatin1Char('['), 1).chopped(step.endsWith(QLatin1Char(']'))).toInt());
-        for (const auto& child : children)
+            std::max(1, step.section(QLatin1Char('['), 1).chopped(step.endsWith(QLatin1Char(']'))).toInt());
+        for (const auto& child : children) {
             if (child->name == wanted && --left == 0)
                 return child.get();
+        }
         // One that is further on needs those before it.
         if (!make || left > 1)
             return nullptr;

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QLoggingCategory>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -72,8 +73,8 @@ std::optional<RoadReport> PendingWrite::left() const
     report.outcome = RoadReport::Outcome::unknown;
     report.fault = RoadReport::Fault::interrupted;
     report.step = RoadReport::Step::writing;
-    report.request.origin = WriteRequest::Origin(qBound(
-        int(WriteRequest::Origin::tracker), object[kOriginKey].toInt(), int(WriteRequest::Origin::previous)));
+    report.request.origin = WriteRequest::Origin(std::clamp(
+        object[kOriginKey].toInt(), int(WriteRequest::Origin::tracker), int(WriteRequest::Origin::previous)));
     report.request.document = QByteArray::fromBase64(object[kDocumentKey].toString().toLatin1());
     report.backup = object[kBackupKey].toInt();
     report.time = QDateTime::fromString(object[kTimeKey].toString(), Qt::ISODate).toLocalTime();

@@ -46,9 +46,10 @@ struct WriteReview
     SettingChanges alongside() const
     {
         SettingChanges along;
-        for (const SettingChange& change : changes)
+        for (const SettingChange& change : changes) {
             if (!request.chosen.isEmpty() && !request.chosen.contains(change.path))
                 along.append(change);
+        }
         return along;
     }
     QVector<Why> reasons() const;

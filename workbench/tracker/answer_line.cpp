@@ -3,6 +3,8 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace tracker {
 
 namespace {
@@ -44,7 +46,7 @@ void AnswerLine::post(const Answer& answer)
         return;
     Answer sent = answer;
     sent.data = distorted(answer.data, answer.form);
-    const int ms = kAnswerMs + answer.afterMs + qMax(0, faults_.delayMs);
+    const int ms = kAnswerMs + answer.afterMs + std::max(0, faults_.delayMs);
     QTimer::singleShot(ms, answer.ofSearch ? search_.get() : cable_.get(), [this, sent] { deliver(sent); });
 }
 

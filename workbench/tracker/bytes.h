@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QtEndian>
 
+#include <algorithm>
+
 namespace tracker {
 
 template <typename T>
@@ -17,7 +19,7 @@ void append(QByteArray& bytes, T value)
 // Cut or filled with zeros.
 inline void appendText(QByteArray& bytes, const QByteArray& text, int width)
 {
-    bytes.append(text.left(width)).append(width - qMin(width, text.size()), '\0');
+    bytes.append(text.left(width)).append(width - std::min(width, text.size()), '\0');
 }
 
 } // namespace tracker

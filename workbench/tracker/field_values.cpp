@@ -228,9 +228,10 @@ constexpr FieldRow kFieldRows[] = {
 constexpr bool everyElementHasOneRow()
 {
     std::array<int, vlk::kElementCount> uses{};
-    for (const FieldRow& row : kFieldRows)
+    for (const FieldRow& row : kFieldRows) {
         for (int i = 0; i < row.count; ++i)
             ++uses[row.first + i * row.stride];
+    }
     return std::ranges::all_of(uses, [](int count) { return count == 1; });
 }
 static_assert(everyElementHasOneRow());

@@ -7,6 +7,7 @@
 #include "tracker/vehicle_motion.h"
 #include "tracker/vehicle_power.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tracker {
@@ -32,7 +33,7 @@ std::uint32_t accelWord(double percent)
 
 void putWord(QByteArray& record, int offset, double value)
 {
-    const auto little = qToLittleEndian(static_cast<quint16>(qBound(0.0, std::round(value), 65535.0)));
+    const auto little = qToLittleEndian(static_cast<quint16>(std::clamp(std::round(value), 0.0, 65535.0)));
     record.replace(offset, sizeof little, reinterpret_cast<const char*>(&little), sizeof little);
 }
 

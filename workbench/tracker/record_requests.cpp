@@ -2,6 +2,7 @@
 
 #include "tracker/bytes.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tracker {
@@ -85,7 +86,7 @@ Answers RecordRequests::current(Message request)
     const QByteArray record = archive_.current(present.now, present.dataSet);
     QByteArray frame = shortHeader(request, record) + record;
     // The shortest frame that is sent; a small data set is filled up behind its record.
-    frame.append(qMax(0, vlk::kShortestCurrentRecord - frame.size()), '\0');
+    frame.append(std::max(0, vlk::kShortestCurrentRecord - frame.size()), '\0');
     return {Answer::bytes(frame)};
 }
 

@@ -206,16 +206,18 @@ private:
             switchOutput(kRestoreAction);
         // A strong shock is not told as a weak one too.
         const int news = now_.shocks & ~before_.shocks;
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 4; ++i) {
             if (news >> i & 1 && !(i == 0 && news & 2))
                 events_.push_back(raised[i]);
+        }
     }
 
     void eventSwitches(EventCode event)
     {
-        for (const Action& action : kActions)
+        for (const Action& action : kActions) {
             if (action.event == event)
                 switchOutput(action.position);
+        }
     }
 
     // By the digit at that position of the output's actions.

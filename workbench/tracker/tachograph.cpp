@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tracker {
@@ -44,7 +45,7 @@ public:
     }
     void text(int offset, int width, const QByteArray& text)
     {
-        bytes_.replace(offset, qMin(width, text.size()), text.left(width));
+        bytes_.replace(offset, std::min(width, text.size()), text.left(width));
     }
 
     Answers answers() const { return {Answer::bytes(bytes_)}; }

@@ -34,9 +34,10 @@ TrackerMemory::TrackerMemory(const QString& folder, qint64 now)
 Controls TrackerMemory::controlsAt(qint64 time) const
 {
     Controls controls;
-    for (const Change& change : changes_)
+    for (const Change& change : changes_) {
         if (change.time <= time)
             controls = change.controls;
+    }
     controls.fuelHeights = pours_.heightsAt(time);
     return controls;
 }

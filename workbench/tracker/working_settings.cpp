@@ -208,9 +208,10 @@ int valueOf(const SettingRow& row, const QString& path, int index, const Configu
 template <typename Do>
 void walk(const Do& each)
 {
-    for (const SettingRow& row : kSettingRows)
+    for (const SettingRow& row : kSettingRows) {
         for (int i = 0; i < row.count; ++i)
             each(row, i);
+    }
 }
 
 // Under which a value is kept; digits need their place behind it.
@@ -248,17 +249,19 @@ bool LineRules::triggered(double millivolts, bool before) const
 int BluetoothRules::deviceFor(Type wanted, int place) const
 {
     const std::array<int, 4>& places = wanted == Fuel ? fuel : temperature;
-    for (std::size_t i = 0; used && i < type.size(); ++i)
+    for (std::size_t i = 0; used && i < type.size(); ++i) {
         if (type[i] == wanted && places[i] == place + 1)
             return device[i];
+    }
     return -1;
 }
 
 bool WorkingSettings::hasIgnition(int triggered) const
 {
-    for (std::size_t i = 0; i < lines.size(); ++i)
+    for (std::size_t i = 0; i < lines.size(); ++i) {
         if (triggered >> i & 1 && lines[i].ignition)
             return true;
+    }
     return false;
 }
 

@@ -34,9 +34,10 @@ ActiveWindows& ActiveWindows::instance()
 QVector<QWidget*> ActiveWindows::latest() const
 {
     QVector<QWidget*> windows;
-    for (const QPointer<QWidget>& window : windows_)
+    for (const QPointer<QWidget>& window : windows_) {
         if (window && window->isVisible())
             windows.prepend(window);
+    }
     return windows;
 }
 

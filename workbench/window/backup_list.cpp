@@ -150,9 +150,10 @@ int BackupList::newest() const
 void BackupList::select(int backup)
 {
     const QSignalBlocker quiet(tree_);
-    for (QTreeWidgetItemIterator item(tree_); *item; ++item)
+    for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
         if (backup != 0 && numberOf(*item) == backup)
             tree_->setCurrentItem(*item);
+    }
 }
 
 // One at a time, so that the window answers meanwhile.
@@ -172,9 +173,10 @@ void BackupList::countNext()
     if (!changes)
         return;
     changes_[next] = int(changes->size());
-    for (QTreeWidgetItemIterator item(tree_); *item; ++item)
+    for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
         if (numberOf(*item) == next)
             (*item)->setText(Changes, number(changes->size()));
+    }
 }
 
 void BackupList::filter()

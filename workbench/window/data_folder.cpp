@@ -45,9 +45,10 @@ bool DataFolder::prepare(const QString& path)
         error_ += QStringLiteral(": ") + reason;
         return false;
     }
-    for (const char* part : {"settings", "tracker", "Data/TMI", "Data/XML"})
+    for (const char* part : {"settings", "tracker", "Data/TMI", "Data/XML"}) {
         if (!folder.mkpath(QLatin1String(part)))
             return false;
+    }
     lock_ = std::make_unique<QLockFile>(folder.filePath(QStringLiteral("workbench.lock")));
     // Held as long as its process runs, however long that is.
     lock_->setStaleLockTime(0);

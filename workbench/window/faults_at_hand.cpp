@@ -67,6 +67,7 @@ void FaultsAtHand::leave()
 {
     if (!window_->isVisible())
         return;
+    at_ = window_->home();
     window_->hide();
     moveOn();
 }
@@ -78,30 +79,40 @@ void FaultsAtHand::moveOn()
         [this] {
             QWidget* modal = QApplication::activeModalWidget();
             QWidget* owner = modal ? modal : home_.data();
-            // The cable may have taken it away behind the box.
-            if (isAway_ && !(owner && owner->isVisible()))
+            // The cable may have taken it away, behind a box or without one.
+            if ((isAway_ || isInvited_) && !(owner && owner->isVisible()))
                 owner = windowInFront(mainWindow_);
             isAway_ &= modal != nullptr;
-            if (owner && owner->isVisible())
-                windowOf(owner)->comeUp(false);
+            if (owner && owner != window_ && owner->isVisible())
+                // It is back where it was: nobody has asked it to go elsewhere.
+                windowOf(owner, modal != nullptr)->comeUp(false);
         },
         Qt::QueuedConnection);
 }
 
-FaultsWindow* FaultsAtHand::windowOf(QWidget* owner)
+FaultsWindow* FaultsAtHand::windowOf(QWidget* owner, bool makesWay)
 {
-    if (window_ && window_->parentWidget() == owner)
+    if (window_ && window_->parentWidget() == owner) {
+        if (at_ && !window_->isVisible())
+            window_->follow(*at_, makesWay);
         return window_;
+    }
     // One that changes its owner loses its place with some window managers.
     auto* window = new FaultsWindow(tracker_, owner);
     if (window_) {
-        window->follow(*window_);
+        at_ = window_->home();
         window_->hide();
         window_->deleteLater();
     }
+    if (at_)
+        window->follow(*at_, makesWay);
     window_ = window;
     window_->setTrouble(trouble_);
-    connect(window_, &QDialog::rejected, this, [this] { wanted_ = false; });
+    connect(window_, &QDialog::rejected, this, [this] {
+        at_ = window_->home();
+        wanted_ = false;
+        isInvited_ = false;
+    });
     return window_;
 }
 
@@ -112,6 +123,7 @@ void FaultsAtHand::toggle()
         return;
     }
     wanted_ = true;
+    isInvited_ = true;
     home_.clear();
     isAway_ = false;
     windowOf(windowInFront(mainWindow_))->comeUp(true);

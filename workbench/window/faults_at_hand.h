@@ -3,11 +3,15 @@
 // Keeps the window of the faults at hand. It comes up wherever the user asks for it by its key, over any
 // window of the program, a modal one included, and takes the keyboard. Uninvited it comes up beside a modal
 // window that waits for an answer of the tracker longer than usual, if there is room for it, and leaves that
-// window the keyboard: what it measures live ends when it is no longer the active one.
+// window the keyboard: what it measures live pauses while it is not the active one. Uninvited it goes with
+// that window; where the user has asked for it, it stays until it is sent away.
 
 #include <QKeySequence>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
+
+#include <optional>
 
 class QWidget;
 
@@ -44,7 +48,7 @@ private:
     void leave();
     // To the window that takes the mouse now: one that came up over its owner, or the one below that.
     void moveOn();
-    FaultsWindow* windowOf(QWidget* owner);
+    FaultsWindow* windowOf(QWidget* owner, bool makesWay = true);
 
     tracker::SimulatedTracker& tracker_;
     QKeySequence key_;
@@ -54,7 +58,9 @@ private:
     bool isAway_ = false;     // from there, over a modal window
     QPointer<QWidget> asker_; // the modal window from which the tracker was asked last
     QString trouble_;
-    bool wanted_ = true; // the user has not closed it
+    bool wanted_ = true;      // the user has not closed it
+    bool isInvited_ = false;  // by the key
+    std::optional<QRect> at_; // where it was when its owner went, which may take it along
 };
 
 } // namespace workbench

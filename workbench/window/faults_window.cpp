@@ -17,6 +17,15 @@
 
 namespace workbench {
 
+namespace {
+
+// Of the note at the foot, in a window of one column and of two. Its place is kept: what is told comes and
+// goes while the user presses boxes above it.
+constexpr int kNoteLines = 5;
+constexpr int kNoteLinesOfWide = 3;
+
+} // namespace
+
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint), panel_(new FaultsPanel(tracker)),
       trouble_(new QLabel(this))
@@ -26,6 +35,10 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     texts_.bind(this, "wb_faults_title");
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
     trouble_->setWordWrap(true);
+    trouble_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    kept.setRetainSizeWhenHidden(true);
+    trouble_->setSizePolicy(kept);
     trouble_->hide();
     auto* tanks = new TankPanel(tracker);
     vlk::dressGroup(tanks);
@@ -35,7 +48,11 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     inside->addWidget(panel_);
     inside->addWidget(tanks);
     // On a low screen the two stand beside each other.
-    if (within(content->sizeHint(), screen()->availableSize()).height() < content->sizeHint().height()) {
+    const auto heightOf = [this](int lines) { return lines * trouble_->fontMetrics().lineSpacing(); };
+    trouble_->setFixedHeight(heightOf(kNoteLines));
+    const QSize all = content->sizeHint() + QSize(0, trouble_->height());
+    if (within(all, screen()->availableSize()).height() < all.height()) {
+        trouble_->setFixedHeight(heightOf(kNoteLinesOfWide));
         inside->setDirection(QBoxLayout::LeftToRight);
         inside->setAlignment(tanks, Qt::AlignTop);
     }
@@ -50,21 +67,11 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
 void FaultsWindow::setTrouble(const QString& text)
 {
     trouble_->setText(text);
+    trouble_->setToolTip(text);
     trouble_->setVisible(!text.isEmpty());
-    grow();
     // The owner's notice of it has come up over this window.
     if (isVisible())
         raise();
-}
-
-// The note may need room, more of it in another language.
-void FaultsWindow::grow()
-{
-    ensurePolished();
-    const int width = qMax(this->width(), sizeHint().width());
-    const int height =
-        layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : sizeHint().height();
-    resizeWithin(this, QSize(width, height).expandedTo(size()));
 }
 
 void FaultsWindow::retranslate()
@@ -78,6 +85,9 @@ void FaultsWindow::retranslate()
     const auto labels = panel_->findChildren<QLabel*>();
     for (QLabel* label : labels)
         label->setText(label->text().remove(QLatin1Char('&')));
+    // In another language the words may need more.
+    ensurePolished();
+    resizeWithin(this, sizeHint().expandedTo(size()));
 }
 
 void FaultsWindow::comeUp(bool withKeyboard)
@@ -110,18 +120,26 @@ void FaultsWindow::place()
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
     resizeWithin(this, size());
-    if (wanted_ && covered(*wanted_) == 0) {
+    if (wanted_ && (!makesWay_ || covered(*wanted_) == 0)) {
         moveWithin(this, *wanted_);
+        madeWay_ = pos(); // if the screen has no room there
         return;
     }
     const QPoint beside = owner.frameGeometry().topRight() + QPoint(1, 0);
     moveWithin(this, fitsBeside(owner) ? beside : freeCorner(room));
+    madeWay_ = pos();
 }
 
-void FaultsWindow::follow(const FaultsWindow& other)
+QRect FaultsWindow::home() const
 {
-    wanted_ = other.pos();
-    resize(other.size());
+    return {wanted_ && pos() == madeWay_ ? *wanted_ : pos(), size()};
+}
+
+void FaultsWindow::follow(const QRect& home, bool makesWay)
+{
+    wanted_ = home.topLeft();
+    makesWay_ = makesWay;
+    resize(home.size());
 }
 
 std::ptrdiff_t FaultsWindow::covered(const QPoint& place) const

@@ -33,8 +33,11 @@ public:
     // Shows it beside the owner, or where there is no room in the corner of the screen in which it covers the
     // fewest buttons of the owner; with the keyboard, or leaving it where it is until the user clicks here.
     void comeUp(bool withKeyboard);
-    // Where the one of another owner stood, and as large: it comes up there, unless it would cover buttons.
-    void follow(const FaultsWindow& other);
+    // Where the user has put it, also while it has made way for buttons.
+    QRect home() const;
+    // Where the one of another owner had its home, and as large: it comes up there, unless it would cover
+    // buttons and may make way for them.
+    void follow(const QRect& home, bool makesWay);
     // Whether there is room for it beside a window.
     bool fitsBeside(const QWidget& window) const;
 
@@ -43,7 +46,6 @@ public Q_SLOTS:
     void reject() override;
 
 private:
-    void grow();
     void place();
     QPoint freeCorner(const QRect& room) const;
     // How many buttons of the owner it would cover there.
@@ -52,6 +54,8 @@ private:
     FaultsPanel* panel_;
     QLabel* trouble_;
     std::optional<QPoint> wanted_; // its place, where another one has stood
+    bool makesWay_ = true;
+    QPoint madeWay_; // to here, if that would cover buttons
     KeyTexts texts_;
 };
 

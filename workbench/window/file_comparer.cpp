@@ -31,12 +31,14 @@ std::optional<SettingChanges> compareKeys(const QByteArray& before, const QByteA
         const QString is = valueOf(other, path);
         changes.append({path, {}, {}, {}, was, is, was, is});
     };
-    for (const QString& path : other.paths())
+    for (const QString& path : other.paths()) {
         if (!one.contains(path) || one.text(path) != other.text(path))
             add(path);
-    for (const QString& path : one.paths())
+    }
+    for (const QString& path : one.paths()) {
         if (!other.contains(path))
             add(path);
+    }
     return changes;
 }
 

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -21,11 +22,10 @@ constexpr int kMostLines = 5;
 constexpr int kMostInBar = 2;
 
 const QString kUnsaved = QStringLiteral("vlk.unsaved.");
+const QString kFound = QStringLiteral("vlk.unsaved.found");
 constexpr int kWaiting = 1; // number of the notice
 
-using Noted = QVector<QPair<QString, QString>>;
-
-QString told(const Noted& noted, int most)
+QString told(const QVector<QPair<QString, QString>>& noted, int most)
 {
     QStringList lines;
     for (const auto& [category, message] : noted.mid(0, most))
@@ -44,7 +44,16 @@ FileNotices::FileNotices(const PluginLog& log, StatusLine& status, vlk::NoticeBa
             [this](PluginLog::Topic topic, const QString& category, const QString& text) {
                 if (topic == PluginLog::Topic::File || topic == PluginLog::Topic::Damage)
                     note(topic, category, text);
+                else if (topic == PluginLog::Topic::Written)
+                    forget(category, text);
             });
+    connect(&bar_, &vlk::NoticeBar::closed, this, [this](int number) {
+        if (number != kWaiting)
+            return;
+        for (const auto& [category, message] : std::as_const(waiting_))
+            known_.insert(message);
+        waiting_.clear();
+    });
 }
 
 void FileNotices::note(PluginLog::Topic topic, const QString& category, const QString& message)
@@ -58,23 +67,54 @@ void FileNotices::note(PluginLog::Topic topic, const QString& category, const QS
 
 void FileNotices::tell()
 {
-    const Noted noted = std::exchange(noted_, {});
+    Noted noted = std::exchange(noted_, {});
+    const bool needsBox = std::exchange(needsBox_, false);
+    const auto waits = [](const auto& entry) { return entry.first.startsWith(kUnsaved); };
+    const auto edits = std::stable_partition(noted.begin(), noted.end(), std::not_fn(waits));
+    if (edits != noted.end()) {
+        waiting_.clear();
+        std::copy_if(edits, noted.end(), std::back_inserter(waiting_), [&](const auto& entry) {
+            return entry.first != kFound || !known_.contains(entry.second);
+        });
+        noted.erase(edits, noted.end());
+        tellWaiting();
+    }
+    if (noted.isEmpty())
+        return;
     const auto sentence = [noted] { return told(noted, kMostLines); };
     status_.tell(StatusLine::Command, sentence);
-    if (std::exchange(needsBox_, false))
+    if (needsBox)
         showWarning(sentence(), mainWindow_);
-    Noted waiting;
-    std::ranges::copy_if(noted, std::back_inserter(waiting),
-                         [](const auto& entry) { return entry.first.startsWith(kUnsaved); });
-    if (!waiting.isEmpty()) {
-        bar_.tell(kWaiting, [waiting] {
+}
+
+void FileNotices::forget(const QString& category, const QString& message)
+{
+    const QString name = PluginLog::parts(category, message).value(0);
+    const auto isNamed = [&name](const auto& entry) {
+        constexpr int behindTheCount = 1; // or behind the time
+        return PluginLog::parts(entry.first, entry.second).value(behindTheCount) == name;
+    };
+    const auto last = std::remove_if(waiting_.begin(), waiting_.end(), isNamed);
+    if (last == waiting_.end())
+        return;
+    waiting_.erase(last, waiting_.end());
+    tellWaiting();
+    status_.tell(StatusLine::Command, [category, message] { return PluginLog::words(category, message); });
+}
+
+void FileNotices::tellWaiting()
+{
+    if (waiting_.isEmpty())
+        bar_.end(kWaiting);
+    else
+        bar_.tell(kWaiting, [waiting = waiting_] {
             return vlk::Notice{vlk::Mark::advice, told(waiting, kMostInBar), {}};
         });
-    }
 }
 
 void FileNotices::configurationOpened()
 {
+    waiting_.clear();
     bar_.end(kWaiting);
 }
 

@@ -139,7 +139,7 @@ QWidget* HistoryWindow::buildButtons()
     keep_->setObjectName(QStringLiteral("comboBox_Keep"));
     for (const KeepRow& row : kKeepRows)
         keep_->addItem(text(row.key), row.days);
-    keep_->setCurrentIndex(qMax(0, keep_->findData(settings_.backupDays())));
+    keep_->setCurrentIndex(std::max(0, keep_->findData(settings_.backupDays())));
     auto* label = texts_.bind(new QLabel(this), "wb_history_keep");
     label->setBuddy(keep_);
     texts_.bind([this] {
@@ -181,7 +181,7 @@ void HistoryWindow::chooseKeeping()
         !agrees(text("wb_history_drop").arg(keep_->currentText(), number(old.dropped.size())) +
                     QLatin1String("\n\n") + text("wb_history_drop_not").arg(number(old.noted)),
                 text("wb_history_drop_verb"), QStringLiteral("messageBox_Keep"), this)) {
-        keep_->setCurrentIndex(qMax(0, keep_->findData(settings_.backupDays())));
+        keep_->setCurrentIndex(std::max(0, keep_->findData(settings_.backupDays())));
         return;
     }
     settings_.setBackupDays(days);
@@ -229,9 +229,10 @@ void HistoryWindow::offerOthers()
     const auto backup = session_.backups().find(selected());
     if (!backup)
         return;
-    for (const Backup& each : session_.backups().all())
+    for (const Backup& each : session_.backups().all()) {
         if (each.number != backup->number)
             other_->addItem(backupName(each.number), each.number);
+    }
     if (session_.tracker().attached())
         other_->addItem(text("wb_history_now"), TheTracker);
     other_->addItem(file_.isEmpty() ? text("wb_history_file") : QFileInfo(file_).fileName(), AFile);

@@ -53,6 +53,7 @@ HostSession::HostSession(const QString& trackerFolder, const QString& backupsFol
                                    },
                                    [this](const QByteArray& document) { return comparer_.advise(document); })
 {
+    unwritten_.dropOld(QDateTime::currentDateTimeUtc());
     tracker_.setSender([this](vlk::Message id, void* p1, void* p2) { deliver(id, p1, p2); });
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
     connect(&link_, &PluginLink::received, this, &HostSession::receive);
@@ -243,6 +244,7 @@ void HostSession::begin(const WriteRequest& request, int opened)
 {
     if (road_.begin(request)) {
         openedThen_ = opened;
+        isAgain_ = false;
         return;
     }
     QFile::remove(request.file);
@@ -254,6 +256,8 @@ void HostSession::finish(const RoadReport& report)
     using Outcome = RoadReport::Outcome;
     const WriteRequest& request = report.request;
     const bool isConfirmed = report.outcome == Outcome::confirmed;
+    // What is given up at its first try is in the window still; later the file may be all that is left.
+    const bool isGivenUp = report.outcome == Outcome::cancelled && !isAgain_;
     if (isConfirmed) {
         if (request.file.isEmpty() || openedThen_ != opened_)
             edited_.trackerHolds(request.document);
@@ -263,8 +267,8 @@ void HostSession::finish(const RoadReport& report)
         if (!request.file.isEmpty())
             link_.confirmWrite(request.document);
     }
-    if (!request.file.isEmpty() && (isConfirmed || report.outcome == Outcome::cancelled) &&
-        QFile::exists(request.file) && !QFile::remove(request.file))
+    if (!request.file.isEmpty() && (isConfirmed || isGivenUp) && QFile::exists(request.file) &&
+        !QFile::remove(request.file))
         qCWarning(lcSession) << "cannot remove" << request.file;
     if (isConfirmed)
         unwritten_.drop(request.document);
@@ -284,6 +288,7 @@ Sentence HostSession::writeAgain(const WriteRequest& request)
     if (road_.isBusy())
         return [] { return text("wb_write_busy"); };
     begin(request, openedThen_);
+    isAgain_ = true;
     return {};
 }
 
@@ -320,9 +325,7 @@ Sentence HostSession::bringBackPrevious()
 
 void HostSession::keepFor(int days)
 {
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    backups_.keepFor(days, now);
-    unwritten_.dropOlder(days, now);
+    backups_.keepFor(days, QDateTime::currentDateTimeUtc());
 }
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)

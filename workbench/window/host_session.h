@@ -68,7 +68,7 @@ public:
     // What is asked for when the plug-in wants a file to be written: a line for each field of it that was not
     // taken as it was typed.
     void setTyped(std::function<QStringList()> typed) { typed_ = std::move(typed); }
-    // Backups and files that were never written are kept for so many days; 0: for ever.
+    // Backups are kept for so many days; 0: for ever.
     void keepFor(int days);
     // The plug-in could not save the file that it wanted to be written.
     void writeNotSaved(const QString& path, const QString& reason);
@@ -111,7 +111,8 @@ private:
     UnwrittenFiles unwritten_;
     Backups backups_;
     WriteRoad road_;
-    int openedThen_ = -1; // which of the opened configurations is on the road; -1: one of an earlier run
+    bool isAgain_ = false; // what is on the road has been there before
+    int openedThen_ = -1;  // which of the opened configurations is on the road; -1: one of an earlier run
 };
 
 } // namespace workbench

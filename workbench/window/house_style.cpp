@@ -8,7 +8,6 @@
 #include "window/line_icon.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -53,15 +52,16 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     outlineOnDark(element, *option, *painter);
+    outlineFocus(element, *option, *painter, widget);
 }
 
 QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    const bool isOfBox =
-        type == CT_PushButton && widget && qobject_cast<QDialogButtonBox*>(widget->parentWidget());
-    return isOfBox ? vlk::withRoomBesideWords(size, contents, option) : size;
+    // Beside a page of the configuration small screens have no room for more; its pages see to their own.
+    const bool isBesidePage = widget && widget->window()->inherits("VLK_Widget_Config");
+    return type == CT_PushButton && !isBesidePage ? vlk::withRoomBesideWords(size, contents, option) : size;
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -1,9 +1,9 @@
 #pragma once
 
 // What the workbench changes of the system's style, for the windows of the plug-in too: message boxes have
-// the marks and line icons of all other windows, buttons of dialogs have words alone with room beside them,
-// disabled text can be read, boxes to tick can be seen in dark windows, and the margins of layouts are those
-// of the grid.
+// the marks and line icons of all other windows, buttons have room beside their words, in dialogs without
+// icons, disabled text can be read, boxes to tick can be seen in dark windows, and the margins of layouts are
+// those of the grid.
 
 #include <QProxyStyle>
 

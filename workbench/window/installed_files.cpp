@@ -9,9 +9,10 @@ namespace {
 
 QString firstExisting(const QStringList& candidates)
 {
-    for (const QString& candidate : candidates)
+    for (const QString& candidate : candidates) {
         if (QFile::exists(candidate))
             return candidate;
+    }
     return candidates.first();
 }
 

@@ -13,11 +13,18 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <algorithm>
+#include <iterator>
+
 namespace workbench {
 
 namespace {
 
 constexpr int kReasonMs = 300;
+
+// What comes because the user has pressed something since, and not by the save or the requests that run.
+constexpr vlk::Message kAnswersToAPress[] = {vlk::Message::LiveKey, vlk::Message::RfidNumber,
+                                             vlk::Message::TachographAnswer};
 
 } // namespace
 
@@ -158,6 +165,11 @@ void LinkNotices::look(vlk::Direction direction, quint32 id, const void* p1)
     if (answer == refused_) {
         refused_ = {};
         setTrouble({});
+    }
+    // Why an earlier command was not sent would look as if it were said of this one.
+    if (reason_.isActive() && std::ranges::find(kAnswersToAPress, answer) != std::end(kAnswersToAPress)) {
+        endReason();
+        front_.tell(FrontNotice::Result, {});
     }
     if (!RecordCheck::carriesRecord(answer) || !p1)
         return;

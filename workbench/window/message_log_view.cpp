@@ -228,9 +228,10 @@ QVector<int> MessageLogView::takenRows() const
     const QItemSelectionModel* selection = table_->selectionModel();
     const bool all = selection->selectedRows().size() < 2;
     QVector<int> rows;
-    for (int row = 0; row < filter_->rowCount(); ++row)
+    for (int row = 0; row < filter_->rowCount(); ++row) {
         if (all || selection->isRowSelected(row, {}))
             rows << filter_->mapToSource(filter_->index(row, 0)).row();
+    }
     return rows;
 }
 

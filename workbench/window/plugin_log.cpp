@@ -41,6 +41,7 @@ constexpr CategoryRow kCategoryRows[] = {
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept: (.+)$"},
     {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_295", "^changes of ([\\d.: ]+?): $"},
     {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_294", "^changes of ([\\d.: ]+?): (.+)$"},
+    {"vlk.unsaved.written", PluginLog::Topic::Written, "wb_told_written", "^changes are written: (.*)$"},
     {"vlk.settings.typing", PluginLog::Topic::Typing, "wb_typed", kWhole},
     {"vlk.settings.retyped", PluginLog::Topic::Retyped, "wb_told_retyped", kWhole},
     {"vlk.xml", PluginLog::Topic::File, "wb_told_not_made", kNotMade},

@@ -23,6 +23,7 @@ public:
         Retyped,     // "FIELD", of which that holds no longer
         File,        // something of a file that was opened, to be told in words()
         Damage,      // the same; the window that it is about tells it too
+        Written,     // edits of what it names, which were kept, are in the tracker now
     };
 
     explicit PluginLog(QObject* parent = nullptr);

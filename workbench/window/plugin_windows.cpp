@@ -28,9 +28,10 @@ PluginWindows::PluginWindows(const QWidget* mainWindow) : mainWindow_(mainWindow
 QVector<QWidget*> PluginWindows::open() const
 {
     QVector<QWidget*> windows;
-    for (const QPointer<QWidget>& window : open_)
+    for (const QPointer<QWidget>& window : open_) {
         if (window)
             windows.append(window);
+    }
     return windows;
 }
 

@@ -22,6 +22,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -79,9 +81,10 @@ constexpr WhyRow kWhyRows[] = {
 QString whyShown(const WriteReview& review)
 {
     QStringList reasons;
-    for (const WhyRow& row : kWhyRows)
+    for (const WhyRow& row : kWhyRows) {
         if (review.reasons().contains(row.why))
             reasons.append(text(row.key));
+    }
     return text("wb_review_why").arg(reasons.join(QStringLiteral("; ")));
 }
 
@@ -122,7 +125,8 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     addAdvice(column);
     addButtons(column);
     const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
-    resizeWithin(this, {kUsualSize.width(), qMin(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
+    resizeWithin(this,
+                 {kUsualSize.width(), std::min(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -23,7 +25,7 @@ public:
         const int content = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
         const QScreen* screen = this->screen();
         const int most = screen ? screen->availableSize().width() * 9 / 20 : content;
-        return {qMin(content, most), QScrollArea::minimumSizeHint().height()};
+        return {std::min(content, most), QScrollArea::minimumSizeHint().height()};
     }
     QSize sizeHint() const override { return widget()->sizeHint().expandedTo(minimumSizeHint()); }
 
@@ -70,7 +72,8 @@ void moveWithin(QWidget* window, QPoint place)
     const QRect room = screen->availableGeometry();
     const QPoint last = room.bottomRight() + QPoint(1, 1) -
                         QPoint(window->width() + kFrame.width(), window->height() + kFrame.height());
-    window->move(qMax(room.left(), qMin(place.x(), last.x())), qMax(room.top(), qMin(place.y(), last.y())));
+    window->move(std::max(room.left(), std::min(place.x(), last.x())),
+                 std::max(room.top(), std::min(place.y(), last.y())));
 }
 
 } // namespace workbench

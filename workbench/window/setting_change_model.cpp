@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace workbench {
 
 QString settingName(const SettingChange& change)
@@ -25,7 +27,7 @@ QString shownValue(const QString& value, const QString& words)
 int heightOfRows(const QTableView& table)
 {
     constexpr int atLeast = 4;
-    return table.verticalHeader()->defaultSectionSize() * (qMax(atLeast, table.model()->rowCount()) + 2);
+    return table.verticalHeader()->defaultSectionSize() * (std::max(atLeast, table.model()->rowCount()) + 2);
 }
 
 SettingChangeModel::SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent)
@@ -44,9 +46,10 @@ void SettingChangeModel::setChanges(const SettingChanges& changes, const QString
 QStringList SettingChangeModel::chosen() const
 {
     QStringList paths;
-    for (const SettingChange& change : changes_)
+    for (const SettingChange& change : changes_) {
         if (chosen_.contains(change.path))
             paths.append(change.path);
+    }
     return paths;
 }
 

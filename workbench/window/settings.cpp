@@ -124,7 +124,7 @@ void Settings::setReviewAlways(bool always)
 
 int Settings::backupDays() const
 {
-    return qMax(0, store_->value(kBackupDaysKey, 0).toInt());
+    return std::max(0, store_->value(kBackupDaysKey, 0).toInt());
 }
 
 void Settings::setBackupDays(int days)

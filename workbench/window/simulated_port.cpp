@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -40,7 +42,7 @@ void SimulatedPort::later(int ms, const std::function<void()>& act)
 
 void SimulatedPort::read(Copy copy)
 {
-    later(kBlockMs + qMax(0, tracker_.faults().delayMs), [this, copy] { answer(copy); });
+    later(kBlockMs + std::max(0, tracker_.faults().delayMs), [this, copy] { answer(copy); });
 }
 
 void SimulatedPort::answer(Copy copy)
@@ -88,7 +90,7 @@ void SimulatedPort::sendBlock()
     case Block::Kept:
         break;
     }
-    sent_ = qMin(sent_ + kBlockSize, qint64(document_.size()));
+    sent_ = std::min(sent_ + kBlockSize, qint64(document_.size()));
     const bool isAll = sent_ == document_.size();
     // Who hears of it may drop the rest.
     later(kBlockMs, [this] { sendBlock(); });
@@ -106,7 +108,7 @@ void SimulatedPort::takeAll()
         answer = tracker_.attached()
                      ? PortAnswer{PortAnswer::Outcome::refused, {}, report.reasonKey, report.detail}
                      : PortAnswer{PortAnswer::Outcome::unplugged, {}, {}, {}};
-    later(kBlockMs + qMax(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
+    later(kBlockMs + std::max(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
     Q_EMIT taken();
 }
 

@@ -84,9 +84,10 @@ void controls(Tour& tour)
     });
     Tour::press("pushButton_Run");
     const auto agree = [](QMessageBox& question) {
-        for (QAbstractButton* button : question.buttons())
+        for (QAbstractButton* button : question.buttons()) {
             if (question.buttonRole(button) == QMessageBox::AcceptRole)
                 button->click();
+        }
     };
     tour.whenModal<QMessageBox>([&tour, agree](QMessageBox& question) {
         tour.picture(QStringLiteral("telemetry-mileage.png"), &question);

@@ -202,9 +202,10 @@ QWidget* Tour::findVisible(const char* name)
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->objectName() == wanted)
             return window;
-        for (QWidget* widget : window->findChildren<QWidget*>(wanted))
+        for (QWidget* widget : window->findChildren<QWidget*>(wanted)) {
             if (widget->isVisible())
                 return widget;
+        }
     }
     return nullptr;
 }

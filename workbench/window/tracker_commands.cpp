@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace workbench {
@@ -248,7 +249,7 @@ void TrackerCommands::confirm(const Sentence& sentence)
 
 void TrackerCommands::look(const std::function<void(const std::optional<tracker::Present>&)>& tell)
 {
-    QTimer::singleShot(qMax(0, tracker_.faults().delayMs), this,
+    QTimer::singleShot(std::max(0, tracker_.faults().delayMs), this,
                        [this, tell] { tell(tracker_.readPresent()); });
 }
 

@@ -11,6 +11,9 @@ namespace workbench {
 
 namespace {
 
+// Whoever wants to try again does so sooner.
+constexpr int kMostDays = 92;
+
 QFileInfoList filesIn(const QString& folder)
 {
     return QDir(folder).entryInfoList({QStringLiteral("*.xml")}, QDir::Files);
@@ -47,10 +50,10 @@ void UnwrittenFiles::drop(const QByteArray& document) const
     }
 }
 
-void UnwrittenFiles::dropOlder(int days, const QDateTime& now) const
+void UnwrittenFiles::dropOld(const QDateTime& now) const
 {
     for (const QFileInfo& info : filesIn(folder_)) {
-        if (days > 0 && info.lastModified().daysTo(now) > days)
+        if (info.lastModified().daysTo(now) > kMostDays)
             removeFile(info.filePath());
     }
 }

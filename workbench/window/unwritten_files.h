@@ -19,8 +19,8 @@ public:
     QString take(const QString& path) const;
     // The tracker holds this: all files of it have done their work.
     void drop(const QByteArray& document) const;
-    // Those that are older than so many days. 0: none.
-    void dropOlder(int days, const QDateTime& now) const;
+    // Those that nobody has come back to for three months.
+    void dropOld(const QDateTime& now) const;
 
 private:
     QString folder_;

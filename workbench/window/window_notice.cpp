@@ -33,6 +33,7 @@ WindowNotice::WindowNotice(QWidget* owner) : NoticeBar(owner, QStringLiteral("la
     setAttribute(Qt::WA_QuitOnClose, false);
     setFrameShape(QFrame::Box);
     setNewestFirst();
+    keepToTwoLines();
     QCoreApplication::instance()->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, &WindowNotice::place);
 }
@@ -133,13 +134,13 @@ void WindowNotice::place()
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
         if (bar->isVisible() && keepsPlace) {
             ++covered;
-            least = qMax(least, bar->property(kOwnHeight).toInt());
+            least = std::max(least, bar->property(kOwnHeight).toInt());
         } else if (bar->isVisible())
             inside.setTop(
-                qMax(inside.top(), place.bottom() + 1 + kRoomMargin - bar->property(kRoomBelow).toInt()));
+                std::max(inside.top(), place.bottom() + 1 + kRoomMargin - bar->property(kRoomBelow).toInt()));
     }
     setBehind(covered);
-    resize(inside.width(), qMax(heightForWidth(inside.width()), least));
+    resize(inside.width(), std::max(heightForWidth(inside.width()), least));
     const QWidget* typed = parentWidget()->focusWidget();
     if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {
         const QRect field(typed->mapToGlobal(QPoint()), typed->size());

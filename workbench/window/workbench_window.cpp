@@ -1,7 +1,6 @@
 #include "window/workbench_window.h"
 
 #include "plugin_names.h"
-#include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"
@@ -23,6 +22,7 @@
 #include "window/start_panel.h"
 #include "window/status_line.h"
 #include "window/tracker_panel.h"
+#include "window/used_folders.h"
 #include "window/write_report_text.h"
 #include "window/write_report_view.h"
 
@@ -297,27 +297,7 @@ void WorkbenchWindow::chooseFolders()
 
 void WorkbenchWindow::applyFolders()
 {
-    const auto orOwn = [](const QString& chosen, const QString& own) {
-        return chosen.isEmpty() ? own : chosen;
-    };
-    settings_.setFolders(orOwn(settings_.telemetryFolder(), folder_.telemetryFolder()),
-                         orOwn(settings_.configurationFolder(), folder_.configurationFolder()));
-    // One on a drive that is not there stays chosen, for the day when it is.
-    std::vector<Sentence> told;
-    const auto inThisRun = [&told](const QString& chosen, const QString& own) {
-        const QString reason = whyNotWritable(chosen);
-        if (reason.isEmpty())
-            return chosen;
-        told.emplace_back([chosen, own, reason] {
-            return text("wb_folder_replaced")
-                .arg(QDir::toNativeSeparators(chosen), vlk::fileErrorText(reason),
-                     QDir::toNativeSeparators(own));
-        });
-        return own;
-    };
-    const QString telemetry = inThisRun(settings_.telemetryFolder(), folder_.telemetryFolder());
-    const QString configuration = inThisRun(settings_.configurationFolder(), folder_.configurationFolder());
-    session_.link().setPaths(telemetry, configuration);
+    const std::vector<Sentence> told = useFolders(settings_, folder_, session_.link());
     const bool wasTold = std::exchange(areFoldersTold_, !told.empty());
     if (told.empty()) {
         if (wasTold)
@@ -501,11 +481,12 @@ void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
 void WorkbenchWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    for (const QUrl& url : event->mimeData()->urls())
+    for (const QUrl& url : event->mimeData()->urls()) {
         if (url.isLocalFile()) {
             openFile(url.toLocalFile());
             return;
         }
+    }
 }
 
 } // namespace workbench

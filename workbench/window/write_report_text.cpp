@@ -63,9 +63,10 @@ QString reasonFor(const RoadReport& report)
                              report.step == RoadReport::Step::writing
                          ? text("wb_refused_unplugged")
                          : text(row->reasonKey);
-    for (const AdviceRow& each : kAdvices)
+    for (const AdviceRow& each : kAdvices) {
         if (report.reasonKey == QLatin1String(each.reasonKey))
             advice = each.adviceKey;
+    }
     if (report.problem)
         reason += QLatin1Char(' ') + reasonOf(*report.problem);
     if (!report.detail.isEmpty())

@@ -24,6 +24,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace workbench {
 
 namespace {
@@ -220,7 +222,7 @@ void WriteReportView::showDialog(HostSession& session, const RoadReport& report,
     view->table_->setVisible(keys);
     resizeWithin(dialog,
                  keys ? QSize(kSizeWithSettings.width(),
-                              qMin(kSizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
+                              std::min(kSizeWithSettings.height(), kRoomAround + heightOfRows(*view->table_)))
                       : QSize(kWidthOfWords, dialog->heightForWidth(kWidthOfWords)));
     dialog->open();
     dialog->activateWindow();

@@ -147,7 +147,7 @@ QString UserParamGroup::text(int slot) const
 void UserParamGroup::choose(int slot, const QString& text)
 {
     ElidingComboBox* box = boxes_.at(static_cast<std::size_t>(slot) - 1);
-    box->setCurrentIndex(text.isEmpty() ? 0 : qMax(itemOf(box, text), 0));
+    box->setCurrentIndex(text.isEmpty() ? 0 : std::max(itemOf(box, text), 0));
 }
 
 void UserParamGroup::takeChoice(int slot)

@@ -5,6 +5,8 @@
 #include "base/translated.h"
 #include "settings/element_types.h"
 
+#include <algorithm>
+
 using Type = userParamType;
 
 namespace {
@@ -94,7 +96,7 @@ QString VLK_UserParams::keyToDisplay(const QString& key) const
             return display(type, number);
     }
     if (isPrefixOf(Type::tilt, prefix)) {
-        const int place = qBound(0, (number - 1) / kSensors, static_cast<int>(std::size(kTiltTypes)) - 1);
+        const int place = std::clamp((number - 1) / kSensors, 0, static_cast<int>(std::size(kTiltTypes)) - 1);
         return display(kTiltTypes[place], number - place * kSensors);
     }
     if (isPrefixOf(Type::events, prefix))

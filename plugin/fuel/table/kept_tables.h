@@ -13,6 +13,13 @@
 
 namespace vlk {
 
+// Why a table is kept.
+enum class Unsaved {
+    added,   // it has rows that are in no XML file
+    changed, // since it was saved or loaded
+    cut      // it is saved, without the fractions of its volumes
+};
+
 struct KeptTable
 {
     QString path;
@@ -20,6 +27,7 @@ struct KeptTable
     QString vehicle;
     QDateTime time;
     int points;
+    Unsaved unsaved;
 };
 
 // In the folder of kept tables, which is there then unless the disk refused.
@@ -27,7 +35,7 @@ QString newKeptPath(const QString& folder, const QString& sensor, const QString&
                     const QDateTime& time);
 // False when the disk refused, and the log (vlk.save) says why.
 bool keepTable(const QString& path, const QString& sensor, const QString& vehicle,
-               const FuelTableNames& names, const FuelRows& rows, const QDateTime& time);
+               const FuelTableNames& names, const FuelRows& rows, const QDateTime& time, Unsaved unsaved);
 // From the latest to the oldest, of one time those with most points first; behind all, tables without points.
 std::vector<KeptTable> keptTables(const QString& folder);
 

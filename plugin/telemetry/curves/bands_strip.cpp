@@ -22,7 +22,7 @@ constexpr int kWidestName = 130;
 constexpr int kNameMargin = 6;
 constexpr int kMarkReach = 4;
 constexpr int kRowPadding = 3;
-constexpr int kFewestBands = 1;
+constexpr int kFewestRows = 1;
 
 } // namespace
 
@@ -41,10 +41,21 @@ int BandsStrip::rowHeight() const
     return fontMetrics().ascent() + kRowPadding;
 }
 
+int BandsStrip::rowsInRoom() const
+{
+    return std::max(mostHeight_ / rowHeight(), kFewestRows);
+}
+
+// The first band, the engine for one, has its room before the marks.
+int BandsStrip::markRowCount() const
+{
+    const int bands = model_->bands().empty() ? 0 : 1;
+    return std::min(static_cast<int>(model_->marks().size()), rowsInRoom() - bands);
+}
+
 int BandsStrip::bandCount() const
 {
-    const int room = mostHeight_ / rowHeight() - static_cast<int>(model_->marks().size());
-    return std::clamp(static_cast<int>(model_->bands().size()), 0, std::max(room, kFewestBands));
+    return std::min(static_cast<int>(model_->bands().size()), rowsInRoom() - markRowCount());
 }
 
 QStringList BandsStrip::leftOut() const
@@ -52,6 +63,8 @@ QStringList BandsStrip::leftOut() const
     QStringList titles;
     for (std::size_t band = static_cast<std::size_t>(bandCount()); band < model_->bands().size(); ++band)
         titles << model_->bands()[band].title;
+    for (auto row = static_cast<std::size_t>(markRowCount()); row < model_->marks().size(); ++row)
+        titles << model_->marks()[row].title;
     return titles;
 }
 
@@ -64,7 +77,7 @@ void BandsStrip::setMostHeight(int height)
 
 QSize BandsStrip::sizeHint() const
 {
-    return {0, (bandCount() + static_cast<int>(model_->marks().size())) * rowHeight()};
+    return {0, (bandCount() + markRowCount()) * rowHeight()};
 }
 
 QSize BandsStrip::minimumSizeHint() const
@@ -110,7 +123,7 @@ void BandsStrip::paintEvent(QPaintEvent*)
         paintBand(painter, row, band);
         row.translate(0, rowHeight());
     }
-    for (std::size_t marks = 0; marks < model_->marks().size(); ++marks) {
+    for (std::size_t marks = 0; marks < static_cast<std::size_t>(markRowCount()); ++marks) {
         paintName(model_->marks()[marks].title);
         paintMarks(painter, row, marks);
         row.translate(0, rowHeight());
@@ -210,7 +223,7 @@ void BandsStrip::paintCursors(QPainter& painter) const
 int BandsStrip::markAt(const QPoint& place) const
 {
     const int row = place.y() / rowHeight() - bandCount();
-    if (row < 0 || row >= static_cast<int>(model_->marks().size()))
+    if (row < 0 || row >= markRowCount())
         return -1;
     const std::vector<quint32>& times = model_->records().columns().times();
     const std::vector<int>& records = model_->marks()[row].records;

@@ -19,7 +19,7 @@ class BandsStrip : public QWidget
 public:
     BandsStrip(CurvesModel* model, CurvesPlot* plot, QWidget* parent = nullptr);
 
-    // At most so high: bands that have no room are left out, the last ones first.
+    // At most so high: rows that have no room are left out, the last bands first, then the last marks.
     void setMostHeight(int height);
     // The titles of those.
     QStringList leftOut() const;
@@ -36,6 +36,8 @@ protected:
 private:
     int rowHeight() const;
     int bandCount() const;
+    int markRowCount() const;
+    int rowsInRoom() const;
     void refresh();
     void paintBand(QPainter& painter, const QRect& row, int band) const;
     void paintMarks(QPainter& painter, const QRect& row, std::size_t marks) const;

@@ -1,8 +1,8 @@
 #include "telemetry/curves/curve_columns.h"
 
 #include "telemetry/files/table_columns.h"
+#include "telemetry/shown/absent_value.h"
 #include "telemetry/text/unit_word.h"
-#include "telemetry/view/absent_value.h"
 
 #include <QLocale>
 

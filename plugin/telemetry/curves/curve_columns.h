@@ -4,7 +4,7 @@
 // items, which stay the same in every language.
 
 #include "telemetry/files/csv_columns.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QStringList>
 

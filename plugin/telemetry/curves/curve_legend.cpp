@@ -34,6 +34,15 @@ CurveLegend::CurveLegend(CurvesModel* model, bool isWrapped, QWidget* parent)
     refresh();
 }
 
+void CurveLegend::setWrapped(bool isWrapped)
+{
+    if (isWrapped == isWrapped_)
+        return;
+    isWrapped_ = isWrapped;
+    updateGeometry();
+    update();
+}
+
 void CurveLegend::refresh()
 {
     QStringList told;

@@ -16,12 +16,14 @@ class CurveLegend : public QWidget
 public:
     // Wrapped, the entries take as many lines as they need at the width that it was given.
     CurveLegend(CurvesModel* model, bool isWrapped, QWidget* parent = nullptr);
+    void setWrapped(bool isWrapped);
 
     // That the entries need on one line.
     int widthOfAll() const;
     // With which something is left of each name.
     int leastWidth() const;
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
     int heightForWidth(int width) const override;
 
 protected:

@@ -1,7 +1,7 @@
 #include "telemetry/curves/curve_presets.h"
 
+#include "telemetry/shown/records_memory.h"
 #include "telemetry/text/item_names.h"
-#include "telemetry/view/records_memory.h"
 
 #include <QFile>
 #include <QSettings>

@@ -1,7 +1,5 @@
 #include "telemetry/curves/curve_series.h"
 
-#include "telemetry/files/track_points.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -46,7 +44,7 @@ public:
 private:
     void breakAtGapBefore(std::size_t i)
     {
-        if (i == 0 || isGapBetween(series_.times_[i - 1], series_.times_[i]))
+        if (series_.isBehindGap_[i])
             isBroken_ = true;
     }
 

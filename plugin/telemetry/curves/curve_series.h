@@ -1,10 +1,11 @@
 #pragma once
 
 // The numbers of one column by time, as a curve draws them. A record that has no such column takes no part;
-// one whose value is none makes a gap, and so do more than five minutes without a record.
+// one whose value is none makes a gap, and so do records that are missing between two.
 
 #include "telemetry/curves/extreme_pyramid.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/files/record_gaps.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QPolygonF>
 
@@ -16,14 +17,15 @@ public:
     // Adds the records of `byTime`, which are those behind the ones it has. `holds` tells which of them have
     // the column at all.
     template <class Holds>
-    void add(std::span<const int> byTime, const std::vector<quint32>& times, const NumberColumn& numbers,
-             Holds holds)
+    void add(std::span<const int> byTime, const RecordGaps& gaps, const NumberColumn& numbers, Holds holds)
     {
         for (const int record : byTime) {
             if (!holds(record))
                 continue;
-            times_.push_back(times[record]);
+            times_.push_back(gaps.times()[record]);
             numbers_.push_back(numbers[record]);
+            isBehindGap_.push_back(last_ < 0 || gaps.areApart(last_, record));
+            last_ = record;
         }
         pyramid_.grow(numbers_);
     }
@@ -44,6 +46,8 @@ private:
 
     std::vector<quint32> times_; // rising
     std::vector<double> numbers_;
+    std::vector<bool> isBehindGap_; // the first one too
+    int last_ = -1;                 // record
     ExtremePyramid pyramid_;
 };
 

@@ -5,7 +5,7 @@
 #include "telemetry/files/rare_events.h"
 #include "telemetry/files/raw_values.h"
 #include "telemetry/files/stops.h"
-#include "telemetry/view/absent_value.h"
+#include "telemetry/shown/absent_value.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,6 +66,7 @@ void CurvesModel::restart()
     stops_.reset();
     events_.clear();
     focused_ = -1;
+    chosenName_.clear();
     cursors_ = {records_->current(), -1};
     moving_ = Cursor::a;
     Q_EMIT changed();
@@ -112,7 +113,7 @@ void CurvesModel::show(const QStringList& items, Choice choice)
 {
     items_ = items;
     choice_ = choice;
-    focused_ = -1;
+    chosenName_.clear();
     isBeingMade_ = false;
     rebuild();
 }
@@ -182,7 +183,12 @@ void CurvesModel::rebuild()
     if (stops_ && !stops_->on.empty())
         bands_.insert(behindEngine, {QString(), translated("rec_165"), stops_});
     makeMarks();
-    focused_ = curves_.empty() ? -1 : std::clamp(focused_, 0, static_cast<int>(curves_.size()) - 1);
+    // Others may have come in front of it.
+    const auto chosen = std::ranges::find_if(
+        curves_, [this](const Curve& curve) { return curve.column.name == chosenName_; });
+    focused_ = curves_.empty()           ? -1
+               : chosen == curves_.end() ? 0
+                                         : static_cast<int>(chosen - curves_.begin());
     Q_EMIT changed();
 }
 
@@ -242,10 +248,11 @@ std::shared_ptr<const StateRuns> CurvesModel::runsOf(ItemIndex state)
     if (!runs) {
         const int bit = bitOf(kItems[state]);
         const RawValues values(records_->records(), kItems[state].element);
-        runs = std::make_shared<StateRuns>(records_->byTime(), records_->columns().times(), [&](int record) {
-            const std::optional<std::uint64_t> raw = values.at(record);
-            return raw ? static_cast<int>(*raw >> bit & 1) : -1;
-        });
+        runs =
+            std::make_shared<StateRuns>(records_->byTime(), RecordGaps(records_->columns()), [&](int record) {
+                const std::optional<std::uint64_t> raw = values.at(record);
+                return raw ? static_cast<int>(*raw >> bit & 1) : -1;
+            });
     }
     return runs;
 }
@@ -292,7 +299,7 @@ void CurvesModel::addTo(CurveSeries& series, const CurveColumn& column, std::spa
     std::vector<bool> holding;
     for (const RecordLayout& layout : store.layouts())
         holding.push_back(column.item ? layout.has(kItems[*column.item].element) : !layout.isPacket());
-    series.add(byTime, records_->columns().times(), numbers, [&](int record) {
+    series.add(byTime, RecordGaps(records_->columns()), numbers, [&](int record) {
         return holding[store.layoutNumber(record)] && record < static_cast<int>(numbers.size());
     });
 }
@@ -317,6 +324,7 @@ void CurvesModel::setFocused(int curve)
     if (curve < 0 || curve >= static_cast<int>(curves_.size()) || curve == focused_)
         return;
     focused_ = curve;
+    chosenName_ = curves_[curve].column.name;
     Q_EMIT cursorsChanged();
 }
 

@@ -70,7 +70,7 @@ public:
     Extremes extremesAt(int axis, const TimeSpan& span) const;
     double valueAt(const Curve& curve, int record) const;
 
-    // The curve that the cursors tell; -1 without curves.
+    // The curve that the cursors tell, the first one until the user chooses; -1 without curves.
     int focused() const { return focused_; }
     void setFocused(int curve);
 
@@ -122,6 +122,7 @@ private:
     std::vector<int> events_;
     bool isBeingMade_ = false;
     int focused_ = -1;
+    QString chosenName_; // of the focused one; empty until the user chooses
     std::array<int, 2> cursors_{-1, -1};
     Cursor moving_ = Cursor::a;
 };

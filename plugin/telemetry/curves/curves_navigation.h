@@ -2,7 +2,7 @@
 
 // Mouse, wheel and keys on a plot of curves: they move the span in sight and the cursors.
 
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QPoint>
 

@@ -3,11 +3,12 @@
 #include "telemetry/curves/curves_drawing.h"
 #include "telemetry/curves/curves_navigation.h"
 #include "telemetry/curves/time_scale.h"
-#include "telemetry/files/track_points.h"
+#include "telemetry/files/record_gaps.h"
 #include "typing/kept_palette.h"
 
 #include <QCursor>
 #include <QEvent>
+#include <QLocale>
 #include <QToolTip>
 
 #include <algorithm>
@@ -114,11 +115,11 @@ void CurvesPlot::goToPixel(double x)
     const int record = records.nearestInSight(timeAtPixel(x));
     if (record >= 0)
         return records.setCurrent(record);
-    if (const auto none = withoutRecords(span().from))
-        QToolTip::showText(QCursor::pos(), noRecordsText(*none), this);
+    if (const auto round = recordsRound(span().from))
+        QToolTip::showText(QCursor::pos(), noRecordsText(*round), this);
 }
 
-std::optional<TimeSpan> CurvesPlot::withoutRecords(double time) const
+std::optional<CurvesPlot::Between> CurvesPlot::recordsRound(double time) const
 {
     ShownRecords& records = model_->records();
     const std::vector<int>& byTime = records.byTime();
@@ -126,20 +127,27 @@ std::optional<TimeSpan> CurvesPlot::withoutRecords(double time) const
     const auto behind = std::ranges::lower_bound(byTime, time, {}, timeOf);
     if (behind == byTime.begin() || behind == byTime.end())
         return {};
-    return TimeSpan{timeOf(behind[-1]), timeOf(*behind)};
+    return Between{behind[-1], *behind};
 }
 
-QString CurvesPlot::noRecordsText(const TimeSpan& span) const
+QString CurvesPlot::noRecordsText(const Between& records) const
 {
     const qint32 offset = model_->records().utcOffset();
-    return tr("rec_450").arg(momentText(span.from, offset), momentText(span.to, span.from, offset));
+    const RecordGaps gaps(model_->records().columns());
+    const quint32 from = gaps.times()[records.before];
+    const quint32 to = gaps.times()[records.behind];
+    QString text = tr("rec_450").arg(momentText(from, offset), momentText(to, from, offset));
+    if (const quint32 missing = gaps.missingBetween(records.before, records.behind); missing > 0)
+        text += QLatin1Char(' ') + tr("rec_600").arg(QLocale().toString(missing));
+    return text;
 }
 
 QString CurvesPlot::gapText(double x) const
 {
-    const auto none = withoutRecords(timeAtPixel(x));
-    const bool isGap = none && isGapBetween(static_cast<quint32>(none->from), static_cast<quint32>(none->to));
-    return isGap ? noRecordsText(*none) : QString();
+    const auto round = recordsRound(timeAtPixel(x));
+    const bool isGap =
+        round && RecordGaps(model_->records().columns()).areApart(round->before, round->behind);
+    return isGap ? noRecordsText(*round) : QString();
 }
 
 void CurvesPlot::setLeftWidth(int width)
@@ -224,13 +232,18 @@ const QwtScaleDiv& CurvesPlot::divisionOf(int axis) const
 
 void CurvesPlot::fitMargins()
 {
+    setContentsMargins(fittingMargins());
+    updateLayout();
+}
+
+QMargins CurvesPlot::fittingMargins() const
+{
     const auto widthOf = [](const QwtScaleWidget* axis) {
         return axis->isVisibleTo(axis->parentWidget()) ? axis->sizeHint().width() : 0;
     };
     const int outer = widthOf(outerLeft_);
     const int inner = axisEnabled(yLeft) ? axisWidget(yLeft)->sizeHint().width() : 0;
-    setContentsMargins(std::max(outer, leftWidth_ - inner), 0, widthOf(outerRight_), 0);
-    updateLayout();
+    return {std::max(outer, leftWidth_ - inner), 0, widthOf(outerRight_), 0};
 }
 
 void CurvesPlot::updateLayout()
@@ -309,11 +322,14 @@ void CurvesPlot::focusOutEvent(QFocusEvent* event)
     dress();
 }
 
-// More room, more ticks.
+// More room, more ticks, and titles that leave other room on the left.
 bool CurvesPlot::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == canvas() && event->type() == QEvent::Resize)
+    if (watched == canvas() && event->type() == QEvent::Resize) {
         setAxes();
+        if (fittingMargins() != contentsMargins())
+            fitMargins();
+    }
     return QwtPlot::eventFilter(watched, event);
 }
 

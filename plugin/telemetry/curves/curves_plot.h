@@ -57,10 +57,17 @@ private:
     void setValueAxis(int axis);
     void dress();
     void fitMargins();
+    QMargins fittingMargins() const;
     void placeOuterAxes();
-    // From the record before the moment to the one behind it; none beyond the ends.
-    std::optional<TimeSpan> withoutRecords(double time) const;
-    QString noRecordsText(const TimeSpan& span) const;
+    // A moment without records.
+    struct Between
+    {
+        int before; // the records next to it
+        int behind;
+    };
+    // None beyond the ends.
+    std::optional<Between> recordsRound(double time) const;
+    QString noRecordsText(const Between& records) const;
 
     CurvesModel* model_;
     std::optional<TimeSpan> ownSpan_;

@@ -29,6 +29,7 @@ namespace vlk {
 namespace {
 
 constexpr int kLeastPlot = 60;
+constexpr int kReadablePlot = 100;
 constexpr int kLowCurves = 300;
 constexpr QSize kCurvesSize(640, 240);
 constexpr int kStripShare = 3; // of the height, one in
@@ -128,28 +129,44 @@ QSize CurvesView::sizeHint() const
 
 void CurvesView::resizeEvent(QResizeEvent*)
 {
-    fitStates();
-    fitLegend();
+    fit();
 }
 
-// Names that have no room beside the buttons stand below them, whole; shortened beside them where that would
-// take the room of low curves.
+// What the legend takes the states have not.
+void CurvesView::fit()
+{
+    fitLegend();
+    fitStates();
+}
+
+// Names that have no room beside the buttons stand below them, whole; shortened where that would take the
+// room of low curves, beside the buttons or else on one line.
 void CurvesView::fitLegend()
 {
     const int taken = presets_->sizeHint().width() + choose_->sizeHint().width() +
                       cursorA_->sizeHint().width() + cursorB_->sizeHint().width() +
                       handOverMenu_->sizeHint().width() + 5 * grid::kColumn;
-    const int needed = height() < kLowCurves ? std::min(legend_->leastWidth(), legend_->widthOfAll())
-                                             : legend_->widthOfAll();
+    const bool isLow = height() < kLowCurves;
+    const int needed = isLow ? std::min(legend_->leastWidth(), legend_->widthOfAll()) : legend_->widthOfAll();
     const bool hasRoom = needed <= contentsRect().width() - taken - 2 * grid::kWindow;
     legend_->setVisible(hasRoom);
     longLegend_->setHidden(hasRoom);
+    longLegend_->setWrapped(!isLow);
+}
+
+// Beside curves that can be read.
+int CurvesView::roomForStates() const
+{
+    const int toldHeight = std::max(line_->sizeHint().height(), allStates_->sizeHint().height());
+    const int others = presets_->sizeHint().height() + kReadablePlot + toldHeight + 3 * grid::kRow;
+    const int legend = longLegend_->isHidden() ? 0 : longLegend_->heightForWidth(width()) + grid::kRow;
+    return height() - others - legend;
 }
 
 // Low curves have no room for all states: what is missing is told, and comes where the user wants it.
 void CurvesView::fitStates()
 {
-    strip_->setMostHeight(height() / kStripShare);
+    strip_->setMostHeight(std::min(height() / kStripShare, roomForStates()));
     const QStringList leftOut = strip_->leftOut();
     if (allStates_->isChecked())
         strip_->setMostHeight(QWIDGETSIZE_MAX);
@@ -277,8 +294,7 @@ void CurvesView::choose()
 
 void CurvesView::refresh()
 {
-    fitStates();
-    fitLegend();
+    fit();
     line_->setText(model_->cursorLine());
     plot_->setAccessibleDescription(line_->text());
     for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)}) {

@@ -56,8 +56,10 @@ private:
     int chosenPreset() const;
     void choose();
     void refresh();
+    void fit();
     void fitStates();
     void fitLegend();
+    int roomForStates() const;
     void keepInSight(int record);
     void askPicture();
     void askTable();

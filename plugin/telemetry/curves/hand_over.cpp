@@ -3,7 +3,7 @@
 #include "base/file_name.h"
 #include "base/translated.h"
 #include "link/device.h"
-#include "telemetry/view/records_notices.h"
+#include "telemetry/shown/records_notices.h"
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
 #include "windows/save_dialog.h"

@@ -2,7 +2,7 @@
 
 // Zooming and panning of a span of time within that of all records.
 
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 namespace vlk {
 

@@ -1,10 +1,9 @@
 #pragma once
 
 // When a state of two was on, as a band below the curves draws it. It lasts until the next record that tells
-// it; where that is more than five minutes away, nothing is known of the time between.
+// it; over a gap nothing is known.
 
-#include "telemetry/files/track_points.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/files/record_gaps.h"
 
 namespace vlk {
 
@@ -22,7 +21,7 @@ struct StateRuns
 
     // `state(record)` gives 1 or 0, and anything else where the record does not tell.
     template <class State>
-    StateRuns(const std::vector<int>& byTime, const std::vector<quint32>& times, State state);
+    StateRuns(const std::vector<int>& byTime, const RecordGaps& gaps, State state);
     StateRuns() = default;
 
     // Whether it was on, or known, at some moment from `from` to `to`.
@@ -39,26 +38,27 @@ private:
 };
 
 template <class State>
-StateRuns::StateRuns(const std::vector<int>& byTime, const std::vector<quint32>& times, State state)
+StateRuns::StateRuns(const std::vector<int>& byTime, const RecordGaps& gaps, State state)
 {
+    const std::vector<quint32>& times = gaps.times();
     int before = -1;
-    quint32 since = 0;
+    int last = -1; // that told it
     for (const int record : byTime) {
         const int now = state(record);
         if (now != 0 && now != 1)
             continue;
         const quint32 time = times[record];
-        if (before >= 0 && !isGapBetween(since, time)) {
-            addTo(known, since, time);
+        if (last >= 0 && !gaps.areApart(last, record)) {
+            addTo(known, times[last], time);
             if (before == 1)
-                addTo(on, since, time);
+                addTo(on, times[last], time);
         }
         // A record alone between gaps is a moment.
         addTo(known, time, time);
         if (now == 1)
             addTo(on, time, time);
         before = now;
-        since = time;
+        last = record;
     }
 }
 

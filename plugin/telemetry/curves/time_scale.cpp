@@ -1,7 +1,7 @@
 #include "telemetry/curves/time_scale.h"
 
 #include "base/translated.h"
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 
 #include <algorithm>
 #include <cmath>
@@ -52,8 +52,10 @@ std::vector<double> roundMoments(const TimeSpan& span, qint64 step, qint32 utcOf
 {
     std::vector<double> moments;
     const double first = std::ceil((span.from + utcOffset) / step) * step - utcOffset;
-    for (double moment = first; moment <= span.to; moment += step)
-        moments.push_back(moment);
+    const auto count = first <= span.to ? static_cast<int>((span.to - first) / step) + 1 : 0;
+    moments.reserve(count);
+    for (int i = 0; i < count; ++i)
+        moments.push_back(first + static_cast<double>(i) * step);
     return moments;
 }
 

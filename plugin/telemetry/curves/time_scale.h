@@ -3,8 +3,8 @@
 // Times as curves and track show them: round moments for the axis, and texts of moments and durations. Times
 // are seconds since 1970 in UTC, shown that many seconds east of it.
 
-#include "telemetry/view/record_cell.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/record_cell.h"
+#include "telemetry/shown/shown_records.h"
 
 namespace vlk {
 

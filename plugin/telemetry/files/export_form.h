@@ -98,6 +98,8 @@ public:
     double share() const;
     // Whether all that was to be written is.
     bool succeeded() const { return isDone_ && !hasFailed_; }
+    // How many of the records the form has no place for; once all is written.
+    qint64 withoutPlace() const { return writer_->withoutPlace(); }
 
 private:
     bool step();

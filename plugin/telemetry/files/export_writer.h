@@ -22,6 +22,8 @@ public:
     virtual void finish(OutputBuffer& out) = 0;
     // Whether any of the records that were added has a place in the form.
     virtual bool hasContent() const { return true; }
+    // How many of them have none.
+    virtual qint64 withoutPlace() const { return 0; }
 
 protected:
     ExportWriter() = default;

@@ -8,6 +8,8 @@
 #include "telemetry/text/unit_word.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace vlk {
 
@@ -62,7 +64,7 @@ public:
           absent_(options.archive ? "\\N" : ""), cells_(cellsOf(ahead, options)),
           offsets_(elementsIn(cells_), true), numbers_(options.utcOffset, options.decimalComma ? ',' : '.'),
           tracker_(field(options.origin.trackerId.toUtf8())),
-          row_(cells_.size() * (NumberCells::kLongest + 1))
+          row_((cells_.size() + 1) * (NumberCells::kLongest + 1)), written_(cells_.size())
     {
     }
 
@@ -87,6 +89,14 @@ public:
     void finish(OutputBuffer& /*out*/) override {}
 
 private:
+    // What a cell had in the record before: most have it again.
+    struct Written
+    {
+        std::uint64_t raw = 0;
+        std::size_t size = 0;
+        std::array<char, NumberCells::kLongest> text{};
+    };
+
     static std::vector<NumberCell> cellsOf(const ExportAhead& ahead, const ExportOptions& options)
     {
         const std::string userTypes = typeLetters(options.origin.titles).toLatin1().toStdString();
@@ -138,13 +148,11 @@ private:
         const bool isNumbered = isArchive_ || layout.has(element("NumPage"));
         char* end = row_.data();
         for (std::size_t i = 0; i < cells_.size(); ++i) {
-            char* const begin = end;
-            const NumberCell& cell = cells_[i];
-            const bool isNone = !isNumbered && cell.element == element("NumPage");
-            if (offsets[i] != ColumnOffsets::kAbsent && !isNone)
-                end = numbers_.put(end, cell, rawIn(bytes, offsets[i], kElements[cell.element].width));
-            if (end == begin)
+            const bool isNone = !isNumbered && cells_[i].element == element("NumPage");
+            if (offsets[i] == ColumnOffsets::kAbsent || isNone)
                 end = std::ranges::copy(absent_, end).out;
+            else
+                end = putCell(end, i, rawIn(bytes, offsets[i], kElements[cells_[i].element].width));
             *end++ = separator_;
         }
         if (isArchive_)
@@ -155,6 +163,22 @@ private:
         if (hasEntries_)
             addEntries(out, store, record);
         out << rowEnd();
+    }
+
+    char* putCell(char* to, std::size_t cell, std::uint64_t raw)
+    {
+        Written& written = written_[cell];
+        if (written.size == 0 || written.raw != raw) {
+            written.raw = raw;
+            char* const begin = written.text.data();
+            const char* end = numbers_.put(begin, cells_[cell], raw);
+            if (end == begin)
+                end = std::ranges::copy(absent_, begin).out;
+            written.size = static_cast<std::size_t>(end - begin);
+        }
+        // All of it, which takes less time than to look how much.
+        std::memcpy(to, written.text.data(), written.text.size());
+        return to + written.size;
     }
 
     void addEntries(OutputBuffer& out, const RecordStore& store, int record)
@@ -178,6 +202,7 @@ private:
     NumberCells numbers_;
     QByteArray tracker_;
     std::vector<char> row_;
+    std::vector<Written> written_; // by cell
     TmiPage_Zeta3 page_;
 };
 

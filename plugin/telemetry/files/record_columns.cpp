@@ -86,4 +86,32 @@ const std::vector<quint32>& RecordColumns::recordNumbers()
     return headColumn(element("NumPage"));
 }
 
+const std::vector<quint32>& RecordColumns::missingUpTo()
+{
+    constexpr quint32 most = 1'000'000;
+    const std::vector<quint32>& numbers = recordNumbers();
+    std::vector<quint32> sorted; // once there is something to look for
+    const auto nextBelow = [&](quint32 number) {
+        if (sorted.empty()) {
+            sorted = numbers;
+            if (!std::ranges::is_sorted(sorted))
+                std::ranges::sort(sorted);
+        }
+        return std::ranges::lower_bound(sorted, number)[-1];
+    };
+    missing_.reserve(numbers.size());
+    for (std::size_t record = missing_.size(); record < numbers.size(); ++record) {
+        const quint32 number = numbers[record];
+        quint32 missing = 0;
+        if (number != 0) {
+            const bool skips = lastNumber_ != 0 && number > lastNumber_ && number - lastNumber_ < most;
+            if (skips && number - lastNumber_ > 1)
+                missing = number - nextBelow(number) - 1;
+            lastNumber_ = number;
+        }
+        missing_.push_back(missing + (missing_.empty() ? 0 : missing_.back()));
+    }
+    return missing_;
+}
+
 } // namespace vlk

@@ -48,6 +48,10 @@ public:
     const std::vector<quint32>& times();
     const std::vector<quint32>& codes();
     const std::vector<quint32>& recordNumbers();
+    // How many records are missing in front of each one, all of them, by their numbers in the order of the
+    // store. What the numbers skip is not missing if it stands elsewhere; a record without a number skips
+    // nothing, and a tracker that counts on from elsewhere has lost nothing.
+    const std::vector<quint32>& missingUpTo();
 
 private:
     template <class ToNumber>
@@ -63,6 +67,8 @@ private:
     std::map<ElementIndex, NumberColumn> wholes_;
     NumberColumn absent_; // of what no record holds
     std::map<ElementIndex, std::vector<quint32>> heads_;
+    std::vector<quint32> missing_;
+    quint32 lastNumber_ = 0; // of those that missing_ is of
 };
 
 } // namespace vlk

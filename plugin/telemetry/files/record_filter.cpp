@@ -80,6 +80,7 @@ struct Bound
     double low;  // numbers from here
     double high; // to here are equal
     std::variant<const double*, const quint32*> numbers;
+    bool zeroIsNone; // a record has no such number
     std::vector<Bound> parts;
 };
 
@@ -100,14 +101,22 @@ std::variant<const double*, const quint32*> numbersOf(const FilterColumn& column
     }
 }
 
+// Of what stands in the head of a record, which is 0 where it does not tell it.
+bool isNoneAtZero(const FilterColumn& column)
+{
+    const auto* const index = std::get_if<ItemIndex>(&column);
+    return index && (*index == item("Time") || *index == item("Time.local") || *index == item("NumPage"));
+}
+
 Bound bind(const FilterNode& node, RecordColumns& columns)
 {
-    Bound bound{node.kind, node.comparison, 0, 0, {}, {}};
+    Bound bound{node.kind, node.comparison, 0, 0, {}, false, {}};
     if (node.kind == FilterNode::condition) {
         const double slack = tolerance(node.column, node.number);
         bound.low = node.number - slack;
         bound.high = node.number + slack;
         bound.numbers = numbersOf(node.column, columns);
+        bound.zeroIsNone = isNoneAtZero(node.column);
     }
     for (const FilterNode& part : node.parts)
         bound.parts.push_back(bind(part, columns));
@@ -122,6 +131,13 @@ void fill(Passes& passes, const Number* numbers, int count, Holds holds)
 {
     for (int i = 0; i < count; ++i)
         passes[i] = holds(static_cast<double>(numbers[i]));
+}
+
+// What is none meets no comparison.
+void leaveOutNone(Passes& passes, const quint32* numbers, int count)
+{
+    for (int i = 0; i < count; ++i)
+        passes[i] = passes[i] & (numbers[i] != 0);
 }
 
 template <class Number>
@@ -150,6 +166,8 @@ void evaluate(const Bound& bound, int first, int count, Passes& passes)
     if (bound.kind == FilterNode::condition) {
         std::visit([&](const auto* numbers) { compare(bound, numbers + first, count, passes); },
                    bound.numbers);
+        if (bound.zeroIsNone)
+            leaveOutNone(passes, std::get<const quint32*>(bound.numbers) + first, count);
         return;
     }
     evaluate(bound.parts.front(), first, count, passes);

@@ -92,7 +92,8 @@ bool isSoundPageLine(std::string_view line)
 {
     line = trimmed(line);
     line.remove_prefix(std::min(line.find("<Page"), line.size()));
-    if (!isTag(line))
+    // What stands behind it on the line has lost its own.
+    if (!isTag(line) || line.find('>') != line.size() - 1)
         return false;
     const std::optional<quint8> type = numberIn<quint8>(attribute(line, "type"));
     if (type == kTelemetryRecord) {

@@ -1,6 +1,7 @@
 #include "telemetry/files/stops.h"
 
-#include "telemetry/files/track_points.h"
+#include "telemetry/files/record_gaps.h"
+#include "telemetry/files/vehicle_times.h"
 
 #include <cmath>
 
@@ -8,15 +9,15 @@ namespace vlk {
 
 namespace {
 
-constexpr double kStandingBelow = 3; // km/h
 constexpr qint64 kShortestStanding = qint64{3} * 60;
 
 } // namespace
 
 std::vector<Stop> stopsOf(RecordColumns& columns, const std::vector<int>& byTime)
 {
-    const NumberColumn& speeds = columns.numbers(item("Speed"));
-    const std::vector<quint32>& times = columns.times();
+    const NumberColumn speed = speeds(columns);
+    const RecordGaps gaps(columns);
+    const std::vector<quint32>& times = gaps.times();
     std::vector<Stop> stops;
     Stop stop{-1, -1};
     const auto end = [&] {
@@ -26,11 +27,11 @@ std::vector<Stop> stopsOf(RecordColumns& columns, const std::vector<int>& byTime
     };
     for (const int record : byTime) {
         // A record without a speed says nothing.
-        if (std::isnan(speeds[record]))
+        if (std::isnan(speed[record]))
             continue;
-        if (stop.first >= 0 && isGapBetween(times[stop.last], times[record]))
+        if (stop.first >= 0 && gaps.areApart(stop.last, record))
             end();
-        if (speeds[record] >= kStandingBelow) {
+        if (speed[record] >= kMovesFrom) {
             end();
             continue;
         }

@@ -67,7 +67,33 @@ inline quint32 timeOf(const TmiPage_Zeta3& page)
     return page.isExtra() ? page.extra().value<time>() : page.value<time>();
 }
 
-// The event code, likewise.
+// The number of the record, likewise; 0: it has none.
+inline quint32 recordNumberOf(const TmiPage_Zeta3& page)
+{
+    constexpr ElementIndex number = element("NumPage");
+    return page.isExtra() ? page.extra().value<number>() : page.value<number>();
+}
+
+// The hole of a period that was saved in part: its first and its last record come first, and then the others
+// in their order.
+struct PeriodHole
+{
+    quint32 before; // numbers of the records at its sides
+    quint32 behind;
+
+    quint32 missing() const { return behind - before - 1; }
+};
+
+// Of so many records, by the numbers of the first one and of the last two. Other gaps are none: whoever has
+// chosen records has made them.
+inline std::optional<PeriodHole> holeOfPart(qint64 records, quint32 first, quint32 before, quint32 behind)
+{
+    const bool isInOrder = records > 1 && qint64{before} - first == records - 2;
+    return isInOrder && qint64{behind} - before > 1 ? std::optional(PeriodHole{before, behind})
+                                                    : std::nullopt;
+}
+
+// The event code of a record, or of an extra packet's head.
 inline quint16 codeOf(const TmiPage_Zeta3& page)
 {
     constexpr ElementIndex code = element("Code");

@@ -84,7 +84,7 @@ void forEachTrackPoint(RecordColumns& columns, int firstRecord, int behindRecord
         if (!isInRange || (latitude == 0 && longitude == 0) || validities.at(record) == 0 ||
             columns.isDamaged(record))
             continue;
-        const bool starts = !lastTime || isGapBetween(*lastTime, times[record]);
+        const bool starts = !lastTime || areFarApart(*lastTime, times[record]);
         lastTime = times[record];
         visit({record, times[record], latitude, longitude, starts});
     }

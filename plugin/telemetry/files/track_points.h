@@ -3,21 +3,13 @@
 // Where the vehicle was: the records that are points of its track, one rule for the track on show, its
 // exports and its sums.
 
-#include "telemetry/files/record_columns.h"
+#include "telemetry/files/record_gaps.h"
 
 #include <cmath>
 #include <functional>
 #include <vector>
 
 namespace vlk {
-
-// Records further apart in time do not belong to one run of records: a gap.
-inline constexpr qint64 kGapSeconds = qint64{5} * 60;
-
-inline bool isGapBetween(quint32 time, quint32 other)
-{
-    return qAbs(qint64{other} - time) > kGapSeconds;
-}
 
 // Degrees; some hundred metres, since the coordinates of a vehicle that stands wander. False without a place.
 inline bool isSamePlace(double latitude, double longitude, double otherLatitude, double otherLongitude)
@@ -33,7 +25,7 @@ struct TrackPoint
     quint32 time;    // seconds since 1970 in UTC
     double latitude; // degrees
     double longitude;
-    bool startsSegment; // the first one, and the first behind a gap
+    bool startsSegment; // the first one, and the first that is far in time from the one before
 };
 
 // The records that have latitude and longitude in range, not both 0, and no state that calls the fix invalid,

@@ -14,7 +14,9 @@ void TrackWriter::add(OutputBuffer& out, const RecordStore& store, std::span<con
     const NumberColumn& speeds = columns.numbers(item("Speed"));
     const NumberColumn& courses = columns.numbers(item("Course"));
     const NumberColumn& satellites = columns.numbers(item("StateNGauge.satellites"));
-    for (const TrackPoint& point : trackPoints(columns, 0, last_ ? &*last_ : nullptr)) {
+    const std::vector<TrackPoint> points = trackPoints(columns, 0, last_ ? &*last_ : nullptr);
+    withoutPlace_ += std::ssize(records) - std::ssize(points);
+    for (const TrackPoint& point : points) {
         last_ = point;
         const int i = point.record;
         addStep(out, {point, altitudes[i] / unitsOfMetre, speeds[i], courses[i], satellites[i]});

@@ -25,6 +25,7 @@ public:
 
     void add(OutputBuffer& out, const RecordStore& store, std::span<const int> records) override;
     bool hasContent() const override { return last_.has_value(); }
+    qint64 withoutPlace() const override { return withoutPlace_; }
 
 protected:
     virtual void addStep(OutputBuffer& out, const TrackStep& step) = 0;
@@ -40,6 +41,7 @@ private:
     IsoTimes times_{0};
     std::array<char, IsoTimes::kLongest> time_{};
     std::optional<TrackPoint> last_;
+    qint64 withoutPlace_ = 0;
 };
 
 // The text as it stands between two tags, or in an attribute; what XML cannot hold is left out.

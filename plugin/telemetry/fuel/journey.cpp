@@ -14,7 +14,6 @@ namespace vlk {
 namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-constexpr float kMovesFrom = 3; // km/h
 constexpr qint64 kDay = qint64{24} * 3600;
 constexpr double kLeastWay = 1000; // metres, for what is burnt on a hundred kilometres
 
@@ -40,6 +39,7 @@ struct Journey::Making
     std::vector<int> records{}; // by time
     NumberColumn speed{};
     std::vector<Ignition> ignition{};
+    quint32 missing = 0;         // records in front of the stretches so far
     std::vector<Place> places{}; // by record
     std::optional<TrackPoint> last{};
     int before = -1; // the stretch of the last point
@@ -88,6 +88,7 @@ void Journey::takeStretches(Making& making, int first, int behind)
 {
     const std::vector<quint32>& times = making.columns.times();
     const std::vector<quint32>& numbers = making.columns.recordNumbers();
+    const std::vector<quint32>& missing = making.columns.missingUpTo();
     const std::vector<int>& records = making.records;
     const NumberColumn& speed = making.speed;
     const std::vector<Ignition>& ignition = making.ignition;
@@ -96,15 +97,16 @@ void Journey::takeStretches(Making& making, int first, int behind)
         const int record = records[i];
         const bool isLast = i + 1 == records.size();
         const int next = isLast ? record : records[i + 1];
-        const bool isGap = isLast || isGapBetween(times[record], times[next]);
+        const bool isGap = isLast || areFarApart(times[record], times[next]);
         const bool stands = speed[record] < kMovesFrom;
         const bool standsNext = !isLast && speed[next] < kMovesFrom;
-        const bool areNumbered = numbers[record] != 0 && numbers[next] != 0;
-        const quint32 skipped = areNumbered ? numbers[next] - numbers[record] - 1 : 0;
+        // Times may fall where numbers rise: each one counts once.
+        const quint32 before = making.missing;
+        making.missing = std::max(before, missing[next]);
         stretches_.push_back({.time = times[record],
                               .speed = static_cast<float>(speed[record]),
                               .metres = 0,
-                              .missing = skipped < kMostMissing ? skipped : 0,
+                              .missing = std::min(making.missing - before, kMostMissing),
                               .moves = speed[record] >= kMovesFrom && !isGap,
                               .stands = stands && (!isGap || standsNext),
                               .engine = ignition[record] == Ignition::On,
@@ -146,7 +148,7 @@ void Journey::measureWay(Making& making, int first, int behind)
         // The coordinates of a vehicle that stands wander.
         if (before >= 0) {
             const Stretch& last = stretches_[before];
-            const bool isGap = isGapBetween(last.time, stretches_[i].time);
+            const bool isGap = areFarApart(last.time, stretches_[i].time);
             // Where records are missing nobody knows the way, but that it is not the straight one.
             const bool isKnown = !isGap || numbers[records[i]] - numbers[records[before]] == i - before;
             if (isKnown && (isGap || last.speed >= kMovesFrom || stretches_[i].speed >= kMovesFrom))

@@ -2,9 +2,9 @@
 
 // What a vehicle did in a span of time, in figures: way, times, fuel, and what is missing in its records.
 
+#include "telemetry/files/vehicle_times.h"
 #include "telemetry/fuel/fuel_events.h"
 #include "telemetry/fuel/level_medians.h"
-#include "telemetry/fuel/vehicle_times.h"
 
 #include <functional>
 
@@ -17,8 +17,9 @@ struct JourneySummary
     double until = 0;
     int records = 0;
     double metres = 0; // NaN also where geodesics cannot be had
-    // Seconds. What lies in a gap counts nowhere, but for a vehicle that stands before and after it at one
-    // place. The way over a gap is the straight one, and none where its records are missing.
+    // Seconds. What lies in more than five minutes without a record counts nowhere, but for a vehicle that
+    // stands before and after them at one place. The way over them is the straight one, and none where
+    // records are missing; over a shorter time it is near enough to the truth though some are.
     double moving = 0;
     double standing = 0;
     double engine = 0; // ignition on
@@ -70,9 +71,7 @@ private:
         quint32 isCounted : 1; // the time to the next record
         quint32 isNumbered : 1;
     };
-    // A tracker that counts on from elsewhere has lost nothing.
-    static constexpr quint32 kMostMissing = 1'000'000;
-    static_assert(kMostMissing <= 1U << 20);
+    static constexpr quint32 kMostMissing = (1U << 20) - 1;
 
     struct Making;
 

@@ -3,7 +3,7 @@
 // The litres of a tank as medians over windows of time, in which swinging fuel and single wrong levels
 // vanish.
 
-#include "telemetry/fuel/vehicle_times.h"
+#include "telemetry/files/vehicle_times.h"
 
 namespace vlk {
 

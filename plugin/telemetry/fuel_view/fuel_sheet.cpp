@@ -3,7 +3,7 @@
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/fuel_view/text_pictures.h"
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 
 #include <QTextDocument>
 

@@ -5,7 +5,7 @@
 
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel/fuel_events.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "telemetry/fuel_view/fuel_texts.h"
 
 #include "telemetry/files/iso_times.h"
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 
 #include <QLocale>
 

@@ -44,6 +44,11 @@ QDoubleSpinBox* litresBox(const char* name, QWidget* parent)
     return box;
 }
 
+QString shortText(double number)
+{
+    return numberText(number, number == std::trunc(number) ? 0 : 1);
+}
+
 } // namespace
 
 FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
@@ -336,9 +341,13 @@ QStringList FuelView::tellBlindLevels() const
 {
     QStringList texts;
     for (const TankSensor& tank : tanks_->tanks()) {
+        QStringList blinds;
         for (const FuelCurve::Blind& blind : tank.blinds())
-            texts << tr("rec_570").arg(numberText(blind.least, 1), numberText(blind.most, 1),
-                                       numberText(blind.level, 1), levelSensorCaption(*tank.sensor));
+            blinds << QStringLiteral("%1: %2–%3")
+                          .arg(shortText(blind.level), shortText(blind.least),
+                               shortText(blind.most) + QChar::Nbsp + tr("abbr_026"));
+        if (!blinds.isEmpty())
+            texts << tr("rec_570").arg(levelSensorCaption(*tank.sensor), blinds.join(QLatin1String("; ")));
     }
     return texts;
 }
@@ -349,8 +358,12 @@ QStringList FuelView::news() const
     QStringList news = tellReadingsBeyond() + tellBlindLevels() + markLowThresholds();
     if (const QString ofTable = tanks_->news(); !ofTable.isEmpty())
         news.prepend(ofTable);
+    if (tanks_->tanks().empty())
+        return news;
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
         news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
+    if (const auto strayed = records_.strayed().size(); strayed > 0)
+        news << tr("rec_602").arg(QLocale().toString(qulonglong(strayed)));
     return news;
 }
 

@@ -7,7 +7,7 @@
 #include "telemetry/curves/hand_over.h"
 #include "telemetry/fuel/tank_levels.h"
 #include "telemetry/fuel_view/fuel_list_model.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QWidget>
 

@@ -3,7 +3,7 @@
 #include "base/csv_line.h"
 #include "base/translated.h"
 #include "telemetry/fuel_view/fuel_texts.h"
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 #include "typing/table_look.h"
 
 #include <cmath>

@@ -4,7 +4,7 @@
 // filter or that is chosen in the table, or on each day.
 
 #include "telemetry/fuel/journey.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QWidget>
 

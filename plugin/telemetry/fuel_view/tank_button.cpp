@@ -4,7 +4,7 @@
 #include "link/device.h"
 #include "telemetry/fuel_view/fuel_texts.h"
 #include "telemetry/fuel_view/typed_table.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

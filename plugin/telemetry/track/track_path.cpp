@@ -42,8 +42,7 @@ void TrackPath::add(RecordColumns& columns, int firstRecord)
             step();
         return;
     }
-    const TrackPoint last = pointAt(before - 1);
-    take(columns, firstRecord, columns.store().size(), &last);
+    take(columns, firstRecord, columns.store().size());
     toMetres(before);
     if (records_.size() >= 2 * levelsMadeOf_)
         makeLevels();
@@ -68,9 +67,7 @@ std::vector<std::function<void()>> TrackPath::stepsToAdd(RecordColumns& columns,
     steps.emplace_back([this, size, firstRecord] { reserve(size - firstRecord); });
     for (int record = firstRecord; record < size; record += kRecordsInAStep)
         steps.emplace_back([this, &columns, record, behind = std::min(record + kRecordsInAStep, size)] {
-            // Places are degrees yet, and its time is all that is asked of the last one.
-            const TrackPoint last{-1, isEmpty() ? 0 : times_.back(), 0, 0, false};
-            take(columns, record, behind, isEmpty() ? nullptr : &last);
+            take(columns, record, behind);
         });
     steps.emplace_back([this] {
         setMiddle();
@@ -83,15 +80,17 @@ std::vector<std::function<void()>> TrackPath::stepsToAdd(RecordColumns& columns,
 }
 
 // Their places are degrees yet.
-void TrackPath::take(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before)
+void TrackPath::take(RecordColumns& columns, int firstRecord, int behindRecord)
 {
-    forEachTrackPoint(columns, firstRecord, behindRecord, before, [this](const TrackPoint& point) {
+    const RecordGaps gaps(columns);
+    forEachTrackPoint(columns, firstRecord, behindRecord, nullptr, [&](const TrackPoint& point) {
+        const bool startsSegment = isEmpty() || gaps.areApart(records_.back(), point.record);
         if (isEmpty())
             lastLongitude_ = point.longitude;
         lastLongitude_ += within180(point.longitude - lastLongitude_);
         records_.push_back(point.record);
         times_.push_back(point.time);
-        startsSegment_.push_back(point.startsSegment);
+        startsSegment_.push_back(startsSegment);
         places_.emplace_back(lastLongitude_, point.latitude);
     });
 }
@@ -108,8 +107,8 @@ void TrackPath::setMiddle()
 {
     if (isEmpty())
         return;
-    const auto [south, north] = std::ranges::minmax(places_, {}, &QPointF::y);
-    middleLatitude_ = (south.y() + north.y()) / 2;
+    const auto [south, north] = std::ranges::minmax_element(places_, {}, &QPointF::y);
+    middleLatitude_ = (south->y() + north->y()) / 2;
     middleLongitude_ = places_.front().x();
     metresPerDegreeEast_ =
         kMetresPerDegree * std::max(std::cos(qDegreesToRadians(middleLatitude_)), kNarrowestDegree);

@@ -62,7 +62,7 @@ public:
 private:
     TrackPoint pointAt(int point) const;
     void reserve(int records);
-    void take(RecordColumns& columns, int firstRecord, int behindRecord, const TrackPoint* before);
+    void take(RecordColumns& columns, int firstRecord, int behindRecord);
     void setMiddle();
     void toMetres(int firstPoint);
     void addTo(Level& level, int firstPoint) const;

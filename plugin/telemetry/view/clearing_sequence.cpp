@@ -31,6 +31,13 @@ unsigned ClearingSequence::awaited() const
     return servers;
 }
 
+void ClearingSequence::forget()
+{
+    stop();
+    for (QCheckBox* server : servers_)
+        server->setChecked(false);
+}
+
 void ClearingSequence::next()
 {
     const auto checked = std::ranges::find_if(servers_.begin() + (step_ - kIdle), servers_.end(),

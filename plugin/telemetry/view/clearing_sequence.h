@@ -25,6 +25,8 @@ public:
     unsigned awaited() const;
     // Forgets an answer that is still to come.
     void stop() { step_ = kIdle; }
+    // Unchecks all: the next tracker may be another one.
+    void forget();
 
 private:
     void next();

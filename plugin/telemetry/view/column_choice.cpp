@@ -1,6 +1,6 @@
 #include "telemetry/view/column_choice.h"
 
-#include "telemetry/view/records_memory.h"
+#include "telemetry/shown/records_memory.h"
 #include "telemetry/view/records_model.h"
 #include "telemetry/view/records_table.h"
 

@@ -1,7 +1,7 @@
 #include "telemetry/view/damage_text.h"
 
 #include "base/translated.h"
-#include "telemetry/view/records_notices.h"
+#include "telemetry/shown/records_notices.h"
 #include "typing/notice_bar.h"
 
 #include <QLocale>
@@ -79,13 +79,6 @@ void showAll(QWidget* window, const Damage& damage)
     box.exec();
 }
 
-quint32 numberOf(const RecordStore& records, int record)
-{
-    constexpr ElementIndex number = element("NumPage");
-    const auto page = records.at(record);
-    return page->isExtra() ? page->extra().value<number>() : page->value<number>();
-}
-
 } // namespace
 
 void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int record)>& goTo)
@@ -94,15 +87,26 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
     const int last = contents.records.size() - 1;
     if (last < 1 || !contents.damaged.empty() || contents.hidden > 0)
         return;
-    const quint32 first = numberOf(contents.records, 0);
-    const quint32 before = numberOf(contents.records, last - 1);
-    const quint32 behind = numberOf(contents.records, last);
-    if (before - first != static_cast<quint32>(last - 1) || behind <= before || behind - before == 1)
+    const auto numberAt = [&contents](int record) { return recordNumberOf(*contents.records.at(record)); };
+    const auto hole = holeOfPart(last + 1, numberAt(0), numberAt(last - 1), numberAt(last));
+    if (!hole)
         return;
-    bar->tell(kPart, [goTo, last, before, behind] {
+    bar->tell(kPart, [goTo, last, hole = *hole] {
+        return Notice{
+            Mark::advice,
+            translated("rec_472").arg(number(hole.missing()), number(hole.before), number(hole.behind)),
+            {{translated("tmiw_200"), [goTo, last] { goTo(last - 1); }}}};
+    });
+}
+
+void tellStrayed(NoticeBar* bar, const std::vector<int>& records, const std::function<void(int record)>& goTo)
+{
+    if (records.empty())
+        return bar->end(kStrayed);
+    bar->tell(kStrayed, [goTo, first = records.front(), count = std::ssize(records)] {
         return Notice{Mark::advice,
-                      translated("rec_472").arg(number(behind - before - 1), number(before), number(behind)),
-                      {{translated("tmiw_200"), [goTo, last] { goTo(last - 1); }}}};
+                      translated("rec_601").arg(number(count)),
+                      {{translated("tmiw_200"), [goTo, first] { goTo(first); }}}};
     });
 }
 

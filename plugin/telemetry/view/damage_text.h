@@ -25,6 +25,9 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
 // part: its first and its last record come first. Other gaps are nobody's business here: whoever has chosen
 // records has made them.
 void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int record)>& goTo);
+// Puts up that records, rising, are left out of all that goes by time.
+void tellStrayed(NoticeBar* bar, const std::vector<int>& records,
+                 const std::function<void(int record)>& goTo);
 // In the place of the damage, that reading was cancelled; `again` reads anew.
 void tellCancelled(NoticeBar* bar, const std::function<void()>& again);
 

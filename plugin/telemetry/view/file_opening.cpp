@@ -1,6 +1,6 @@
 #include "telemetry/view/file_opening.h"
 
-#include "telemetry/view/work_progress.h"
+#include "telemetry/shown/work_progress.h"
 
 namespace vlk {
 

@@ -2,8 +2,8 @@
 
 #include "base/translated.h"
 #include "telemetry/record/record_head.h"
-#include "telemetry/view/records_notices.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/records_notices.h"
+#include "telemetry/shown/shown_records.h"
 #include "typing/notice_bar.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "telemetry/view/latest_filters.h"
 
-#include "telemetry/view/records_memory.h"
+#include "telemetry/shown/records_memory.h"
 
 #include <QFile>
 #include <QSettings>

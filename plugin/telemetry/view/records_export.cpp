@@ -1,6 +1,6 @@
 #include "telemetry/view/records_export.h"
 
-#include "telemetry/view/work_progress.h"
+#include "telemetry/shown/work_progress.h"
 
 namespace vlk {
 
@@ -55,9 +55,10 @@ void RecordsExport::goOn(int milliseconds)
     const bool isWhole = work_->succeeded() && file_->commit();
     const QString path = file_->fileName();
     const QString reason = file_->errorString();
+    const qint64 withoutPlace = isWhole ? work_->withoutPlace() : 0;
     stop();
     if (isWhole)
-        Q_EMIT written(path);
+        Q_EMIT written(path, withoutPlace);
     else
         Q_EMIT failed(path, reason);
 }

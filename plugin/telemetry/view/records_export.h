@@ -31,7 +31,8 @@ public:
     void stop();
 
 Q_SIGNALS:
-    void written(const QString& path);
+    // So many of the records have no place in the form.
+    void written(const QString& path, qint64 withoutPlace);
     // Why, as the system words it.
     void failed(const QString& path, const QString& reason);
     void cancelled();

@@ -2,7 +2,7 @@
 
 #include "link/requests.h"
 #include "telemetry/files/table_columns.h"
-#include "telemetry/view/absent_value.h"
+#include "telemetry/shown/absent_value.h"
 #include "telemetry/view/item_display.h"
 #include "telemetry/view/record_order.h"
 

@@ -4,8 +4,8 @@
 // select. A record is decoded, and a text made, when a view asks for it, so that a file on show costs the
 // same whatever its length is. Only sorting walks all records, over one column of numbers.
 
-#include "telemetry/view/record_cell.h"
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/record_cell.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QAbstractTableModel>
 #include <QCache>

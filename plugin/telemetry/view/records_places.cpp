@@ -1,6 +1,6 @@
 #include "telemetry/view/records_places.h"
 
-#include "telemetry/view/records_memory.h"
+#include "telemetry/shown/records_memory.h"
 
 #include <QApplication>
 #include <QFile>

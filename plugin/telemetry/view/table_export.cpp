@@ -2,11 +2,11 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/shown/records_notices.h"
+#include "telemetry/shown/shown_records.h"
 #include "telemetry/view/records_export.h"
 #include "telemetry/view/records_model.h"
-#include "telemetry/view/records_notices.h"
 #include "telemetry/view/records_table.h"
-#include "telemetry/view/shown_records.h"
 #include "typing/file_error.h"
 #include "typing/notice_bar.h"
 
@@ -104,10 +104,10 @@ ExportOptions TableExport::options() const
     return options;
 }
 
-void TableExport::tellWritten(const QString& path)
+void TableExport::tellWritten(const QString& path, qint64 withoutPlace)
 {
-    notices_->tellNews(kHandedOver, [path, count = exported_, leftOut = leftOut_, form = choice_.form,
-                                     isFormOfEnding = isFormOfEnding_] {
+    notices_->tellNews(kHandedOver, [path, withoutPlace, count = exported_ - withoutPlace, leftOut = leftOut_,
+                                     form = choice_.form, isFormOfEnding = isFormOfEnding_] {
         const QString ending = QFileInfo(path).suffix();
         QStringList told{tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path))};
         if (isFormOfEnding)
@@ -117,6 +117,8 @@ void TableExport::tellWritten(const QString& path)
             told << tr("rec_510").arg(ending, tr(rowOf(form).key));
         if (leftOut > 0)
             told << tr("rec_461").arg(QLocale().toString(leftOut));
+        if (withoutPlace > 0)
+            told << tr("rec_651").arg(QLocale().toString(withoutPlace));
         if (told.size() > 1) // more sentences behind the name of the file
             told.front() += QLatin1Char('.');
         return Notice{told.size() > 1 ? Mark::advice : Mark::right, told.join(QLatin1Char(' ')), {}};

@@ -37,7 +37,7 @@ public:
 private:
     void start(const QString& path);
     ExportOptions options() const;
-    void tellWritten(const QString& path);
+    void tellWritten(const QString& path, qint64 withoutPlace);
     void tellFailed(const QString& path, const QString& reason);
 
     ShownRecords* shown_;

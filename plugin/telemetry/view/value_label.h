@@ -4,7 +4,7 @@
 // A value that there is not has no text; a grey dash is drawn in its place, and the tool tip says why. Under
 // the mouse the text can be selected; the right button is left to the panel.
 
-#include "telemetry/view/absent_value.h"
+#include "telemetry/shown/absent_value.h"
 
 #include <QLabel>
 

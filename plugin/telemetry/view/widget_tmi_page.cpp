@@ -3,11 +3,11 @@
 #include "ui_VLK_Designer_Widget_Tmi_Page.h"
 
 #include "link/requests.h"
+#include "telemetry/shown/work_progress.h"
 #include "telemetry/view/damage_text.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/file_opening.h"
 #include "telemetry/view/value_label.h"
-#include "telemetry/view/work_progress.h"
 #include "typing/join_fields.h"
 #include "typing/line_icon.h"
 #include "typing/notice_bar.h"

@@ -2,6 +2,8 @@
 
 #include "link/requests.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/shown/records_notices.h"
+#include "telemetry/shown/work_progress.h"
 #include "telemetry/view/column_choice.h"
 #include "telemetry/view/columns_menu.h"
 #include "telemetry/view/damage_text.h"
@@ -12,12 +14,10 @@
 #include "telemetry/view/record_finder.h"
 #include "telemetry/view/records_menu.h"
 #include "telemetry/view/records_model.h"
-#include "telemetry/view/records_notices.h"
 #include "telemetry/view/records_places.h"
 #include "telemetry/view/records_table.h"
 #include "telemetry/view/selected_records.h"
 #include "telemetry/view/table_export.h"
-#include "telemetry/view/work_progress.h"
 #include "typing/area_keys.h"
 #include "typing/empty_note.h"
 #include "typing/grid.h"
@@ -267,6 +267,7 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
                 [this] { opening_->start(path_, TelemetryReading::salvage); }});
     tellPart(notices_, *contents, [this](int record) { shown_->setCurrent(record); });
     shown_->setContents(contents);
+    tellStrayed(notices_, shown_->strayed(), [this](int record) { shown_->setCurrent(record); });
 }
 
 void VLK_Widget_Tmi_Table::takeColumns()

@@ -3,7 +3,7 @@
 // The window of records: stored telemetry, or a period that was just read, as a table whose records are
 // filtered, found, copied and exported, and beside it the other views of the same records.
 
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include <QDialog>
 

@@ -4,8 +4,8 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/shown/absent_value.h"
 #include "telemetry/text/key_text.h"
-#include "telemetry/view/absent_value.h"
 #include "telemetry/view/event_panel.h"
 #include "telemetry/view/tmi_view_texts.h"
 #include "typing/area_keys.h"
@@ -273,7 +273,7 @@ void VLK_Widget_Tmi_View::stopRequests()
 {
     ui_->checkBox_Get_Auto_TMI->setChecked(false);
     automatic_.stop();
-    clearing_.stop();
+    clearing_.forget();
     save_.stop();
     // A button that is held down would go on pressing itself.
     for (QPushButton* walking : {ui_->pushButton_Get_Prev, ui_->pushButton_Get_Next})

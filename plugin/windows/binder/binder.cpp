@@ -16,14 +16,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QGroupBox>
 #include <QHash>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QSpinBox>
-#include <QToolTip>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -49,14 +46,12 @@ private:
     int& depth_;
 };
 
-QString notAvailableWith(const QString& setting)
-{
-    return QCoreApplication::translate("vlk", "cfgt6_452").arg(setting);
-}
-
 } // namespace
 
-Binder::Binder(Values& values) : values_(values), layout_(values.layout()), adapters_(layout_.rows.size()) {}
+Binder::Binder(Values& values)
+    : values_(values), layout_(values.layout()), adapters_(layout_.rows.size()), ruled_(values)
+{
+}
 
 Binder::~Binder() = default;
 
@@ -109,76 +104,16 @@ void Binder::bind()
         else
             problems_ << QStringLiteral("no slider %1").arg(QLatin1String(rule.slider.tail));
     }
-    targets_.clear();
+    ruled_.clear();
     for (const Enable& rule : values_.table().all<Enable>()) {
         const QString form = numberedName(rule.targets.form(), rule.numbers);
         for (const QString& name : targetNames(rule)) {
             if (QWidget* widget = forms_.find(form, name, rule.numbers.outer))
-                addTarget(widget, rule);
+                ruled_.add(widget, forms_.labelOf(widget), rule);
             else if (!forms_.isLate(form))
                 problems_ << QStringLiteral("no widget %1 to enable").arg(name);
         }
     }
-}
-
-void Binder::addTarget(QWidget* widget, const Enable& rule)
-{
-    const auto known = std::ranges::find_if(targets_, [&](const Target& target) {
-        return target.widget == widget && target.effect == rule.effect;
-    });
-    if (known != targets_.end()) {
-        known->rules.push_back(&rule);
-        return;
-    }
-    targets_.push_back({widget, forms_.labelOf(widget), rule.effect, {&rule}});
-    if (rule.effect == Enable::Effect::shown)
-        return;
-    widget->installEventFilter(this);
-    if (QLabel* label = targets_.back().label)
-        label->installEventFilter(this);
-}
-
-bool Binder::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* widget = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::ToolTip || !widget || widget->isEnabled())
-        return QObject::eventFilter(watched, event);
-    const auto target = std::ranges::find_if(targets_, [&](const Target& candidate) {
-        return candidate.widget == widget || candidate.label == widget;
-    });
-    const QString why = target == targets_.end() ? QString() : whyDisabled(*target);
-    if (why.isEmpty())
-        return QObject::eventFilter(watched, event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), why, widget);
-    return true;
-}
-
-QString Binder::whyDisabled(const Target& target) const
-{
-    for (const Enable* rule : target.rules) {
-        if (values_.holds(*rule))
-            continue;
-        const int missing =
-            std::ranges::find_if_not(rule->when, [&](const When& one) { return values_.holds(one); })->row;
-        const QString caption = captionText(values_.setting(missing));
-        const QString value = valueText(values_, missing);
-        return notAvailableWith(caption.isEmpty() ? value : caption + QStringLiteral(": ") + value);
-    }
-    return {};
-}
-
-QString Binder::whyDisabled(const QWidget* widget) const
-{
-    for (const QWidget* outer = widget; !outer->isWindow(); outer = outer->parentWidget()) {
-        for (const Target& target : targets_) {
-            if (target.widget == outer && target.effect == Enable::Effect::enabled && !outer->isEnabled())
-                return whyDisabled(target);
-        }
-        const auto* box = qobject_cast<const QGroupBox*>(outer);
-        if (box && outer != widget && box->isCheckable() && !box->isChecked())
-            return notAvailableWith(box->title() + QStringLiteral(": ") + yesNo(false));
-    }
-    return widget->toolTip();
 }
 
 void Binder::join(QWidget* form)
@@ -265,17 +200,7 @@ void Binder::evaluateRules()
             adapters_[rule.path.row]->doubt(
                 values_.holds(rule.when) ? QCoreApplication::translate("vlk", rule.complaint) : QString());
     }
-    for (const Target& target : targets_) {
-        if (!target.widget)
-            continue;
-        const bool allowed =
-            std::ranges::all_of(target.rules, [&](const auto* rule) { return values_.holds(*rule); });
-        for (QWidget* widget : {target.widget.data(), static_cast<QWidget*>(target.label.data())}) {
-            if (widget)
-                target.effect == Enable::Effect::shown ? widget->setVisible(allowed)
-                                                       : widget->setEnabled(allowed);
-        }
-    }
+    ruled_.evaluate();
 }
 
 void Binder::edited(int row, const QString& value)

@@ -10,9 +10,9 @@
 
 #include "windows/binder/bound_forms.h"
 #include "windows/binder/edits.h"
+#include "windows/binder/ruled_widgets.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QStringList>
 
 #include <map>
@@ -20,7 +20,6 @@
 #include <optional>
 #include <vector>
 
-class QLabel;
 class QWidget;
 
 namespace vlk {
@@ -75,14 +74,16 @@ public:
     // The first one of the part, else the first one. Null where there is none.
     QWidget* widgetOf(int row, int part = -1) const;
     // The rule that disables the widget, in words; its tool tip where no rule does.
-    QString whyDisabled(const QWidget* widget) const;
+    QString whyDisabled(const QWidget* widget) const { return ruled_.whyDisabled(widget); }
+
+    // What does not hold of the rule that hides the widget; null where none does.
+    const When* hiddenBy(const QWidget* widget) const { return ruled_.hiddenBy(widget); }
 
     const Values& values() const override { return values_; }
     const BoundForms& forms() const override { return forms_; }
     bool isShowing() const override { return showing_ > 0; }
     void edited(int row, const QString& value) override;
     void set(int row, const QString& value) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     // A value changed by an edit of the user or by a rule that it ran. The path is that below the section.
@@ -91,18 +92,6 @@ Q_SIGNALS:
     void joined();
 
 private:
-    // A widget that rules enable or show; all of them have to allow it. Its label is enabled with it.
-    struct Target
-    {
-        QPointer<QWidget> widget;
-        QPointer<QLabel> label;
-        Enable::Effect effect;
-        std::vector<const Enable*> rules;
-    };
-
-    // Why rules have disabled it, for its tool tip.
-    QString whyDisabled(const Target& target) const;
-
     // Whether a name of the row tells a form that is not there yet.
     bool isLate(const Setting& setting) const;
     // What a widget was dressed with: rules may give it another range.
@@ -115,7 +104,6 @@ private:
     };
 
     std::unique_ptr<Adapter> makeAdapter(int row);
-    void addTarget(QWidget* widget, const Enable& rule);
     Range rangeOf(int row) const;
     void dressRanged(int row);
     void showRow(int row);
@@ -125,7 +113,7 @@ private:
     BoundForms forms_;
     std::vector<std::unique_ptr<Adapter>> adapters_; // one a row, null where a row has no widget
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
-    std::vector<Target> targets_;
+    RuledWidgets ruled_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
     // Rows of which something was logged, with the value that they had; without it that holds no longer than

@@ -1,6 +1,6 @@
-#include "telemetry/view/step_queue.h"
+#include "telemetry/shown/step_queue.h"
 
-#include "telemetry/view/work_progress.h"
+#include "telemetry/shown/work_progress.h"
 
 #include <cstdlib>
 #ifdef __GLIBC__

@@ -1,4 +1,4 @@
-#include "telemetry/view/work_progress.h"
+#include "telemetry/shown/work_progress.h"
 
 #include "typing/grid.h"
 

@@ -1,4 +1,4 @@
-#include "telemetry/fuel/vehicle_times.h"
+#include "telemetry/files/vehicle_times.h"
 
 #include "telemetry/files/raw_values.h"
 #include "telemetry/text/item_text.h"
@@ -40,7 +40,7 @@ Ignition ignitionOf(double state)
 }
 
 // Drops records whose times are far from those around them; they come in the order of the store.
-void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records)
+void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records, std::vector<int>* strayed)
 {
     const auto areFar = [&times](int record, int other) {
         constexpr qint64 far = qint64{24} * 3600;
@@ -53,13 +53,15 @@ void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& record
                                areFar(record, records[i + 1]) && !areFar(records[kept - 1], records[i + 1]);
         if (!isStrayed)
             records[kept++] = record;
+        else if (strayed)
+            strayed->push_back(record);
     }
     records.resize(kept);
 }
 
 } // namespace
 
-std::vector<int> recordsByTime(RecordColumns& columns)
+std::vector<int> recordsByTime(RecordColumns& columns, std::vector<int>* strayed)
 {
     const std::vector<quint32>& times = columns.times();
     std::vector<int> records;
@@ -68,7 +70,7 @@ std::vector<int> recordsByTime(RecordColumns& columns)
         if (times[record] != 0)
             records.push_back(record);
     }
-    leaveOutStrayed(times, records);
+    leaveOutStrayed(times, records, strayed);
     const auto time = [&times](int record) { return times[record]; };
     if (!std::ranges::is_sorted(records, {}, time))
         std::ranges::stable_sort(records, {}, time);

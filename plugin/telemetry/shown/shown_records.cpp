@@ -1,8 +1,8 @@
-#include "telemetry/view/shown_records.h"
+#include "telemetry/shown/shown_records.h"
 
 #include "base/clock.h"
 #include "telemetry/files/title_lines.h"
-#include "telemetry/fuel/vehicle_times.h"
+#include "telemetry/files/vehicle_times.h"
 
 #include <algorithm>
 #include <numeric>
@@ -15,7 +15,7 @@ void ShownRecords::prepare(const std::shared_ptr<TelemetryContents>& contents)
     prepared_->contents = contents;
     prepared_->columns = std::make_unique<RecordColumns>(
         contents->records, typeLetters(contents->origin.titles).toLatin1().toStdString(), contents->damaged);
-    prepared_->byTime = recordsByTime(*prepared_->columns);
+    prepared_->byTime = recordsByTime(*prepared_->columns, &prepared_->strayed);
 }
 
 void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Reading reading)
@@ -27,6 +27,7 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     contents_ = std::move(contents);
     columns_ = std::move(prepared_->columns);
     byTime_ = std::move(prepared_->byTime);
+    strayed_ = std::move(prepared_->strayed);
     prepared_.reset();
     const std::vector<quint32>& times = columns_->times();
     passing_.resize(times.size());

@@ -7,7 +7,7 @@
 
 #include "telemetry/files/record_columns.h"
 #include "telemetry/files/telemetry_contents.h"
-#include "telemetry/view/step_queue.h"
+#include "telemetry/shown/step_queue.h"
 
 #include <QObject>
 
@@ -104,6 +104,8 @@ public:
     void setCurrent(int record);
     // Those that have a time, by it.
     const std::vector<int>& byTime() const { return byTime_; }
+    // Those whose time cannot be right, which are not among them; in the order of the file.
+    const std::vector<int>& strayed() const { return strayed_; }
     // The one in sight whose time is next to this one; -1 where none is in sight.
     int nearestInSight(double time) const;
 
@@ -133,6 +135,7 @@ private:
         std::shared_ptr<TelemetryContents> contents;
         std::unique_ptr<RecordColumns> columns;
         std::vector<int> byTime;
+        std::vector<int> strayed;
     };
 
     std::optional<Prepared> prepared_;
@@ -145,6 +148,7 @@ private:
     Passes passes_;
     std::vector<int> chosen_;
     std::vector<int> byTime_;
+    std::vector<int> strayed_;
     int current_ = -1;
     TimeSpan inSight_;
     std::vector<ComputedColumn> computed_;

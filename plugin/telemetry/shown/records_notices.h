@@ -5,9 +5,10 @@
 namespace vlk {
 
 enum RecordsNotice {
-    kDamage, // or that reading was cancelled
-    kPart,   // of a period that was not saved to its end
-    kGrown,  // by records that came since
+    kDamage,  // or that reading was cancelled
+    kPart,    // of a period that was not saved to its end
+    kStrayed, // times that cannot be right
+    kGrown,   // by records that came since
     kTooMany,
     kHandedOver, // what was exported, saved or printed last
 };

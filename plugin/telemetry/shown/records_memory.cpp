@@ -1,4 +1,4 @@
-#include "telemetry/view/records_memory.h"
+#include "telemetry/shown/records_memory.h"
 
 #include "base/settings_file.h"
 #include "link/device.h"

@@ -1,4 +1,4 @@
-#include "telemetry/view/record_cell.h"
+#include "telemetry/shown/record_cell.h"
 
 #include "telemetry/text/unit_word.h"
 

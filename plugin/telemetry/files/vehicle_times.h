@@ -8,8 +8,11 @@ namespace vlk {
 
 // Records that have a time, by it; of one time in the order of the store. The clock of a tracker may jump; a
 // record alone that is far in time from both records beside it, which are near each other, has a damaged one
-// and is left out.
-std::vector<int> recordsByTime(RecordColumns& columns);
+// and is left out: it is among the strayed ones then, in the order of the store.
+std::vector<int> recordsByTime(RecordColumns& columns, std::vector<int>* strayed = nullptr);
+
+// km/h; below it a vehicle stands.
+inline constexpr double kMovesFrom = 3;
 
 // km/h, of the first of the speeds that a record tells: navigation, precise navigation, CAN.
 NumberColumn speeds(RecordColumns& columns);

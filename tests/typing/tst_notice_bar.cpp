@@ -1,0 +1,97 @@
+// The bar of notices: what a click closes, and that nothing below it moves where a window keeps its place,
+// however much there is to tell.
+
+#include "support/data_table.h"
+#include "typing/notice_bar.h"
+
+#include <QHelpEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using vlk::Mark;
+using vlk::Notice;
+using vlk::NoticeBar;
+
+class NoticeBarTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // A click that was meant for the notice that has just gone leaves the one behind it alone; whoever closes
+    // one after the other is not held up.
+    void lateClick()
+    {
+        QWidget window;
+        NoticeBar bar(&window);
+        window.resize(600, 60);
+        bar.resize(window.size());
+        window.show();
+        auto* const cross = bar.findChild<QToolButton*>(QStringLiteral("label_Notice_Close"));
+        const auto tell = [&bar] {
+            for (const int number : {3, 2, 1})
+                bar.tell(number, Notice{Mark::advice, QString::number(number), {}});
+        };
+        QElapsedTimer clock;
+        do {
+            tell();
+            clock.start();
+            bar.end(1);
+            QVERIFY(bar.isOnShow(2));
+            QTest::mouseClick(cross, Qt::LeftButton);
+        } while (clock.elapsed() >= 300); // where something else held it up, it says nothing
+        QVERIFY(bar.isOnShow(2));
+        const auto closes = [&] {
+            QTest::mouseClick(cross, Qt::LeftButton);
+            return !bar.isOnShow(2);
+        };
+        QVERIFY(QTest::qWaitFor(closes));
+        QVERIFY(bar.isOnShow(3));
+        QTest::mouseClick(cross, Qt::LeftButton);
+        QVERIFY(!bar.isTelling());
+    }
+
+    void movesNothing_data()
+    {
+        DataTable<bool, int, bool>({"keeps", "words", "moves"})
+            .row("a word", true, 1, false)
+            .row("two lines", true, 7, false)
+            .row("many lines", true, 80, false)
+            .row("many lines, no place kept", false, 80, true);
+    }
+    void movesNothing()
+    {
+        QFETCH(bool, keeps);
+        QFETCH(int, words);
+        QFETCH(bool, moves);
+        QWidget window;
+        window.resize(600, 400);
+        auto* column = new QVBoxLayout(&window);
+        auto* bar = new NoticeBar(&window);
+        auto* below = new QPushButton(QStringLiteral("below"));
+        column->addWidget(bar);
+        column->addWidget(below, 1);
+        bar->keepPlace(keeps);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const int before = below->y();
+        const QString told = QStringLiteral("something ").repeated(words).trimmed();
+        bar->tell(1, {Mark::advice, told, {{QStringLiteral("Do it"), [] {}}}});
+        QCoreApplication::processEvents();
+        QCOMPARE(below->y() != before, moves);
+        // What has no room is told by the tip, and to whoever asks for the text.
+        auto* label = bar->findChild<QLabel*>(QStringLiteral("label_Notice"));
+        QCOMPARE(label->text(), told);
+        QToolTip::hideText();
+        const QPoint middle = label->rect().center();
+        QHelpEvent help(QEvent::ToolTip, middle, label->mapToGlobal(middle));
+        QCoreApplication::sendEvent(label, &help);
+        QCOMPARE(QToolTip::text(), keeps && words > 7 ? told : QString());
+    }
+};
+
+QTEST_MAIN(NoticeBarTest)
+#include "tst_notice_bar.moc"
