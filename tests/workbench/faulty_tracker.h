@@ -86,7 +86,8 @@ struct Bench : OpenedWorkbench
 
     QString file() const { return root.filePath(QStringLiteral("period.xml")); }
     QString status() { return text("label_Status"); }
-    QString everything() { return status() + QLatin1Char('\n') + boxes.join(QLatin1Char('\n')); }
+    QString bar() { return window.findChild<QLabel*>(QStringLiteral("label_Notice"))->text(); }
+    QString everything() { return (QStringList{status(), bar()} + boxes).join(QLatin1Char('\n')); }
     tracker::SimulatedTracker& tracker() { return window.session().tracker(); }
 
     static inline const QString kNewName = QStringLiteral("KAMAZ 5490");

@@ -168,7 +168,7 @@ private Q_SLOTS:
             .row("close over a table", CloseOverTable, none, tableAsked, true, false)
             .row("close a save", CloseSave, delay, inPart, false, false)
             .row("close a table", CloseTable, none, tableAsked, true, false)
-            .row("close edits", CloseEdits, none, "Unsaved changes: 1. They are offered", false, false)
+            .row("close edits", CloseEdits, none, "Unsaved changes: 1 \\(.*Open it again", false, false)
             .row("close the tachograph", CloseTacho, silence, unknown, true, false)
             // To whom reads Russian it is told in Russian from the beginning.
             .row("Russian read, silence", Read, silence,
@@ -200,7 +200,7 @@ private Q_SLOTS:
             .row("Russian close a save", CloseSave, delay, "Сохранено не целиком: .*/period\\.xml.* \\d+ из ",
                  false, false)
             .row("Russian close a table", CloseTable, none, "есть несохранённые строки", true, false)
-            .row("Russian close edits", CloseEdits, none, "Несохранённые изменения: 1. Их предложат", false,
+            .row("Russian close edits", CloseEdits, none, "Несохранённые изменения: 1 \\(.*Откройте", false,
                  false);
     }
     void everyFaultEndsInATrueSentence()
