@@ -56,7 +56,7 @@ void FrontNotice::tell(Topic topic, const Told& notice, QWidget* window)
         entry.isClosed = known->isClosed && topic == Trouble;
         told_.erase(known);
     }
-    const QPointer<WindowNotice> before = entry.on;
+    WindowNotice* const before = entry.on;
     if (notice)
         told_.push_back(entry);
     else if (before)
