@@ -2825,6 +2825,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
+    <message id="wb_report_seen_before"><translation>Configuration not written: tracker %1 holds what it held before; read at %2.</translation></message>
+    <message id="wb_report_seen_else"><translation>Tracker %1 holds something else than what was sent; read at %2.</translation></message>
+    <message id="wb_report_seen_sent"><translation>Tracker %1 holds what was sent; read at %2.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>
     <message id="wb_report_setting"><translation>Setting</translation></message>
     <message id="wb_report_unknown"><translation>The configuration was sent but not confirmed: what the tracker holds is not known. %1</translation></message>

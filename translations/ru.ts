@@ -2825,6 +2825,9 @@
     <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
+    <message id="wb_report_seen_before"><translation>Конфигурация не записана: в трекере %1 то же, что и было; прочитано в %2.</translation></message>
+    <message id="wb_report_seen_else"><translation>В трекере %1 не то, что отправлено; прочитано в %2.</translation></message>
+    <message id="wb_report_seen_sent"><translation>В трекере %1 то, что отправлено; прочитано в %2.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>
     <message id="wb_report_setting"><translation>Параметр</translation></message>
     <message id="wb_report_unknown"><translation>Конфигурация отправлена, но не подтверждена: что в трекере, неизвестно. %1</translation></message>

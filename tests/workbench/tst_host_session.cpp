@@ -241,6 +241,38 @@ private Q_SLOTS:
         QCOMPARE(confirmed, outcome == Outcome::confirmed ? QByteArrayList{document} : QByteArrayList());
     }
 
+    // Nobody saw the end of the write; who reads the tracker next does.
+    void isDoneWithWhatALaterReadShows()
+    {
+        for (const bool isThere : {true, false}) {
+            Bench bench;
+            QVERIFY(bench.start());
+            bench.session.tracker().setFaults({});
+            const QByteArray before = bench.session.tracker().readConfiguration().document;
+            connect(&bench.session.road(), &workbench::WriteRoad::taken, this,
+                    [&] { bench.session.tracker().setFaults({.garbledAnswers = true}); });
+            QByteArrayList confirmed;
+            connect(&bench.session.link(), &workbench::PluginLink::passed, this,
+                    [&](vlk::Direction, quint32 id, const void* p1) {
+                        if (vlk::Message(id) == vlk::Message::ConfirmWrite)
+                            confirmed.append(*static_cast<const vlk::WriteConfirmation*>(p1)->content);
+                    });
+            const QByteArray document =
+                "<DEVICE model=\"R-7106\"><TRANS><OBJECT name=\"1\"/></TRANS></DEVICE>";
+            QString path = writeFile(bench.root.filePath("w.xml"), document);
+            Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+            const RoadReport report = bench.report();
+            QVERIFY(report.outcome == Outcome::unknown && QFile::exists(report.request.file));
+            bench.session.tracker().setFaults({});
+            if (!isThere)
+                QVERIFY(bench.session.tracker().takeConfiguration(before).accepted);
+            workbench::Sentence why;
+            QVERIFY(confirmed.isEmpty() && bench.session.present(why));
+            QCOMPARE(confirmed, isThere ? QByteArrayList{document} : QByteArrayList());
+            QCOMPARE(QFile::exists(report.request.file), !isThere);
+        }
+    }
+
     // Whole, by chosen settings, and what the tracker itself has kept.
     void bringsBackups()
     {

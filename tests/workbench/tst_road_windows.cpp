@@ -180,6 +180,42 @@ private Q_SLOTS:
         bench.window.close();
     }
 
+    // By whichever way the tracker is read next, the report says what it holds.
+    void tellsLaterWhatBecameOfAWrite()
+    {
+        for (const bool isTriedAgain : {false, true}) {
+            OpenedWorkbench bench;
+            workbench::HostSession& session = bench.window.session();
+            session.tracker().attach();
+            RoadReport report;
+            report.tracker = session.attachedTracker();
+            report.request.document = session.tracker().readConfiguration().document;
+            report.request.readFrom = report.tracker.number;
+            session.tracker().detach();
+            QByteArray before = report.request.document;
+            before.replace("name=\"", "name=\"Old ");
+            report.backup =
+                session.backups().add(report.tracker, before, QDateTime::currentDateTimeUtc(), nullptr);
+            workbench::PendingWrite(session.backups().pendingWrite()).keep(report);
+            QVERIFY(bench.start(VLK_PLUGIN));
+            QVERIFY(bench.text("label_Report").contains("was not confirmed"));
+            if (isTriedAgain)
+                Bench::press("pushButton_Again");
+            else
+                bench.action("action_Read")->trigger();
+            QTRY_VERIFY_WITH_TIMEOUT(bench.text("label_Report")
+                                         .startsWith("Tracker 860000000071060 holds what was sent; read at "),
+                                     Bench::kPatienceMs);
+            QCOMPARE(bench.text("label_Report").count('\n'), 0);
+            QVERIFY(!Bench::find("dialog_Review") && !Bench::find("dialog_Report"));
+            QCOMPARE(session.backups().all().size(), 1);
+            QCOMPARE(Bench::find("lineEdit_Name") != nullptr, !isTriedAgain);
+            session.link().send(vlk::Message::CloseWindows);
+            QVERIFY(!Bench::find("pushButton_Again") && Bench::find("pushButton_BringBack"));
+            bench.window.close();
+        }
+    }
+
     // However long the values are, and however narrow the window.
     void keepsNamesReadable()
     {

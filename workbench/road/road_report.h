@@ -111,6 +111,7 @@ struct RoadReport
     QVector<WrittenSetting> settings; // what was not taken comes first
     QStringList keptSections;
     QDateTime time;
+    bool isSeenLater = false; // it had ended unknown, and a read of the tracker at that time told the outcome
 
     int missed() const;
     // The tracker holds, or may hold, something else than before.
