@@ -2,6 +2,7 @@
 
 #include "road_bench.h"
 #include "support/files.h"
+#include "support/full_disk.h"
 
 using workbench::RoadReport;
 
@@ -91,6 +92,28 @@ private Q_SLOTS:
         QVERIFY(Bench::goes("dialog_Review"));
         QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
+    }
+
+    // Whoever wants no review gets one where there is no room to look for errors.
+    void showsWhatCouldNotBeChecked()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.action("action_ReviewAlways")->trigger();
+        bench.editName("Van 1");
+        {
+            const FullDisk disk(10);
+            QVERIFY(Bench::isReviewed());
+        }
+        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+        const QString said = Bench::find<QLabel>("label_Origin")->text();
+        QVERIFY2(said.startsWith("The configuration could not be checked for errors: no temporary file") &&
+                     said.contains("has to be seen: the configuration could not be checked for errors."),
+                 qPrintable(said));
+        Bench::press("pushButton_Cancel");
+        bench.editName("Van 1");
+        QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), QString("Van 1"), Bench::kPatienceMs);
+        QVERIFY(Bench::comes("dialog_Report"));
     }
 
     // The field is red, and what is written is not what was typed into it.

@@ -223,8 +223,11 @@ void WriteRoad::presentCame(const QByteArray& document)
     review_.keptSections = kept.subtract(sent).values();
     review_.keptSections.sort();
     report_.keptSections = review_.keptSections;
-    if (advise_)
-        review_.advice = advise_(wanted);
+    if (advise_) {
+        const auto advice = advise_(wanted);
+        review_.isUnchecked = !advice;
+        review_.advice = advice.value_or(QVector<SettingAdvice>());
+    }
     for (const QString& line : review_.request.typed)
         review_.advice.append({.isError = true, .page = {}, .caption = {}, .text = line});
     std::stable_partition(review_.advice.begin(), review_.advice.end(),
