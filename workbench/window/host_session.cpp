@@ -232,7 +232,7 @@ void HostSession::takeWritten(const QString& path)
     request.readFrom = edited_.seenIn();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
-    request.file = error.isEmpty() ? unwritten_.take(path) : path;
+    request.file = error.isEmpty() ? unwritten_.take(path, QDateTime::currentDateTime()) : path;
     request.lost = edited_.unknown();
     request.typed = typed_ ? typed_() : QStringList();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
