@@ -2825,6 +2825,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
+    <message id="wb_report_seen_before"><translation>Configuration not written: tracker %1 holds what it held before; read at %2.</translation></message>
+    <message id="wb_report_seen_else"><translation>Tracker %1 holds something else than what was sent; read at %2.</translation></message>
+    <message id="wb_report_seen_sent"><translation>Tracker %1 holds what was sent; read at %2.</translation></message>
     <message id="wb_report_sent"><translation>Sent</translation></message>
     <message id="wb_report_setting"><translation>Setting</translation></message>
     <message id="wb_report_unknown"><translation>The configuration was sent but not confirmed: what the tracker holds is not known. %1</translation></message>
@@ -2833,7 +2836,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
@@ -2853,6 +2856,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_table"><translation>What will change in the tracker</translation></message>
     <message id="wb_review_title"><translation>Write to tracker %1</translation></message>
     <message id="wb_review_title_name"><translation>Write to tracker %1 (%2)</translation></message>
+    <message id="wb_review_unchecked"><translation>The configuration could not be checked for errors: no temporary file could be made for it. Make room on the disk and write again.</translation></message>
     <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
     <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
     <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
@@ -2860,6 +2864,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
     <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>
     <message id="wb_review_why_removes"><translation>settings are removed</translation></message>
+    <message id="wb_review_why_unchecked"><translation>the configuration could not be checked for errors</translation></message>
     <message id="wb_review_write"><translation>&amp;Write to tracker</translation></message>
     <message id="wb_road_incomparable"><translation>The configuration cannot be compared with what the tracker holds.</translation></message>
     <message id="wb_road_no_backup"><translation>What the tracker holds could not be backed up, so nothing was sent.</translation></message>

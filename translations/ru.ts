@@ -2825,6 +2825,9 @@
     <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
+    <message id="wb_report_seen_before"><translation>Конфигурация не записана: в трекере %1 то же, что и было; прочитано в %2.</translation></message>
+    <message id="wb_report_seen_else"><translation>В трекере %1 не то, что отправлено; прочитано в %2.</translation></message>
+    <message id="wb_report_seen_sent"><translation>В трекере %1 то, что отправлено; прочитано в %2.</translation></message>
     <message id="wb_report_sent"><translation>Отправлено</translation></message>
     <message id="wb_report_setting"><translation>Параметр</translation></message>
     <message id="wb_report_unknown"><translation>Конфигурация отправлена, но не подтверждена: что в трекере, неизвестно. %1</translation></message>
@@ -2833,7 +2836,7 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
@@ -2853,6 +2856,7 @@
     <message id="wb_review_table"><translation>Что изменится в трекере</translation></message>
     <message id="wb_review_title"><translation>Запись в трекер %1</translation></message>
     <message id="wb_review_title_name"><translation>Запись в трекер %1 (%2)</translation></message>
+    <message id="wb_review_unchecked"><translation>Конфигурацию не удалось проверить на ошибки: нельзя создать временный файл. Освободите место на диске и запишите снова.</translation></message>
     <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
     <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
     <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
@@ -2860,6 +2864,7 @@
     <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
     <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>
     <message id="wb_review_why_removes"><translation>удаляются параметры</translation></message>
+    <message id="wb_review_why_unchecked"><translation>конфигурацию не удалось проверить на ошибки</translation></message>
     <message id="wb_review_write"><translation>&amp;Записать в трекер</translation></message>
     <message id="wb_road_incomparable"><translation>Отправляемую конфигурацию не удалось сравнить с той, что в трекере.</translation></message>
     <message id="wb_road_no_backup"><translation>Резервную копию того, что в трекере, сохранить не удалось, поэтому ничего не отправлено.</translation></message>

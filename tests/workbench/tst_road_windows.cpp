@@ -2,6 +2,7 @@
 
 #include "road_bench.h"
 #include "support/files.h"
+#include "support/full_disk.h"
 
 using workbench::RoadReport;
 
@@ -93,6 +94,28 @@ private Q_SLOTS:
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
     }
 
+    // Whoever wants no review gets one where there is no room to look for errors.
+    void showsWhatCouldNotBeChecked()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.action("action_ReviewAlways")->trigger();
+        bench.editName("Van 1");
+        {
+            const FullDisk disk(10);
+            QVERIFY(Bench::isReviewed());
+        }
+        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+        const QString said = Bench::find<QLabel>("label_Origin")->text();
+        QVERIFY2(said.startsWith("The configuration could not be checked for errors: no temporary file") &&
+                     said.contains("has to be seen: the configuration could not be checked for errors."),
+                 qPrintable(said));
+        Bench::press("pushButton_Cancel");
+        bench.editName("Van 1");
+        QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), QString("Van 1"), Bench::kPatienceMs);
+        QVERIFY(Bench::comes("dialog_Report"));
+    }
+
     // The field is red, and what is written is not what was typed into it.
     void tellsWhatWasRefusedAsLongAsItIs()
     {
@@ -178,6 +201,42 @@ private Q_SLOTS:
                                  Bench::kPatienceMs);
         QCOMPARE(session.tracker().configuration().text("TRANS/OBJECT/name"), QString("Van 1"));
         bench.window.close();
+    }
+
+    // By whichever way the tracker is read next, the report says what it holds.
+    void tellsLaterWhatBecameOfAWrite()
+    {
+        for (const bool isTriedAgain : {false, true}) {
+            OpenedWorkbench bench;
+            workbench::HostSession& session = bench.window.session();
+            session.tracker().attach();
+            RoadReport report;
+            report.tracker = session.attachedTracker();
+            report.request.document = session.tracker().readConfiguration().document;
+            report.request.readFrom = report.tracker.number;
+            session.tracker().detach();
+            QByteArray before = report.request.document;
+            before.replace("name=\"", "name=\"Old ");
+            report.backup =
+                session.backups().add(report.tracker, before, QDateTime::currentDateTimeUtc(), nullptr);
+            workbench::PendingWrite(session.backups().pendingWrite()).keep(report);
+            QVERIFY(bench.start(VLK_PLUGIN));
+            QVERIFY(bench.text("label_Report").contains("was not confirmed"));
+            if (isTriedAgain)
+                Bench::press("pushButton_Again");
+            else
+                bench.action("action_Read")->trigger();
+            QTRY_VERIFY_WITH_TIMEOUT(bench.text("label_Report")
+                                         .startsWith("Tracker 860000000071060 holds what was sent; read at "),
+                                     Bench::kPatienceMs);
+            QCOMPARE(bench.text("label_Report").count('\n'), 0);
+            QVERIFY(!Bench::find("dialog_Review") && !Bench::find("dialog_Report"));
+            QCOMPARE(session.backups().all().size(), 1);
+            QCOMPARE(Bench::find("lineEdit_Name") != nullptr, !isTriedAgain);
+            session.link().send(vlk::Message::CloseWindows);
+            QVERIFY(!Bench::find("pushButton_Again") && Bench::find("pushButton_BringBack"));
+            bench.window.close();
+        }
     }
 
     // However long the values are, and however narrow the window.

@@ -37,9 +37,10 @@ struct WriteReview
     int removed = 0;
     int errors = 0;
     bool isOfThisTracker = false;
+    bool isUnchecked = false; // nobody could look for errors
 
     // Why it has to be looked at.
-    enum class Why { removes, hasErrors, isOfAnother, losesKeys, bringsMore, bringsBack };
+    enum class Why { removes, hasErrors, isUnchecked, isOfAnother, losesKeys, bringsMore, bringsBack };
 
     int changed() const { return int(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
@@ -111,6 +112,7 @@ struct RoadReport
     QVector<WrittenSetting> settings; // what was not taken comes first
     QStringList keptSections;
     QDateTime time;
+    bool isSeenLater = false; // it had ended unknown, and a read of the tracker at that time told the outcome
 
     int missed() const;
     // The tracker holds, or may hold, something else than before.
@@ -133,6 +135,7 @@ inline QVector<WriteReview::Why> WriteReview::reasons() const
     };
     add(Why::removes, removed > 0);
     add(Why::hasErrors, errors > 0);
+    add(Why::isUnchecked, isUnchecked);
     add(Why::isOfAnother, !isOfThisTracker);
     add(Why::losesKeys, !request.lost.isEmpty());
     add(Why::bringsMore, !alongside().isEmpty());

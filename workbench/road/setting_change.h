@@ -44,6 +44,7 @@ struct SettingAdvice
     QString text;
 };
 
-using Advise = std::function<QVector<SettingAdvice>(const QByteArray& document)>;
+// None when it cannot be looked at.
+using Advise = std::function<std::optional<QVector<SettingAdvice>>(const QByteArray& document)>;
 
 } // namespace workbench

@@ -113,6 +113,14 @@ void WriteRoad::tellLeft()
     pending_.drop();
 }
 
+void WriteRoad::tellRead(const QByteArray& document)
+{
+    // One that is under way reads for itself.
+    const std::optional<RoadReport> report = isBusy_ ? std::nullopt : settledBy(document);
+    if (report)
+        Q_EMIT settled(*report);
+}
+
 void WriteRoad::reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail)
 {
     RoadReport report;
@@ -185,10 +193,17 @@ void WriteRoad::previousCame(const QByteArray& document)
 void WriteRoad::presentCame(const QByteArray& document)
 {
     before_ = document;
-    if (unsettled_.tracker.number == review_.tracker.number &&
-        backups_.document(unsettled_.backup) == document)
-        unsettled_ = {};
     const QByteArray& wanted = review_.request.document;
+    if (const std::optional<RoadReport> earlier = settledBy(document)) {
+        if (earlier->outcome == Outcome::confirmed && earlier->request.document == wanted) {
+            // The next try of the same has nothing left to write.
+            report_ = *earlier;
+            report_.request = review_.request;
+            end(Outcome::confirmed);
+            return;
+        }
+        Q_EMIT settled(*earlier);
+    }
     auto changes = compare_(before_, wanted);
     if (!changes) {
         fail(Fault::incomparable);
@@ -208,8 +223,11 @@ void WriteRoad::presentCame(const QByteArray& document)
     review_.keptSections = kept.subtract(sent).values();
     review_.keptSections.sort();
     report_.keptSections = review_.keptSections;
-    if (advise_)
-        review_.advice = advise_(wanted);
+    if (advise_) {
+        const auto advice = advise_(wanted);
+        review_.isUnchecked = !advice;
+        review_.advice = advice.value_or(QVector<SettingAdvice>());
+    }
     for (const QString& line : review_.request.typed)
         review_.advice.append({.isError = true, .page = {}, .caption = {}, .text = line});
     std::stable_partition(review_.advice.begin(), review_.advice.end(),
@@ -266,38 +284,73 @@ void WriteRoad::writeCame(const PortAnswer& answer)
     }
 }
 
-// What came back decides, whatever was said before.
 void WriteRoad::readBackCame(const QByteArray& document)
 {
-    const auto missed = compare_(review_.request.document, document);
-    auto moved = compare_(before_, document);
-    if (!missed || !moved) {
+    if (const auto outcome = outcomeIn(document, before_, review_.changes, report_))
+        end(*outcome);
+    else
         fail(Fault::incomparable);
-        return;
-    }
+}
+
+// What came back decides, whatever was said before.
+std::optional<RoadReport::Outcome> WriteRoad::outcomeIn(const QByteArray& document, const QByteArray& before,
+                                                        const SettingChanges& changes,
+                                                        RoadReport& report) const
+{
+    const auto missed = compare_(report.request.document, document);
+    const auto moved = compare_(before, document);
+    if (!missed || !moved)
+        return {};
     SettingChanges notTaken = *missed;
-    leaveKeptSections(notTaken, sectionsOf(review_.request.document), &SettingChange::before);
+    leaveKeptSections(notTaken, sectionsOf(report.request.document), &SettingChange::before);
     // Where nothing was to change, what came back is not what had been there.
     for (const SettingChange& change : std::as_const(notTaken)) {
         SettingChange sent = change;
         std::tie(sent.after, sent.afterText) = std::tie(change.before, change.beforeText);
-        report_.settings.append({sent, change.after, change.afterText, false});
+        report.settings.append({sent, change.after, change.afterText, false});
     }
-    for (const SettingChange& change : std::as_const(review_.changes)) {
+    for (const SettingChange& change : changes) {
         const auto found = std::ranges::find_if(
-            report_.settings.begin(), report_.settings.begin() + notTaken.size(),
+            report.settings.begin(), report.settings.begin() + notTaken.size(),
             [&](const WrittenSetting& setting) { return setting.change.path == change.path; });
-        if (found == report_.settings.begin() + notTaken.size())
-            report_.settings.append({change, change.after, change.afterText, true});
+        if (found == report.settings.begin() + notTaken.size())
+            report.settings.append({change, change.after, change.afterText, true});
         else
             found->change = change;
     }
     if (notTaken.isEmpty()) {
-        report_.fault = Fault::none;
-        end(Outcome::confirmed);
-    } else {
-        end(moved->isEmpty() && report_.fault != Fault::none ? Outcome::notWritten : Outcome::notTaken);
+        report.fault = Fault::none;
+        return Outcome::confirmed;
     }
+    return moved->isEmpty() && report.fault != Fault::none ? Outcome::notWritten : Outcome::notTaken;
+}
+
+std::optional<RoadReport> WriteRoad::settledBy(const QByteArray& document)
+{
+    const TrackerIdentity tracker = port_.tracker();
+    if (!tracker.isAttached() || tracker.number != unsettled_.tracker.number)
+        return {};
+    RoadReport report = unsettled_;
+    const QByteArray& sent = report.request.document;
+    // Where the backup is gone nobody can tell any more what was there before.
+    const QByteArray kept = backups_.document(report.backup);
+    const QByteArray& before = kept.isEmpty() ? sent : kept;
+    auto changes = compare_(before, sent);
+    if (!changes)
+        return {};
+    leaveKeptSections(*changes, sectionsOf(sent), &SettingChange::after);
+    const std::optional<Outcome> outcome = outcomeIn(document, before, *changes, report);
+    if (!outcome)
+        return {};
+    report.outcome = *outcome;
+    report.fault = Fault::none;
+    report.problem.reset();
+    report.reasonKey.clear();
+    report.detail.clear();
+    report.time = QDateTime::currentDateTime();
+    report.isSeenLater = true;
+    unsettled_ = {};
+    return report;
 }
 
 void WriteRoad::giveUp()

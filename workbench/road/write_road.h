@@ -47,6 +47,8 @@ public:
     bool cancel();
     // Reports the write that an earlier run did not live to see the end of, if there is one.
     void tellLeft();
+    // Somebody else has read this of the attached tracker.
+    void tellRead(const QByteArray& document);
     // A request that came to nothing before it was on its way.
     void reject(const WriteRequest& request, RoadReport::Fault fault, const QString& detail);
 
@@ -61,6 +63,8 @@ Q_SIGNALS:
     void silent(const QDateTime& since);
     void heard();
     void ended(const workbench::RoadReport& report);
+    // A read has shown what became of a write that had ended unknown: its report is this one from now on.
+    void settled(const workbench::RoadReport& report);
 
 private:
     using Fault = RoadReport::Fault;
@@ -77,6 +81,12 @@ private:
     void giveUp();
     void fail(Fault fault, const PortAnswer& answer = {});
     void end(Outcome outcome);
+    // What a write of these changes led to, setting by setting, by what was read after it; none where it
+    // cannot be compared.
+    std::optional<Outcome> outcomeIn(const QByteArray& document, const QByteArray& before,
+                                     const SettingChanges& changes, RoadReport& report) const;
+    // What this, read of the attached tracker, tells of the unsettled write, which is settled by it.
+    std::optional<RoadReport> settledBy(const QByteArray& document);
     // What the report of a write tells of an earlier one.
     void settle(RoadReport& report);
 

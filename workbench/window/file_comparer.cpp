@@ -55,16 +55,18 @@ QString FileComparer::put(const char* name, const QByteArray& document) const
     return saveWhole(file, document) ? file.fileName() : QString();
 }
 
-void FileComparer::check(const QByteArray& document, FileCheck asked) const
+bool FileComparer::check(const QByteArray& document, FileCheck asked) const
 {
     const QString path = put("looked-at.xml", document);
     asked.file = &path;
-    if (!path.isEmpty())
-        link_.send(vlk::Message::CheckFile, &asked);
+    if (path.isEmpty())
+        return false;
+    link_.send(vlk::Message::CheckFile, &asked);
     QFile::remove(path);
+    return asked.outcome != FileCheck::unreadable;
 }
 
-QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
+std::optional<QVector<SettingAdvice>> FileComparer::advise(const QByteArray& document) const
 {
     QVector<SettingAdvice> advice;
     FileCheck asked;
@@ -76,8 +78,7 @@ QVector<SettingAdvice> FileComparer::advise(const QByteArray& document) const
             static_cast<QVector<SettingAdvice>*>(context)->append(
                 {isError, orNull(told->page), orNull(told->caption), orNull(told->text)});
     };
-    check(document, asked);
-    return advice;
+    return check(document, asked) ? std::optional(advice) : std::nullopt;
 }
 
 QStringList FileComparer::unknownKeys(const QByteArray& document) const

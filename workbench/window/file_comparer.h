@@ -22,15 +22,16 @@ public:
     explicit FileComparer(PluginLink& link) : link_(link) {}
 
     std::optional<SettingChanges> compare(const QByteArray& before, const QByteArray& after) const;
-    QVector<SettingAdvice> advise(const QByteArray& document) const;
+    // None when the document cannot be put where the plug-in would look at it.
+    std::optional<QVector<SettingAdvice>> advise(const QByteArray& document) const;
     // Paths of keys and sections that no setting reads: what is opened loses them.
     QStringList unknownKeys(const QByteArray& document) const;
     // The document with the settings at the paths as in the other one, and with what they need there.
     QByteArray bring(const QByteArray& document, const QByteArray& other, const QStringList& paths) const;
 
 private:
-    // Sends it with the document for its file.
-    void check(const QByteArray& document, vlk::FileCheck asked) const;
+    // Sends it with the document for its file. False when that cannot be put there, or read.
+    bool check(const QByteArray& document, vlk::FileCheck asked) const;
     // Empty when it cannot be put there.
     QString put(const char* name, const QByteArray& document) const;
 

@@ -41,6 +41,12 @@ QByteArray contentOf(QFile& file)
     return file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
 }
 
+void removeKept(const QString& path)
+{
+    if (!path.isEmpty() && QFile::exists(path) && !QFile::remove(path))
+        qCWarning(lcSession) << "cannot remove" << path;
+}
+
 } // namespace
 
 HostSession::HostSession(const QString& trackerFolder, const QString& backupsFolder, QObject* parent)
@@ -58,6 +64,7 @@ HostSession::HostSession(const QString& trackerFolder, const QString& backupsFol
     connect(&tracker_, &tracker::SimulatedTracker::attachedChanged, this, &HostSession::tellAttached);
     connect(&link_, &PluginLink::received, this, &HostSession::receive);
     connect(&road_, &WriteRoad::ended, this, &HostSession::finish);
+    connect(&road_, &WriteRoad::settled, this, &HostSession::followSettled);
 }
 
 HostSession::~HostSession() = default;
@@ -97,6 +104,7 @@ HostSession::Fetched HostSession::fetchConfiguration()
                 },
                 {},
                 {}};
+    road_.tellRead(reading.document);
     QSaveFile file(readFiles_.filePath(QStringLiteral("tracker.xml")));
     QString reason;
     if (!vlk::saveWhole(file, reading.document, &reason))
@@ -224,7 +232,7 @@ void HostSession::takeWritten(const QString& path)
     request.readFrom = edited_.seenIn();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
-    request.file = error.isEmpty() ? unwritten_.take(path) : path;
+    request.file = error.isEmpty() ? unwritten_.take(path, QDateTime::currentDateTime()) : path;
     request.lost = edited_.unknown();
     request.typed = typed_ ? typed_() : QStringList();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
@@ -263,16 +271,29 @@ void HostSession::finish(const RoadReport& report)
             edited_.trackerHolds(request.document);
         else
             edited_.written(request.document, report.tracker.number);
-        // The plug-in keeps the edits of a window, be it open no longer, until it is told.
-        if (!request.file.isEmpty())
-            link_.confirmWrite(request.document);
+        dropWritten(request);
+    } else if (isGivenUp) {
+        removeKept(request.file);
     }
-    if (!request.file.isEmpty() && (isConfirmed || isGivenUp) && QFile::exists(request.file) &&
-        !QFile::remove(request.file))
-        qCWarning(lcSession) << "cannot remove" << request.file;
-    if (isConfirmed)
-        unwritten_.drop(request.document);
     Q_EMIT editedChanged();
+}
+
+void HostSession::followSettled(const RoadReport& report)
+{
+    if (report.outcome != RoadReport::Outcome::confirmed)
+        return;
+    edited_.trackerHolds(report.request.document);
+    dropWritten(report.request);
+    Q_EMIT editedChanged();
+}
+
+void HostSession::dropWritten(const WriteRequest& request)
+{
+    // The plug-in keeps the edits of a window, be it open no longer, until it is told.
+    if (!request.file.isEmpty())
+        link_.confirmWrite(request.document);
+    removeKept(request.file);
+    unwritten_.drop(request.document);
 }
 
 std::optional<QByteArray> HostSession::present(Sentence& why)

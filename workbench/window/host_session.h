@@ -95,6 +95,9 @@ private:
     void takeWritten(const QString& path);
     void begin(const WriteRequest& request, int opened);
     void finish(const RoadReport& report);
+    void followSettled(const RoadReport& report);
+    // The tracker holds it: what was kept of it for the next try has done its work.
+    void dropWritten(const WriteRequest& request);
     void tellAttached(bool attached);
 
     QTemporaryDir readFiles_;

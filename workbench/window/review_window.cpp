@@ -71,6 +71,7 @@ struct WhyRow
 constexpr WhyRow kWhyRows[] = {
     {WriteReview::Why::removes, "wb_review_why_removes"},
     {WriteReview::Why::hasErrors, "wb_review_why_error"},
+    {WriteReview::Why::isUnchecked, "wb_review_why_unchecked"},
     {WriteReview::Why::isOfAnother, "wb_review_why_other"},
     {WriteReview::Why::losesKeys, "wb_review_why_lost"},
     {WriteReview::Why::bringsMore, "wb_review_why_more"},
@@ -102,6 +103,8 @@ QStringList notesOf(const WriteReview& review, bool isUnasked)
     add("wb_review_alongside", alongside);
     add("wb_review_lost", review.request.lost);
     add("wb_report_kept_sections", review.keptSections);
+    if (review.isUnchecked)
+        notes.append(text("wb_review_unchecked"));
     if (isUnasked)
         notes.append(whyShown(review));
     notes.removeAll(QString());

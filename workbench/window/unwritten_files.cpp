@@ -27,14 +27,14 @@ void removeFile(const QString& path)
 
 } // namespace
 
-QString UnwrittenFiles::take(const QString& path) const
+QString UnwrittenFiles::take(const QString& path, const QDateTime& now) const
 {
-    const QFileInfo file(path);
     const QDir folder(folder_);
     folder.mkpath(QStringLiteral("."));
-    QString aside = folder.filePath(file.fileName());
+    const QString moment = now.toString(QStringLiteral("yyyy-MM-dd hh_mm_ss"));
+    QString aside = folder.filePath(moment + QStringLiteral(".xml"));
     for (int number = 2; QFile::exists(aside); ++number)
-        aside = folder.filePath(QStringLiteral("%1_%2.xml").arg(file.completeBaseName()).arg(number));
+        aside = folder.filePath(QStringLiteral("%1_%2.xml").arg(moment).arg(number));
     if (!QFile::rename(path, aside))
         return path;
     QFile::setPermissions(aside, kOwnerOnly);

@@ -2,7 +2,8 @@
 
 // The files that the plug-in wanted to be written, from that moment until the tracker holds what is in them:
 // taken aside into a folder of their own, each under a name that nothing else takes, since the plug-in names
-// its files by the minute. Passwords stand in them: only their owner can read them.
+// its files by the minute; by their names they lie in the order of time. Passwords stand in them: only their
+// owner can read them.
 
 #include <QDateTime>
 #include <QString>
@@ -16,7 +17,7 @@ public:
     explicit UnwrittenFiles(const QString& folder) : folder_(folder) {}
 
     // Where the file is from now on; where it cannot be moved, it stays where it is.
-    QString take(const QString& path) const;
+    QString take(const QString& path, const QDateTime& now) const;
     // The tracker holds this: all files of it have done their work.
     void drop(const QByteArray& document) const;
     // Those that nobody has come back to for three months.

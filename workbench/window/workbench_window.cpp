@@ -155,6 +155,10 @@ void WorkbenchWindow::connectSession()
     connect(&session_.link(), &PluginLink::passed, &log_, &MessageLogModel::append);
     connect(&session_, &HostSession::helpRequested, this, &WorkbenchWindow::showHelp);
     connect(&session_.road(), &WriteRoad::ended, this, &WorkbenchWindow::showReport);
+    connect(&session_.road(), &WriteRoad::settled, this, [this](const RoadReport& report) {
+        reportView_->setReport(report);
+        tabs_->setCurrentIndex(ReportTab);
+    });
     connect(&session_.road(), &WriteRoad::stepChanged, this, [this](RoadReport::Step step) {
         if (step == RoadReport::Step::writing)
             status_->tell(StatusLine::Command, [] { return text("wb_writing"); });

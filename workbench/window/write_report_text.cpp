@@ -84,10 +84,31 @@ bool saysTryAgain(const QString& line)
                                [&](const char* advice) { return line.endsWith(text(advice)); });
 }
 
+// What the tracker holds, when that was not known before.
+QString seenLater(const RoadReport& report)
+{
+    const auto says = [&report](const char* key) {
+        return text(key).arg(report.tracker.number, timeOfDay(report.time));
+    };
+    switch (report.outcome) {
+    case Outcome::confirmed:
+        return says("wb_report_seen_sent");
+    case Outcome::notWritten:
+        return says("wb_report_seen_before");
+    case Outcome::notTaken:
+    case Outcome::unknown:
+    case Outcome::cancelled:
+        break;
+    }
+    return says("wb_report_seen_else");
+}
+
 QString firstLine(const RoadReport& report)
 {
     const int all = int(report.settings.size());
     const int missed = report.missed();
+    if (report.isSeenLater)
+        return seenLater(report);
     switch (report.outcome) {
     case Outcome::confirmed:
         return all == 0 ? text("wb_report_same")

@@ -133,7 +133,7 @@ Sentence WriteReportView::bringBack()
 void WriteReportView::setReport(const RoadReport& report)
 {
     const auto isOfWrite = [](const RoadReport& each) {
-        return each.time.isValid() && each.outcome != RoadReport::Outcome::notWritten;
+        return each.time.isValid() && (each.isSeenLater || each.outcome != RoadReport::Outcome::notWritten);
     };
     if (isOfWrite(report))
         other_.reset();
