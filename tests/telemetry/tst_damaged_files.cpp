@@ -115,7 +115,7 @@ private Q_SLOTS:
                  2, true, "2")
             .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
             .row("an element on the line of its page", spoilt("\"1\">\n", "\"1\">"),
-                 QVector<int>{FileDamage::SharedLine, other.size() + 37, 0} + lost(-1), 2, false, "3 1 3")
+                 QVector<int>{FileDamage::SharedLine, other.size() + 37, 0} + lost(-1), 3, false, "3 1 3")
             .row("pages that begin where others end", joined,
                  {FileDamage::SharedLine, first + whole.size() - 1, 0, FileDamage::Records,
                   first + whole.size() - 8, whole.size() - 1},
@@ -123,11 +123,11 @@ private Q_SLOTS:
             .row("a page a line", count + flat(whole) + '\n' + flat(other) + '\n',
                  {FileDamage::SharedLine, first + 37, 0, FileDamage::Records, first, 2 * end + 2,
                   FileDamage::RecordCount, 0, 0},
-                 0, false, "1 3")
+                 1, false, "1 3")
             .row("all on a line", flat(head + joined + "</TMI>"),
                  {FileDamage::SharedLine, 21, 0, FileDamage::Records, 0,
                   flat(head + joined + "</TMI>").size()},
-                 0, false, "1 3 1")
+                 1, false, "1 3 1")
             .row("only what is around pages on a line",
                  flat(head + count) + '\n' + other + whole.chopped(1) + "</TMI>", {}, 2, false, "3 1")
             .row("marks in texts", QByteArray("<IN1 title=\"a><b\"/>\n") + whole, {}, 1, false, "1")

@@ -194,9 +194,7 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
     const bool salvages = reading_ == TelemetryReading::salvage;
     const bool isIntact =
         page.isSound() && !hasDamagedMask(page) && (page.isWhole() || mayLackElements(page));
-    // Of elements behind it on its line few are read: what has no time then is no record.
-    const bool isThere = page.hasItsLine() || page.hasTime();
-    const bool isKept = page.isRecord() && (salvages ? isIntact : isThere);
+    const bool isKept = page.isRecord() && (isIntact || !salvages);
     const bool isAtEnd = page.end == XmlPage::OfFile && page.hasItsLine();
     if (!isAtEnd && (page.end == XmlPage::NextPage ? !page.isSound() : !isIntact))
         loseFrom(page.at());

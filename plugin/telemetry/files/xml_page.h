@@ -50,7 +50,6 @@ public:
     bool isSound() const { return isSound_; }
     // Whether nothing stands behind it on its first line.
     bool hasItsLine() const;
-    bool hasTime() const { return seen_.test(element("Time")); }
     const std::string& line() const { return line_; }
     qint64 at() const { return at_; }
 
