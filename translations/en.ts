@@ -1742,6 +1742,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_603"><translation>records with a time that cannot be right, left out here: %1</translation></message>
     <message id="rec_650"><translation>%1, not &quot;%2&quot;: a number is typed without its unit</translation></message>
     <message id="rec_651"><translation>Without a place and therefore not in the file: %1.</translation></message>
+    <message id="rec_660"><translation>Byte %1: several elements share a line there, while this form has a line for each.</translation></message>
+    <message id="rec_661"><translation>several elements share a line here, while this form has a line for each; they are taken apart</translation></message>
+    <message id="rec_662"><translation>In %1 several elements share a line at byte %2, while this form has a line for each.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

@@ -1742,6 +1742,9 @@
     <message id="rec_603"><translation>записи с невозможным временем, здесь не учтены: %1</translation></message>
     <message id="rec_650"><translation>%1, а не «%2»: число вводится без единицы измерения</translation></message>
     <message id="rec_651"><translation>Без координат, поэтому не в файле: %1.</translation></message>
+    <message id="rec_660"><translation>Байт %1: там несколько элементов в одной строке, а в этой форме строка у каждого своя.</translation></message>
+    <message id="rec_661"><translation>здесь несколько элементов в одной строке, а в этой форме строка у каждого своя; они разобраны порознь</translation></message>
+    <message id="rec_662"><translation>В файле %1 у байта %2 несколько элементов в одной строке, а в этой форме строка у каждого своя.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

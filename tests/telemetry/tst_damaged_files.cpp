@@ -41,6 +41,11 @@ private Q_SLOTS:
         // The last one cell: what salvaging brings.
         const QByteArray sparse = QByteArray(page).replace("\"1\"", "\"11\"").replace(">1<", ">2<");
         const QByteArray other = QByteArray(whole).replace(">1<", ">3<");
+        const auto flat = [](QByteArray lines) { return lines.replace("\n", ""); };
+        const int end = flat(whole).size();
+        const QByteArray head = "<?xml version=\"1.0\"?>\n<TMI model=\"R-7106\">\n";
+        const QByteArray joined =
+            count + whole.chopped(1) + other.chopped(1) + whole; // three, with two ends in lines
         const QByteArray full = sparse + "<Code>7</Code>\n</Page>\n";
         const QByteArray lacking = sparse + "</Page>\n";
         // With a mask of that many cells.
@@ -109,8 +114,23 @@ private Q_SLOTS:
             .row("lacks one and its end", full + sparse, {FileDamage::CutShort, full.size(), sparse.size()},
                  2, true, "2")
             .row("no mask", spoilt("\"1\">", "\"x\">"), lost(0), 3, false, "3 3")
-            .row("an element on the line of its page", spoilt("\"1\">\n", "\"1\">"), lost(-1), 3, false,
-                 "3 3")
+            .row("an element on the line of its page", spoilt("\"1\">\n", "\"1\">"),
+                 QVector<int>{FileDamage::SharedLine, other.size() + 37, 0} + lost(-1), 3, false, "3 1 3")
+            .row("pages that begin where others end", joined,
+                 {FileDamage::SharedLine, first + whole.size() - 1, 0, FileDamage::Records,
+                  first + whole.size() - 8, whole.size() - 1},
+                 2, false, "1 3 1")
+            .row("a page a line", count + flat(whole) + '\n' + flat(other) + '\n',
+                 {FileDamage::SharedLine, first + 37, 0, FileDamage::Records, first, 2 * end + 2,
+                  FileDamage::RecordCount, 0, 0},
+                 1, false, "1 3")
+            .row("all on a line", flat(head + joined + "</TMI>"),
+                 {FileDamage::SharedLine, 21, 0, FileDamage::Records, 0,
+                  flat(head + joined + "</TMI>").size()},
+                 1, false, "1 3 1")
+            .row("only what is around pages on a line",
+                 flat(head + count) + '\n' + other + whole.chopped(1) + "</TMI>", {}, 2, false, "3 1")
+            .row("marks in texts", QByteArray("<IN1 title=\"a><b\"/>\n") + whole, {}, 1, false, "1")
             .row("bytes between pages", other + "XXXX\n" + other, {FileDamage::Records, other.size(), 5}, 2,
                  false, "3 3")
             .row("lines that the form does not know",
@@ -133,7 +153,8 @@ private Q_SLOTS:
         const TelemetryContents salvaged =
             readBack(readWhole<TelemetryXmlReader, TelemetryReading>, file, TelemetryReading::salvage);
         QTEST(numbers(salvaged.records), "salvaged");
-        QVERIFY(contents.hidden >= salvaged.records.size() - contents.records.size());
+        QCOMPARE(contents.mayHideMore, damages.value(0) == FileDamage::SharedLine);
+        QVERIFY(contents.mayHideMore || contents.hidden >= salvaged.records.size() - contents.records.size());
     }
 
     // Six records of 44 bytes, numbers 1 to 6, behind the header: the byte to change, how many to leave,

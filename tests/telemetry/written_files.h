@@ -51,6 +51,6 @@ inline QString kinds(const std::vector<vlk::FileDamage>& damages)
 {
     QString letters;
     for (const vlk::FileDamage& damage : damages)
-        letters += QLatin1Char("NHRCSM"[damage.kind]);
+        letters += QLatin1Char("NHRCSML"[damage.kind]);
     return letters;
 }

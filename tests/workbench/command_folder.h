@@ -86,6 +86,7 @@ public:
         put("volts.xml", "<FUEL type='A3'>" + rows + "</TABLE></FUEL>");
         put("lines.xml", "<DEVICE><X y='a&#10;b'/></DEVICE>");
         put("spoilt.xml", readFile(path("telemetry.xml")).replace(">1704067201<", ">17x<"));
+        put("strayed.xml", readFile(path("telemetry.xml")).replace(">1704067201<", ">828052795<"));
         put("empty.xml", "");
         put("cut.xml", track.left(60));
         put("secret.xml", "<DEVICE><TRANS><AP1 pass='geheim'/></TRANS></DEVICE>");

@@ -125,6 +125,7 @@ private Q_SLOTS:
         using P = TelemetryFileProblem;
         table.row("a page", head + page + "\t</Page>\n</TMI>\n", kFine)
             .row("a page and a half", head + page + "\t</Page>\n" + page, kFine)
+            .row("a page on a line", QByteArray(head + page + "</Page></TMI>").replace('\n', ""), kFine)
             .row("half a page", head + page, P::CutShort)
             .row("pages without ends", head + page + page, P::Damaged)
             .row("another type", head + "\t<Page type=\"9\">\n\t</Page>\n</TMI>\n", P::NoRecord)

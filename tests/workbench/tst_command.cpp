@@ -103,6 +103,12 @@ private Q_SLOTS:
                 "2024-01-01T00:05:00Z, gaps: 1, part of a period: in front of the last record 1 are missing, "
                 "between No.\u00a08 and No.\u00a010\n",
                 "")
+            .row(
+                "a time that cannot be right", "info strayed.xml", 0,
+                "strayed.xml: telemetry, R-7106, records: 3, from 2024-01-01T00:00:00Z to "
+                "2024-01-01T00:05:00Z, gaps: 1, part of a period: in front of the last record 1 are missing, "
+                "between No.\u00a08 and No.\u00a010\n",
+                "strayed.xml: records with a time that cannot be right, left out here: 1\n")
             .row("what is damaged", "info --json spoilt.xml", 1,
                  R"({"file":"spoilt.xml","what":"telemetry","model":"R-7106","name":null,"objectId":null,)"
                  R"("records":2,"from":"2024-01-01T00:00:00Z","to":"2024-01-01T00:05:00Z","gaps":1,)"

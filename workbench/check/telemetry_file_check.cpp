@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 #include <span>
 
@@ -29,10 +30,12 @@ Seen lookAtXml(QFile& file)
     while (!file.atEnd()) {
         const QByteArray line = file.readLine(longestLine);
         // Pages of other types are passed over.
-        if (line.contains("<Page type=\"176\"") || line.contains("<Page type=\"177\""))
-            seen = seen == Seen::Nothing ? Seen::Beginning : Seen::Pieces;
-        else if (line.contains("</Page>") && seen != Seen::Nothing)
+        const int begins = std::max(line.indexOf("<Page type=\"176\""), line.indexOf("<Page type=\"177\""));
+        const int ends = line.lastIndexOf("</Page>");
+        if (ends >= 0 && (seen != Seen::Nothing || (begins >= 0 && begins < ends)))
             return Seen::Whole;
+        if (begins >= 0)
+            seen = seen == Seen::Nothing ? Seen::Beginning : Seen::Pieces;
         if (file.pos() > kFarthestLook)
             return Seen::TooFar;
     }

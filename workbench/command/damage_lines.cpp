@@ -10,7 +10,8 @@ namespace {
 QString reasonOf(const vlk::FileDamage& damage)
 {
     // By FileDamage::Kind.
-    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073", "cli_074", "cli_075"};
+    static constexpr const char* kinds[] = {"cli_070", "cli_071", "cli_072", "cli_073",
+                                            "cli_074", "cli_075", "rec_661"};
     if (damage.kind != vlk::FileDamage::Records)
         return text(kinds[damage.kind]);
     return damage.bytes == 0 ? text("cli_077") : text(kinds[damage.kind]).arg(damage.bytes);

@@ -101,6 +101,8 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
         facts.damages << damageText(damage, device.size());
         complaints += damageLine(file, damage, device.size());
     }
+    if (summary.strayed > 0)
+        complaints += complaint(file.name, text("rec_603").arg(summary.strayed));
     return {lineOf(call, file, facts), complaints, summary.damages.empty() ? nothing : found};
 }
 

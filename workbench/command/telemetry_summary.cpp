@@ -4,6 +4,7 @@
 #include "command/output.h"
 #include "telemetry/files/binary_layout.h"
 #include "telemetry/files/telemetry_reader.h"
+#include "telemetry/files/vehicle_times.h"
 #include "window/languages.h"
 
 #include <algorithm>
@@ -24,10 +25,8 @@ public:
     {
         ++summary_.records;
         // A record that has no time reads as the beginning of all of them.
-        if (const quint32 time = timeOf(page); time != 0) {
-            summary_.from = std::min(summary_.from.value_or(time), time);
-            summary_.to = std::max(summary_.to.value_or(time), time);
-        }
+        if (const quint32 time = timeOf(page); time != 0)
+            takeTime(time);
         const quint32 number = vlk::recordNumberOf(page);
         if (summary_.records == 1)
             first_ = number;
@@ -40,8 +39,34 @@ public:
         before_ = number;
     }
 
+    // Behind the last record.
+    void finish()
+    {
+        if (latest_ != 0)
+            count(latest_);
+    }
+
 private:
+    // What comes behind a time tells whether it has strayed.
+    void takeTime(quint32 time)
+    {
+        if (counted_ != 0 && vlk::isStrayed(latest_, counted_, time))
+            ++summary_.strayed;
+        else if (latest_ != 0)
+            count(latest_);
+        latest_ = time;
+    }
+
+    void count(quint32 time)
+    {
+        counted_ = time;
+        summary_.from = std::min(summary_.from.value_or(time), time);
+        summary_.to = std::max(summary_.to.value_or(time), time);
+    }
+
     TelemetrySummary& summary_;
+    quint32 latest_ = 0;  // time, not counted yet; 0: none
+    quint32 counted_ = 0; // the last one
     quint32 first_ = 0;
     quint32 last_ = 0;
     quint32 before_ = 0; // the last one that is a number
@@ -71,6 +96,7 @@ TelemetrySummary summaryOf(QIODevice& device, const QString& name)
         records.forEach([&counter](const TmiPage_Zeta3& page) { counter.take(page); });
         records.clear();
     }
+    counter.finish();
     reader.finish();
     summary.damages = reader.contents().damages;
     if (!summary.damages.empty())

@@ -11,9 +11,10 @@ namespace workbench::command {
 struct TelemetrySummary
 {
     QString model;
-    qint64 records = 0; // and packets
-    std::optional<quint32> from;
+    qint64 records = 0;          // and packets
+    std::optional<quint32> from; // by the times that have not strayed
     std::optional<quint32> to;
+    qint64 strayed = 0;                  // times that cannot be right
     qint64 gaps = 0;                     // places at which numbers are missing
     std::optional<vlk::PeriodHole> hole; // of a whole file that looks like a part of a period
     std::vector<vlk::FileDamage> damages;

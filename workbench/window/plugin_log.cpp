@@ -62,6 +62,7 @@ constexpr CategoryRow kCategoryRows[] = {
     {"vlk.files.cut", PluginLog::Topic::Damage, "wb_told_cut", kAtByte},
     {"vlk.files.checksum", PluginLog::Topic::Damage, "wb_told_checksum", kAtByte},
     {"vlk.files.count", PluginLog::Topic::Damage, "wb_told_count", kAtByte},
+    {"vlk.files.lines", PluginLog::Topic::Damage, "rec_662", kAtByte},
     {"vlk.track", PluginLog::Topic::File, "wb_told_no_distances", "^no distances: (.*)$"},
 };
 

@@ -19,6 +19,12 @@ std::string_view InputBuffer::line(std::size_t most)
     return {first, length};
 }
 
+void InputBuffer::giveBack(std::size_t count)
+{
+    begin_ -= count;
+    position_ -= static_cast<qint64>(count);
+}
+
 std::span<const std::uint8_t> InputBuffer::peek(std::size_t count)
 {
     if (end_ - begin_ < count)

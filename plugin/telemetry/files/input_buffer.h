@@ -21,6 +21,8 @@ public:
     // The next line with its end, or as many bytes of it as `most`; then the rest of it is the next line.
     // Empty at the end of the device.
     std::string_view line(std::size_t most);
+    // The last bytes of what line() gave belong to the next line.
+    void giveBack(std::size_t count);
 
     // The next bytes, fewer than asked for only at the end of the device. They stay where they are until
     // skipped. kCapacity at most.

@@ -107,6 +107,31 @@ bool isSoundPageLine(std::string_view line)
     return type.has_value();
 }
 
+std::size_t sizeOfFirst(std::string_view line)
+{
+    constexpr std::string_view entry = "<Dynamic ";
+    if (isSoundEntry(line) && line.rfind(entry) == line.find(entry))
+        return line.size();
+    // Of a line that is read in pieces the last tag may be the beginning of one.
+    const auto beginsWith = [](std::string_view text, std::string_view tag) {
+        return text.starts_with(tag) || (!text.ends_with('\n') && tag.starts_with(text));
+    };
+    bool isQuoted = false;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (line[at] == '"')
+            isQuoted = !isQuoted;
+        if (line[at] != '>' || isQuoted)
+            continue;
+        const std::size_t next = line.find_first_not_of(" \t\r\n", at + 1);
+        if (next == line.npos)
+            break;
+        const std::string_view rest = line.substr(next);
+        if (rest.front() == '<' && (!rest.starts_with("</") || beginsWith(rest, "</Page>")))
+            return next;
+    }
+    return line.size();
+}
+
 std::optional<std::string_view> JoinedLines::add(std::string_view piece)
 {
     const bool isWhole = piece.ends_with('\n');

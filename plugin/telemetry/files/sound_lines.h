@@ -22,6 +22,10 @@ bool isSoundBetweenPages(std::string_view line);
 // The first line of a page, which may stand behind something else.
 bool isSoundPageLine(std::string_view line);
 
+// How much of the line what stands first on it takes: all of it, unless another element, or the end of the
+// page, follows on the same line.
+std::size_t sizeOfFirst(std::string_view line);
+
 // Puts lines together that were read in pieces.
 class JoinedLines
 {

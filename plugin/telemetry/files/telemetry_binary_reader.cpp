@@ -246,7 +246,8 @@ QString text(const FileDamage& damage)
 {
     static constexpr const char* kKinds[] = {
         "not a binary telemetry file",   "wrong checksum of the header",  "no record",
-        "the file ends within a record", "wrong checksum of the records", "another count than there are"};
+        "the file ends within a record", "wrong checksum of the records", "another count than there are",
+        "several elements on a line"};
     return QStringLiteral("%1 at byte %2, %3 bytes")
         .arg(QLatin1String(kKinds[damage.kind]))
         .arg(damage.offset)

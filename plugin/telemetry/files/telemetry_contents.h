@@ -33,6 +33,7 @@ struct FileDamage
         CutShort,        // the file ends within these bytes, which begin a record or the header
         RecordsChecksum, // something behind the header is not what was written
         RecordCount,     // the header counts other than there are
+        SharedLine,      // elements stand on one line, while the XML form has a line for each
     };
 
     Kind kind;
@@ -43,8 +44,8 @@ struct FileDamage
 
 // What is read of a damaged file.
 enum class TelemetryReading : std::uint8_t {
-    asTold,  // a page without an end hides the next one, and gives what there is of it
-    salvage, // every whole record, and no other
+    asTold,  // a page without an end hides the next one, and gives what there is of it; a line is one element
+    salvage, // every whole record, and no other, whatever stands on its lines
 };
 
 // What a file gives. Titles, zone and vendor come from the XML form only, the tracker's number from none; the
@@ -58,6 +59,7 @@ struct TelemetryContents
     bool lastIsCut = false;           // of the last record there is only the beginning
     std::vector<int> damaged; // rising: records with something in them that is not as it was written, or cut
     int hidden = 0;           // whole records that salvaging would give besides these
+    bool mayHideMore = false; // lines were not taken apart that elements share
 };
 
 // The time of a record, or of an extra packet's head.

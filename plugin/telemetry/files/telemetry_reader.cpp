@@ -19,7 +19,8 @@ const QLoggingCategory& damageLog(FileDamage::Kind kind)
     static const QLoggingCategory logs[] = {
         QLoggingCategory("vlk.files.form"),     QLoggingCategory("vlk.files.header"),
         QLoggingCategory("vlk.files.damage"),   QLoggingCategory("vlk.files.cut"),
-        QLoggingCategory("vlk.files.checksum"), QLoggingCategory("vlk.files.count")};
+        QLoggingCategory("vlk.files.checksum"), QLoggingCategory("vlk.files.count"),
+        QLoggingCategory("vlk.files.lines")};
     return logs[kind];
 }
 

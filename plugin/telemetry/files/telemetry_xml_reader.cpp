@@ -68,12 +68,29 @@ void TelemetryXmlReader::goOnAt(qint64 at)
     contents_.damages.push_back(*std::exchange(lost_, {}));
 }
 
+std::string_view TelemetryXmlReader::nextLine(std::size_t most)
+{
+    const bool salvages = reading_ == TelemetryReading::salvage;
+    const std::string_view line = input_.line(most);
+    const std::size_t first = areLinesShared_ && !salvages ? line.size() : sizeOfFirst(line);
+    if (first == line.size())
+        return line;
+    // What stands in front of all pages is found wherever it is.
+    const bool isOfPages = most == kLongestLineOfPage || endsPage(line);
+    if (isOfPages && !std::exchange(areLinesShared_, true)) {
+        const qint64 at = input_.position() - std::ssize(line) + static_cast<qint64>(first);
+        report(FileDamage::SharedLine, at, at);
+        contents_.mayHideMore = !salvages;
+    }
+    if (!salvages)
+        return line;
+    apart_.assign(line.substr(0, first)) += '\n';
+    input_.giveBack(line.size() - first);
+    return apart_;
+}
+
 bool TelemetryXmlReader::step()
 {
-    if (!nextLine_.empty()) {
-        readPage(std::exchange(nextLine_, {}), nextAt_);
-        return true;
-    }
     const auto window = input_.peek(kLongestUsualPage);
     const std::string_view ahead(reinterpret_cast<const char*>(window.data()), window.size());
     if (const std::size_t size = usual_.take(ahead, contents_.records); size != 0) {
@@ -83,10 +100,10 @@ bool TelemetryXmlReader::step()
         ++total_;
         return true;
     }
-    const std::string_view line = input_.line(kLongestLine);
+    const qint64 at = input_.position();
+    const std::string_view line = nextLine(kLongestLine);
     if (line.empty())
         return false;
-    const qint64 at = input_.position() - std::ssize(line);
     if (!startsPage(line)) {
         readBetween(line, at);
         return true;
@@ -102,6 +119,7 @@ void TelemetryXmlReader::endBetween(std::string_view front, qint64 at)
     const std::string rest = between_.takeRest();
     if (!trimmed(front).empty() || !trimmed(rest).empty())
         loseFrom(at - std::ssize(rest));
+    contents_.hidden += isHidden_ && endsPage(front) ? 1 : 0;
     isHidden_ = false;
 }
 
@@ -112,11 +130,12 @@ void TelemetryXmlReader::readBetween(std::string_view line, qint64 at)
         ++contents_.hidden;
         isHidden_ = false;
     }
+    const qint64 end = at + std::ssize(line);
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (at == 0 && line.starts_with(byteOrderMark))
         line.remove_prefix(byteOrderMark.size());
     if (const auto whole = between_.add(line); whole && !isSoundBetweenPages(*whole))
-        loseFrom(input_.position() - std::ssize(*whole));
+        loseFrom(end - std::ssize(*whole));
     if (line.find("<INTERVAL") != line.npos) {
         contents_.announced = numberAttribute<quint32>(line, "count");
         countAt_ = at;
@@ -132,11 +151,15 @@ void TelemetryXmlReader::readBetween(std::string_view line, qint64 at)
 void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
 {
     XmlPage page(std::move(pageLine), at);
-    for (std::string_view line = input_.line(kLongestLineOfPage); !line.empty();
-         line = input_.line(kLongestLineOfPage)) {
+    for (;;) {
+        const qint64 lineAt = input_.position();
+        const std::string_view line = nextLine(kLongestLineOfPage);
+        if (line.empty())
+            break;
         if (endsPage(line)) {
-            page.finish(startsPage(line) ? XmlPage::NextPage : XmlPage::Closing, line,
-                        input_.position() - std::ssize(line));
+            page.finish(line, lineAt);
+            if (reading_ == TelemetryReading::salvage && startsPage(line))
+                input_.giveBack(static_cast<std::size_t>(input_.position() - lineAt));
             break;
         }
         page.take(line);
@@ -171,9 +194,9 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
     const bool salvages = reading_ == TelemetryReading::salvage;
     const bool isIntact =
         page.isSound() && !hasDamagedMask(page) && (page.isWhole() || mayLackElements(page));
-    const bool isKept = page.isRecord() && (!salvages || isIntact);
-    const bool isAtEnd = page.end == XmlPage::OfFile;
-    if (!isAtEnd && (page.end == XmlPage::Closing ? !isIntact : !page.isSound()))
+    const bool isKept = page.isRecord() && (isIntact || !salvages);
+    const bool isAtEnd = page.end == XmlPage::OfFile && page.hasItsLine();
+    if (!isAtEnd && (page.end == XmlPage::NextPage ? !page.isSound() : !isIntact))
         loseFrom(page.at());
     else if (isAtEnd || isIntact || !salvages)
         goOnAt(page.at());
@@ -183,19 +206,20 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
             contents_.damaged.push_back(total_);
         ++total_;
     }
-    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole()) {
+    if (page.type() == kTelemetryRecord && page.end == XmlPage::Closing && isIntact && page.isWhole() &&
+        trimmed(page.line()).starts_with("<Page")) {
         usual_.remember(page.line(), page.ver(), page.mask());
         fullMasks_ = fullMasks_ || page.hasFullMask();
     }
     if (isAtEnd) {
         contents_.lastIsCut = isKept && !salvages;
         report(FileDamage::CutShort, page.at(), input_.position());
-    } else if (page.end == XmlPage::NextPage) {
+    } else if (startsPage(page.nextLine)) {
         endWithNext(page, isKept);
     }
 }
 
-// The first line of the next page was taken for its end.
+// The first line of the next page was taken with its end, or for it.
 void TelemetryXmlReader::endWithNext(const XmlPage& page, bool isKept)
 {
     if (reading_ != TelemetryReading::salvage) {
@@ -204,11 +228,6 @@ void TelemetryXmlReader::endWithNext(const XmlPage& page, bool isKept)
         return;
     }
     loseFrom(isKept ? page.endAt : page.at());
-    nextLine_ = page.nextLine;
-    // Within a page a line is read as far as lines of values go; that of a page is longer.
-    if (!nextLine_.ends_with('\n'))
-        nextLine_ += input_.line(kLongestLine);
-    nextAt_ = page.endAt;
 }
 
 void TelemetryXmlReader::finish()

@@ -7,7 +7,8 @@
 // damage, and salvaging leaves its record out.
 //
 // A page without a closing line takes the first line of the next page with it, whose lines then start
-// nothing; who salvages gets that page too. Records have the local zone, whatever zone the file names.
+// nothing; who salvages gets that page too. Where elements share a line the first one is read; that is told,
+// and who salvages gets all of them. Records have the local zone, whatever zone the file names.
 
 #include "telemetry/files/input_buffer.h"
 #include "telemetry/files/sound_lines.h"
@@ -31,6 +32,8 @@ public:
     void finish();
 
 private:
+    // As InputBuffer::line(); who salvages gets a line for each element.
+    std::string_view nextLine(std::size_t most);
     void readBetween(std::string_view line, qint64 at);
     void endBetween(std::string_view front, qint64 at);
     void readPage(std::string pageLine, qint64 at);
@@ -55,9 +58,8 @@ private:
     JoinedLines between_; // pages
     // Whether a page among the lines that start nothing, for want of its first one, is still without its end.
     bool isHidden_ = false;
-    // The first line of the next page, where it ended one that had no end.
-    std::string nextLine_;
-    qint64 nextAt_ = 0;
+    bool areLinesShared_ = false; // by elements, and told
+    std::string apart_;           // a line of its own for one of them
 };
 
 } // namespace vlk

@@ -42,16 +42,12 @@ Ignition ignitionOf(double state)
 // Drops records whose times are far from those around them; they come in the order of the store.
 void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& records, std::vector<int>* strayed)
 {
-    const auto areFar = [&times](int record, int other) {
-        constexpr qint64 far = qint64{24} * 3600;
-        return std::abs(qint64{times[record]} - times[other]) > far;
-    };
     std::size_t kept = 0;
     for (std::size_t i = 0; i < records.size(); ++i) {
         const int record = records[i];
-        const bool isStrayed = kept > 0 && i + 1 < records.size() && areFar(record, records[kept - 1]) &&
-                               areFar(record, records[i + 1]) && !areFar(records[kept - 1], records[i + 1]);
-        if (!isStrayed)
+        const bool isAlone = kept > 0 && i + 1 < records.size() &&
+                             isStrayed(times[record], times[records[kept - 1]], times[records[i + 1]]);
+        if (!isAlone)
             records[kept++] = record;
         else if (strayed)
             strayed->push_back(record);
@@ -60,6 +56,15 @@ void leaveOutStrayed(const std::vector<quint32>& times, std::vector<int>& record
 }
 
 } // namespace
+
+bool isStrayed(quint32 time, quint32 before, quint32 behind)
+{
+    const auto areFar = [](quint32 one, quint32 other) {
+        constexpr qint64 far = qint64{24} * 3600;
+        return std::abs(qint64{one} - other) > far;
+    };
+    return areFar(time, before) && areFar(time, behind) && !areFar(before, behind);
+}
 
 std::vector<int> recordsByTime(RecordColumns& columns, std::vector<int>* strayed)
 {

@@ -6,9 +6,12 @@
 
 namespace vlk {
 
-// Records that have a time, by it; of one time in the order of the store. The clock of a tracker may jump; a
-// record alone that is far in time from both records beside it, which are near each other, has a damaged one
-// and is left out: it is among the strayed ones then, in the order of the store.
+// The clock of a tracker may jump; a record alone that is far in time from both records beside it, which are
+// near each other, has a damaged one.
+bool isStrayed(quint32 time, quint32 before, quint32 behind);
+
+// Records that have a time, by it; of one time in the order of the store. What has strayed is left out: it is
+// among the strayed ones then, in the order of the store.
 std::vector<int> recordsByTime(RecordColumns& columns, std::vector<int>* strayed = nullptr);
 
 // km/h; below it a vehicle stands.

@@ -56,12 +56,15 @@ void XmlPage::take(std::string_view line)
     mixesElements_ = mixesElements_ || !closesItself(*whole);
 }
 
-void XmlPage::finish(End how, std::string_view line, qint64 lineAt)
+void XmlPage::finish(std::string_view line, qint64 lineAt)
 {
-    end = how;
+    constexpr std::string_view closing = "</Page>";
+    end = line.find("<Page") < line.find(closing) ? NextPage : Closing;
     endAt = lineAt;
     nextLine = line;
-    const bool isAlone = how == NextPage || trimmed(line) == "</Page>";
+    const std::string_view behind =
+        trimmed(line).starts_with(closing) ? trimmed(trimmed(line).substr(closing.size())) : line;
+    const bool isAlone = end == NextPage || behind.empty() || behind.starts_with('<');
     isSound_ = isSound_ && isAlone && trimmed(lines_.takeRest()).empty() && asksForAllThatCame();
 }
 
@@ -74,6 +77,14 @@ void XmlPage::readElement(std::string_view line)
         return;
     isSound_ = readValue(*index, parts.value, place) && isSound_ && !seen_.test(*index);
     seen_.set(*index);
+}
+
+bool XmlPage::hasItsLine() const
+{
+    std::string_view line = trimmed(line_);
+    line.remove_prefix(std::min(line.find("<Page"), line.size()));
+    const std::size_t closing = line.find('>');
+    return closing == line.npos ? end == OfFile : closing == line.size() - 1;
 }
 
 // None in a packet where its head has no such element.

@@ -33,7 +33,7 @@ public:
     // A line between the first and the last.
     void take(std::string_view line);
     // The line that ended it.
-    void finish(End how, std::string_view line, qint64 lineAt);
+    void finish(std::string_view line, qint64 lineAt);
 
     quint8 type() const { return type_; }
     quint8 ver() const { return numberAttribute<quint8>(line_, "ver"); }
@@ -48,6 +48,8 @@ public:
     // Whether every line of it is one, with a number where a number belongs, and none came twice or without
     // being in the mask.
     bool isSound() const { return isSound_; }
+    // Whether nothing stands behind it on its first line.
+    bool hasItsLine() const;
     const std::string& line() const { return line_; }
     qint64 at() const { return at_; }
 

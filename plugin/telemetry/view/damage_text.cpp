@@ -18,7 +18,8 @@ namespace {
 
 // Keys by FileDamage::Kind: %1 is where it begins, %2 where reading went on. The counts of records say
 // themselves that they differ.
-constexpr const char* kSentences[] = {"tmiw_190", "tmiw_191", "tmiw_192", "tmiw_193", "tmiw_194", nullptr};
+constexpr const char* kSentences[] = {"tmiw_190", "tmiw_191", "tmiw_192", "tmiw_193",
+                                      "tmiw_194", nullptr,    "rec_660"};
 constexpr std::size_t kInBar = 2;
 constexpr std::size_t kInBox = 20;
 constexpr std::size_t kMostActions = 2;
@@ -40,6 +41,7 @@ struct Damage
     qint64 whole;
     qint64 announced;
     int hidden;
+    bool mayHideMore;
 };
 
 Damage damageOf(const TelemetryContents& contents)
@@ -49,7 +51,8 @@ Damage damageOf(const TelemetryContents& contents)
     std::vector<FileDamage> places = contents.damages;
     std::erase_if(places, isCount);
     const qint64 whole = qint64{contents.records.size()} - std::ssize(contents.damaged);
-    return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole, contents.hidden};
+    return {std::move(places), whole, countDiffers ? contents.announced.value_or(0) : whole, contents.hidden,
+            contents.mayHideMore};
 }
 
 QStringList sentences(const Damage& damage, std::size_t most)
@@ -85,7 +88,7 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
 {
     bar->end(kPart);
     const int last = contents.records.size() - 1;
-    if (last < 1 || !contents.damaged.empty() || contents.hidden > 0)
+    if (last < 1 || !contents.damaged.empty() || contents.hidden > 0 || contents.mayHideMore)
         return;
     const auto numberAt = [&contents](int record) { return recordNumberOf(*contents.records.at(record)); };
     const auto hole = holeOfPart(last + 1, numberAt(0), numberAt(last - 1), numberAt(last));
@@ -125,7 +128,7 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
         place == contents.damages.end() || records == 0 ? -1 : std::min(place->record, records - 1);
     bar->tell(kDamage, [bar, actions, record, damage = damageOf(contents)] {
         Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
-        if (damage.hidden > 0)
+        if (damage.hidden > 0 || damage.mayHideMore)
             notice.actions.push_back({translated("rec_077"), actions.bringBack});
         if (record >= 0)
             notice.actions.push_back(
