@@ -2495,6 +2495,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="typed_sign"><translation>This character does not fit here and was left out.</translation></message>
     <message id="typed_unfit"><translation>A number from %1 to %2 is needed here, with at most this many decimals: %3.</translation></message>
     <message id="typed_whole"><translation>Only whole numbers fit here, not &quot;%1&quot;. The value before it stands.</translation></message>
+    <message id="wb_620"><translation>The program was ended while a period was being saved.</translation></message>
     <message id="wb_about"><translation>About</translation></message>
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Tracker plug-in: %1, version %2</translation></message>

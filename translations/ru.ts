@@ -2495,6 +2495,7 @@
     <message id="typed_sign"><translation>Этот символ здесь не подходит и не принят.</translation></message>
     <message id="typed_unfit"><translation>Здесь нужно число %1…%2, знаков после запятой не более: %3.</translation></message>
     <message id="typed_whole"><translation>Здесь нужно целое число, а не «%1». Осталось прежнее значение.</translation></message>
+    <message id="wb_620"><translation>Программа была завершена, пока сохранялся период.</translation></message>
     <message id="wb_about"><translation>О программе</translation></message>
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль трекера: %1, версия %2</translation></message>

@@ -11,6 +11,9 @@
 
 namespace workbench {
 
+// How much of its period a file holds, in words.
+QString savedPartText(const QString& path, const SavedPart& part);
+
 class HostSession;
 class PluginWindows;
 class RecentFiles;
@@ -30,6 +33,7 @@ public:
 Q_SIGNALS:
     // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
+    void partSaved(const QString& path, const workbench::SavedPart& part);
     // A save is over, well or not.
     void ended();
 
