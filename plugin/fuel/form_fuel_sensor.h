@@ -114,6 +114,8 @@ private:
     // True where the columns are to be read the other way round.
     bool pasteInOrder(const QString& text, vlk::FuelOrder order);
     void takePasteBack();
+    // The row of the cursor with those that are marked, after the button's question.
+    void removeRows();
     void forgetPaste();
     // In the place of those that are there.
     void showRows(const vlk::FuelRows& rows);
@@ -139,6 +141,7 @@ private:
     QAction* copy_;
     QAction* paste_;
     QAction* takeBack_;
+    QAction* remove_;
     // The table before the last change, if that was a paste.
     struct BeforePaste
     {
