@@ -165,6 +165,23 @@ private Q_SLOTS:
         }
     }
 
+    // Nor what a box asks, as long as there is room elsewhere.
+    void coversNoQuestion()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.window.activateWindow();
+        QTRY_VERIFY(bench.window.isActiveWindow());
+        QTest::keyClick(&bench.window, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        visibleFaults()->move(3, 5);
+        QMessageBox question(QMessageBox::Question, {}, QStringLiteral("?"), QMessageBox::Yes, &bench.window);
+        question.show();
+        question.move(0, 0);
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &question);
+        QVERIFY(!visibleFaults()->frameGeometry().intersects(question.frameGeometry()));
+    }
+
     // What is no question to the tracker does not bring them up, nor does what came up after it.
     void faultsComeUninvitedForTheTrackerAlone()
     {
