@@ -25,6 +25,13 @@ private Q_SLOTS:
         bench.prepare(Period);
         bench.take(Period);
         QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
+        QTRY_COMPARE(Bench::notice(), bench.status());
+        // Not any more when another file is asked for.
+        QFile::remove(bench.file());
+        bench.collect();
+        QVERIFY(!Bench::notice().startsWith(QLatin1String("Saved: ")));
+        bench.tracker().setFaults({});
+        QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
         bench.take(Output);
         QTRY_COMPARE(Bench::notice(),
                      QStringLiteral("Output 1 is switched on. The values on show are from before: "

@@ -40,6 +40,12 @@ public:
     {
         tellResult(StatusLine::Command, sentence, true, window);
     }
+    // What went well is not told any more.
+    void forgetDone()
+    {
+        if (!reason_.isActive())
+            front_.tell(FrontNotice::Result, {});
+    }
 
 Q_SIGNALS:
     void troubleChanged();

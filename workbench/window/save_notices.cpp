@@ -45,8 +45,8 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
-    // What was said of an earlier file holds no longer.
     connect(&watch_, &SaveWatch::asked, this, [this] { status_.clear(StatusLine::Command); });
+    connect(&watch_, &SaveWatch::asked, this, &SaveNotices::asked);
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);

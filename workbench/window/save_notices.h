@@ -31,6 +31,8 @@ public:
     TypingNotices& typing() { return typing_; }
 
 Q_SIGNALS:
+    // For another file: what was said of an earlier one holds no longer.
+    void asked();
     // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
     void partSaved(const QString& path, const workbench::SavedPart& part);

@@ -195,6 +195,7 @@ void WorkbenchWindow::connectNotices()
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
     session_.setTyped([this] { return saveNotices_->typing().lines(); });
+    connect(saveNotices_.get(), &SaveNotices::asked, linkNotices_.get(), &LinkNotices::forgetDone);
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
