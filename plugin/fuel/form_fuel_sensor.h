@@ -16,6 +16,7 @@
 #include <QMap>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -77,7 +78,8 @@ public:
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
     // could not be written, setDirty and setEdited take that back. False when the document holds no table.
     void saveXml(CXmlSection* section);
-    bool loadXml(CXmlSection* section);
+    // `complete` adds to the rows what the document does not say of them.
+    bool loadXml(CXmlSection* section, const std::function<void(vlk::FuelRows&)>& complete = {});
     void setDirty(bool dirty);
     void setEdited(bool edited);
     // Puts rows in the place of those that are there; they are dirty.
