@@ -175,9 +175,11 @@ private Q_SLOTS:
         QTest::keyClick(&bench.window, Qt::Key_F9);
         QVERIFY(visibleFaults());
         visibleFaults()->move(3, 5);
-        QMessageBox question(QMessageBox::Question, {}, QStringLiteral("?"), QMessageBox::Yes, &bench.window);
+        QMessageBox question(QMessageBox::Question, {}, QString(8, QLatin1Char('\n')), QMessageBox::Yes,
+                             &bench.window);
         question.show();
-        question.move(0, 0);
+        // Its words alone are below them.
+        question.move(0, visibleFaults()->frameGeometry().bottom() - 40);
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &question);
         QVERIFY(!visibleFaults()->frameGeometry().intersects(question.frameGeometry()));
     }
