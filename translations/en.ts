@@ -2116,6 +2116,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_312"><translation>Go on saving</translation></message>
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
     <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
+    <message id="tmiw_360"><translation>The file cannot hold that points were taken while the reading still changed (there are %1): a sheet made of it on another computer shows no mark.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2498,6 +2499,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="typed_sign"><translation>This character does not fit here and was left out.</translation></message>
     <message id="typed_unfit"><translation>A number from %1 to %2 is needed here, with at most this many decimals: %3.</translation></message>
     <message id="typed_whole"><translation>Only whole numbers fit here, not &quot;%1&quot;. The value before it stands.</translation></message>
+    <message id="wb_620"><translation>The program was ended while a period was being saved.</translation></message>
     <message id="wb_about"><translation>About</translation></message>
     <message id="wb_about_data"><translation>Data folder: %1</translation></message>
     <message id="wb_about_plugin"><translation>Tracker plug-in: %1, version %2</translation></message>

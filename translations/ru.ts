@@ -2116,6 +2116,7 @@
     <message id="tmiw_312"><translation>Продолжить</translation></message>
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
+    <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2498,6 +2499,7 @@
     <message id="typed_sign"><translation>Этот символ здесь не подходит и не принят.</translation></message>
     <message id="typed_unfit"><translation>Здесь нужно число %1…%2, знаков после запятой не более: %3.</translation></message>
     <message id="typed_whole"><translation>Здесь нужно целое число, а не «%1». Осталось прежнее значение.</translation></message>
+    <message id="wb_620"><translation>Программа была завершена, пока сохранялся период.</translation></message>
     <message id="wb_about"><translation>О программе</translation></message>
     <message id="wb_about_data"><translation>Папка данных: %1</translation></message>
     <message id="wb_about_plugin"><translation>Модуль трекера: %1, версия %2</translation></message>

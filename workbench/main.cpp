@@ -3,6 +3,7 @@
 #include "window/configuration_tour.h"
 #include "window/data_folder.h"
 #include "window/display_guard.h"
+#include "window/end_signals.h"
 #include "window/files_tour.h"
 #include "window/fuel_tour.h"
 #include "window/house_style.h"
@@ -136,5 +137,9 @@ int main(int argc, char* argv[])
     }
     if (!line.open.isEmpty() && started)
         QTimer::singleShot(0, &window, [&] { window.openFile(line.open); });
+    const workbench::EndSignals endSignals;
+    QObject::connect(&endSignals, &workbench::EndSignals::came, &window, &workbench::WorkbenchWindow::leave);
+    QObject::connect(application.get(), &QGuiApplication::commitDataRequest, &window,
+                     [&window] { window.endSave(); });
     return QApplication::exec();
 }

@@ -152,6 +152,11 @@ bool CalibrationTable::isMarked(int row) const
     return item(row, Marked)->checkState() == Qt::Checked;
 }
 
+void CalibrationTable::setMarked(int row, bool isMarked)
+{
+    item(row, Marked)->setCheckState(isMarked ? Qt::Checked : Qt::Unchecked);
+}
+
 bool CalibrationTable::anyMarked() const
 {
     for (int row = 0; row < rowCount(); ++row) {

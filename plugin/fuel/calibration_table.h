@@ -41,12 +41,13 @@ public:
     // The points of the rows with both texts.
     vlk::FuelPoints points() const;
 
+    bool isMarked(int row) const;
+    void setMarked(int row, bool isMarked);
     bool anyMarked() const;
     void removeMarked();
 
 private:
     VLK_TableWidgetItem_FuelSort* cell(int row, Column column) const;
-    bool isMarked(int row) const;
 
     QTableWidgetItem* added_ = nullptr;
 };

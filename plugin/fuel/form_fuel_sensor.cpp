@@ -26,7 +26,7 @@ VLK_Form_Fuel_Sensor::VLK_Form_Fuel_Sensor(int kind, const QString& name, const 
                                            QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::VLK_Designer_Form_Fuel_Sensor>()),
       graph_(new VLK_FuelSensor_Graph(this)), copy_(new QAction(this)), paste_(new QAction(this)),
-      takeBack_(new QAction(this)), kind_(kind), name_(name)
+      takeBack_(new QAction(this)), remove_(new QAction(this)), kind_(kind), name_(name)
 {
     ui_->setupUi(this);
     empty_ = new vlk::EmptyNote(ui_->tableWidget);
@@ -105,6 +105,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
     takeBack_->setText(tr("cfgt6_421"));
+    remove_->setText(tr("cfgt6_046"));
     markReading();
     offerName(offeredName_);
     showCaptions();

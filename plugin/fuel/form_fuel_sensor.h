@@ -16,6 +16,7 @@
 #include <QMap>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -77,7 +78,8 @@ public:
     // Into and from the root of a calibration document. What was put into one counts as saved; where its file
     // could not be written, setDirty and setEdited take that back. False when the document holds no table.
     void saveXml(CXmlSection* section);
-    bool loadXml(CXmlSection* section);
+    // `complete` adds to the rows what the document does not say of them.
+    bool loadXml(CXmlSection* section, const std::function<void(vlk::FuelRows&)>& complete = {});
     void setDirty(bool dirty);
     void setEdited(bool edited);
     // Puts rows in the place of those that are there; they are dirty.
@@ -114,6 +116,8 @@ private:
     // True where the columns are to be read the other way round.
     bool pasteInOrder(const QString& text, vlk::FuelOrder order);
     void takePasteBack();
+    // The row of the cursor with those that are marked, after the button's question.
+    void removeRows();
     void forgetPaste();
     // In the place of those that are there.
     void showRows(const vlk::FuelRows& rows);
@@ -139,6 +143,7 @@ private:
     QAction* copy_;
     QAction* paste_;
     QAction* takeBack_;
+    QAction* remove_;
     // The table before the last change, if that was a paste.
     struct BeforePaste
     {

@@ -56,13 +56,15 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
     setEdited(false);
 }
 
-bool VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section)
+bool VLK_Form_Fuel_Sensor::loadXml(CXmlSection* section, const std::function<void(vlk::FuelRows&)>& complete)
 {
-    const auto rows = vlk::fuelTable(section);
+    auto rows = vlk::fuelTable(section);
     if (!rows) {
         qCWarning(vlk::lcFuel) << "the document holds more rows than a calibration table";
         return false;
     }
+    if (complete)
+        complete(*rows);
     clearRows();
     ui_->lineEdit_Name->setText(vlk::fuelTableName(section));
     isNameTyped_ = false;

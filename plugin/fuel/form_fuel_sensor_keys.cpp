@@ -17,11 +17,26 @@ void VLK_Form_Fuel_Sensor::addClipboardActions()
     connect(copy_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::copyTable);
     connect(paste_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::pasteRows);
     connect(takeBack_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::takePasteBack);
-    for (QAction* action : {copy_, paste_, takeBack_}) {
+    remove_->setShortcut(QKeySequence::Delete);
+    connect(remove_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::removeRows);
+    for (QAction* action : {copy_, paste_, takeBack_, remove_}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         ui_->tableWidget->addAction(action);
     }
     ui_->tableWidget->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void VLK_Form_Fuel_Sensor::removeRows()
+{
+    vlk::CalibrationTable& table = *ui_->tableWidget;
+    if (table.currentRow() < 0)
+        return;
+    const bool wasMarked = table.isMarked(table.currentRow());
+    table.setMarked(table.currentRow(), true);
+    const int rows = table.rowCount();
+    slot_pressed_Btn_Del();
+    if (table.rowCount() == rows)
+        table.setMarked(table.currentRow(), wasMarked);
 }
 
 bool VLK_Form_Fuel_Sensor::eventFilter(QObject* watched, QEvent* event)

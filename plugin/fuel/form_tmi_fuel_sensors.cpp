@@ -267,7 +267,7 @@ void VLK_Form_TMI_Fuel_Sensors::select(const QString& type)
 
 void VLK_Form_TMI_Fuel_Sensors::slot_currentChanged_FuelType(int /*index*/)
 {
-    endShownAt();
+    endNews();
     tellOfTable();
 }
 

@@ -11,6 +11,7 @@
 #include "fuel/question.h"
 #include "fuel/table/fuel_document.h"
 #include "fuel/table/fuel_file.h"
+#include "fuel/table/unsteady_points.h"
 #include "link/device.h"
 #include "typing/notice_bar.h"
 #include "xml/xml_document.h"
@@ -34,6 +35,7 @@ enum NoticeNumber {
     kCut,
     kFlaw,
     kShownAt,
+    kNotInFile,
     kOffers,
     kEdited = std::numeric_limits<int>::max()
 };
@@ -60,7 +62,7 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
     if (form && !form->hasRows()) {
         otherFile_[sensor] = nullptr;
         cutIn_[sensor] = 0;
-        endShownAt();
+        endNews();
     }
     if (!form) {
         for (const auto number : {kFileOfOther, kCut, kFlaw, kEdited})
@@ -111,9 +113,10 @@ void VLK_Form_TMI_Fuel_Sensors::openSave()
                                                  : QString());
 }
 
-void VLK_Form_TMI_Fuel_Sensors::endShownAt()
+void VLK_Form_TMI_Fuel_Sensors::endNews()
 {
     bar_->end(kShownAt);
+    bar_->end(kNotInFile);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
@@ -277,7 +280,8 @@ void VLK_Form_TMI_Fuel_Sensors::loadXml(const QString& path)
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form || !mayReplace(*form))
         return;
-    if (load(*form, [&] { return form->loadXml(document.root()); }))
+    const auto recall = [&path](FuelRows& rows) { recallUnsteady(telemetryFolder(), path, rows); };
+    if (load(*form, [&] { return form->loadXml(document.root(), recall); }))
         showLoaded(before, type);
 }
 
@@ -318,7 +322,7 @@ void VLK_Form_TMI_Fuel_Sensors::showLoaded(const VLK_Form_Fuel_Sensor* before, c
                                            const QString& otherColumn)
 {
     const VLK_Form_Fuel_Sensor* form = currentForm();
-    endShownAt();
+    endNews();
     auto& otherFile = otherFile_[currentSensor()];
     otherFile = nullptr;
     // A letter alone names no sensor.
@@ -358,6 +362,10 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
             isCutClosed_[currentSensor()] = false;
         }
         tellOfTable();
+        if (const int unsteady = form ? rememberUnsteady(telemetryFolder(), path, form->rows()) : 0)
+            bar_->tellNews(kNotInFile, [unsteady] {
+                return Notice{Mark::advice, tr("tmiw_360").arg(unsteady), {}};
+            });
         return;
     }
     if (wasDirty)

@@ -96,6 +96,35 @@ private Q_SLOTS:
         QCOMPARE(shown->item(last, 1)->toolTip(), QString());
     }
 
+    // The key asks as the button does, and leaves the marks as they were where it is not meant.
+    void deletesByKey()
+    {
+        for (const char* litres : {"1", "2", "3", "4"})
+            add("A3", litres, 1000);
+        auto* shown = table("A3");
+        mark("A3", 0);
+        shown->setCurrentCell(2, 1);
+        shown->setFocus();
+        QApplication::setActiveWindow(fuel_.window);
+        answerBox("wrd_002", "cfgt6_050");
+        QTest::keyClick(shown, Qt::Key_Delete);
+        QCOMPARE(shown->rowCount(), 4);
+        QVERIFY(shown->item(0, 2)->checkState() == Qt::Checked &&
+                shown->item(2, 2)->checkState() == Qt::Unchecked);
+        QApplication::setActiveWindow(fuel_.window);
+        answerBox("wrd_001", "cfgt6_050");
+        QTest::keyClick(shown, Qt::Key_Delete);
+        QCOMPARE(rows("A3"), QString("2=1.00 4=1.00"));
+        // In a cell the key is that of what is typed.
+        shown->editItem(shown->item(0, 0));
+        auto* editor = shown->viewport()->findChild<QLineEdit*>();
+        editor->selectAll();
+        QTest::keyClick(editor, Qt::Key_Delete);
+        QCOMPARE(editor->text(), QString());
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QCOMPARE(rows("A3"), QString("2=1.00 4=1.00"));
+    }
+
     // Each opening begins anew, save when rows would be lost; and tabs know what is unsaved.
     void countsWhatIsUnsaved()
     {

@@ -102,6 +102,35 @@ private Q_SLOTS:
         QVERIFY(bar()->isHidden() && QDir(folder.filePath(".unsaved")).isEmpty());
     }
 
+    // A file says nothing of a reading that still changed: it is told when it is saved, and remembered.
+    void remembersWhatStillChanged()
+    {
+        add("A3", "10", 12340);
+        add("A3", "20", 15000, 1);
+        const QString path = folder.filePath("unsteady.xml");
+        saveTo("pushButton_Save_Xml", path);
+        QCOMPARE(fuel_.text("label_Notice"), QString("tmiw_360"));
+        const QString moved = folder.filePath("moved.xml");
+        QVERIFY(QFile::rename(path, moved));
+        answerBox("wrd_001");
+        form("A3")->findChild<QPushButton*>("pushButton_Clear")->click();
+        load(moved);
+        const auto* shown = table("A3");
+        QCOMPARE(shown->item(1, 1)->toolTip(), QString("cfgt6_423"));
+        // Another table is none of it, be it one point more.
+        const QByteArray content = readFile(moved);
+        load(writeFile(moved, QByteArray(content).replace("15.00", "15.01")));
+        QCOMPARE(shown->item(1, 1)->toolTip(), QString());
+        // Measured again, to the same value, it is as sound as any.
+        editCell("A3", "15.00", 1, 1);
+        answerFile(moved);
+        pressInBar("wrd_042 XML");
+        QCOMPARE(readFile(moved), content);
+        load(moved);
+        QCOMPARE(rows("A3"), QString("10=12.34 20=15.00"));
+        QCOMPARE(shown->item(1, 1)->toolTip(), QString());
+    }
+
     // So does one that is saved, though not with its fractions.
     void keepsWhatAFileHasCut()
     {

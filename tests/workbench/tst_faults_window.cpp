@@ -165,6 +165,25 @@ private Q_SLOTS:
         }
     }
 
+    // Nor what a box asks, as long as there is room elsewhere.
+    void coversNoQuestion()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        bench.window.activateWindow();
+        QTRY_VERIFY(bench.window.isActiveWindow());
+        QTest::keyClick(&bench.window, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        visibleFaults()->move(3, 5);
+        QMessageBox question(QMessageBox::Question, {}, QString(8, QLatin1Char('\n')), QMessageBox::Yes,
+                             &bench.window);
+        question.show();
+        // Its words alone are below them.
+        question.move(0, visibleFaults()->frameGeometry().bottom() - 40);
+        QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &question);
+        QVERIFY(!visibleFaults()->frameGeometry().intersects(question.frameGeometry()));
+    }
+
     // What is no question to the tracker does not bring them up, nor does what came up after it.
     void faultsComeUninvitedForTheTrackerAlone()
     {

@@ -3,6 +3,9 @@
 #include "faulty_tracker.h"
 #include "support/data_table.h"
 #include "window/answer_watch.h"
+#include "window/end_signals.h"
+
+#include <csignal>
 
 class SavedPeriodTest : public QObject
 {
@@ -21,6 +24,13 @@ private Q_SLOTS:
         Bench bench;
         bench.prepare(Period);
         bench.take(Period);
+        QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
+        QTRY_COMPARE(Bench::notice(), bench.status());
+        // Not any more when another file is asked for.
+        QFile::remove(bench.file());
+        bench.collect();
+        QVERIFY(!Bench::notice().startsWith(QLatin1String("Saved: ")));
+        bench.tracker().setFaults({});
         QTRY_VERIFY_WITH_TIMEOUT(bench.status().startsWith(QLatin1String("Saved: ")), 20'000);
         bench.take(Output);
         QTRY_COMPARE(Bench::notice(),
@@ -146,6 +156,40 @@ private Q_SLOTS:
         QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Saved in part: ")),
                      qPrintable(bench.everything()));
         QVERIFY2(!Bench::notice().contains(QLatin1String("No answer")), qPrintable(Bench::notice()));
+    }
+
+    // What has come is not lost when the session or the computer ends, and the next run tells of it.
+    void endedByTheSystem()
+    {
+        QStringList left;
+        QString file;
+        {
+            Bench bench;
+            const workbench::EndSignals signalsToEnd;
+            connect(&signalsToEnd, &workbench::EndSignals::came, &bench.window,
+                    &workbench::WorkbenchWindow::leave);
+            // A table over which its window asks when it is closed holds nothing up.
+            bench.prepare(CloseOverTable);
+            bench.collect();
+            file = bench.file();
+            std::raise(SIGTERM);
+            QTimer::singleShot(10'000, &bench.window, [] { QCoreApplication::exit(1); });
+            QCOMPARE(QCoreApplication::exec(), 0);
+            QFile saved(file);
+            QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().count("<Page ") > 2);
+            QVERIFY(!Bench::telemetry());
+            QCOMPARE(bench.settings.recentFiles().value(0).path, file);
+            left = bench.settings.takeCutShort();
+        }
+        OpenedWorkbench next;
+        next.settings.setCutShort(left);
+        QVERIFY(next.start(VLK_PLUGIN));
+        const QString told = next.text("label_Notice");
+        QVERIFY2(
+            told.contains(QLatin1String("was ended while a period was being saved. Saved in part: ") + file),
+            qPrintable(told));
+        QCOMPARE(next.settings.takeCutShort(), QStringList());
+        next.window.close();
     }
 
     // Before there is a file there is nothing to be saved.

@@ -15,6 +15,8 @@
 #include <QTextBlock>
 #include <QtTest>
 
+#include <csignal>
+
 Q_DECLARE_METATYPE(StoredFile)
 
 namespace {
@@ -330,6 +332,28 @@ private Q_SLOTS:
         QCOMPARE(place(), places.last());
         QTest::keyClick(words, Qt::Key_Escape);
         QVERIFY(viewer.isVisible() && words->text().isEmpty() && result->text().isEmpty());
+    }
+
+    // Asked by the system to end it ends by itself, in order.
+    void endsWhenItIsTold()
+    {
+        const QTemporaryDir folder;
+        QProcess workbench;
+        workbench.start(QStringLiteral(VLK_WORKBENCH), {QStringLiteral("--data"), folder.path()});
+        QVERIFY(workbench.waitForStarted());
+        const auto catches = [&workbench] {
+            QFile status(QStringLiteral("/proc/%1/status").arg(workbench.processId()));
+            if (!status.open(QIODevice::ReadOnly))
+                return false;
+            static const QRegularExpression caught(QStringLiteral("SigCgt:\\s*([0-9a-f]+)"));
+            const QString mask = caught.match(QString::fromLatin1(status.readAll())).captured(1);
+            return (mask.toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1) != 0;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(catches(), 60'000);
+        workbench.terminate();
+        QVERIFY(workbench.waitForFinished(60'000));
+        QCOMPARE(workbench.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(workbench.exitCode(), 0);
     }
 
     void obeysTheCommandLine_data()

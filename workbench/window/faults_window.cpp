@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -120,7 +121,7 @@ void FaultsWindow::place()
     const QWidget& owner = *parentWidget();
     const QRect room = owner.screen() ? owner.screen()->availableGeometry() : owner.frameGeometry();
     resizeWithin(this, size());
-    if (wanted_ && (!makesWay_ || covered(*wanted_) == 0)) {
+    if (wanted_ && (!makesWay_ || covered(*wanted_) == Covered())) {
         moveWithin(this, *wanted_);
         madeWay_ = pos(); // if the screen has no room there
         return;
@@ -142,13 +143,19 @@ void FaultsWindow::follow(const QRect& home, bool makesWay)
     resize(home.size());
 }
 
-std::ptrdiff_t FaultsWindow::covered(const QPoint& place) const
+FaultsWindow::Covered FaultsWindow::covered(const QPoint& place) const
 {
+    const QRect here(place, size());
     const auto buttons = parentWidget()->findChildren<QPushButton*>();
-    return std::ranges::count_if(buttons, [&](const QPushButton* button) {
+    const auto hidden = std::ranges::count_if(buttons, [&](const QPushButton* button) {
         return button->isVisible() && button->window() == parentWidget() &&
-               QRect(place, size()).intersects({button->mapToGlobal(QPoint()), button->size()});
+               here.intersects({button->mapToGlobal(QPoint()), button->size()});
     });
+    // What a box asks is to be read before it is answered.
+    const QRect words = qobject_cast<const QMessageBox*>(parentWidget())
+                            ? here.intersected(parentWidget()->frameGeometry())
+                            : QRect();
+    return {hidden, words.width() * words.height()};
 }
 
 QPoint FaultsWindow::freeCorner(const QRect& room) const

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 class QLabel;
 
@@ -48,8 +49,9 @@ public Q_SLOTS:
 private:
     void place();
     QPoint freeCorner(const QRect& room) const;
-    // How many buttons of the owner it would cover there.
-    std::ptrdiff_t covered(const QPoint& place) const;
+    // How many buttons of the owner it would cover there, and how much of a box.
+    using Covered = std::pair<std::ptrdiff_t, int>;
+    Covered covered(const QPoint& place) const;
 
     FaultsPanel* panel_;
     QLabel* trouble_;

@@ -31,12 +31,20 @@ public:
     const AnswerWatch& answers() const { return watch_; }
     // What stands in the status line about the tracker's answers; empty while all is well.
     QString trouble() const { return trouble_ ? trouble_() : QString(); }
+    // Ends the save of a period that runs; its file gets what has come.
+    void endSave();
     // What is said of a save is looked at again.
     void saveEnded();
     // What went well in a window: in the status line, and for a while on that window.
     void tellDone(const Sentence& sentence, QWidget* window)
     {
         tellResult(StatusLine::Command, sentence, true, window);
+    }
+    // What went well is not told any more.
+    void forgetDone()
+    {
+        if (!reason_.isActive())
+            front_.tell(FrontNotice::Result, {});
     }
 
 Q_SIGNALS:
@@ -53,7 +61,6 @@ private:
     void connectRequests();
     QString silence(const QDateTime& since, vlk::Message request);
     vlk::Notice troubleNotice();
-    void endSave();
     // Whether the user has cancelled the save that is told of.
     void lookForCancel();
     void endWait(); // for an answer

@@ -29,6 +29,12 @@ bool isForTracker(const QString& path)
 
 } // namespace
 
+QString savedPartText(const QString& path, const SavedPart& part)
+{
+    return text("wb_saved_part")
+        .arg(QDir::toNativeSeparators(path), number(part.records), number(part.all), part.until);
+}
+
 SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const PluginWindows& windows,
                          RecentFiles& recent, StatusLine& status, QWidget* mainWindow)
     : session_(session), recent_(recent), status_(status), mainWindow_(mainWindow),
@@ -39,8 +45,8 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::tellSaved);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::tellSavedInPart);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::tellFailed);
-    // What was said of an earlier file holds no longer.
     connect(&watch_, &SaveWatch::asked, this, [this] { status_.clear(StatusLine::Command); });
+    connect(&watch_, &SaveWatch::asked, this, &SaveNotices::asked);
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
@@ -68,10 +74,10 @@ void SaveNotices::tellSavedInPart(const QString& path, const SavedPart& part)
     if (storedFileKind(path) == StoredFile::Telemetry)
         recent_.add(path, TelemetryWindow::Browser);
     const bool isGone = !session_.tracker().attached();
-    warn([shown = QDir::toNativeSeparators(path), part, isGone] {
-        const QString held =
-            text("wb_saved_part").arg(shown, number(part.records), number(part.all), part.until);
-        return sentences({held, isGone ? text("wb_saved_part_unplugged") : QString(), text("wb_do_part")});
+    Q_EMIT partSaved(path, part);
+    warn([path, part, isGone] {
+        return sentences({savedPartText(path, part), isGone ? text("wb_saved_part_unplugged") : QString(),
+                          text("wb_do_part")});
     });
 }
 

@@ -11,6 +11,9 @@
 
 namespace workbench {
 
+// How much of its period a file holds, in words.
+QString savedPartText(const QString& path, const SavedPart& part);
+
 class HostSession;
 class PluginWindows;
 class RecentFiles;
@@ -28,8 +31,11 @@ public:
     TypingNotices& typing() { return typing_; }
 
 Q_SIGNALS:
+    // For another file: what was said of an earlier one holds no longer.
+    void asked();
     // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
+    void partSaved(const QString& path, const workbench::SavedPart& part);
     // A save is over, well or not.
     void ended();
 

@@ -22,6 +22,7 @@ const QString kConfigurationKey = QStringLiteral("folders/configuration");
 const QString kOpenedTelemetryKey = QStringLiteral("folders/openedTelemetry");
 const QString kOpenedConfigurationKey = QStringLiteral("folders/openedConfiguration");
 const QString kRecentKey = QStringLiteral("recentFiles");
+const QString kCutShortKey = QStringLiteral("cutShort");
 const QString kTableKey = QStringLiteral("recentFilesInTable");
 
 const QString& openedKey(DataKind kind)
@@ -204,6 +205,18 @@ void Settings::removeRecentFile(const QString& path)
                                      [&path](const RecentFile& file) { return file.path == path; });
     files.erase(gone, files.end());
     setRecentFiles(files);
+}
+
+void Settings::setCutShort(const QStringList& parts)
+{
+    store_->setValue(kCutShortKey, parts);
+}
+
+QStringList Settings::takeCutShort()
+{
+    QStringList parts = store_->value(kCutShortKey).toStringList();
+    store_->remove(kCutShortKey);
+    return parts;
 }
 
 QByteArray Settings::layout(const QString& name) const

@@ -74,6 +74,10 @@ public:
     void addRecentFile(const QString& path, TelemetryWindow window = TelemetryWindow::Browser);
     void removeRecentFile(const QString& path);
 
+    // The file that got a part of its period because the program was ended, and how much of it; told once.
+    void setCutShort(const QStringList& parts);
+    QStringList takeCutShort();
+
     // Geometry and state of a window or splitter, by its object name.
     QByteArray layout(const QString& name) const;
     void setLayout(const QString& name, const QByteArray& state);

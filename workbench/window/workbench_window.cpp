@@ -22,6 +22,7 @@
 #include "window/start_panel.h"
 #include "window/status_line.h"
 #include "window/tracker_panel.h"
+#include "window/trouble_text.h"
 #include "window/used_folders.h"
 #include "window/write_report_text.h"
 #include "window/write_report_view.h"
@@ -198,6 +199,7 @@ void WorkbenchWindow::connectNotices()
                                              commands_[Command::Faults]->shortcut(), this);
     saveNotices_ = std::make_unique<SaveNotices>(pluginLog_, session_, windows_, *recent_, *status_, this);
     session_.setTyped([this] { return saveNotices_->typing().lines(); });
+    connect(saveNotices_.get(), &SaveNotices::asked, linkNotices_.get(), &LinkNotices::forgetDone);
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
@@ -228,6 +230,7 @@ bool WorkbenchWindow::start(const QString& pluginPath)
     start_->takeFocus();
     if (loaded)
         session_.road().tellLeft();
+    tellCutShort();
     return loaded;
 }
 
@@ -445,6 +448,12 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    closeWindows();
+    event->accept();
+}
+
+void WorkbenchWindow::closeWindows()
+{
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
     session_.link().send(vlk::Message::CloseWindows);
@@ -453,7 +462,41 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event)
         if (window != this && window->isVisible())
             window->close();
     }
-    event->accept();
+}
+
+void WorkbenchWindow::endSave()
+{
+    if (session_.link().runningWork().saving)
+        linkNotices_->endSave();
+}
+
+void WorkbenchWindow::leave()
+{
+    // First, so that a box or a dialog that comes up from here on goes at once.
+    QCoreApplication::quit();
+    connect(saveNotices_.get(), &SaveNotices::partSaved, this,
+            [this](const QString& path, const SavedPart& part) {
+                settings_.setCutShort(
+                    {path, QString::number(part.records), QString::number(part.all), part.until});
+            });
+    endSave();
+    // What became of it comes from the event loop, which has an end now.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+    closeWindows();
+}
+
+void WorkbenchWindow::tellCutShort()
+{
+    constexpr int kCutShort = 2;
+    const QStringList parts = settings_.takeCutShort();
+    if (parts.size() < 4)
+        return;
+    bar_->tell(kCutShort, [path = parts[0],
+                           part = SavedPart{parts[1].toLongLong(), parts[2].toLongLong(), parts[3]}] {
+        return vlk::Notice{vlk::Mark::advice,
+                           sentences({text("wb_620"), savedPartText(path, part), text("wb_do_part")}),
+                           {}};
+    });
 }
 
 // Asked before anything goes, so that all stays as it is on Cancel.

@@ -66,6 +66,10 @@ public:
     // What holds for the whole run, in the status line and, until it is closed, in the bar; null when it does
     // no longer.
     void tellOfRun(const Sentence& text);
+    // The user's session may end: the save of a period that runs ends as a cancel would end it.
+    void endSave();
+    // The program ends, whatever it has in hand and without a question.
+    void leave();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -90,6 +94,9 @@ private:
     void showBalance();
     void about();
     bool mayClose();
+    void closeWindows();
+    // That the last run was ended in a save.
+    void tellCutShort();
     void showReport(const RoadReport& report);
     void showHistory();
     void showEdited();
