@@ -242,7 +242,7 @@ std::vector<review::Hit> ReviewBar::found(const QString& words)
 {
     if (!search_ || searchesQuick_ != review_.isQuick())
         makeSearch();
-    const std::vector<review::Hit> all = search_->find(words);
+    std::vector<review::Hit> all = search_->find(words);
     if (!searchesQuick_)
         return all;
     std::vector<review::Hit> hits;

@@ -81,7 +81,7 @@ std::optional<RoadReport> PendingWrite::left() const
     for (const auto& [key, value] : textsOf(report))
         *value = object[QLatin1String(key)].toString();
     for (const auto& [key, values] : listsOf(report)) {
-        for (const QJsonValue& kept : object[QLatin1String(key)].toArray())
+        for (const QJsonValue kept : object[QLatin1String(key)].toArray())
             values->append(kept.toString());
     }
     if (report.tracker.number.isEmpty())

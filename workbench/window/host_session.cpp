@@ -272,9 +272,9 @@ void HostSession::finish(const RoadReport& report)
         else
             edited_.written(request.document, report.tracker.number);
         dropWritten(request);
-    } else if (isGivenUp) {
-        removeKept(request.file);
     }
+    if (isGivenUp)
+        removeKept(request.file);
     Q_EMIT editedChanged();
 }
 
