@@ -1792,6 +1792,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
     <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
     <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
+    <message id="rev_380"><translation>Saved: %1. Settings: %2 of %3</translation></message>
+    <message id="rev_381"><translation>As a whole: %1</translation></message>
+    <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
+    <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>

@@ -1792,6 +1792,10 @@
     <message id="rev_352"><translation>Изменено здесь после открытия конфигурации: %1</translation></message>
     <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
     <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
+    <message id="rev_380"><translation>Сохранено: %1. Параметров: %2 из %3</translation></message>
+    <message id="rev_381"><translation>Целиком: %1</translation></message>
+    <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
+    <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
