@@ -1293,14 +1293,15 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="find_023"><translation>card reader</translation></message>
     <message id="find_024"><translation>485 address, FLS address, fuel sensor address</translation></message>
     <message id="find_025"><translation>smoothing of fuel</translation></message>
-    <message id="find_026"><translation>alarm, alarm zone, temperature threshold, minimum, cold</translation></message>
-    <message id="find_027"><translation>alarm, alarm zone, temperature threshold, maximum, heat</translation></message>
+    <message id="find_026"><translation>alarm, alarm zone, temperature threshold, minimum, cold, thermometer</translation></message>
+    <message id="find_027"><translation>alarm, alarm zone, temperature threshold, maximum, heat, thermometer</translation></message>
     <message id="find_028"><translation>alarm button, SOS button, panic button, door sensor, ignition</translation></message>
     <message id="find_029"><translation>ignition, ignition sensor</translation></message>
     <message id="find_030"><translation>engine blocking, engine cut, immobilizer, immobiliser, relay, siren</translation></message>
-    <message id="find_031"><translation>wireless</translation></message>
+    <message id="find_031"><translation>wireless, BLE</translation></message>
     <message id="find_032"><translation>FLS, fuel level sensor, fuel gauge</translation></message>
     <message id="find_033"><translation>hardware address</translation></message>
+    <message id="find_034"><translation>odometer</translation></message>
     <message id="rec_001"><translation>Fi&amp;lter</translation></message>
     <message id="rec_002"><translation>For example: Speed &gt; 60 and Supply voltage &lt; 11.5</translation></message>
     <message id="rec_003"><translation>A column, a sign (= != &lt; &gt; &lt;= &gt;=) and a value; several are joined by and, or, not and brackets. Enter applies the filter, an empty field shows all records.</translation></message>

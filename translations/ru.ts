@@ -1293,14 +1293,15 @@
     <message id="find_023"><translation>РФИД, считыватель карт</translation></message>
     <message id="find_024"><translation>485 адрес, адрес ДУТ, адрес датчика топлива</translation></message>
     <message id="find_025"><translation>сглаживание топлива</translation></message>
-    <message id="find_026"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум</translation></message>
-    <message id="find_027"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, максимум</translation></message>
+    <message id="find_026"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум, термодатчик, термометр</translation></message>
+    <message id="find_027"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, максимум, термодатчик, термометр</translation></message>
     <message id="find_028"><translation>тревожная кнопка, кнопка SOS, датчик двери, зажигание</translation></message>
     <message id="find_029"><translation>зажигание, датчик зажигания</translation></message>
     <message id="find_030"><translation>блокировка двигателя, глушение двигателя, иммобилайзер, реле, сирена</translation></message>
-    <message id="find_031"><translation>блютуз, блютус</translation></message>
+    <message id="find_031"><translation>блютуз, блютус, BLE</translation></message>
     <message id="find_032"><translation>ДУТ, датчик уровня топлива, топливный датчик</translation></message>
     <message id="find_033"><translation>мак-адрес, мак адрес</translation></message>
+    <message id="find_034"><translation>одометр</translation></message>
     <message id="rec_001"><translation>Фи&amp;льтр</translation></message>
     <message id="rec_002"><translation>Например: Скорость &gt; 60 и Напряжение питания &lt; 11,5</translation></message>
     <message id="rec_003"><translation>Столбец, знак (= != &lt; &gt; &lt;= &gt;=) и значение; несколько условий соединяются словами и, или, не и скобками. Enter применяет фильтр, пустое поле показывает все записи.</translation></message>
