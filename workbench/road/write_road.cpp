@@ -275,6 +275,7 @@ void WriteRoad::readBackCame(const QByteArray& document)
         fail(Fault::incomparable);
         return;
     }
+    report_.readBack = document;
     SettingChanges notTaken = *missed;
     leaveKeptSections(notTaken, sectionsOf(review_.request.document), &SettingChange::before);
     // Where nothing was to change, what came back is not what had been there.
