@@ -1293,14 +1293,15 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="find_023"><translation>card reader</translation></message>
     <message id="find_024"><translation>485 address, FLS address, fuel sensor address</translation></message>
     <message id="find_025"><translation>smoothing of fuel</translation></message>
-    <message id="find_026"><translation>alarm, alarm zone, temperature threshold, minimum, cold</translation></message>
-    <message id="find_027"><translation>alarm, alarm zone, temperature threshold, maximum, heat</translation></message>
+    <message id="find_026"><translation>alarm, alarm zone, temperature threshold, minimum, cold, thermometer</translation></message>
+    <message id="find_027"><translation>alarm, alarm zone, temperature threshold, maximum, heat, thermometer</translation></message>
     <message id="find_028"><translation>alarm button, SOS button, panic button, door sensor, ignition</translation></message>
     <message id="find_029"><translation>ignition, ignition sensor</translation></message>
     <message id="find_030"><translation>engine blocking, engine cut, immobilizer, immobiliser, relay, siren</translation></message>
-    <message id="find_031"><translation>wireless</translation></message>
+    <message id="find_031"><translation>wireless, BLE</translation></message>
     <message id="find_032"><translation>FLS, fuel level sensor, fuel gauge</translation></message>
     <message id="find_033"><translation>hardware address</translation></message>
+    <message id="find_034"><translation>odometer</translation></message>
     <message id="rec_001"><translation>Fi&amp;lter</translation></message>
     <message id="rec_002"><translation>For example: Speed &gt; 60 and Supply voltage &lt; 11.5</translation></message>
     <message id="rec_003"><translation>A column, a sign (= != &lt; &gt; &lt;= &gt;=) and a value; several are joined by and, or, not and brackets. Enter applies the filter, an empty field shows all records.</translation></message>
@@ -1795,6 +1796,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_352"><translation>Changed here since the configuration was opened: %1</translation></message>
     <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
     <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
+    <message id="rev_380"><translation>Saved: %1. Settings: %2 of %3</translation></message>
+    <message id="rev_381"><translation>As a whole: %1</translation></message>
+    <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
+    <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>

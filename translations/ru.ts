@@ -1293,14 +1293,15 @@
     <message id="find_023"><translation>РФИД, считыватель карт</translation></message>
     <message id="find_024"><translation>485 адрес, адрес ДУТ, адрес датчика топлива</translation></message>
     <message id="find_025"><translation>сглаживание топлива</translation></message>
-    <message id="find_026"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум</translation></message>
-    <message id="find_027"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, максимум</translation></message>
+    <message id="find_026"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, минимум, термодатчик, термометр</translation></message>
+    <message id="find_027"><translation>тревога, температурная тревога, тревожная зона, порог температуры, температурный порог, максимум, термодатчик, термометр</translation></message>
     <message id="find_028"><translation>тревожная кнопка, кнопка SOS, датчик двери, зажигание</translation></message>
     <message id="find_029"><translation>зажигание, датчик зажигания</translation></message>
     <message id="find_030"><translation>блокировка двигателя, глушение двигателя, иммобилайзер, реле, сирена</translation></message>
-    <message id="find_031"><translation>блютуз, блютус</translation></message>
+    <message id="find_031"><translation>блютуз, блютус, BLE</translation></message>
     <message id="find_032"><translation>ДУТ, датчик уровня топлива, топливный датчик</translation></message>
     <message id="find_033"><translation>мак-адрес, мак адрес</translation></message>
+    <message id="find_034"><translation>одометр</translation></message>
     <message id="rec_001"><translation>Фи&amp;льтр</translation></message>
     <message id="rec_002"><translation>Например: Скорость &gt; 60 и Напряжение питания &lt; 11,5</translation></message>
     <message id="rec_003"><translation>Столбец, знак (= != &lt; &gt; &lt;= &gt;=) и значение; несколько условий соединяются словами и, или, не и скобками. Enter применяет фильтр, пустое поле показывает все записи.</translation></message>
@@ -1795,6 +1796,10 @@
     <message id="rev_352"><translation>Изменено здесь после открытия конфигурации: %1</translation></message>
     <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
     <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
+    <message id="rev_380"><translation>Сохранено: %1. Параметров: %2 из %3</translation></message>
+    <message id="rev_381"><translation>Целиком: %1</translation></message>
+    <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
+    <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>

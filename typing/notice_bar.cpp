@@ -326,7 +326,9 @@ void NoticeBar::refresh()
     showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);
+    text_->setToolTip(shown->notice.more);
     setAccessibleName(shown->notice.text);
+    setAccessibleDescription(shown->notice.more);
     show();
     claimHeight();
     update();

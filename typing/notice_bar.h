@@ -36,6 +36,7 @@ struct Notice
     QString text;
     std::vector<Action> actions; // at most two
     bool mayClose = true;        // by the user; what offers the only way out stays
+    QString more{};              // for the tool tip
 };
 
 class NoticeBar : public QFrame

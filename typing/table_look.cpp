@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QShortcut>
@@ -44,6 +45,11 @@ public:
         style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
         cell.rect = content(cell);
         style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        // The frame of a style is hardly seen in a dark window, and here nothing else tells the row.
+        if (option.state.testFlag(QStyle::State_HasFocus) && !option.state.testFlag(QStyle::State_Selected)) {
+            painter->setPen(option.palette.color(QPalette::Text));
+            painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+        }
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -121,6 +127,50 @@ bool isHidden(const QAbstractItemView& view, int row)
     return table && table->isRowHidden(row);
 }
 
+// To the first or the last row, which is chosen alone then. With Ctrl a view goes there and leaves chosen
+// what was, so that the next key acts on a row out of sight too.
+class EndKeys : public QObject
+{
+public:
+    // `isList`: without Ctrl as well, instead of along the row.
+    EndKeys(QAbstractItemView* view, bool isList) : QObject(view), view_(view), isList_(isList)
+    {
+        view->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (isGoing_ || event->type() != QEvent::KeyPress ||
+            view_->selectionMode() == QAbstractItemView::NoSelection)
+            return QObject::eventFilter(watched, event);
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const Qt::KeyboardModifiers held = key->modifiers() & ~Qt::KeypadModifier;
+        const bool isEnd = key->key() == Qt::Key_Home || key->key() == Qt::Key_End;
+        if (!isEnd || (!isList_ && held != Qt::ControlModifier))
+            return QObject::eventFilter(watched, event);
+        const QModelIndex from = view_->currentIndex();
+        QKeyEvent whole(QEvent::KeyPress, key->key(), Qt::ControlModifier);
+        isGoing_ = true;
+        QCoreApplication::sendEvent(view_, &whole);
+        isGoing_ = false;
+        const QModelIndex to = view_->currentIndex();
+        const bool extends = held.testFlag(Qt::ShiftModifier) && from.isValid() &&
+                             view_->selectionMode() == QAbstractItemView::ExtendedSelection;
+        if (extends)
+            view_->selectionModel()->select(QItemSelection(std::min(from, to), std::max(from, to)),
+                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        else
+            view_->selectionModel()->select(to,
+                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return true;
+    }
+
+private:
+    QAbstractItemView* view_;
+    bool isList_;
+    bool isGoing_ = false;
+};
+
 void dressView(QAbstractItemView* view, QHeaderView* heads)
 {
     view->setAlternatingRowColors(true);
@@ -149,8 +199,10 @@ void addCopy(QAbstractItemView* view)
 void dressTable(QTableView* table, TableUse use)
 {
     dressView(table, table->horizontalHeader());
-    if (use != TableUse::edit)
+    if (use != TableUse::edit) {
         dressCells(table);
+        new EndKeys(table, use == TableUse::read);
+    }
     if (use == TableUse::read)
         addCopy(table);
     table->setShowGrid(use == TableUse::edit);
@@ -167,6 +219,7 @@ void dressTable(QTreeView* tree)
 {
     dressView(tree, tree->header());
     dressCells(tree);
+    new EndKeys(tree, true);
     addCopy(tree);
     tree->setRootIsDecorated(false);
     tree->setUniformRowHeights(true);

@@ -3,7 +3,7 @@
 // How tables look in the windows of either program: low rows that alternate, texts with room on both sides, a
 // grid only where cells are edited, no row numbers. A text that has no room is told by its tool tip. Where
 // nothing is edited Ctrl+C takes the chosen rows with the heads of their columns, or all where none is
-// chosen.
+// chosen, and Home and End choose the first and the last row.
 
 #include <QString>
 #include <qnamespace.h>
@@ -17,7 +17,7 @@ namespace vlk {
 enum class TableUse {
     read,
     edit,
-    show, // as read, but what Ctrl+C takes is the window's matter
+    show, // as read, but what Ctrl+C takes is the window's matter, and Home and End need Ctrl
 };
 
 void dressTable(QTableView* table, TableUse use);

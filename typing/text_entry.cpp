@@ -109,9 +109,17 @@ void TextEntry::rejected()
     const int fit = room();
     const int wanted = line_->text().size() - line_->selectedText().size() + std::max(1, typed_.size());
     const bool isTooLong = line_->inputMask().isEmpty() && wanted > fit;
+    isKeyOnly_ = (isKeyOnly_ || !isMarked_) && !isTooLong && !isPasted_;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
                    : QCoreApplication::translate("vlk", "typed_sign"));
     beginsAnew_ = false;
+}
+
+// Of a key that the line did not take nothing is left in it.
+void TextEntry::leave()
+{
+    if (isKeyOnly_ && complaint().isEmpty())
+        tell({});
 }
 
 bool TextEntry::isBlank() const
@@ -125,7 +133,8 @@ bool TextEntry::keyPressed(QKeyEvent* event)
     if (isMnemonic(*event))
         return true;
     beginsAnew_ = beginsAnew_ || isBlank();
-    typed_ = event->matches(QKeySequence::Paste) ? QApplication::clipboard()->text() : event->text();
+    isPasted_ = event->matches(QKeySequence::Paste);
+    typed_ = isPasted_ ? QApplication::clipboard()->text() : event->text();
     switch (event->key()) {
     case Qt::Key_Escape:
         // Where there is nothing to give up the key is the window's.
@@ -165,6 +174,11 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
             before_ = line_->text();
             beginsAnew_ = true;
         }
+        break;
+    case QEvent::FocusOut:
+        if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            leave();
         break;
     case QEvent::ShortcutOverride:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -1,14 +1,14 @@
 #pragma once
 
-// Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field; Esc gives
-// back the text that stood there when the field was entered and closes no window, and Enter presses no
-// button. In an input mask the caret stays where the next sign is missing unless more stands behind it.
+// Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field, a key that
+// did not fit as long as the field has the keyboard or its text is doubtful; Esc gives back the text that
+// stood there when the field was entered and closes no window, and Enter presses no button. In an input mask
+// the caret stays where the next sign is missing unless more stands behind it.
 
 #include <QObject>
 #include <QString>
 
 #include <functional>
-#include <utility>
 
 class QKeyEvent;
 class QLineEdit;
@@ -26,8 +26,10 @@ public:
     // Says what is wrong with a text that is taken all the same, with an empty text if nothing is.
     void doubt(std::function<QString(const QString&)> complaint);
 
-    // What was left out of what was typed since this was asked the last time; empty if nothing was.
-    QString takeNews() { return std::exchange(news_, {}); }
+    // What was left out of what was typed, as the line is marked for it; empty if nothing was.
+    QString news() const { return news_; }
+    // Takes that mark away: the text is to be shown as it is.
+    void giveUp() { tell({}); }
 
     // What is doubtful about the text that stands there; empty if nothing is.
     QString complaint() const;
@@ -40,6 +42,7 @@ private:
     bool keyPressed(QKeyEvent* event);
     bool leavesToWindow(QKeyEvent* event) const;
     void rejected();
+    void leave();
     void keepInMask();
     bool isBlank() const;
     // How many characters fit, as far as the line limits them.
@@ -52,9 +55,11 @@ private:
     QString shown_; // the text before a change
     QString news_;
     bool isMarked_ = false;   // for what was typed
+    bool isKeyOnly_ = false;  // for no more than keys that did not fit
     bool isDoubted_ = false;  // for what stands there
     bool beginsAnew_ = false; // nothing was left out of what is typed next
-    QString typed_;           // that comes with the key being pressed
+    bool isPasted_ = false;   // by the key being pressed
+    QString typed_;           // that comes with it
     std::function<QString(const QString&)> complaint_;
 };
 

@@ -46,7 +46,9 @@ bool TwoLineLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip || !isCut())
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    QStringList told{text(), toolTip()};
+    told.removeAll(QString());
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), told.join(QLatin1Char('\n')), this);
     return true;
 }
 
@@ -57,13 +59,17 @@ void TwoLineLabel::paintEvent(QPaintEvent* event)
         return;
     }
     const QRect room = contentsRect();
-    QTextLayout layout(text(), font());
+    // A layout breaks at no other sign.
+    QString whole = text();
+    whole.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
+    QTextLayout layout(whole, font());
     layout.beginLayout();
     QTextLine first = layout.createLine();
     first.setLineWidth(room.width());
     layout.endLayout();
     const int rest = first.textStart() + first.textLength();
-    const QString second = fontMetrics().elidedText(text().mid(rest), Qt::ElideRight, room.width());
+    const QString second =
+        fontMetrics().elidedText(text().mid(rest).simplified(), Qt::ElideRight, room.width());
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,

@@ -36,7 +36,6 @@ void TypedEntry::typedOn()
 {
     setTyping(true);
     news_.clear();
-    refusal_.clear();
     mark(Mark::invalid, complaint(typed()));
 }
 
@@ -64,7 +63,6 @@ void TypedEntry::finish()
     restore();
     taking_ = false;
     news_ = news ? news->text : QString();
-    refusal_ = news && news->mark == Mark::invalid ? news_ : QString();
     mark(news ? news->mark : Mark::advice, news_);
 }
 
@@ -74,7 +72,6 @@ void TypedEntry::giveUp()
         restore();
     setTyping(false);
     news_.clear();
-    refusal_.clear();
     mark(Mark::advice, {});
 }
 

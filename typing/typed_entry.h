@@ -37,10 +37,10 @@ public:
     void finish();
     // Shows the value of the box, whatever was typed, and takes the mark away.
     void giveUp();
-    // What was not taken as it was typed since this was asked the last time; empty if all was.
+    // What was typed last and not taken as it was, as the box is marked for it; empty if it was.
+    QString news() const { return news_; }
+    // The same, once.
     QString takeNews();
-    // Why the box is marked as wrong: what was typed last was refused. Empty when it was not.
-    QString refusal() const { return refusal_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -82,7 +82,6 @@ private:
     bool taking_ = false;
     bool isMarked_ = false;
     QString news_;
-    QString refusal_;
 };
 
 } // namespace vlk

@@ -64,6 +64,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     against_ = Against::file;
     otherName_ = {};
     fileName_.clear();
+    Q_EMIT compared();
     history_.begin();
 }
 
@@ -144,6 +145,7 @@ void ConfigurationReview::compareWith(FileState before, Against against, const E
     otherName_ = name;
     differences_ = Differences(std::move(before), now());
     beyond_.reset();
+    Q_EMIT compared();
     Q_EMIT changed();
 }
 

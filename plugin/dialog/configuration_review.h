@@ -116,6 +116,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    // Another comparison begins, or the same one anew; before changed().
+    void compared();
 
 private:
     // Without a root the configuration, which is new, is what it came as.

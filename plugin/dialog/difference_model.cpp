@@ -44,6 +44,7 @@ const QString& cell(const review::DifferenceText& text, const QString& setting, 
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
     : QAbstractTableModel(parent), review_(review)
 {
+    connect(&review_, &ConfigurationReview::compared, this, [this] { unchosen_.clear(); });
 }
 
 DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& difference) const
@@ -204,21 +205,21 @@ void DifferenceModel::tellWhole(Line* line, const QString& value)
     }
 }
 
-bool DifferenceModel::hasCheckMark(const Line& line) const
+bool DifferenceModel::hasCheckMark(const Line& line)
 {
     return line.difference.key >= 0 && line.head < 0;
 }
 
-bool DifferenceModel::isChosen(const Line& line) const
+bool DifferenceModel::isChosen(const Line& line, const QSet<QString>& unchosen)
 {
-    return hasCheckMark(line) && !unchosen_.contains(line.difference.path);
+    return hasCheckMark(line) && !unchosen.contains(line.difference.path);
 }
 
-std::vector<int> DifferenceModel::chosenKeys() const
+std::vector<int> DifferenceModel::keysOf(const QSet<QString>& unchosen) const
 {
     std::vector<int> keys;
     for (const Line& line : lines_) {
-        if (isChosen(line))
+        if (isChosen(line, unchosen))
             keys.push_back(line.difference.key);
     }
     // A setting decides about others that decide in their turn.

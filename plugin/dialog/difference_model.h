@@ -1,8 +1,8 @@
 #pragma once
 
 // The differences of a configuration as a table: page, setting, before and now, each line with a check mark
-// that chooses it for what is done with the chosen ones. All are chosen at first. Of a preset what cannot be
-// applied comes first, with the reason and without a check mark.
+// that chooses it for what is done with the chosen ones. All are chosen when a comparison begins. Of a preset
+// what cannot be applied comes first, with the reason and without a check mark.
 //
 // What nobody has edited stands behind one line a page, which opens, and has no check marks: what quick setup
 // makes of any file, which cannot be taken back in it, and what comes along with other settings, and goes
@@ -39,7 +39,9 @@ public:
     // Lines that cannot be applied stay as they are.
     void choose(const QVector<int>& lines, bool isChosen);
     // Keys of the chosen lines that can be taken over.
-    std::vector<int> chosenKeys() const;
+    std::vector<int> chosenKeys() const { return keysOf(unchosen_); }
+    // The same, if all were chosen.
+    std::vector<int> choosableKeys() const { return keysOf({}); }
     // With a heading, as a spreadsheet takes it.
     QString csv() const;
     // What is on show, but for what can be chosen and is not, with a heading and tabs between the cells.
@@ -74,8 +76,10 @@ private:
     void addBehindHead(const char* key, std::vector<Line>* lines);
     void showLines();
     const Line& lineAt(int line) const { return lines_[shown_[line]]; }
-    bool hasCheckMark(const Line& line) const;
-    bool isChosen(const Line& line) const;
+    static bool hasCheckMark(const Line& line);
+    bool isChosen(const Line& line) const { return isChosen(line, unchosen_); }
+    static bool isChosen(const Line& line, const QSet<QString>& unchosen);
+    std::vector<int> keysOf(const QSet<QString>& unchosen) const;
     // That a preset sets the setting as a whole, of one of many parts.
     static void tellWhole(Line* line, const QString& value);
 

@@ -165,16 +165,6 @@ bool ListPanel::eventFilter(QObject* watched, QEvent* event)
     case Qt::Key_Space:
         toggle(selectedLines());
         return true;
-    case Qt::Key_Home:
-    case Qt::Key_End: {
-        // Without Ctrl they would go along the line.
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->modifiers() & Qt::ControlModifier)
-            return false;
-        QKeyEvent whole(QEvent::KeyPress, key->key(), key->modifiers() | Qt::ControlModifier);
-        QCoreApplication::sendEvent(table_, &whole);
-        return true;
-    }
     default:
         return QWidget::eventFilter(watched, event);
     }
@@ -183,6 +173,9 @@ bool ListPanel::eventFilter(QObject* watched, QEvent* event)
 QVector<int> ListPanel::selectedLines() const
 {
     QVector<int> lines{table_->currentIndex().row()};
+    // Ctrl and an arrow go on and leave the selection where it was, maybe out of sight.
+    if (!table_->selectionModel()->isRowSelected(lines.first(), {}))
+        return lines;
     for (const QModelIndex& index : table_->selectionModel()->selectedRows()) {
         if (!lines.contains(index.row()))
             lines << index.row();

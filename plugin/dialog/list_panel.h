@@ -56,7 +56,7 @@ protected:
     virtual void take(int line) = 0;
     // The table has another width.
     virtual void fitTable() {}
-    // The space bar, on the lines that are selected; the first one is the current one.
+    // The space bar, on the lines that are selected, the current one first; on that alone where it is not.
     virtual void toggle(const QVector<int>& /*lines*/) {}
 
     QTableView* table() const { return table_; }

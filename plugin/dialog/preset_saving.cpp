@@ -9,6 +9,8 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -61,24 +63,39 @@ Wholes wholesOf(const review::FileState& from, const std::vector<int>& keys)
     return wholes;
 }
 
-Notice savedPresetNotice(const QString& path, const Wholes& wholes)
+// In two lines, for which the bar has room; the tool tip tells what becomes of the rest.
+Notice savedPresetNotice(const QString& path, int count, int all, const Wholes& wholes)
 {
-    Notice notice = savedNotice(path);
+    const QLocale locale;
+    Notice notice{
+        Mark::right,
+        word("rev_380").arg(QDir::toNativeSeparators(path), locale.toString(count), locale.toString(all)),
+        {}};
+    QStringList names;
+    QStringList told;
     for (const auto& [key, parts] : wholes) {
         const review::FileKey& place = review::FileKeys::all()[key];
         const TableLayout& layout = review::FileKeys::all().layout(place.table);
         const QString caption = review::wordsOf(layout, place.rows.front()).caption;
+        const bool goesOff = parts.rest.isEmpty();
+        const auto tell = [&, &parts = parts](const char* text) {
+            return word(text).arg(caption).arg(parts.count).arg(parts.all);
+        };
+        names << tell(goesOff ? "rev_382" : "rev_383");
+        told << (goesOff ? tell("rev_252") : tell("rev_342").arg(parts.rest));
+    }
+    if (!names.isEmpty()) {
         notice.mark = Mark::advice;
-        const QString told =
-            word(parts.rest.isEmpty() ? "rev_252" : "rev_342").arg(caption).arg(parts.count).arg(parts.all);
-        notice.text += QLatin1Char('\n') + (parts.rest.isEmpty() ? told : told.arg(parts.rest));
+        notice.text += QLatin1Char('\n') + word("rev_381").arg(names.join(QStringLiteral("; ")));
+        notice.more = told.join(QLatin1Char('\n'));
     }
     return notice;
 }
 
 } // namespace
 
-std::function<Notice()> savePreset(QWidget* parent, const review::FileState& from, std::vector<int> keys)
+std::function<Notice()> savePreset(QWidget* parent, const review::FileState& from, std::vector<int> keys,
+                                   int all)
 {
     std::erase_if(keys, [&](int key) { return !from.at(key).isThere; });
     if (keys.empty()) {
@@ -102,7 +119,11 @@ std::function<Notice()> savePreset(QWidget* parent, const review::FileState& fro
         warn(parent, failure);
         return {};
     }
-    return [path, wholes = wholesOf(from, keys)] { return savedPresetNotice(path, wholes); };
+    const int count = static_cast<int>(keys.size()) -
+                      (personal == review::Personal::leftOut ? static_cast<int>(personals) : 0);
+    return [path, count, all, wholes = wholesOf(from, keys)] {
+        return savedPresetNotice(path, count, all, wholes);
+    };
 }
 
 } // namespace vlk

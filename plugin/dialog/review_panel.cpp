@@ -222,7 +222,8 @@ void ReviewPanel::takeOver()
 
 void ReviewPanel::saveAsPreset()
 {
-    if (const auto notice = savePreset(this, review_.differences().after(), model_.chosenKeys()))
+    if (const auto notice = savePreset(this, review_.differences().after(), model_.chosenKeys(),
+                                       static_cast<int>(model_.choosableKeys().size())))
         Q_EMIT told(notice);
 }
 

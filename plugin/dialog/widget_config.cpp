@@ -336,9 +336,17 @@ void VLK_Widget_Config::saveToXml(CXmlSection* root)
     lightWindow_->saveToXml(root);
 }
 
-void VLK_Widget_Config::switchToFull()
+// What is wrong in it the other one may mend.
+void VLK_Widget_Config::leaveWindow()
 {
     keeper_.keep();
+    for (vlk::PageSettings* page : pagesOnShow())
+        page->takeBackNews();
+}
+
+void VLK_Widget_Config::switchToFull()
+{
+    leaveWindow();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); }, [this] { showFull(); });
     keeper_.switched();
     unsaved_->endFile();
@@ -346,7 +354,7 @@ void VLK_Widget_Config::switchToFull()
 
 void VLK_Widget_Config::switchToQuick()
 {
-    keeper_.keep();
+    leaveWindow();
     history_.asOne([] { return QCoreApplication::translate("vlk", "rev_129"); }, [this] { showQuick(); });
     keeper_.switched();
     unsaved_->endFile();

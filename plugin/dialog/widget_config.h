@@ -70,6 +70,7 @@ private:
     bool isQuick() const;
     std::vector<vlk::PageSettings*> pagesOnShow() const;
     vlk::PageSettings* pageOnShow();
+    void leaveWindow();
     void showFull();
     void showQuick();
     void addReview();

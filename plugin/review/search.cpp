@@ -140,6 +140,8 @@ void Search::add(int table, int row, int part)
 {
     const QString& path = tables_[table]->row(row).filePath;
     Entry entry{{table, row, part}, folded(path), {}, {}};
+    const auto* mask = part < 0 ? nullptr : tables_[table]->setting(row).as<Mask>();
+    const QString named = mask ? path + QLatin1Char('/') + QLatin1String(mask->fields[part].widget) : path;
     for (int language = 0; language < languages(); ++language) {
         std::optional<TextsFrom> texts;
         if (language > 0)
@@ -155,7 +157,7 @@ void Search::add(int table, int row, int part)
         words[group] = folded(told.group);
         words[page] = folded(told.page);
         words[choices] = folded(choiceTexts(setting));
-        words[names] = folded(otherNames(path));
+        words[names] = folded(otherNames(named));
     }
     entries_.push_back(std::move(entry));
 }

@@ -7,7 +7,9 @@ namespace vlk::review {
 
 struct SearchWords
 {
-    const char* path; // in the file, without all digits: of all lines, sensors and servers alike
+    // In the file, without all digits: of all lines, sensors and servers alike; of a part of a mask with the
+    // name of its widget behind it.
+    const char* path;
     const char* text; // translation key of what it is called, by commas
 };
 
@@ -46,6 +48,7 @@ inline constexpr SearchWords kSearchWords[] = {
     {"BLUETOOTH/GLOBAL/use", "find_031"},
     {"BLUETOOTH/SENS/type", "find_032"},
     {"BLUETOOTH/SENS/macaddr", "find_033"},
+    {"PROTOCOL/ZETA/mask/checkBox_Run", "find_034"},
 };
 
 } // namespace vlk::review

@@ -386,12 +386,64 @@ private Q_SLOTS:
         const QString written = host_.takeSent(Message::WriteConfiguration).value(0).text1;
         QVERIFY(readFile(written).contains("regTimer=\"900\""));
         QVERIFY(QFile::remove(written));
-        // Once another value is typed it is told that this holds no longer; the port is as it was.
+    }
+
+    // Every time, and no longer once it is mended, however that is done.
+    void tellsWhatIsWrongNow()
+    {
+        static QStringList told;
+        const auto before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext& from, const QString& text) {
+                if (QByteArray(from.category).startsWith("vlk.settings."))
+                    told << text;
+            });
+        const auto restore = qScopeGuard([before] { qInstallMessageHandler(before); });
+        host_.attach();
+        auto* timer = child<QSpinBox>("spinBox_RegTimer");
+        // What is told by then, since the write before.
+        const auto write = [this] {
+            press("pushButton_LoadToDevice");
+            QFile::remove(host_.takeSent(Message::WriteConfiguration).value(0).text1);
+            return std::exchange(told, {});
+        };
+        type(full()->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "10.0.0.1<Tab>");
+        type(timer, "<All>5000<Tab>");
+        told.clear();
+        const QStringList both = write();
+        QCOMPARE(both.filter(": typed_range").size(), 1);
+        QCOMPARE(both.filter(": typed_port").size(), 1);
+        QCOMPARE(write(), both);
+        const QStringList field{both.filter(": typed_range").value(0).section(": ", 0, 0)};
+        const QStringList port = both.filter(": typed_port");
         type(timer, "<All>80<Tab>");
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^[^:]+$"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(": typed_port"));
-        press("pushButton_LoadToDevice");
-        QVERIFY(QFile::remove(host_.takeSent(Message::WriteConfiguration).value(0).text1));
+        QCOMPARE(write(), field + port);
+        QCOMPARE(write(), port);
+        // Taken back without a key in the field.
+        type(timer, "<All>5000<Tab>");
+        QCOMPARE(write().size(), 2);
+        child<QToolButton>("toolButton_Undo")->click();
+        const QStringList after = write();
+        QVERIFY(after.contains(field[0]) && after.filter(": typed_range").isEmpty());
+        QCOMPARE(after.filter(": typed_port"), port);
+    }
+
+    // Of a key no longer than the field has the keyboard, of all else no longer than the configuration is
+    // open.
+    void marksOfWhatWasNotTaken()
+    {
+        const QString path = configuration(QStringLiteral("One"));
+        host_.open(path);
+        auto* pin = full()->findChild<QLineEdit*>("Transfer_lineEdit_GSM_Pin1");
+        QVERIFY(pin->text().isEmpty());
+        QApplication::setActiveWindow(pin->window());
+        QApplication::clipboard()->setText("PIN");
+        for (const auto& [keys, isMarked] :
+             {std::pair("x", true), {"<Tab>", false}, {"<Paste>", true}, {"<Tab>", true}}) {
+            type(pin, keys);
+            QCOMPARE(pin->accessibleDescription().contains("typed_sign"), isMarked);
+        }
+        host_.open(path);
+        QVERIFY(pin->text().isEmpty() && !pin->accessibleDescription().contains("typed_sign"));
     }
 
     // The dialog lives as long as the process, so what an opening leaves behind is never given back.

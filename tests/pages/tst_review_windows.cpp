@@ -137,12 +137,40 @@ private Q_SLOTS:
     {
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
         type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        child<QCheckBox>("checkBox_RS485_Level_2")->click();
+        history().settle();
         QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
         auto* table = child<QTableView>("tableView_Differences");
-        QTest::keyClick(table, Qt::Key_End);
-        QCOMPARE(table->currentIndex().row(), 1);
+        // One key acts on that line alone.
+        const auto chosen = [table] {
+            QList<int> lines;
+            for (int line = 0; line < table->model()->rowCount(); ++line) {
+                if (table->model()->index(line, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked)
+                    lines << line;
+            }
+            return lines;
+        };
+        struct Press
+        {
+            Qt::Key key;
+            Qt::KeyboardModifiers held;
+            int line;
+        };
+        for (const Press& press :
+             {Press{Qt::Key_End, {}, 2}, Press{Qt::Key_Home, {}, 0},
+              Press{Qt::Key_End, Qt::ControlModifier, 2}, Press{Qt::Key_Home, Qt::ControlModifier, 0},
+              Press{Qt::Key_Down, Qt::ControlModifier, 1}}) {
+            QTest::keyClick(table, press.key, press.held);
+            QCOMPARE(table->currentIndex().row(), press.line);
+            QTest::keyClick(table, Qt::Key_Space);
+            QList<int> others{0, 1, 2};
+            others.removeAt(press.line);
+            QCOMPARE(chosen(), others);
+            QTest::keyClick(table, Qt::Key_Space);
+        }
         QTest::keyClick(table, Qt::Key_Home);
-        QCOMPARE(table->currentIndex().row(), 0);
+        QTest::keyClick(table, Qt::Key_End, Qt::ShiftModifier);
+        QCOMPARE(table->selectionModel()->selectedRows().size(), 3);
     }
 
     // The field of the record that was taken back, on its tab.
@@ -201,8 +229,24 @@ private Q_SLOTS:
             against->setCurrentIndex(index);
             Q_EMIT against->activated(index);
         };
-        choose(1);
         auto* table = child<QTableView>("tableView_Differences");
+        const auto isTicked = [table](const QString& caption) {
+            const auto found = table->model()->match(table->model()->index(0, 1), Qt::DisplayRole, caption);
+            return !found.isEmpty() &&
+                   found.first().siblingAtColumn(0).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        };
+        // What is left out of one comparison is not left out of another one.
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
+        const QString port = table->model()->index(0, 1).data().toString();
+        child<QAction>("action_MarkNone")->trigger();
+        QVERIFY(!isTicked(port));
+        choose(1);
+        QVERIFY(isTicked(port));
+        child<QAction>("action_MarkNone")->trigger();
+        choose(0);
+        QVERIFY(isTicked(port));
+        history().undo();
+        choose(1);
         QVERIFY(table->model()->rowCount() > 10);
         child<QPushButton>("pushButton_TakeOver")->click();
         QCOMPARE(table->model()->rowCount(), 0);

@@ -99,8 +99,14 @@ private Q_SLOTS:
     {
         QSet<QString> paths;
         for (const vlk::Values* values : tables()) {
-            for (int row = 0; row < values->count(); ++row)
-                paths << QString(values->row(row).filePath).remove(QRegularExpression("\\d"));
+            for (int row = 0; row < values->count(); ++row) {
+                const QString path = QString(values->row(row).filePath).remove(QRegularExpression("\\d"));
+                paths << path;
+                if (const auto* mask = values->setting(row).as<vlk::Mask>()) {
+                    for (const vlk::MaskField& field : mask->fields)
+                        paths << path + '/' + field.widget;
+                }
+            }
         }
         for (const vlk::review::SearchWords& words : vlk::review::kSearchWords)
             QVERIFY2(paths.contains(words.path), words.path);
@@ -173,7 +179,12 @@ private Q_SLOTS:
             .row("sms password", "SYSTEM/PASS/SMS")
             .row("daylight saving", "SYSTEM/TIME/DST")
             .row("low voltage", "SYSTEM/PWRSENS/alarmLvl")
-            .row("card reader", "RS485/RFID/type");
+            .row("card reader", "RS485/RFID/type")
+            .row("ble", "BLUETOOTH/GLOBAL/use")
+            .row("термодатчик", "TEMPSENS/SENS1/min")
+            .row("thermometer", "TEMPSENS/SENS1/min")
+            .row("одометр", "PROTOCOL/ZETA/mask 58")
+            .row("odometer", "PROTOCOL/ZETA/mask 58");
     }
     void inWordsOfInstallers()
     {

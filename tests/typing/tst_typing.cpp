@@ -296,14 +296,16 @@ private Q_SLOTS:
         DataTable<QString, QString, QString, QString>({"pattern", "keys", "text", "mark"})
             .row("fits", "^\\S{0,6}$", "abc<Tab>", "oldabc", "")
             .row("too long", "^\\S{0,6}$", "abcd<Tab>", "oldabc", "typed_long 6")
-            .row("blank", "^\\S{0,6}$", "a b<Tab>", "oldab", "typed_sign")
+            .row("blank", "^\\S{0,6}$", "a b", "oldab", "typed_sign")
+            .row("blank, and left", "^\\S{0,6}$", "a b<Tab>", "oldab", "")
+            .row("blank in too long a text, and left", "^\\S{0,6}$", "ab cd<Tab>", "oldabc", "typed_long 6")
             .row("blank, corrected", "^\\S{0,6}$", "a b<Back>c<Tab>", "oldac", "")
             .row("blank into the empty line, then a good text", "^\\S{0,6}$", "<All><Back> abc<Tab>", "abc",
                  "")
             .row("pasted into the empty line and too long", "", "<All><Back><Paste><Tab>", "secret w",
                  "typed_long 8")
-            .row("blank in a new text", "^\\S{0,6}$", "<All><Back>a b<Tab>", "ab", "typed_sign")
-            .row("blank at the end", "^\\S{0,6}$", "a <Tab>", "olda", "typed_sign")
+            .row("blank in a new text", "^\\S{0,6}$", "<All><Back>a b", "ab", "typed_sign")
+            .row("blank at the end", "^\\S{0,6}$", "a ", "olda", "typed_sign")
             .row("pasted and too long", "^\\S{0,6}$", "<Paste><Tab>", "old", "typed_long 6")
             .row("limited by the line", "", "abcdefgh<Tab>", "oldabcde", "typed_long 8")
             .row("given up", "", "abc<Esc>", "old", "")
@@ -339,11 +341,12 @@ private Q_SLOTS:
     {
         line_->setValidator(new QRegularExpressionValidator(QRegularExpression("^\\S{0,9}$"), line_));
         line_->setFocus();
-        type(line_, "a b<Tab>");
+        QApplication::clipboard()->setText("a b");
+        type(line_, "<Paste><Tab>");
         line_->setFocus();
         line_->deselect();
         QVERIFY(line_->toolTip().startsWith("typed_sign"));
-        type(line_, "c");
+        type(line_, "abc");
         QVERIFY(line_->toolTip().isEmpty());
         type(line_, " d");
         QVERIFY(line_->toolTip().startsWith("typed_sign"));

@@ -45,6 +45,32 @@ private Q_SLOTS:
         QVERIFY(Bench::comes("dialog_History"));
     }
 
+    void reportFollowsTheLanguage()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QVERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QVERIFY(Bench::comes("dialog_Report"));
+        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
+        bench.session().link().send(vlk::Message::CloseWindows);
+        const auto* model = bench.window.findChild<QTableView*>("tableView_Report")->model();
+        const auto line = [model] {
+            QStringList cells;
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells << model->index(0, column).data().toString();
+            return cells;
+        };
+        const QStringList english = line();
+        QCOMPARE(english.last(), QString("Van 1"));
+        bench.window.setLanguage("ru");
+        QCOMPARE(line().mid(1), english.mid(1));
+        QTRY_VERIFY(line().first() != english.first());
+        bench.window.setLanguage("en");
+        QTRY_COMPARE(line(), english);
+    }
+
     // Only a fresh key counts, and the box skips what loses nothing.
     void reviewsByKeys()
     {

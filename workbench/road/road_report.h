@@ -110,6 +110,7 @@ struct RoadReport
     int backup = 0;  // its number; 0 where there is none
     int earlier = 0; // the backup of an earlier write that may have been taken, while nothing is known of it
     QVector<WrittenSetting> settings; // what was not taken comes first
+    QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;
     QDateTime time;
     bool isSeenLater = false; // it had ended unknown, and a read of the tracker at that time told the outcome

@@ -301,6 +301,7 @@ std::optional<RoadReport::Outcome> WriteRoad::outcomeIn(const QByteArray& docume
     const auto moved = compare_(before, document);
     if (!missed || !moved)
         return {};
+    report.readBack = document;
     SettingChanges notTaken = *missed;
     leaveKeptSections(notTaken, sectionsOf(report.request.document), &SettingChange::before);
     // Where nothing was to change, what came back is not what had been there.

@@ -5,6 +5,7 @@
 #include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/table_look.h"
+#include "window/file_comparer.h"
 #include "window/host_session.h"
 #include "window/line_icon.h"
 #include "window/message_box.h"
@@ -25,6 +26,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <tuple>
 
 namespace workbench {
 
@@ -190,8 +192,43 @@ void WriteReportView::showSummary()
     time_->setText(timeOfDay(report_.time));
 }
 
+// What was written is told in the words of the plug-in, which has those of one language at a time.
+void WriteReportView::tellAnew(RoadReport& report) const
+{
+    const auto find = [&report](const QString& path) {
+        return std::ranges::find_if(
+            report.settings, [&path](const WrittenSetting& setting) { return setting.change.path == path; });
+    };
+    const FileComparer& comparer = session_.comparer();
+    // Those that came back otherwise first: of the others the one comparison tells all.
+    for (const SettingChange& missed :
+         comparer.compare(report.request.document, report.readBack).value_or(SettingChanges())) {
+        const auto found = find(missed.path);
+        if (found == report.settings.end() || found->isTaken)
+            continue;
+        SettingChange& change = found->change;
+        std::tie(change.page, change.group, change.caption, change.afterText, found->readBackText) =
+            std::tie(missed.page, missed.group, missed.caption, missed.beforeText, missed.afterText);
+    }
+    for (const SettingChange& sent :
+         comparer.compare(session_.backups().document(report.backup), report.request.document)
+             .value_or(SettingChanges())) {
+        const auto found = find(sent.path);
+        if (found == report.settings.end() || found->change.before != sent.before ||
+            found->change.after != sent.after)
+            continue;
+        found->change = sent;
+        if (found->isTaken)
+            found->readBackText = sent.afterText;
+    }
+}
+
 void WriteReportView::retranslate()
 {
+    tellAnew(report_);
+    if (other_)
+        tellAnew(*other_);
+    model_.setReport(report_);
     texts_.apply();
     model_.retranslate();
     columns_->fit();

@@ -50,6 +50,7 @@ private:
     Sentence bringBack();
     Sentence showOther();
     void show(const RoadReport& report);
+    void tellAnew(RoadReport& report) const;
     void buildTable();
     void showSummary();
 

@@ -294,11 +294,6 @@ void RecordsTable::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         return open(currentIndex());
     QTableView::keyPressEvent(event);
-    // With Ctrl the view goes there and leaves what is selected.
-    if (event->modifiers() == Qt::ControlModifier &&
-        (event->key() == Qt::Key_Home || event->key() == Qt::Key_End))
-        selectionModel()->select(currentIndex(),
-                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 // Without a current row the view would go to the first one, unless the mouse gave it the keyboard.

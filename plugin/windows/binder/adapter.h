@@ -52,11 +52,9 @@ public:
     virtual void forget() {}
     // Takes what is being typed into the widgets.
     virtual void finishTyping() {}
-    // What was not taken as it was typed since this was asked the last time, and what is doubtful about the
-    // value; empty texts where there is nothing.
-    virtual QStringList takeNews() { return {}; }
-    // Why a widget is marked as wrong for what was typed and refused; empty when none is.
-    virtual QString refusal() const { return {}; }
+    // What was typed last and not taken as it was, and what is doubtful about the value; empty texts where
+    // there is nothing.
+    virtual QStringList news() const { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
     // The value as the widgets hold it, for checks that they can hold what the configuration does.

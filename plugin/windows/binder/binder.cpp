@@ -1,6 +1,6 @@
 #include "windows/binder/binder.h"
 
-#include "review/value_text.h"
+#include "review/setting_words.h"
 #include "typing/typed_entry.h"
 #include "windows/binder/boxes_adapter.h"
 #include "windows/binder/cell_adapter.h"
@@ -24,14 +24,15 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk {
 
 namespace {
 
-// What was typed and not taken as it was, and values that are doubtful, at a save: "CAPTION: WHY".
+// What was typed and not taken as it was, and values that are doubtful, at a save: "FIELD: WHY".
 Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
-// The captions of fields of which that holds no longer.
+// The fields of which that holds no longer.
 Q_LOGGING_CATEGORY(lcRetyped, "vlk.settings.retyped")
 
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
@@ -251,28 +252,32 @@ void Binder::finishTyping()
     }
 }
 
+void Binder::takeBackNews()
+{
+    for (const auto& [row, name] : std::exchange(told_, {}))
+        qCWarning(lcRetyped).noquote() << name;
+}
+
+// Told every time: what is written is not what was wanted, as long as the field is marked.
 void Binder::logNews()
 {
+    std::map<int, QStringList> told;
     for (const auto& adapter : adapters_) {
-        if (!adapter)
-            continue;
-        const int row = adapter->row();
-        const QString caption = captionText(values_.setting(row));
-        QStringList allNews = adapter->takeNews();
-        // Told every time: what is written is not what was wanted, as long as the field is red.
-        const QString refusal = adapter->refusal();
-        if (!refusal.isEmpty() && !allNews.contains(refusal))
-            allNews << refusal;
-        allNews.removeAll(QString());
-        for (const QString& news : std::as_const(allNews))
-            qCWarning(lcTyping).noquote() << caption + QStringLiteral(": ") + news;
-        const auto told = told_.find(row);
-        if (!allNews.isEmpty()) {
-            told_[row] = refusal.isEmpty() ? std::optional(values_.value(row)) : std::nullopt;
-        } else if (told != told_.end() && told->second != values_.value(row)) {
-            told_.erase(told);
-            qCWarning(lcRetyped).noquote() << caption;
-        }
+        QStringList all = adapter ? adapter->news() : QStringList();
+        all.removeAll(QString());
+        if (!all.isEmpty())
+            told[adapter->row()] = all;
+    }
+    std::erase_if(told_, [&](const auto& earlier) {
+        const bool isOver = !told.contains(earlier.first);
+        if (isOver)
+            qCWarning(lcRetyped).noquote() << earlier.second;
+        return isOver;
+    });
+    for (const auto& [row, all] : told) {
+        const QString& name = told_[row] = review::placeText(review::wordsOf(layout_, row));
+        for (const QString& news : all)
+            qCWarning(lcTyping).noquote() << name + QStringLiteral(": ") + news;
     }
 }
 
@@ -330,7 +335,7 @@ QWidget* Binder::widgetOf(int row, int part) const
 
 void Binder::forget()
 {
-    told_.clear();
+    takeBackNews();
     for (const auto& adapter : adapters_) {
         if (adapter)
             adapter->forget();

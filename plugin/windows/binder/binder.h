@@ -49,9 +49,11 @@ public:
     void evaluateRules();
     // Takes what is being typed.
     void finishTyping();
-    // Logs what could not be taken as it was typed since the last time, and values that are doubtful; and of
-    // which fields that holds no longer, since they have another value.
+    // Logs what could not be taken as it was typed and stands so, and values that are doubtful; before that
+    // of which fields what was logged earlier holds no longer.
     void logNews();
+    // Logs that of all fields.
+    void takeBackNews();
     // Other values come: what the widgets remember of those before goes.
     void forget();
     // Takes the first item of every combo box as an edit.
@@ -116,9 +118,7 @@ private:
     RuledWidgets ruled_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
     QStringList problems_;
-    // Rows of which something was logged, with the value that they had; without it that holds no longer than
-    // the refusal that was logged.
-    std::map<int, std::optional<QString>> told_;
+    std::map<int, QString> told_; // rows of which something was logged, with their names
     int showing_ = 0;
 };
 

@@ -22,8 +22,7 @@ public:
     void doubt(const QString& complaint) override;
     void forget() override { remembered_ = 0; }
     void finishTyping() override { box_.finishTyping(); }
-    QStringList takeNews() override { return {box_.takeNews(), complaint_}; }
-    QString refusal() const override { return box_.refusal(); }
+    QStringList news() const override { return {box_.news(), complaint_}; }
 
 private:
     void take();

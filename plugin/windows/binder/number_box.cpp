@@ -67,14 +67,9 @@ void NumberBox::finishTyping()
         entry_->finish();
 }
 
-QString NumberBox::takeNews()
+QString NumberBox::news() const
 {
-    return entry_ ? entry_->takeNews() : QString();
-}
-
-QString NumberBox::refusal() const
-{
-    return entry_ ? entry_->refusal() : QString();
+    return entry_ ? entry_->news() : QString();
 }
 
 void NumberBox::setRange(double least, double most)

@@ -33,8 +33,7 @@ public:
     // Takes what is being typed.
     void finishTyping();
     // What was not taken as it was typed since this was asked the last time, empty if all was.
-    QString takeNews();
-    QString refusal() const;
+    QString news() const;
     void setRange(double least, double most);
     void setSuffix(const QString& suffix);
     void onChanged(QObject* context, std::function<void()> action) const;

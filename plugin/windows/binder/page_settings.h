@@ -42,6 +42,7 @@ public:
     void retranslate();
     // For a save that leaves the windows: into a file or for the tracker.
     void logNews() { binder_->logNews(); }
+    void takeBackNews() { binder_->takeBackNews(); }
 
     // Paths are those below the section. Who asks often keeps the row, for values(); -1 for a path that the
     // table has not.

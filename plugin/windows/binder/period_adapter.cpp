@@ -63,21 +63,12 @@ void PeriodAdapter::finishTyping()
         box.finishTyping();
 }
 
-QStringList PeriodAdapter::takeNews()
+QStringList PeriodAdapter::news() const
 {
-    QStringList news;
-    for (NumberBox& box : boxes_)
-        news << box.takeNews();
-    return news;
-}
-
-QString PeriodAdapter::refusal() const
-{
-    QStringList refusals;
+    QStringList all;
     for (const NumberBox& box : boxes_)
-        refusals << box.refusal();
-    refusals.removeAll(QString());
-    return refusals.join(QLatin1Char(' '));
+        all << box.news();
+    return all;
 }
 
 QString PeriodAdapter::held() const

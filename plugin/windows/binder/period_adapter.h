@@ -19,8 +19,7 @@ public:
     void show(const QString& value) override;
     QString held() const override;
     void finishTyping() override;
-    QStringList takeNews() override;
-    QString refusal() const override;
+    QStringList news() const override;
 
 private:
     void take();

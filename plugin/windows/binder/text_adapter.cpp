@@ -63,16 +63,18 @@ void TextAdapter::expect()
         });
 }
 
-QStringList TextAdapter::takeNews()
+QStringList TextAdapter::news() const
 {
-    TextEntry* entry = TextEntry::join(edit_);
-    return {entry->takeNews(), entry->complaint()};
+    const TextEntry* entry = TextEntry::join(edit_);
+    return {entry->news(), entry->complaint()};
 }
 
 void TextAdapter::show(const QString& value)
 {
     if (edit_->text() != value)
         edit_->setText(value);
+    else
+        TextEntry::join(edit_)->giveUp();
 }
 
 QString TextAdapter::held() const

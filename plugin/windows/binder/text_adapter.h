@@ -16,7 +16,7 @@ public:
     void dress() override;
     void show(const QString& value) override;
     QString held() const override;
-    QStringList takeNews() override;
+    QStringList news() const override;
 
 private:
     void take() { edited(held()); }
