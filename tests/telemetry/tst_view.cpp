@@ -169,7 +169,8 @@ private Q_SLOTS:
         const QImage grey =
             child("label_Event_NumPage_Value")->grab().toImage().convertToFormat(QImage::Format_RGB32);
         const auto* pixels = reinterpret_cast<const QRgb*>(grey.constBits());
-        const int darkest = qGray(*std::min_element(pixels, pixels + std::ptrdiff_t{grey.width()} * grey.height()));
+        const int darkest =
+            qGray(*std::min_element(pixels, pixels + std::ptrdiff_t{grey.width()} * grey.height()));
         QVERIFY2(darkest > 80 && darkest < 180, qPrintable(QString::number(darkest)));
         sendRecord(numbered(6));
         QVERIFY(!isOld());
