@@ -26,6 +26,17 @@ class FaultsWindowTest : public QObject
     struct Bench : OpenedWorkbench
     {
         bool start() { return OpenedWorkbench::start(VLK_ECHO_PLUGIN); }
+        // By their key, over the main window.
+        bool openFaults()
+        {
+            if (!start())
+                return false;
+            window.activateWindow();
+            if (!QTest::qWaitFor([this] { return window.isActiveWindow(); }))
+                return false;
+            QTest::keyClick(&window, Qt::Key_F9);
+            return visibleFaults() != nullptr;
+        }
     };
 
 private Q_SLOTS:
@@ -82,11 +93,7 @@ private Q_SLOTS:
     void staysUsableUnderNewWindows()
     {
         Bench bench;
-        QVERIFY(bench.start());
-        bench.window.activateWindow();
-        QTRY_VERIFY(bench.window.isActiveWindow());
-        QTest::keyClick(&bench.window, Qt::Key_F9);
-        QVERIFY(visibleFaults());
+        QVERIFY(bench.openFaults());
         // Where the user has put them, and as large.
         visibleFaults()->resize(visibleFaults()->size() + QSize(20, 10));
         visibleFaults()->move(3, 5);
@@ -169,11 +176,7 @@ private Q_SLOTS:
     void coversNoQuestion()
     {
         Bench bench;
-        QVERIFY(bench.start());
-        bench.window.activateWindow();
-        QTRY_VERIFY(bench.window.isActiveWindow());
-        QTest::keyClick(&bench.window, Qt::Key_F9);
-        QVERIFY(visibleFaults());
+        QVERIFY(bench.openFaults());
         visibleFaults()->move(3, 5);
         QMessageBox question(QMessageBox::Question, {}, QString(8, QLatin1Char('\n')), QMessageBox::Yes,
                              &bench.window);
