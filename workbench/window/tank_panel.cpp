@@ -65,7 +65,6 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
 
     connect(tank_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TankPanel::refresh);
     connect(&timer_, &QTimer::timeout, this, &TankPanel::refresh);
-    refresh();
 }
 
 std::size_t TankPanel::chosen() const
@@ -98,7 +97,8 @@ void TankPanel::changeEvent(QEvent* event)
     QGroupBox::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         texts_.apply();
-        refresh();
+        if (isVisible())
+            refresh();
     }
 }
 

@@ -33,6 +33,8 @@ protected:
 private:
     std::size_t chosen() const;
     void pour(double litres);
+    // Only while it is on show: the first question for the fuel drives the vehicle through its day, a quarter
+    // of a second.
     void refresh();
 
     tracker::SimulatedTracker& tracker_;
