@@ -1746,6 +1746,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_660"><translation>Byte %1: several elements share a line there, while this form has a line for each.</translation></message>
     <message id="rec_661"><translation>several elements share a line here, while this form has a line for each; they are taken apart</translation></message>
     <message id="rec_662"><translation>In %1 several elements share a line at byte %2, while this form has a line for each.</translation></message>
+    <message id="rec_680"><translation>Records that came from the tracker and are in no file: %1. The tracker is detached, and they go when the window closes.</translation></message>
+    <message id="rec_681"><translation>Close the window</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

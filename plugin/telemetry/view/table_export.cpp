@@ -110,6 +110,9 @@ ExportOptions TableExport::options() const
 
 void TableExport::tellWritten(const QString& path, qint64 withoutPlace)
 {
+    const bool holdsAll = choice_.form == ExportForm::xml || choice_.form == ExportForm::tmi;
+    if (holdsAll && exported_ == shown_->records().size())
+        Q_EMIT allKept();
     notices_->tellNews(kHandedOver, [path, withoutPlace, count = exported_ - withoutPlace, leftOut = leftOut_,
                                      form = choice_.form, isFormOfEnding = isFormOfEnding_] {
         const QString ending = QFileInfo(path).suffix();
