@@ -153,21 +153,21 @@ private:
     }
     double burning(const LevelMedian& median) const { return burning(median, burning_[1]); }
 
-    // What the vehicle burns in motion from there on, to that side: other loads and roads, or a tank that is
-    // drawn on from now on only. Without much to go by it is the average of all.
-    double burningBeside(int start, int direction) const
+    // What the vehicle burns in motion, or standing, from there on to that side: other loads and roads, or a
+    // tank that is drawn on from now on only. Without much to go by it is the average of all.
+    double burningBeside(int start, int direction, bool moves) const
     {
         std::vector<Fall> falls;
         for (int i = start + direction; i >= 0 && i < size(); i += direction) {
             const int between = std::min(i, i - direction);
             if (walls_[between] || std::abs(medians_[i].middle() - medians_[start].middle()) > kBeside)
                 break;
-            if (!medians_[i].moves)
+            if (medians_[i].moves != moves)
                 continue;
             if (const std::optional<Fall> fell = fall(between, kLongPause))
                 falls.push_back(*fell);
         }
-        const Fall even = evenPart(falls) + Fall{kBesideSureTime * burning_[1], kBesideSureTime};
+        const Fall even = evenPart(falls) + Fall{kBesideSureTime * burning_[moves], kBesideSureTime};
         return std::max(0.0, even.rate());
     }
 
@@ -259,7 +259,7 @@ private:
         std::vector<double> numbers;
         Level level{};
         const LevelMedian& inner = medians_[start];
-        const double moving = burningBeside(start, direction);
+        const double moving = burningBeside(start, direction, true);
         double burnt = burning(inner, moving) * (inner.until - inner.from) / 2; // up to the inner end
         for (int i = start; i >= 0 && i < size(); i += direction) {
             level.endsAtEvent = i != start && walls_[std::min(i, i - direction)];
@@ -291,14 +291,30 @@ private:
         });
     }
 
-    bool isInMotion(const Step& step) const
+    // Whether the state of the vehicle is known, and this one, all the time.
+    bool isAlways(const Step& step, bool LevelMedian::*state) const
     {
         for (int i = step.from; i < step.to; ++i) {
-            if (!medians_[i].moves || !medians_[i + 1].moves ||
+            if (!(medians_[i].*state) || !(medians_[i + 1].*state) ||
                 medians_[i + 1].from - medians_[i].until > kShortestStop)
                 return false;
         }
         return true;
+    }
+
+    // What the engine burns in so many seconds of a step, if on as it does before it or behind it.
+    double evenly(const Step& step, double seconds) const
+    {
+        const auto beside = [&](int i, int direction) {
+            return burningBeside(i, direction, medians_[i].moves);
+        };
+        return std::max(beside(step.from, kBackwards), beside(step.to, kForwards)) * seconds;
+    }
+
+    double burntInside(const Step& step) const
+    {
+        const double seconds = medians_[step.to].from - medians_[step.from].until;
+        return isAlways(step, &LevelMedian::burns) ? evenly(step, seconds) : 0;
     }
 
     // Nobody pours while the vehicle moves. Where a tank begins to be drawn on, or the road to rise, the
@@ -307,9 +323,7 @@ private:
     {
         const LevelMedian& one = medians_[step.from];
         const LevelMedian& other = medians_[step.to];
-        const double even =
-            std::max(burningBeside(step.from, kBackwards), burningBeside(step.to, kForwards)) *
-            (other.middle() - one.middle());
+        const double even = evenly(step, other.middle() - one.middle());
         return (other.litres - one.litres + even) / litres >= kHeld;
     }
 
@@ -330,7 +344,9 @@ private:
             return litres + burntUnseen(step) >= thresholds_.rise + more ||
                    -litres >= thresholds_.fall + (1 + kBurnSpread) * longBurnt(step) + more;
         };
-        if (!exceeds(0) || (isInMotion(step) && (!exceeds(swing()) || !isSharp(step, litres))))
+        const auto isMotion = [&] { return isAlways(step, &LevelMedian::moves); };
+        if (!exceeds(0) || (litres < 0 && !exceeds(burntInside(step))) ||
+            (isMotion() && (!exceeds(swing()) || !isSharp(step, litres))))
             return {};
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
