@@ -78,7 +78,7 @@ void HandOver::save(const QString& path, const WriteContent& write)
 void HandOver::tellSaved(const QString& path)
 {
     if (bar_)
-        bar_->tellNews(kHandedOver, [shown = QDir::toNativeSeparators(path)] {
+        bar_->tellNews(kHandedOver, [shown = QDir::toNativeSeparators(QDir::cleanPath(path))] {
             return Notice{Mark::right, translated("rec_170").arg(shown), {}};
         });
 }
