@@ -1481,7 +1481,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_301"><translation>%1 is a file, and its name reads as PATH=VALUE: put -- in front of the files</translation></message>
     <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
     <message id="cli_303"><translation>no record has coordinates for a track</translation></message>
-    <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
+    <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: there may be false ones</translation></message>
     <message id="cli_311"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken</translation></message>
     <message id="cli_312"><translation>no reading of %1 is a level by its calibration table, all are above its scale: are volumes and readings interchanged?</translation></message>
     <message id="cli_313"><translation>this form has no place for: %1</translation></message>
@@ -1701,7 +1701,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_371"><translation>The file is being read.</translation></message>
     <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
     <message id="rec_380"><translation>Byte %1: the record before it has no end. Nothing is lost.</translation></message>
-    <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
+    <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: there may be false ones.</translation></message>
     <message id="rec_410"><translation>first to last chosen row</translation></message>
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
     <message id="rec_412"><translation>Rows without room: %1</translation></message>
