@@ -220,7 +220,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(path), !isDiskFull);
         const QByteArray content = readFile(path);
         // By which spreadsheets know the encoding of headings.
-        QCOMPARE(content.startsWith("\xEF\xBB\xBFNumPage"),
+        QCOMPARE(content.startsWith("\xEF\xBB\xBFtmizta_123"),
                  rowOf(form).hasDecimalSign && !path.endsWith("GPX"));
         const auto* again = window->findChild<QAbstractButton*>("label_Damage_Action1");
         QCOMPARE(again ? again->text() : QString(), isDiskFull ? "Export" : "");
