@@ -174,6 +174,15 @@ private Q_SLOTS:
         bench.editName("Van 3");
         QVERIFY(Bench::isReviewed());
         Bench::press("pushButton_Cancel");
+        // Of what cannot work one sentence, by what stands there now.
+        type("70000");
+        bench.editName("Van 3");
+        QVERIFY(Bench::isReviewed());
+        const auto lines = Bench::find("dialog_Review")
+                               ->findChild<QListWidget*>("listWidget_Advice")
+                               ->findItems("Port: ", Qt::MatchContains);
+        QVERIFY(lines.size() == 1 && lines[0]->text().contains("65536, which does not exist"));
+        Bench::press("pushButton_Cancel");
         // With what stands there already nothing is red any more.
         type(port);
         bench.editName("Van 3");
