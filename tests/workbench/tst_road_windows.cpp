@@ -147,6 +147,10 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.action("action_Read")->trigger();
+        // What is spelled otherwise counts as no change.
+        QByteArray document = bench.session().tracker().readConfiguration().document;
+        for (const auto& [port, changes] : {std::pair("04000", 0), {"4001", 1}})
+            QCOMPARE(bench.session().edited().changesIn(QByteArray(document).replace("4000", port)), changes);
         auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
         const auto type = [box](const QString& keys) {
             QApplication::setActiveWindow(box->window());
