@@ -298,6 +298,13 @@ private Q_SLOTS:
         const std::size_t written = dialog_->review().listed().size();
         QVERIFY(written > 100);
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0+%1").arg(written));
+        // Two sensors of full setup would go, and are named while it is so.
+        const auto* told = child<QLabel>("label_Unsaved");
+        QVERIFY(told->isVisible() && told->text() == "rev_435");
+        QCOMPARE(dialog_->review().leftOut().join('|'),
+                 QString("cfgt17_001 cfgt17_024 1: cfgt17_018|cfgt17_001 cfgt17_024 2: cfgt17_019"));
+        dialog_->switchToFull();
+        QVERIFY(!told->isVisible());
     }
 
     // What is not chosen stays, in quick setup too.
