@@ -1803,6 +1803,12 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_381"><translation>As a whole: %1</translation></message>
     <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
     <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
+    <message id="rev_430"><translation>Filled in on loading, was not there: %1</translation></message>
+    <message id="rev_431"><translation>Without any edit, loading filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
+    <message id="rev_432"><translation>Behind the plus: what loading filled in, changed or dropped. Nobody edited it.</translation></message>
+    <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
+    <message id="rev_434"><translation>%2 more: in %1</translation></message>
+    <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>

@@ -1803,6 +1803,12 @@
     <message id="rev_381"><translation>Целиком: %1</translation></message>
     <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
     <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
+    <message id="rev_430"><translation>Дополнено при загрузке, этого не было: %1</translation></message>
+    <message id="rev_431"><translation>Без правок загрузка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
+    <message id="rev_432"><translation>После плюса: что загрузка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
+    <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
+    <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
+    <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>

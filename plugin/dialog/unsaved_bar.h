@@ -4,12 +4,13 @@
 // the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
 // editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
 // been shown it can be discarded, which happens when the window closes. It tells, too, which sensors quick
-// setup takes for used though the file has none.
+// setup takes for used though the file has none, and which it would remove.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
 #include "typing/notice_bar.h"
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -57,7 +58,8 @@ private:
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void tellDamaged();
-    void tellTakenForUsed();
+    // While there are some.
+    void tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const);
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);
@@ -67,9 +69,9 @@ private:
     void endComparison();
 
     ConfigurationReview& review_;
-    QStringList damaged_;       // what is left of changes that cannot be offered; the last one is told
-    QStringList takenForUsed_;  // ConfigurationReview::takenForUsed() when it was told last
-    std::vector<Offer> offers_; // a notice has the number of its place, from 1 on
+    QStringList damaged_; // what is left of changes that cannot be offered; the last one is told
+    std::map<int, QStringList> sensors_; // that a notice told last
+    std::vector<Offer> offers_;          // a notice has the number of its place, from 1 on
 };
 
 } // namespace vlk

@@ -337,12 +337,20 @@ private Q_SLOTS:
             QComboBox list;
             list.addItem(QStringLiteral("All"));
             QTextBrowser page;
-            for (QWidget* widget : QWidgetList{&elsewhere, &button, &box, &tool, &list, &page})
+            QSlider slider(Qt::Horizontal);
+            QListWidget lines;
+            lines.addItem(QStringLiteral("IN1"));
+            lines.setCurrentRow(0);
+            const QPalette& palette = QApplication::palette();
+            QVERIFY(contrast(palette.highlight().color(), palette.base().color()) > 3);
+            QVERIFY(contrast(palette.highlight().color(), palette.highlightedText().color()) > 3);
+            const QWidgetList widgets{&button, &box, &tool, &list, &page, &slider, &lines};
+            for (QWidget* widget : QWidgetList{&elsewhere} + widgets)
                 layout.addWidget(widget);
             window.show();
             QApplication::setActiveWindow(&window);
             elsewhere.setFocus();
-            for (QWidget* widget : QWidgetList{&button, &box, &tool, &list, &page}) {
+            for (QWidget* widget : widgets) {
                 const QImage without = widget->grab().toImage();
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                 QVERIFY(widget->hasFocus());

@@ -234,7 +234,7 @@ private Q_SLOTS:
         child<QToolButton>("toolButton_Differences")->click();
         dialog_->switchToQuick();
         // What quick setup does of itself is told in words, a line a page, and counts as no edit.
-        QTRY_VERIFY(child<QLabel>("label_QuickSummary")->isVisible());
+        QTRY_VERIFY(child<QLabel>("label_UneditedSummary")->isVisible());
         QCOMPARE(dialog_->review().edited(), 1);
         QCOMPARE(child<QTableView>("tableView_Differences")->model()->rowCount(), 5);
         QVERIFY(!dialog_->review().listed().front().path.startsWith("TRANS"));

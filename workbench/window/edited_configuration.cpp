@@ -14,6 +14,7 @@ void EditedConfiguration::readFromTracker(const QByteArray& document, const QStr
     seenIn_ = number;
     source_ = Source::Tracker;
     unknown_.clear();
+    document_ = document;
     asRead_ = ConfigurationValues(document);
     tracker_ = asRead_;
     written_.reset();
@@ -26,6 +27,7 @@ void EditedConfiguration::openFile(const QString& path, const QByteArray& docume
     source_ = Source::File;
     seenIn_.clear();
     file_ = QFileInfo(path).fileName();
+    document_ = document;
     asRead_ = ConfigurationValues(document);
     written_.reset();
 }
@@ -65,7 +67,8 @@ std::optional<int> EditedConfiguration::changesIn(const QByteArray& document) co
 {
     if (source_ == Source::New || source_ == Source::None)
         return {};
-    return tracker::differingKeys(asRead_, ConfigurationValues(document));
+    const auto changes = compare_(document_, document);
+    return changes ? int(changes->size()) : tracker::differingKeys(asRead_, ConfigurationValues(document));
 }
 
 QString EditedConfiguration::text() const

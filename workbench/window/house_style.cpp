@@ -55,6 +55,13 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     outlineFocus(element, *option, *painter, widget);
 }
 
+void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    outlineFocus(control, *option, *painter);
+}
+
 QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const
 {
