@@ -2122,6 +2122,7 @@
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
+    <message id="tmiw_380"><translation>%1: объём %2 введён и не добавлен.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
