@@ -41,6 +41,7 @@ void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option,
 void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter,
                   const QWidget* widget);
 
+// With the indent of what is in it, where it has a layout already.
 void dressGroup(QGroupBox* group);
 // All that are in the window now.
 void dressGroups(QWidget* window);

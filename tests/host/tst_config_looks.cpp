@@ -133,11 +133,11 @@ private Q_SLOTS:
             for (int tab = 0; !list->isVisible(); ++tab)
                 tabs_->setCurrentIndex(tab);
             for (int item = 0; item < list->count(); ++item) {
-                // The table of registers has many columns: it has room with letters of an ordinary size.
+                // The table of registers has many columns: it has room with the letters of a desktop.
                 const bool isModbus = list->itemData(item) == QLatin1String("MDBS");
                 const QFont before = QApplication::font();
                 if (isModbus)
-                    QApplication::setFont(QFont(before.family(), 10));
+                    QApplication::setFont(QFont(before.family(), 9));
                 list->setCurrentIndex(item);
                 settle();
                 const QStringList found = faults();
