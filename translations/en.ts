@@ -2131,6 +2131,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
     <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmiw_360"><translation>The file cannot hold that points were taken while the reading still changed (there are %1): a sheet made of it on another computer shows no mark.</translation></message>
+    <message id="tmiw_380"><translation>%1: the volume %2 was typed and not added.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

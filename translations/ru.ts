@@ -173,7 +173,7 @@
     <message id="cfgt17_039"><translation>Модель датчика</translation></message>
     <message id="cfgt17_040"><translation>Передавать как</translation></message>
     <message id="cfgt17_041"><translation>Порог чувствительности</translation></message>
-    <message id="cfgt17_042"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt17_042"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt17_043"><translation>Датчик температуры</translation></message>
     <message id="cfgt17_045"><translation>Модель датчика</translation></message>
     <message id="cfgt17_046"><translation>Передавать температуру как</translation></message>
@@ -461,7 +461,7 @@
     <message id="cfgt4_025"><translation>Определение работы двигателя</translation></message>
     <message id="cfgt4_026"><translation>Установить значение порога напряжения питания вручную</translation></message>
     <message id="cfgt4_027"><translation>Порог напряжения питания</translation></message>
-    <message id="cfgt4_028"><translation>Не записывать телеметрию по событиям определения работы двигателя</translation></message>
+    <message id="cfgt4_028"><translation>Не записывать телеметрию при определении работы двигателя</translation></message>
     <message id="cfgt4_031"><translation>Датчики уровня топлива</translation></message>
     <message id="cfgt4_032"><translation>Показания датчиков будут учитываться при:</translation></message>
     <message id="cfgt4_033"><translation>Включённом зажигании</translation></message>
@@ -959,7 +959,7 @@
     <message id="cfgt6_211"><translation>Подключить датчик %1</translation></message>
     <message id="cfgt6_212"><translation>Сетевой адрес</translation></message>
     <message id="cfgt6_213"><translation>Порог чувствительности для формирования точек на графике</translation></message>
-    <message id="cfgt6_214"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt6_214"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt6_215"><translation>Фильтрация</translation></message>
     <message id="cfgt6_216"><translation>Окно усреднения</translation></message>
     <message id="cfgt6_217"><translation>Уровень доп. фильтрации</translation></message>
@@ -1042,7 +1042,7 @@
     <message id="cfgt8_015"><translation>Назначить как зажигание</translation></message>
     <message id="cfgt8_016"><translation>Фиксировать восстановление</translation></message>
     <message id="cfgt8_017"><translation>Порог чувствительности</translation></message>
-    <message id="cfgt8_018"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt8_018"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt8_019"><translation>Запросить значения</translation></message>
     <message id="cfgt8_020"><translation>Запрашивать автоматически каждые</translation></message>
     <message id="cfgt8_021"><translation>Зажигание</translation></message>
@@ -2131,6 +2131,7 @@
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
+    <message id="tmiw_380"><translation>%1: объём %2 введён и не добавлен.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

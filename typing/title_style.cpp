@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QGroupBox>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -155,6 +156,11 @@ void dressGroup(QGroupBox* group)
     auto* style = new TitleStyle;
     style->setParent(group);
     group->setStyle(style);
+    if (QLayout* layout = group->layout()) {
+        QMargins margins = layout->contentsMargins();
+        margins.setLeft(grid::kIndent);
+        layout->setContentsMargins(margins);
+    }
 }
 
 void dressGroups(QWidget* window)

@@ -42,6 +42,7 @@ void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, 
                   const QWidget* widget);
 void outlineFocus(QStyle::ComplexControl control, const QStyleOption& option, QPainter& painter);
 
+// With the indent of what is in it, where it has a layout already.
 void dressGroup(QGroupBox* group);
 // All that are in the window now.
 void dressGroups(QWidget* window);

@@ -161,11 +161,12 @@ void VLK_Widget_Config::addKeeper()
 }
 
 // A page that moves under the mouse is a wrong key or a wrong press. Where the screen is low the page needs
-// the lines more.
+// the lines more: a notice of the host stands over the row of the search, which Ctrl+F brings out again.
 void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
 {
     constexpr int kRoomy = 560;
-    unsaved_->keepPlace(height() >= kRoomy);
+    using Place = vlk::NoticeBar::Place;
+    unsaved_->keepPlace(height() >= kRoomy ? Place::lines : Place::edge);
     QDialog::resizeEvent(event);
 }
 

@@ -462,9 +462,9 @@ private Q_SLOTS:
             return allocatedBytes();
         };
         // The allocator's own caches count as taken and fill slowly.
-        const std::size_t before = useIt(40);
-        const auto grown = std::ptrdiff_t(useIt(160) - before);
-        QVERIFY2(grown < std::ptrdiff_t{160} * 300, qPrintable(QString::number(grown)));
+        const std::size_t before = useIt(120);
+        const auto grown = std::ptrdiff_t(useIt(80) - before);
+        QVERIFY2(grown < std::ptrdiff_t{80} * 300, qPrintable(QString::number(grown)));
         for (const QLineEdit* edit : window->findChildren<QLineEdit*>())
             QVERIFY2(!edit->isUndoAvailable(), qPrintable(edit->objectName()));
     }

@@ -3,6 +3,7 @@
 #include "road_bench.h"
 #include "support/files.h"
 #include "support/full_disk.h"
+#include "support/letters.h"
 
 using workbench::RoadReport;
 
@@ -48,11 +49,21 @@ private Q_SLOTS:
     void reportFollowsTheLanguage()
     {
         Bench bench;
+        const auto letters = [&bench](const char* window) {
+            QString shared;
+            for (const char* language : {"ru", "en"}) {
+                bench.window.setLanguage(language);
+                shared += sharedLetters(Bench::find(window));
+            }
+            return shared;
+        };
         bench.action("action_Read")->trigger();
         bench.editName("Van 1");
         QVERIFY(Bench::isReviewed());
+        QCOMPARE(letters("dialog_Review"), QString());
         Bench::press("pushButton_Write");
         QVERIFY(Bench::comes("dialog_Report"));
+        QCOMPARE(letters("dialog_Report"), QString());
         QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
         bench.session().link().send(vlk::Message::CloseWindows);
         const auto* model = bench.window.findChild<QTableView*>("tableView_Report")->model();

@@ -51,8 +51,8 @@ FaultsPanel::FaultsPanel(SimulatedTracker& tracker, QWidget* parent)
             [this] { tracker_.attached() ? tracker_.detach() : tracker_.attach(); });
 
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
-    vlk::dressGroup(faults);
     auto* list = new QVBoxLayout(faults);
+    vlk::dressGroup(faults);
     for (const FaultRow& row : kFaultRows)
         addFault(list, row.name, row.key, row.fault);
     addDelay(list);

@@ -66,9 +66,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QWidget* widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    // Beside a page of the configuration small screens have no room for more; its pages see to their own.
-    const bool isBesidePage = widget && widget->window()->inherits("VLK_Widget_Config");
-    return type == CT_PushButton && !isBesidePage ? vlk::withRoomBesideWords(size, contents, option) : size;
+    return type == CT_PushButton ? vlk::withRoomBesideWords(size, contents, option) : size;
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
