@@ -1,6 +1,6 @@
 #include "window/appearance.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/kept_palette.h"
 
 #include <QApplication>

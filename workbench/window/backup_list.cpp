@@ -1,6 +1,6 @@
 #include "window/backup_list.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/grid.h"
 #include "typing/table_look.h"

@@ -1,6 +1,6 @@
 #include "window/device_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/present_value.h"

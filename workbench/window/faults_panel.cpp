@@ -1,6 +1,6 @@
 #include "window/faults_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/number_entry.h"
 #include "typing/title_style.h"

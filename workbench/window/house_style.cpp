@@ -1,6 +1,6 @@
 #include "window/house_style.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/kept_palette.h"

@@ -1,6 +1,6 @@
 #include "window/progress_window.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "road/write_road.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"

@@ -1,6 +1,6 @@
 #include "window/setting_change_model.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 
 #include <QGuiApplication>

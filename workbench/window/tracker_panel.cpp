@@ -1,6 +1,6 @@
 #include "window/tracker_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/empty_note.h"

@@ -1,6 +1,6 @@
 #include "window/workbench_window.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/notice_bar.h"
 #include "typing/title_style.h"
 #include "window/command_bars.h"

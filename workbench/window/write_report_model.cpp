@@ -1,6 +1,6 @@
 #include "window/write_report_model.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "window/languages.h"
 #include "window/setting_change_model.h"

@@ -7,7 +7,7 @@
 
 #include <numeric>
 
-namespace tracker {
+namespace workbench {
 
 inline constexpr int kSealSize = 4;
 
@@ -33,4 +33,4 @@ inline bool isSealed(const QByteArray& record, vlk::Message request)
            (quint8(record.at(1)) | quint8(record.at(2)) << 8) == record.size() && sumOf(record) == 0;
 }
 
-} // namespace tracker
+} // namespace workbench
