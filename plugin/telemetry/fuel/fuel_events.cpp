@@ -1,10 +1,10 @@
 #include "telemetry/fuel/fuel_events.h"
 
 #include "telemetry/files/track_points.h"
+#include "telemetry/fuel/burnt_fuel.h"
 #include "telemetry/fuel/level_noise.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -17,13 +17,6 @@ namespace {
 constexpr double kLeastStep = 0.5;
 // Litres a second by which a level may creep while nobody takes or pours: 3 an hour.
 constexpr double kCreep = 3 / 3600.0;
-// An engine that idles burns this share of what it burns while the vehicle moves. The guess weighs as much as
-// levels over so many seconds, for there may be a few minutes of them only.
-constexpr double kIdlingShare = 0.25;
-constexpr double kSureTime = 1800;
-// Seconds on one side of a step from which what is burnt there is learnt, and for which the average counts.
-constexpr double kBeside = 3600;
-constexpr double kBesideSureTime = 600;
 // How far what was burnt may be from the average.
 constexpr double kBurnSpread = 0.5;
 // Seconds of a pause in one pouring.
@@ -43,12 +36,7 @@ constexpr double kShortestStop = 120;
 // Litres by which a level that is the same may differ, and the share of the change by which it may.
 constexpr double kSameLevel = 0.5;
 constexpr double kSameShare = 0.05;
-// Seconds from which on a pause between records may hide a drive.
-constexpr double kLongPause = 900;
 constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
-
-constexpr int kBackwards = -1;
-constexpr int kForwards = 1;
 
 class EventFinder
 {
@@ -56,9 +44,9 @@ public:
     EventFinder(RecordColumns& columns, const NumberColumn& litres, const std::vector<LevelMedian>& medians,
                 const FuelThresholds& thresholds)
         : times_(columns.times()), litres_(litres), byTime_(recordsByTime(columns)), medians_(medians),
-          thresholds_(thresholds), walls_(medians_.size(), false)
+          thresholds_(thresholds), burnt_(medians, std::min(thresholds.rise, thresholds.fall) / 2),
+          walls_(medians_.size(), false)
     {
-        learnBurning();
     }
 
     std::vector<FuelEvent> find()
@@ -92,83 +80,16 @@ private:
     int size() const { return static_cast<int>(medians_.size()); }
     double seconds(int i) const { return medians_[i + 1].middle() - medians_[i].middle(); }
 
-    // What fell from one median to the next in one state of the engine.
-    struct Fall
-    {
-        double litres = 0;
-        double seconds = 0;
-
-        double rate() const { return litres / seconds; }
-        Fall operator+(const Fall& other) const { return {litres + other.litres, seconds + other.seconds}; }
-    };
-
-    std::optional<Fall> fall(int i, double longest) const
-    {
-        const LevelMedian& one = medians_[i];
-        const LevelMedian& other = medians_[i + 1];
-        if (!one.burns || !other.burns || one.moves != other.moves || seconds(i) > longest)
-            return {};
-        return Fall{one.litres - other.litres, seconds(i)};
-    }
-
-    // All but the steps among them: those that are far from what is usual here.
-    Fall evenPart(std::vector<Fall>& falls) const
-    {
-        if (falls.empty())
-            return {};
-        const auto middle = falls.begin() + static_cast<std::ptrdiff_t>(falls.size() / 2);
-        std::ranges::nth_element(falls, middle, {}, &Fall::rate);
-        const double usual = middle->rate();
-        const double step = std::min(thresholds_.rise, thresholds_.fall) / 2;
-        Fall even;
-        for (const Fall& fall : falls) {
-            if (std::abs(fall.litres - usual * fall.seconds) <= step)
-                even = even + fall;
-        }
-        return even;
-    }
-
-    void learnBurning()
-    {
-        std::array<std::vector<Fall>, 2> falls;
-        for (int i = 0; i + 1 < size(); ++i) {
-            if (const std::optional<Fall> fell = fall(i, kLongPause))
-                falls[medians_[i].moves].push_back(*fell);
-        }
-        const Fall moving = evenPart(falls[1]);
-        const Fall idling = evenPart(falls[0]);
-        const auto average = [](const Fall& fall) {
-            return fall.seconds > 0 ? std::max(0.0, fall.rate()) : 0;
-        };
-        burning_ = {average(idling), average(moving)};
-        if (moving.seconds > 0)
-            burning_[0] = std::min(burning_[1],
-                                   average(idling + Fall{kIdlingShare * burning_[1] * kSureTime, kSureTime}));
-    }
-
     // Litres a second.
     double burning(const LevelMedian& median, double moving) const
     {
-        return median.moves ? moving : median.burns ? burning_[0] : 0;
+        return median.moves ? moving : median.burns ? burnt_.average(false) : 0;
     }
-    double burning(const LevelMedian& median) const { return burning(median, burning_[1]); }
+    double burning(const LevelMedian& median) const { return burning(median, burnt_.average(true)); }
 
-    // What the vehicle burns in motion, or standing, from there on to that side: other loads and roads, or a
-    // tank that is drawn on from now on only. Without much to go by it is the average of all.
     double burningBeside(int start, int direction, bool moves) const
     {
-        std::vector<Fall> falls;
-        for (int i = start + direction; i >= 0 && i < size(); i += direction) {
-            const int between = std::min(i, i - direction);
-            if (walls_[between] || std::abs(medians_[i].middle() - medians_[start].middle()) > kBeside)
-                break;
-            if (medians_[i].moves != moves)
-                continue;
-            if (const std::optional<Fall> fell = fall(between, kLongPause))
-                falls.push_back(*fell);
-        }
-        const Fall even = evenPart(falls) + Fall{kBesideSureTime * burning_[moves], kBesideSureTime};
-        return std::max(0.0, even.rate());
+        return burnt_.beside(start, direction, moves, walls_);
     }
 
     bool isSamePlace(int i) const
@@ -178,7 +99,7 @@ private:
         return vlk::isSamePlace(one.latitude, one.longitude, other.latitude, other.longitude);
     }
 
-    double burntBetween(int i) const { return burntBetween(i, burning_[1]); }
+    double burntBetween(int i) const { return burntBetween(i, burnt_.average(true)); }
     double burntBetween(int i, double moving) const
     {
         const LevelMedian& one = medians_[i];
@@ -425,9 +346,9 @@ private:
     const std::vector<int> byTime_;
     const std::vector<LevelMedian>& medians_;
     const FuelThresholds thresholds_;
-    std::array<double, 2> burning_{}; // litres a second, standing and moving
-    std::vector<bool> walls_;         // between a median and the next: an event
-    std::optional<double> noise_;     // of the level, once it is asked for
+    const BurntFuel burnt_;
+    std::vector<bool> walls_;     // between a median and the next: an event
+    std::optional<double> noise_; // of the level, once it is asked for
 };
 
 void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)
