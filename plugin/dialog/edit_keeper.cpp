@@ -25,15 +25,15 @@ Q_LOGGING_CATEGORY(lcFound, "vlk.unsaved.found")
 Q_LOGGING_CATEGORY(lcWritten, "vlk.unsaved.written")
 
 const QString kNew = QStringLiteral("new");
-const QString kFile = QStringLiteral("file ");
+const QString kFileSubject = QStringLiteral("file ");
 const QString kTracker = QStringLiteral("tracker ");
 const QString kUnknownTracker = QStringLiteral("tracker with ");
 
 // What a person calls it; empty for a new one.
 QString nameOfSubject(const QString& subject)
 {
-    if (subject.startsWith(kFile))
-        return QFileInfo(subject.mid(kFile.size())).fileName();
+    if (subject.startsWith(kFileSubject))
+        return QFileInfo(subject.mid(kFileSubject.size())).fileName();
     if (subject == kNew)
         return {};
     if (subject.startsWith(kUnknownTracker))
@@ -70,7 +70,7 @@ QString editSubject(const QString& path, bool isFile)
         return kNew;
     if (isFile) {
         const QFileInfo file(path);
-        return kFile + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
+        return kFileSubject + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     }
     if (QString subject = trackerSubject(); !subject.isEmpty())
         return subject;
