@@ -54,6 +54,7 @@ const char* noteKey(const Difference& difference)
     case Change::none:
     case Change::missing:
     case Change::otherForm:
+    case Change::looseForm:
         break;
     }
     return nullptr;
