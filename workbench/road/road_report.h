@@ -42,7 +42,7 @@ struct WriteReview
     // Why it has to be looked at.
     enum class Why { removes, hasErrors, isUnchecked, isOfAnother, losesKeys, bringsMore, bringsBack };
 
-    int changed() const { return int(changes.size()) - added - removed; }
+    int changed() const { return static_cast<int>(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
     SettingChanges alongside() const
     {

@@ -172,7 +172,7 @@ void BackupList::countNext()
         session_.comparer().compare(backups.document(earlierThan(backups, *backup)), backups.document(next));
     if (!changes)
         return;
-    changes_[next] = int(changes->size());
+    changes_[next] = static_cast<int>(changes->size());
     for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
         if (numberOf(*item) == next)
             (*item)->setText(Changes, number(changes->size()));

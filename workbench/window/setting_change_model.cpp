@@ -60,7 +60,7 @@ void SettingChangeModel::retranslate()
 
 int SettingChangeModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(changes_.size());
+    return parent.isValid() ? 0 : static_cast<int>(changes_.size());
 }
 
 int SettingChangeModel::columnCount(const QModelIndex& parent) const

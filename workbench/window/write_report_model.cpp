@@ -24,7 +24,7 @@ void WriteReportModel::retranslate()
 
 int WriteReportModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(settings_.size());
+    return parent.isValid() ? 0 : static_cast<int>(settings_.size());
 }
 
 int WriteReportModel::columnCount(const QModelIndex& parent) const
