@@ -14,6 +14,7 @@
 #include "fuel/table/unsteady_points.h"
 #include "link/device.h"
 #include "typing/notice_bar.h"
+#include "typing/text_entry.h"
 #include "xml/xml_document.h"
 
 #include <QFile>
@@ -357,6 +358,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     if (form)
         form->saveXml(root);
     if (document.saveAs(path)) {
+        TextEntry::settleIn(this);
         if (form) {
             cutIn_[currentSensor()] = cutVolumes(form->rows());
             isCutClosed_[currentSensor()] = false;
@@ -383,6 +385,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
                                            proposedName(form->name()), QStringLiteral("csv"));
     if (path.isEmpty() || !form->saveCsv(path))
         return;
+    TextEntry::settleIn(this);
     cutIn_[currentSensor()] = 0;
     noteChange(currentSensor());
     tellOfTable();
