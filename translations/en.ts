@@ -1800,6 +1800,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_381"><translation>As a whole: %1</translation></message>
     <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
     <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
+    <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
+    <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
+    <message id="rev_762"><translation>values taken over from the tracker</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
@@ -2846,13 +2849,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker, meets something else in it than was known or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
     <message id="wb_review_chosen"><translation>Chosen settings of backup No.&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
+    <message id="wb_review_known"><translation>The tracker holds something else than was last read from it or written to it from this window.</translation></message>
     <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
     <message id="wb_review_menu"><translation>Show changes before &amp;every write</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
@@ -2870,6 +2874,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
     <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
     <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
+    <message id="wb_review_why_known"><translation>the tracker holds something else than was last read from it or written to it here</translation></message>
     <message id="wb_review_why_lost"><translation>unknown keys of the file are not written</translation></message>
     <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
     <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>

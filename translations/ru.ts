@@ -1800,6 +1800,9 @@
     <message id="rev_381"><translation>Целиком: %1</translation></message>
     <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
     <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
+    <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
+    <message id="rev_761"><translation>В&amp;зять из трекера</translation></message>
+    <message id="rev_762"><translation>значения взяты из трекера</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
@@ -2846,13 +2849,14 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера, ложится на изменённое с тех пор или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
     <message id="wb_review_chosen"><translation>Отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
+    <message id="wb_review_known"><translation>В трекере уже не то, что из него прочитано или записано в него из этого окна в последний раз.</translation></message>
     <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
     <message id="wb_review_menu"><translation>Показывать &amp;изменения перед каждой записью</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
@@ -2870,6 +2874,7 @@
     <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
     <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
     <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
+    <message id="wb_review_why_known"><translation>в трекере уже не то, что из него прочитано или записано в него в последний раз</translation></message>
     <message id="wb_review_why_lost"><translation>неизвестные ключи файла не записываются</translation></message>
     <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
     <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>

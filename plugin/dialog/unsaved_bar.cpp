@@ -20,6 +20,7 @@ namespace {
 constexpr int kFailure = 0;
 constexpr int kFile = -1;
 constexpr int kDamaged = -2;
+constexpr int kReplaced = -3;
 constexpr int kTakenForUsed = std::numeric_limits<int>::max(); // behind the offers
 
 QString words(const char* key)
@@ -41,6 +42,8 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
     connect(this, &NoticeBar::closed, this, [this](int number) {
         if (number > kFailure && number != kTakenForUsed)
             offers_[number - 1].isClosed = true;
+        if (number == kReplaced)
+            tellReplaced({});
         if (number == kDamaged) {
             review::setKnown(damaged_.takeLast());
             tellDamaged();
@@ -53,6 +56,9 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
     end(kFile);
+    end(kReplaced);
+    replaced_.clear();
+    toldReplaced_ = 0;
     end(kTakenForUsed);
     takenForUsed_.clear();
     offers_.clear();
@@ -124,6 +130,39 @@ void UnsavedBar::refresh()
             end(number);
     }
     tellTakenForUsed();
+    const std::size_t count = replaced().size();
+    if (std::exchange(toldReplaced_, count) == count)
+        return;
+    if (count == 0)
+        return end(kReplaced);
+    tell(kReplaced, [this] { return noticeOfReplaced(); });
+}
+
+std::vector<int> UnsavedBar::replaced() const
+{
+    std::vector<int> keys = replaced_;
+    std::erase_if(keys, [this](int key) { return !review_.isOwn(key); });
+    return keys;
+}
+
+void UnsavedBar::tellReplaced(std::vector<int> keys)
+{
+    replaced_ = std::move(keys);
+    refresh();
+}
+
+Notice UnsavedBar::noticeOfReplaced()
+{
+    const Notice::Action take{words("rev_761"), [this] {
+                                  review_.bringBack(replaced_, [] { return words("rev_762"); });
+                                  Q_EMIT tookOver();
+                              }};
+    const Notice::Action show{words("rev_141"), [this] {
+                                  review_.compareWith(ConfigurationReview::Against::file);
+                                  Q_EMIT shown();
+                              }};
+    const QString count = QLocale().toString(static_cast<int>(replaced().size()));
+    return {Mark::advice, words("rev_760").arg(count), {take, show}};
 }
 
 void UnsavedBar::tellTakenForUsed()
