@@ -2531,6 +2531,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_asked_again"><translation>No answer of use: request %1 was sent to the tracker again.</translation></message>
     <message id="wb_attach"><translation>Attach the trac&amp;ker</translation></message>
     <message id="wb_back_failed"><translation>The configuration was not brought back.</translation></message>
+    <message id="wb_back_choose"><translation>Choose another one in the history.</translation></message>
+    <message id="wb_back_gone"><translation>The file of backup No.&#160;%1 is gone.</translation></message>
     <message id="wb_back_unreadable"><translation>Backup No.&#160;%1 cannot be read.</translation></message>
     <message id="wb_balance"><translation>Balance request</translation></message>
     <message id="wb_balance_code"><translation>Balance request code: &lt;b&gt;%1&lt;/b&gt;</translation></message>
@@ -2574,8 +2576,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
+    <message id="wb_do_disk_write"><translation>Make room on the disk and write once more.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
     <message id="wb_do_folder"><translation>Check that files can be saved there, and try again.</translation></message>
+    <message id="wb_do_folder_write"><translation>Check that files can be saved there, and write once more.</translation></message>
     <message id="wb_do_part"><translation>Save the period again to have all of it.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
@@ -2671,6 +2675,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_bring_chosen"><translation>Bring &amp;chosen back…</translation></message>
     <message id="wb_history_bring_chosen_of"><translation>Bring &amp;chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
+    <message id="wb_history_choose"><translation>Choose a backup.</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
     <message id="wb_history_drop_verb"><translation>Delete</translation></message>
@@ -2825,6 +2830,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_do"><translation>Try again, or bring the backup back.</translation></message>
     <message id="wb_report_earlier"><translation>An earlier write was not confirmed and may have been taken. Try again, or bring back No.&#160;%1.</translation></message>
+    <message id="wb_report_earlier_back"><translation>An earlier write was not confirmed and may have been taken. Bring back No.&#160;%1, or write that configuration again from its window.</translation></message>
+    <message id="wb_report_earlier_kept"><translation>Its file is kept: %1</translation></message>
     <message id="wb_report_else"><translation>If that does not help, bring the backup back.</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
@@ -2835,6 +2842,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
+    <message id="wb_report_of_previous"><translation>It was the previous configuration, which the tracker keeps, that was to be brought back.</translation></message>
     <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>

@@ -2531,6 +2531,8 @@
     <message id="wb_asked_again"><translation>Пригодного ответа нет: запрос %1 отправлен трекеру повторно.</translation></message>
     <message id="wb_attach"><translation>Подкл&amp;ючить трекер</translation></message>
     <message id="wb_back_failed"><translation>Конфигурация не возвращена.</translation></message>
+    <message id="wb_back_choose"><translation>Выберите в истории другую копию.</translation></message>
+    <message id="wb_back_gone"><translation>Файла резервной копии №&#160;%1 больше нет.</translation></message>
     <message id="wb_back_unreadable"><translation>Резервная копия №&#160;%1 не читается.</translation></message>
     <message id="wb_balance"><translation>Запрос баланса</translation></message>
     <message id="wb_balance_code"><translation>Код запроса баланса: &lt;b&gt;%1&lt;/b&gt;</translation></message>
@@ -2574,8 +2576,10 @@
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
+    <message id="wb_do_disk_write"><translation>Освободите место на диске и запишите ещё раз.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
     <message id="wb_do_folder"><translation>Проверьте, можно ли сохранять туда файлы, и повторите.</translation></message>
+    <message id="wb_do_folder_write"><translation>Проверьте, можно ли сохранять туда файлы, и запишите ещё раз.</translation></message>
     <message id="wb_do_part"><translation>Чтобы получить весь период, сохраните его ещё раз.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
@@ -2671,6 +2675,7 @@
     <message id="wb_history_bring_chosen"><translation>Вернуть &amp;отмеченные…</translation></message>
     <message id="wb_history_bring_chosen_of"><translation>Вернуть &amp;отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
+    <message id="wb_history_choose"><translation>Выберите резервную копию.</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
     <message id="wb_history_drop_verb"><translation>Удалить</translation></message>
@@ -2825,6 +2830,8 @@
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_do"><translation>Повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_earlier"><translation>Прежняя запись не подтверждена и могла быть принята. Повторите запись или верните №&#160;%1.</translation></message>
+    <message id="wb_report_earlier_back"><translation>Прежняя запись не подтверждена и могла быть принята. Верните №&#160;%1 или запишите ту конфигурацию из её окна.</translation></message>
+    <message id="wb_report_earlier_kept"><translation>Её файл сохранён: %1</translation></message>
     <message id="wb_report_else"><translation>Если не поможет, верните резервную копию.</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
@@ -2835,6 +2842,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_of_previous"><translation>Возвращалась предыдущая конфигурация, которую хранит трекер.</translation></message>
     <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>

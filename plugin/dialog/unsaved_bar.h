@@ -75,11 +75,11 @@ private:
     void endComparison();
 
     ConfigurationReview& review_;
-    QStringList damaged_;       // what is left of changes that cannot be offered; the last one is told
-    QStringList takenForUsed_;  // ConfigurationReview::takenForUsed() when it was told last
+    QStringList damaged_;          // what is left of changes that cannot be offered; the last one is told
+    QStringList takenForUsed_;     // ConfigurationReview::takenForUsed() when it was told last
     std::vector<int> replaced_;    // by the tracker, and not taken over
     std::size_t toldReplaced_ = 0; // how many of them
-    std::vector<Offer> offers_; // a notice has the number of its place, from 1 on
+    std::vector<Offer> offers_;    // a notice has the number of its place, from 1 on
 };
 
 } // namespace vlk

@@ -38,11 +38,20 @@ struct WriteReview
     int removed = 0;
     int errors = 0;
     bool isOfThisTracker = false;
-    bool isUnchecked = false;    // nobody could look for errors
+    bool isUnchecked = false;   // nobody could look for errors
     bool isKnownNoMore = false; // the tracker holds something else than the user has seen last
 
     // Why it has to be looked at.
-    enum class Why { removes, hasErrors, isUnchecked, isOfAnother, isKnownNoMore, losesKeys, bringsMore, bringsBack };
+    enum class Why {
+        removes,
+        hasErrors,
+        isUnchecked,
+        isOfAnother,
+        isKnownNoMore,
+        losesKeys,
+        bringsMore,
+        bringsBack
+    };
 
     int changed() const { return int(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
@@ -111,6 +120,7 @@ struct RoadReport
     TrackerIdentity tracker;
     int backup = 0;  // its number; 0 where there is none
     int earlier = 0; // the backup of an earlier write that may have been taken, while nothing is known of it
+    QString earlierFile{};            // what that was to write
     QVector<WrittenSetting> settings; // what was not taken comes first
     QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;

@@ -419,7 +419,7 @@ void WriteRoad::settle(RoadReport& report)
     if (report.outcome == Outcome::unknown)
         unsettled_ = report;
     else if (report.outcome == Outcome::notWritten && maybeSame)
-        report.earlier = unsettled_.backup;
+        std::tie(report.earlier, report.earlierFile) = std::tie(unsettled_.backup, unsettled_.request.file);
     else if (report.outcome != Outcome::cancelled && maybeSame)
         unsettled_ = {};
 }

@@ -321,13 +321,17 @@ Sentence HostSession::writeAgain(const WriteRequest& request)
 
 Sentence HostSession::bringBack(int backup, const QStringList& paths)
 {
+    if (!damageOf(backups_, backup, tracker_.model()).isEmpty())
+        return [this, backup] {
+            return sentences({damageOf(backups_, backup, tracker_.model()), text("wb_back_choose")});
+        };
     const auto kept = backups_.find(backup);
     WriteRequest request;
     request.origin = WriteRequest::Origin::backup;
     request.document = backups_.document(backup);
     request.name = QString::number(backup);
     request.readFrom = kept ? kept->tracker : QString();
-    if (!paths.isEmpty() && !request.document.isEmpty()) {
+    if (!paths.isEmpty()) {
         const Fetched fetched = fetchConfiguration();
         if (fetched.failure)
             return [why = fetched.failure] { return sentences({text("wb_back_failed"), why()}); };
@@ -338,8 +342,6 @@ Sentence HostSession::bringBack(int backup, const QStringList& paths)
         const QByteArray brought = comparer_.bring(fetched.document, request.document, paths);
         request.document = withChosen(brought, request.document, paths);
     }
-    if (request.document.isEmpty())
-        return [backup] { return text("wb_back_unreadable").arg(number(backup)); };
     return writeAgain(request);
 }
 
