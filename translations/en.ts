@@ -1481,7 +1481,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_301"><translation>%1 is a file, and its name reads as PATH=VALUE: put -- in front of the files</translation></message>
     <message id="cli_302"><translation>is the table of %1, and is used for %2 as --sensor says</translation></message>
     <message id="cli_303"><translation>no record has coordinates for a track</translation></message>
-    <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: expect false ones</translation></message>
+    <message id="cli_310"><translation>%1 of %2&#160;l is below the noise of the level, %3&#160;l: there may be false ones</translation></message>
     <message id="cli_311"><translation>%1 of %2 readings of %3 are beyond the ends of the calibration table: there the volume of the end is taken</translation></message>
     <message id="cli_312"><translation>no reading of %1 is a level by its calibration table, all are above its scale: are volumes and readings interchanged?</translation></message>
     <message id="cli_313"><translation>this form has no place for: %1</translation></message>
@@ -1701,7 +1701,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_371"><translation>The file is being read.</translation></message>
     <message id="rec_372"><translation>No volume can be computed with this calibration table: it gives none for any level of these records.</translation></message>
     <message id="rec_380"><translation>Byte %1: the record before it has no end. Nothing is lost.</translation></message>
-    <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: expect false ones.</translation></message>
+    <message id="rec_400"><translation>%1 %2&#160;l is below the noise of the level, %3&#160;l: there may be false ones.</translation></message>
     <message id="rec_410"><translation>first to last chosen row</translation></message>
     <message id="rec_411"><translation>Choose several rows in the table: with Shift and the arrow keys, or with the mouse.</translation></message>
     <message id="rec_412"><translation>Rows without room: %1</translation></message>
@@ -1746,6 +1746,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_660"><translation>Byte %1: several elements share a line there, while this form has a line for each.</translation></message>
     <message id="rec_661"><translation>several elements share a line here, while this form has a line for each; they are taken apart</translation></message>
     <message id="rec_662"><translation>In %1 several elements share a line at byte %2, while this form has a line for each.</translation></message>
+    <message id="rec_680"><translation>Records that came from the tracker and are in no file: %1. The tracker is detached, and they go when the window closes.</translation></message>
+    <message id="rec_681"><translation>Close the window</translation></message>
+    <message id="rec_682"><translation>Record No.&#160;%1 may be made of two: behind it %2 are missing by their numbers.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>
@@ -1800,6 +1803,12 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_381"><translation>As a whole: %1</translation></message>
     <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
     <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
+    <message id="rev_430"><translation>Filled in on loading, was not there: %1</translation></message>
+    <message id="rev_431"><translation>Without any edit, loading filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
+    <message id="rev_432"><translation>Behind the plus: what loading filled in, changed or dropped. Nobody edited it.</translation></message>
+    <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
+    <message id="rev_434"><translation>%2 more: in %1</translation></message>
+    <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>
@@ -2125,6 +2134,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_313"><translation>Ends the save: the file gets the records that have come.</translation></message>
     <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmiw_360"><translation>The file cannot hold that points were taken while the reading still changed (there are %1): a sheet made of it on another computer shows no mark.</translation></message>
+    <message id="tmiw_380"><translation>%1: the volume %2 was typed and not added.</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>

@@ -173,7 +173,7 @@
     <message id="cfgt17_039"><translation>Модель датчика</translation></message>
     <message id="cfgt17_040"><translation>Передавать как</translation></message>
     <message id="cfgt17_041"><translation>Порог чувствительности</translation></message>
-    <message id="cfgt17_042"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt17_042"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt17_043"><translation>Датчик температуры</translation></message>
     <message id="cfgt17_045"><translation>Модель датчика</translation></message>
     <message id="cfgt17_046"><translation>Передавать температуру как</translation></message>
@@ -461,7 +461,7 @@
     <message id="cfgt4_025"><translation>Определение работы двигателя</translation></message>
     <message id="cfgt4_026"><translation>Установить значение порога напряжения питания вручную</translation></message>
     <message id="cfgt4_027"><translation>Порог напряжения питания</translation></message>
-    <message id="cfgt4_028"><translation>Не записывать телеметрию по событиям определения работы двигателя</translation></message>
+    <message id="cfgt4_028"><translation>Не записывать телеметрию при определении работы двигателя</translation></message>
     <message id="cfgt4_031"><translation>Датчики уровня топлива</translation></message>
     <message id="cfgt4_032"><translation>Показания датчиков будут учитываться при:</translation></message>
     <message id="cfgt4_033"><translation>Включённом зажигании</translation></message>
@@ -959,7 +959,7 @@
     <message id="cfgt6_211"><translation>Подключить датчик %1</translation></message>
     <message id="cfgt6_212"><translation>Сетевой адрес</translation></message>
     <message id="cfgt6_213"><translation>Порог чувствительности для формирования точек на графике</translation></message>
-    <message id="cfgt6_214"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt6_214"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt6_215"><translation>Фильтрация</translation></message>
     <message id="cfgt6_216"><translation>Окно усреднения</translation></message>
     <message id="cfgt6_217"><translation>Уровень доп. фильтрации</translation></message>
@@ -1042,7 +1042,7 @@
     <message id="cfgt8_015"><translation>Назначить как зажигание</translation></message>
     <message id="cfgt8_016"><translation>Фиксировать восстановление</translation></message>
     <message id="cfgt8_017"><translation>Порог чувствительности</translation></message>
-    <message id="cfgt8_018"><translation>Игнорировать порог в движении</translation></message>
+    <message id="cfgt8_018"><translation>Не учитывать порог в движении</translation></message>
     <message id="cfgt8_019"><translation>Запросить значения</translation></message>
     <message id="cfgt8_020"><translation>Запрашивать автоматически каждые</translation></message>
     <message id="cfgt8_021"><translation>Зажигание</translation></message>
@@ -1746,6 +1746,9 @@
     <message id="rec_660"><translation>Байт %1: там несколько элементов в одной строке, а в этой форме строка у каждого своя.</translation></message>
     <message id="rec_661"><translation>здесь несколько элементов в одной строке, а в этой форме строка у каждого своя; они разобраны порознь</translation></message>
     <message id="rec_662"><translation>В файле %1 у байта %2 несколько элементов в одной строке, а в этой форме строка у каждого своя.</translation></message>
+    <message id="rec_680"><translation>С трекера пришло записей, которых нет ни в одном файле: %1. Трекер отключён, и с закрытием окна они пропадут.</translation></message>
+    <message id="rec_681"><translation>Закрыть окно</translation></message>
+    <message id="rec_682"><translation>Запись №&#160;%1 может состоять из двух: за ней по номерам пропущено %2.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>
@@ -1800,6 +1803,12 @@
     <message id="rev_381"><translation>Целиком: %1</translation></message>
     <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
     <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
+    <message id="rev_430"><translation>Дополнено при загрузке, этого не было: %1</translation></message>
+    <message id="rev_431"><translation>Без правок загрузка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
+    <message id="rev_432"><translation>После плюса: что загрузка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
+    <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
+    <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
+    <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>В&amp;зять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
@@ -2125,6 +2134,7 @@
     <message id="tmiw_313"><translation>Закончит сохранение: в файл попадут полученные записи.</translation></message>
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
+    <message id="tmiw_380"><translation>%1: объём %2 введён и не добавлен.</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>

@@ -64,13 +64,12 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     hide();
 }
 
-void NoticeBar::keepPlace(bool keeps)
+void NoticeBar::keepPlace(Place place)
 {
-    if (keeps == (keptHeight_ > 0))
+    if (std::exchange(kept_, place) == place)
         return;
-    keptHeight_ = 0;
-    if (keeps)
-        keptHeight_ = std::max(kHeight, text_->twoLines() + 2 * kRim);
+    const bool keeps = place != Place::none;
+    keptHeight_ = place == Place::lines ? std::max(kHeight, text_->twoLines() + 2 * kRim) : 0;
     text_->setLimited(keeps);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(keeps);
@@ -89,13 +88,13 @@ void NoticeBar::keepToTwoLines()
 // they like to have for what they need.
 bool NoticeBar::hasHeightForWidth() const
 {
-    return keptHeight_ == 0 && QFrame::hasHeightForWidth();
+    return kept_ == Place::none && QFrame::hasHeightForWidth();
 }
 
 void NoticeBar::claimHeight()
 {
     const bool isOnShow = isTelling();
-    const bool keepsPlace = keptHeight_ > 0;
+    const bool keepsPlace = kept_ != Place::none;
     const int wanted = property(kRoomBelow).toInt();
     roomBelow_ = keepsPlace ? 0 : wanted;
     text_->setVisible(isOnShow);
@@ -108,9 +107,10 @@ void NoticeBar::claimHeight()
         // Before it is visible it has no width to measure lines with, and what is laid out at a height that
         // a resize takes back at once stays there, out of sight.
         const bool hasWidth = isOnShow && isVisible();
-        const int own = std::max(keptHeight_, hasWidth ? layout()->heightForWidth(width()) : 0);
+        const int own =
+            std::max(keptHeight_, hasWidth ? std::max(kHeight, layout()->heightForWidth(width())) : 0);
         setProperty(kOwnHeight, own);
-        setFixedHeight(std::max(own, wanted - kRoomMargin));
+        setFixedHeight(kept_ == Place::lines ? std::max(own, wanted - kRoomMargin) : own);
     } else {
         setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
     }

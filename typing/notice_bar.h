@@ -62,14 +62,16 @@ public:
     bool isOnShow(int number) const;
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
-    // Two lines of the window are the bar's, whether there is something to tell or not: where notices come
-    // and go while the user presses buttons, nothing may move under the mouse. A longer sentence is cut
-    // there. A window too low for that takes the place back.
-    void keepPlace(bool keeps = true);
+    enum class Place { none, edge, lines };
+    // `lines`: two lines of the window are the bar's, whether there is something to tell or not: where
+    // notices come and go while the user presses buttons, nothing may move under the mouse. A longer sentence
+    // is cut there. `edge`, where the window has no lines to spare: the host's notice stands over what is
+    // below.
+    void keepPlace(Place place = Place::lines);
     // Cuts longer sentences; the tool tip has them whole.
     void keepToTwoLines();
     bool isTelling() const { return worst() != nullptr; }
-    // The property in which the host says how many pixels its own notice wants. A bar with a kept place has
+    // The property in which the host says how many pixels its own notice wants. A bar with a place has
     // it stand there, over what the bar tells, which waits as in any bar that tells several things. Another
     // bar gives the room below what is on show, or alone.
     static constexpr const char* kRoomBelow = "roomBelow";
@@ -130,7 +132,8 @@ private:
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
-    int keptHeight_ = 0;        // 0 where no place is kept
+    Place kept_ = Place::none;
+    int keptHeight_ = 0;        // of the lines
     int roomBelow_ = 0;         // what of the height is another's
     bool isCovered_ = false;    // by the host's notice
     int behind_ = 0;            // notices in another bar

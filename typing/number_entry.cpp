@@ -1,6 +1,6 @@
 #include "typing/number_entry.h"
 
-#include "typing/thousands.h"
+#include "plugin/base/thousands.h"
 
 #include <QCoreApplication>
 #include <QDoubleSpinBox>

@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QGroupBox>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -89,6 +90,26 @@ QSize withRoomBesideWords(QSize size, const QSize& contents, const QStyleOption*
     return size;
 }
 
+namespace {
+
+constexpr qreal kOutline = 2;
+
+// Where the focus came by keys.
+void outline(const QStyleOption& option, qreal inside, QPainter& painter)
+{
+    constexpr QStyle::State focused = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    if ((option.state & focused) != focused)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(markColor(Mark::changed, option.palette), kOutline));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
+    painter.restore();
+}
+
+} // namespace
+
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
 {
     const bool isRound = element == QStyle::PE_IndicatorRadioButton;
@@ -108,23 +129,20 @@ void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option,
 void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter,
                   const QWidget* widget)
 {
-    constexpr QStyle::State focused = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-    const bool isFocused = (option.state & focused) == focused;
     const bool isButton = element == QStyle::PE_PanelButtonCommand;
-    const bool isPage = element == QStyle::PE_Frame && qobject_cast<const QTextBrowser*>(widget);
+    const bool isPage = element == QStyle::PE_Frame && (qobject_cast<const QTextBrowser*>(widget) ||
+                                                        qobject_cast<const QAbstractItemView*>(widget));
     // A push button has one round it, and asks for one inside too.
     const bool isInside = element == QStyle::PE_FrameFocusRect && !qobject_cast<const QPushButton*>(widget) &&
                           !qobject_cast<const QAbstractItemView*>(widget);
-    if (!isFocused || !(isButton || isPage || isInside))
-        return;
-    constexpr qreal width = 2;
-    const qreal inside = isPage ? 0 : width / 2;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(markColor(Mark::changed, option.palette), width));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
-    painter.restore();
+    if (isButton || isPage || isInside)
+        outline(option, isPage ? 0 : kOutline / 2, painter);
+}
+
+void outlineFocus(QStyle::ComplexControl control, const QStyleOption& option, QPainter& painter)
+{
+    if (control == QStyle::CC_Slider)
+        outline(option, kOutline / 2, painter);
 }
 
 int TitleStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -138,6 +156,11 @@ void dressGroup(QGroupBox* group)
     auto* style = new TitleStyle;
     style->setParent(group);
     group->setStyle(style);
+    if (QLayout* layout = group->layout()) {
+        QMargins margins = layout->contentsMargins();
+        margins.setLeft(grid::kIndent);
+        layout->setContentsMargins(margins);
+    }
 }
 
 void dressGroups(QWidget* window)

@@ -36,11 +36,13 @@ QSize withRoomBesideWords(QSize size, const QSize& contents, const QStyleOption*
 // To be called by a style behind its own drawing of a part: outlines a box or a radio button on a dark
 // window.
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter);
-// The same, of what has the focus by keys: a button, the words of a box, a page to read. The style's own
-// outline is lost on dark windows. Lists have a line that is chosen.
+// The same, of what has the focus by keys: a button, the words of a box, a page to read, a list, a slider.
+// The style's own outline is lost on dark windows.
 void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter,
                   const QWidget* widget);
+void outlineFocus(QStyle::ComplexControl control, const QStyleOption& option, QPainter& painter);
 
+// With the indent of what is in it, where it has a layout already.
 void dressGroup(QGroupBox* group);
 // All that are in the window now.
 void dressGroups(QWidget* window);

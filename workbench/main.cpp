@@ -137,9 +137,6 @@ int main(int argc, char* argv[])
     }
     if (!line.open.isEmpty() && started)
         QTimer::singleShot(0, &window, [&] { window.openFile(line.open); });
-    const workbench::EndSignals endSignals;
-    QObject::connect(&endSignals, &workbench::EndSignals::came, &window, &workbench::WorkbenchWindow::leave);
-    QObject::connect(application.get(), &QGuiApplication::commitDataRequest, &window,
-                     [&window] { window.endSave(); });
+    const workbench::EndSignals endSignals(window);
     return QApplication::exec();
 }

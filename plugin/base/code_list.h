@@ -7,6 +7,16 @@
 
 namespace vlk {
 
+// Hands each of the names between the signs to `take`; none of an empty list.
+constexpr void eachName(std::string_view names, char sign, auto take)
+{
+    while (!names.empty()) {
+        const std::size_t end = std::min(names.find(sign), names.size());
+        take(names.substr(0, end));
+        names.remove_prefix(std::min(end + 1, names.size()));
+    }
+}
+
 // Whether "NU|NS+" has the code.
 template <class Text>
 bool isListed(std::string_view codes, const Text& code)

@@ -1,5 +1,7 @@
 #include "base/masked_text.h"
 
+#include <algorithm>
+
 namespace vlk {
 
 QString maskedText(const QString& mask, const QString& text)
@@ -29,6 +31,17 @@ QString maskedText(const QString& mask, const QString& text)
         }
     }
     return held + mask.mid(at).remove(place);
+}
+
+QString laidOver(QString text, QLatin1String pattern)
+{
+    if (!pattern.contains(QLatin1Char('*')))
+        return pattern;
+    for (int i = 0; i < std::min(text.size(), pattern.size()); ++i) {
+        if (pattern[i] != QLatin1Char('*'))
+            text[i] = pattern[i];
+    }
+    return text;
 }
 
 } // namespace vlk

@@ -41,4 +41,16 @@ constexpr std::uint64_t hashOf(std::string_view text, Numbers numbers,
     return hash;
 }
 
+// Of a path and of a widget, each with what it stands in.
+constexpr std::uint64_t pathHash(std::string_view element, Numbers ofElement, std::string_view key,
+                                 Numbers numbers)
+{
+    return hashOf(key, numbers, hashOf("/", {}, hashOf(element, ofElement)));
+}
+constexpr std::uint64_t widgetHash(std::string_view form, std::string_view widget, Numbers numbers)
+{
+    // Forms of one class, one a number, have widgets of the same names.
+    return hashOf(widget, numbers, hashOf("/", {}, hashOf(form, numbers, numbers.outer)));
+}
+
 } // namespace vlk

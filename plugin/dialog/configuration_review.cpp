@@ -4,6 +4,7 @@
 #include "review/compare_files.h"
 #include "review/quick_reach.h"
 #include "review/setting_parts.h"
+#include "review/setting_words.h"
 #include "review/take_over.h"
 #include "review/value_text.h"
 #include "settings/all_settings.h"
@@ -23,6 +24,26 @@ using review::FileState;
 namespace {
 
 constexpr int kPresetDelayMs = 200;
+
+// Keys of choices that decide whether a file has others.
+const std::vector<int>& deciders()
+{
+    static const std::vector<int> all = [] {
+        std::vector<int> keys;
+        for (int table = 0; table < FileKeys::all().tables(); ++table) {
+            const TableLayout& layout = FileKeys::all().layout(table);
+            for (int row = 0; row < static_cast<int>(layout.rows.size()); ++row) {
+                for (const int decider : review::decidersOf(layout, row)) {
+                    const int key = FileKeys::all().of(table, decider);
+                    if (key >= 0 && std::ranges::find(keys, key) == keys.end())
+                        keys.push_back(key);
+                }
+            }
+        }
+        return keys;
+    }();
+    return all;
+}
 
 } // namespace
 
@@ -209,17 +230,18 @@ bool ConfigurationReview::isBeyond(int key) const
     return std::ranges::find(*beyond_, key) != beyond_->end();
 }
 
-bool ConfigurationReview::isAnew(const review::Difference& difference) const
+bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 {
-    if (difference.key < 0)
-        return isQuick() && !difference.after.isNull() &&
-               quickStrangers_.value(difference.path) == difference.after;
-    return isAnew(difference.key);
+    if (difference.key >= 0)
+        return isUnedited(difference.key);
+    return isQuick()
+               ? !difference.after.isNull() && quickStrangers_.value(difference.path) == difference.after
+               : difference.byLoad;
 }
 
-bool ConfigurationReview::isAnew(int key) const
+bool ConfigurationReview::isUnedited(int key) const
 {
-    return isQuick() && quickState_.at(key) == edited_.after().at(key);
+    return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
 }
 
 QString ConfigurationReview::quickBefore(const PageSettings& page, int row) const
@@ -254,9 +276,31 @@ QStringList ConfigurationReview::takenForUsed() const
     return captions;
 }
 
+QStringList ConfigurationReview::leftOut() const
+{
+    QStringList told;
+    for (const int key : isQuick() ? deciders() : std::vector<int>()) {
+        const review::FileKey& place = FileKeys::all()[key];
+        const Values& full = present_.tables()[place.table];
+        const int row = place.rows.front();
+        const review::Held& after = edited_.after().at(key);
+        const bool isKept = after.isThere && after.meaning == full.value(row);
+        if (!full.isWritten(row) || full.value(row) == full.row(row).loadDefault() || isKept ||
+            !isUnedited(key))
+            continue;
+        const review::SettingWords words = review::wordsOf(full.layout(), row);
+        QStringList parts{words.page, words.group};
+        parts.removeAll(QString());
+        parts.removeDuplicates();
+        told << QStringLiteral("%1: %2").arg(parts.join(QLatin1Char(' ')), valueText(full, row));
+    }
+    return told;
+}
+
 bool ConfigurationReview::isOwn(int key) const
 {
-    return edited_.isDifferent(key) && !edited_.isAlong(key) && !isAnew(key);
+    const bool isLeftOut = isQuick() ? isUnedited(key) : edited_.isFilledIn(key);
+    return edited_.isDifferent(key) && !edited_.isAlong(key) && !isLeftOut;
 }
 
 bool ConfigurationReview::isEdited(int table, int row) const
@@ -266,24 +310,28 @@ bool ConfigurationReview::isEdited(int table, int row) const
                     !quickBefore(*page, row).isNull());
 }
 
-int ConfigurationReview::madeAnew() const
+int ConfigurationReview::counted(const std::vector<int>& keys, bool areUnedited) const
 {
-    if (!isQuick())
-        return 0;
-    const std::vector<int> keys = edited_.keys();
     const std::vector<review::Difference> strangers = edited_.strangers();
-    return static_cast<int>(
-        std::ranges::count_if(keys, [this](int key) { return isAnew(key); }) +
-        std::ranges::count_if(strangers, [this](const auto& stranger) { return isAnew(stranger); }));
+    const auto is = [&](const auto& one) { return isUnedited(one) == areUnedited; };
+    return static_cast<int>(std::ranges::count_if(keys, is) + std::ranges::count_if(strangers, is));
+}
+
+int ConfigurationReview::unedited() const
+{
+    return counted(edited_.keys(), true);
 }
 
 int ConfigurationReview::edited() const
 {
-    const std::vector<int> keys = edited_.ownKeys();
-    const std::vector<review::Difference> strangers = edited_.strangers();
-    return static_cast<int>(
-        std::ranges::count_if(keys, [this](int key) { return !isAnew(key); }) +
-        std::ranges::count_if(strangers, [this](const auto& stranger) { return !isAnew(stranger); }));
+    return counted(edited_.ownKeys(), false);
+}
+
+bool ConfigurationReview::isLossy() const
+{
+    const std::vector<int> keys = edited_.keys();
+    const auto isFilledIn = [this](int key) { return edited_.isFilledIn(key); };
+    return !isQuick() && unedited() > std::ranges::count_if(keys, isFilledIn);
 }
 
 std::vector<int> ConfigurationReview::keysOf(const PageSettings& page, int row)

@@ -61,15 +61,19 @@ public:
         return isQuick() ? differences_.allForQuick() : differences_.all();
     }
     // To the file, whatever is compared: what a person would count, without that which comes along with
-    // another setting and that which quick setup makes of any file.
+    // another setting and that which nobody has edited.
     int edited() const;
-    // What a write from the quick window would change besides.
-    int madeAnew() const;
+    // What a write would change besides: in the quick window what it makes of any file, in the full one what
+    // the load has changed.
+    int unedited() const;
+    // Whether the full window has lost something of the file on loading.
+    bool isLossy() const;
     const review::Differences& edits() const { return edited_; }
+    // Has a mark: edited, or changed by the load. What that has filled in reads as it did.
     bool isOwn(int key) const;
-    // Whether the quick window, which is on show, would write it so without any edit.
-    bool isAnew(int key) const;
-    bool isAnew(const review::Difference& difference) const;
+    // Whether a write from the window on show would change it without any edit.
+    bool isUnedited(int key) const;
+    bool isUnedited(const review::Difference& difference) const;
     // Whether it would stay as it is if all were taken from the other side now: the quick window decides it.
     // Worked out when it is asked for first after another side was chosen or an open preset followed an edit.
     bool isBeyond(int key) const;
@@ -78,6 +82,9 @@ public:
     QString quickBefore(const PageSettings& page, int row) const;
     // What is checked in the quick window because the file says nothing of it: a sensor that is not there.
     QStringList takenForUsed() const;
+    // What full setup has chosen and a write from the quick window, which does not show it, would remove: a
+    // sensor, a device.
+    QStringList leftOut() const;
     // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
@@ -126,6 +133,8 @@ private:
     // Without a root the configuration, which is new, is what it came as.
     void keepQuick(CXmlSection* root, const Configuration& asItCame,
                    const QMap<QString, QString>& quick = {});
+    // Of these keys and what no setting reads.
+    int counted(const std::vector<int>& keys, bool areUnedited) const;
     review::FileState now() const;
     const review::FileState& asItCame() const;
     // The other side while a preset is compared with.

@@ -39,6 +39,11 @@ const QString& cell(const review::DifferenceText& text, const QString& setting, 
     }
 }
 
+bool isFilledIn(const review::Difference& difference)
+{
+    return difference.byLoad && difference.before.isNull();
+}
+
 } // namespace
 
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
@@ -50,8 +55,8 @@ DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
 DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& difference) const
 {
     const bool isOfFile = review_.against() == ConfigurationReview::Against::file;
-    if (isOfFile && review_.isAnew(difference))
-        return Kind::anew;
+    if (isOfFile && review_.isUnedited(difference) && (review_.isQuick() || isFilledIn(difference)))
+        return Kind::unedited;
     if (difference.key >= 0 && review_.isBeyond(difference.key))
         return Kind::beyond;
     // Each key of another file or a preset is a choice of its own.
@@ -101,13 +106,13 @@ void DifferenceModel::refresh()
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
     }
     problems_ = static_cast<int>(lines_.size());
-    std::vector<Line> anew;
+    std::vector<Line> unedited;
     std::vector<Line> along;
     std::vector<Line> beyond;
     std::vector<Line> own;
     for (const review::Difference& difference : review_.listed()) {
         const Kind kind = kindOf(difference);
-        std::vector<Line>& lines = kind == Kind::anew     ? anew
+        std::vector<Line>& lines = kind == Kind::unedited ? unedited
                                    : kind == Kind::along  ? along
                                    : kind == Kind::beyond ? beyond
                                                           : own;
@@ -127,7 +132,7 @@ void DifferenceModel::refresh()
             addBehindHead(key, &page);
         }
     };
-    addHeads("rev_291", &anew);
+    addHeads(review_.isQuick() ? "rev_291" : "rev_430", &unedited);
     while (!own.empty()) {
         const QString page = own.front().text.page;
         for (Line& line : samePage(&own, page))
@@ -171,27 +176,34 @@ void DifferenceModel::toggleHead(int line)
     endResetModel();
 }
 
-QString DifferenceModel::quickSummary() const
+QString DifferenceModel::summary() const
 {
     int removed = 0;
     int set = 0;
     int own = 0;
+    int filledIn = 0;
     QStringList pages;
+    if (review_.against() != ConfigurationReview::Against::file)
+        return {};
     for (const Line& line : lines_) {
         if (line.members > 0)
             continue;
-        const Kind kind = kindOf(line.difference);
-        own += kind == Kind::own ? 1 : 0;
-        if (kind != Kind::anew)
+        own += kindOf(line.difference) == Kind::own && !review_.isUnedited(line.difference) ? 1 : 0;
+        if (!review_.isUnedited(line.difference))
             continue;
         (line.difference.after.isNull() ? removed : set) += 1;
+        filledIn += isFilledIn(line.difference) ? 1 : 0;
         if (!pages.contains(line.text.page))
             pages << line.text.page;
     }
-    return pages.isEmpty()
-               ? QString()
-               : text("rev_292").arg(QLocale().toString(removed), pages.join(QStringLiteral(", ")),
-                                     QLocale().toString(set), QLocale().toString(own));
+    if (pages.isEmpty())
+        return {};
+    const QLocale locale;
+    return review_.isQuick()
+               ? text("rev_292").arg(locale.toString(removed), pages.join(QStringLiteral(", ")),
+                                     locale.toString(set), locale.toString(own))
+               : text("rev_431").arg(locale.toString(filledIn), locale.toString(removed + set - filledIn),
+                                     locale.toString(own));
 }
 
 // The texts tell what the preset moves here alone.

@@ -5,8 +5,8 @@
 // what cannot be applied comes first, with the reason and without a check mark.
 //
 // What nobody has edited stands behind one line a page, which opens, and has no check marks: what quick setup
-// makes of any file, which cannot be taken back in it, and what comes along with other settings, and goes
-// with them. So does what another file or a preset has and quick setup cannot take.
+// makes of any file, or a load fills in, which cannot be taken back, and what comes along with other
+// settings, and goes with them. So does what another file or a preset has and quick setup cannot take.
 
 #include "dialog/configuration_review.h"
 #include "review/difference_text.h"
@@ -32,8 +32,8 @@ public:
     bool isHead(int line) const { return lineAt(line).members > 0; }
     // Shows what stands behind a head, or hides it.
     void toggleHead(int line);
-    // What quick setup would do that nobody has asked for; empty where it does nothing.
-    QString quickSummary() const;
+    // What a write would change that nobody has edited; empty where it does nothing.
+    QString summary() const;
     // Of the lines on show.
     bool hasNotes() const;
     // Lines that cannot be applied stay as they are.
@@ -68,7 +68,7 @@ private:
         int head = -1;   // the line that it stands behind
         int members = 0; // of a head
     };
-    enum class Kind { own, anew, along, beyond };
+    enum class Kind { own, unedited, along, beyond };
 
     Kind kindOf(const review::Difference& difference) const;
     Line lineOf(const review::Difference& difference) const;

@@ -46,8 +46,6 @@ public:
     // Whatever it changes is one step.
     void asOne(const Words& words, const std::function<void()>& change);
 
-    bool canUndo() const { return steps_.canUndo(); }
-    bool canRedo() const { return steps_.canRedo(); }
     void undo();
     void redo();
     // What they would do, empty without a step.

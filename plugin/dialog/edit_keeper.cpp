@@ -25,15 +25,15 @@ Q_LOGGING_CATEGORY(lcFound, "vlk.unsaved.found")
 Q_LOGGING_CATEGORY(lcWritten, "vlk.unsaved.written")
 
 const QString kNew = QStringLiteral("new");
-const QString kFile = QStringLiteral("file ");
+const QString kFileSubject = QStringLiteral("file ");
 const QString kTracker = QStringLiteral("tracker ");
 const QString kUnknownTracker = QStringLiteral("tracker with ");
 
 // What a person calls it; empty for a new one.
 QString nameOfSubject(const QString& subject)
 {
-    if (subject.startsWith(kFile))
-        return QFileInfo(subject.mid(kFile.size())).fileName();
+    if (subject.startsWith(kFileSubject))
+        return QFileInfo(subject.mid(kFileSubject.size())).fileName();
     if (subject == kNew)
         return {};
     if (subject.startsWith(kUnknownTracker))
@@ -70,7 +70,7 @@ QString editSubject(const QString& path, bool isFile)
         return kNew;
     if (isFile) {
         const QFileInfo file(path);
-        return kFile + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
+        return kFileSubject + (file.exists() ? file.canonicalFilePath() : file.absoluteFilePath());
     }
     if (QString subject = trackerSubject(); !subject.isEmpty())
         return subject;
@@ -121,7 +121,7 @@ void EditKeeper::begin(const QString& folder, const QString& subject, bool stays
     folder_ = folder;
     setSubject(subject);
     isInSight_ = true;
-    beginWith(review_.document());
+    beginOpened(review_.document());
     inFile_ = staysAsOpened ? beginning_ : Beginning();
 }
 
@@ -136,6 +136,13 @@ void EditKeeper::beginWith(const QByteArray& document)
 {
     beginning_.fill(document);
     kept_.clear();
+}
+
+void EditKeeper::beginOpened(const QByteArray& document)
+{
+    beginWith(document);
+    opened_ = beginning_;
+    savedTo_.clear();
 }
 
 bool EditKeeper::keep()
@@ -156,8 +163,9 @@ bool EditKeeper::keep()
             return false;
         kept_.clear();
         claim_.reset();
-    } else if (review::keepUnsaved(path_, {subject_, vlk::now(), beginning, now, review_.quickValues()},
-                                   &reason)) {
+    } else if (review::keepUnsaved(
+                   path_, {subject_, vlk::now(), beginning, now, review_.quickValues(), savedTo_, saved_},
+                   &reason)) {
         kept_ = now;
         if (!claim_)
             claim_.emplace(path_);
@@ -206,7 +214,7 @@ void EditKeeper::switched()
 {
     const bool isQuick = review_.isQuick();
     // shown_ is what was kept last, before the change.
-    for (Beginning* state : {&beginning_, &inFile_})
+    for (Beginning* state : {&beginning_, &inFile_, &opened_})
         (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
 }
 
@@ -215,6 +223,10 @@ void EditKeeper::saved(const QString& path)
     if (!subject_.startsWith(kTracker) && !subject_.startsWith(kUnknownTracker)) {
         QFile::remove(path_);
         setSubject(editSubject(path, true));
+    } else {
+        const QByteArray& opened = opened_[review_.isQuick()];
+        savedTo_ = path;
+        saved_ = static_cast<int>(review::ownKeys({subject_, {}, opened, review_.document()}).size());
     }
     beginWith(review_.document());
     inFile_ = {};
@@ -252,7 +264,7 @@ void EditKeeper::confirmed(const QByteArray& content)
         // What was new is the tracker's now, and its next reading offers what is edited from here on.
         if (const QString tracker = trackerSubject(); subject_ == kNew && !tracker.isEmpty())
             setSubject(tracker);
-        beginWith(written.document);
+        beginOpened(written.document);
         if (!keep())
             return;
         if (path_ != written.path)

@@ -76,6 +76,8 @@ private:
 
     void setSubject(const QString& subject);
     void beginWith(const QByteArray& document);
+    // The tracker has that.
+    void beginOpened(const QByteArray& document);
     void setFailure(const QString& reason);
     // False when nothing is.
     bool tellKept() const;
@@ -88,6 +90,9 @@ private:
     std::optional<FileClaim> claim_;     // while the edits are in sight
     Beginning beginning_;                // as opened, saved or written last
     Beginning inFile_;                   // as the file still holds it; empty where none does
+    Beginning opened_;                   // as opened or written last
+    QString savedTo_;                    // where edits of a tracker were saved since then
+    int saved_ = 0;                      // how many settings they have changed
     QByteArray kept_;                    // what the file of the edits is known to hold
     QByteArray shown_;                   // what there was when it was asked to keep last
     bool isInSight_ = false;             // until the window is closed

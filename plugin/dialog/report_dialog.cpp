@@ -4,6 +4,7 @@
 #include "dialog/configuration_review.h"
 #include "dialog/file_names.h"
 #include "dialog/report_sheet.h"
+#include "link/device.h"
 #include "review/report.h"
 #include "typing/grid.h"
 #include "typing/notice_bar.h"
@@ -15,6 +16,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -44,6 +46,31 @@ QByteArray asText(const QString& html, bool /*isOnePage*/)
 }
 
 } // namespace
+
+QStringList aboutConfiguration(const ConfigurationReview& review, const QString& file, bool isOfTracker)
+{
+    const auto text = [](const char* key) { return QCoreApplication::translate("vlk", key); };
+    QStringList lines;
+    if (!file.isEmpty())
+        lines << text("rev_223").arg(file);
+    // Nobody knows which tracker a file is of.
+    if (vlkDevice) {
+        QStringList unit{vlkDevice->model(), vlkDevice->trackerId1(), vlkDevice->trackerId2()};
+        unit.removeAll(QString());
+        const bool isAttached = unit.size() > 1;
+        lines
+            << text(isOfTracker || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
+    }
+    // A reader would take them for what the tracker has.
+    const std::pair<const char*, int> counts[] = {
+        {isOfTracker ? "rev_351" : "rev_352", review.edited()},
+        {review.isQuick() ? "rev_370" : "rev_433", review.unedited()}};
+    for (const auto& [key, count] : counts) {
+        if (count > 0)
+            lines << text(key).arg(QLocale().toString(count));
+    }
+    return lines;
+}
 
 ReportDialog::ReportDialog(const ConfigurationReview& review, std::function<QStringList()> about,
                            QWidget* parent)

@@ -18,12 +18,15 @@ namespace vlk {
 class ConfigurationReview;
 class NoticeBar;
 
+// Lines that say what the configuration is of: of the attached tracker, of a file, or a new one.
+QStringList aboutConfiguration(const ConfigurationReview& review, const QString& file, bool isOfTracker);
+
 class ReportDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // `about`: lines that say what the configuration is of.
+    // `about`: aboutConfiguration().
     ReportDialog(const ConfigurationReview& review, std::function<QStringList()> about, QWidget* parent);
 
     void retranslate();

@@ -175,16 +175,21 @@ void ReviewBar::showState()
         button->setEnabled(!step.isEmpty());
     }
     const int count = review_.edited();
-    const int anew = review_.madeAnew();
+    const int unedited = review_.unedited();
     QString number = QLocale().toString(count);
-    if (anew > 0)
-        number += QLatin1Char('+') + QLocale().toString(anew);
+    if (unedited > 0)
+        number += QLatin1Char('+') + QLocale().toString(unedited);
     differences_->setText(number);
+    // What nobody has asked for; of quick setup, which always does something, once a write is near.
+    const bool isWarned = review_.isQuick() ? unedited > 0 && count > 0 : review_.isLossy();
     setMark(differences_, LineIcon::differences,
-            count == 0 ? kNoMark : static_cast<int>(anew > 0 ? Mark::advice : Mark::changed));
+            isWarned    ? static_cast<int>(Mark::advice)
+            : count > 0 ? static_cast<int>(Mark::changed)
+                        : kNoMark);
     const QString told =
         tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
-    differences_->setToolTip(anew > 0 ? told + QLatin1Char('\n') + tr("rev_293") : told);
+    differences_->setToolTip(
+        unedited > 0 ? told + QLatin1Char('\n') + tr(review_.isQuick() ? "rev_293" : "rev_432") : told);
     differences_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_108"), number));
 }
 

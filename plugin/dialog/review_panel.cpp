@@ -56,7 +56,7 @@ ReviewPanel::ReviewPanel(ConfigurationReview& review, SettingPlaces& places, QWi
       csv_(namedWidget<QPushButton>("pushButton_SaveDifferences", this)),
       all_(namedWidget<QAction>("action_MarkAll", this)),
       none_(namedWidget<QAction>("action_MarkNone", this)),
-      summary_(namedWidget<QLabel>("label_QuickSummary", this))
+      summary_(namedWidget<QLabel>("label_UneditedSummary", this))
 {
     setModel(model_);
     table()->setIconSize({kMarkSize, kMarkSize});
@@ -124,7 +124,7 @@ void ReviewPanel::showState()
     for (QPushButton* button : {copy_, csv_})
         button->setEnabled(model_.rowCount() > 0);
     empty()->tell(tr("rev_117"));
-    const QString summary = model_.quickSummary();
+    const QString summary = model_.summary();
     summary_->setText(summary);
     summary_->setVisible(!summary.isEmpty());
     table()->clearSpans();

@@ -279,7 +279,9 @@ void SettingMarks::markTabs()
             worst = std::max(worst, mark);
         }
         QStringList told;
-        if (const std::size_t changed = review_.edits().ownKeys(table).size(); changed > 0) {
+        const auto changed = std::ranges::count_if(review_.edits().ownKeys(table),
+                                                   [this](int key) { return review_.isOwn(key); });
+        if (changed > 0) {
             told << withColon("rev_161", QLocale().toString(static_cast<int>(changed)));
             worst = worst ? worst : Mark::changed;
         }

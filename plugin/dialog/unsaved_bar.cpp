@@ -21,7 +21,9 @@ constexpr int kFailure = 0;
 constexpr int kFile = -1;
 constexpr int kDamaged = -2;
 constexpr int kReplaced = -3;
-constexpr int kTakenForUsed = std::numeric_limits<int>::max(); // behind the offers
+// Behind the offers.
+constexpr int kTakenForUsed = std::numeric_limits<int>::max();
+constexpr int kLeftOut = kTakenForUsed - 1;
 
 QString words(const char* key)
 {
@@ -40,7 +42,7 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
-        if (number > kFailure && number != kTakenForUsed)
+        if (number > kFailure && number < kLeftOut)
             offers_[number - 1].isClosed = true;
         if (number == kReplaced)
             tellReplaced({});
@@ -59,8 +61,9 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     end(kReplaced);
     replaced_.clear();
     toldReplaced_ = 0;
-    end(kTakenForUsed);
-    takenForUsed_.clear();
+    for (auto& [number, sensors] : sensors_)
+        end(number);
+    sensors_.clear();
     offers_.clear();
     for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
@@ -129,7 +132,8 @@ void UnsavedBar::refresh()
         else
             end(number);
     }
-    tellTakenForUsed();
+    tellSensors(kTakenForUsed, "rev_371", &ConfigurationReview::takenForUsed);
+    tellSensors(kLeftOut, "rev_435", &ConfigurationReview::leftOut);
     const std::size_t count = replaced().size();
     if (std::exchange(toldReplaced_, count) == count)
         return;
@@ -165,16 +169,15 @@ Notice UnsavedBar::noticeOfReplaced()
     return {Mark::advice, words("rev_760").arg(count), {take, show}};
 }
 
-void UnsavedBar::tellTakenForUsed()
+void UnsavedBar::tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const)
 {
-    const QStringList taken = review_.takenForUsed();
-    if (std::exchange(takenForUsed_, taken) == taken)
+    const QStringList sensors = (review_.*which)();
+    if (std::exchange(sensors_[number], sensors) == sensors)
         return;
-    if (taken.isEmpty())
-        return end(kTakenForUsed);
-    tell(kTakenForUsed, [this] {
-        const QString sensors = review_.takenForUsed().join(QStringLiteral(", "));
-        return Notice{Mark::advice, words("rev_371").arg(sensors), {}};
+    if (sensors.isEmpty())
+        return end(number);
+    tell(number, [this, key, which] {
+        return Notice{Mark::advice, words(key).arg((review_.*which)().join(QStringLiteral(", "))), {}};
     });
 }
 
@@ -186,9 +189,12 @@ void UnsavedBar::tellOffer(int number)
 Notice UnsavedBar::noticeOf(int number)
 {
     const Offer& offer = offers_[number - 1];
-    const QString text =
-        QStringLiteral("%1: %2 (%3)")
-            .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(offer.kept.unsaved));
+    const review::Unsaved& unsaved = offer.kept.unsaved;
+    QString text = QStringLiteral("%1: %2 (%3)")
+                       .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    if (unsaved.inFile > 0 && QFile::exists(unsaved.file))
+        text += QStringLiteral(". ") + words("rev_434").arg(QDir::toNativeSeparators(unsaved.file),
+                                                            QLocale().toString(unsaved.inFile));
     const Notice::Action show{words("rev_141"), [this, number] { showOffer(number); }};
     const Notice::Action bring{words("rev_142"), [this, number] { bringBack(number); }};
     const Notice::Action drop{words("rev_143"), [this, number] { discard(number, true); }};

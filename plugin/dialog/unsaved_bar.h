@@ -4,13 +4,14 @@
 // the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
 // editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
 // been shown it can be discarded, which happens when the window closes. It tells, too, which sensors quick
-// setup takes for used though the file has none, and offers to take over what the tracker was brought
-// back to.
+// setup takes for used though the file has none, and which it would remove, and offers to take over what the
+// tracker was brought back to.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
 #include "typing/notice_bar.h"
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -62,7 +63,8 @@ private:
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void tellDamaged();
-    void tellTakenForUsed();
+    // While there are some.
+    void tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const);
     // Settings that the tracker was brought back to and that stand otherwise in the window.
     std::vector<int> replaced() const;
     Notice noticeOfReplaced();
@@ -75,11 +77,11 @@ private:
     void endComparison();
 
     ConfigurationReview& review_;
-    QStringList damaged_;          // what is left of changes that cannot be offered; the last one is told
-    QStringList takenForUsed_;     // ConfigurationReview::takenForUsed() when it was told last
-    std::vector<int> replaced_;    // by the tracker, and not taken over
-    std::size_t toldReplaced_ = 0; // how many of them
-    std::vector<Offer> offers_;    // a notice has the number of its place, from 1 on
+    QStringList damaged_; // what is left of changes that cannot be offered; the last one is told
+    std::map<int, QStringList> sensors_; // that a notice told last
+    std::vector<int> replaced_;          // by the tracker, and not taken over
+    std::size_t toldReplaced_ = 0;       // how many of them
+    std::vector<Offer> offers_;          // a notice has the number of its place, from 1 on
 };
 
 } // namespace vlk

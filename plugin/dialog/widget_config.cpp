@@ -134,33 +134,11 @@ void VLK_Widget_Config::showReport()
 {
     if (!report_)
         report_ = new vlk::ReportDialog(
-            review_, [this] { return about(); }, this);
+            review_, [this] { return vlk::aboutConfiguration(review_, file_, isOfTracker_); }, this);
     // What is still being typed is told too.
     vlk::TypedEntry::finishIn(this);
     history_.settle();
     report_->open();
-}
-
-QStringList VLK_Widget_Config::about() const
-{
-    QStringList lines;
-    if (!file_.isEmpty())
-        lines << tr("rev_223").arg(file_);
-    // Nobody knows which tracker a file is of.
-    if (vlkDevice) {
-        QStringList unit{vlkDevice->model(), vlkDevice->trackerId1(), vlkDevice->trackerId2()};
-        unit.removeAll(QString());
-        const bool isAttached = unit.size() > 1;
-        lines << tr(isOfTracker_ || !isAttached ? "rev_224" : "rev_225").arg(unit.join(QStringLiteral(", ")));
-    }
-    // A reader would take them for what the tracker has.
-    const std::pair<const char*, int> counts[] = {{isOfTracker_ ? "rev_351" : "rev_352", review_.edited()},
-                                                  {"rev_370", review_.madeAnew()}};
-    for (const auto& [key, count] : counts) {
-        if (count > 0)
-            lines << tr(key).arg(QLocale().toString(count));
-    }
-    return lines;
 }
 
 void VLK_Widget_Config::addKeeper()
@@ -189,11 +167,12 @@ void VLK_Widget_Config::addKeeper()
 }
 
 // A page that moves under the mouse is a wrong key or a wrong press. Where the screen is low the page needs
-// the lines more.
+// the lines more: a notice of the host stands over the row of the search, which Ctrl+F brings out again.
 void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
 {
     constexpr int kRoomy = 560;
-    unsaved_->keepPlace(height() >= kRoomy);
+    using Place = vlk::NoticeBar::Place;
+    unsaved_->keepPlace(height() >= kRoomy ? Place::lines : Place::edge);
     QDialog::resizeEvent(event);
 }
 

@@ -86,8 +86,6 @@ private:
     std::vector<QWidgetList> areas() const;
     void addDocuments();
     void showReport();
-    // Lines that say what the configuration is of.
-    QStringList about() const;
 
     std::unique_ptr<Ui::VLK_Designer_Widget_Config> ui_;
     VLK_Widget_Config_Light* lightWindow_;

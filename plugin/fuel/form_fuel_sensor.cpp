@@ -125,6 +125,12 @@ vlk::FuelRows VLK_Form_Fuel_Sensor::rows() const
     return ui_->tableWidget->rows();
 }
 
+QString VLK_Form_Fuel_Sensor::notAdded() const
+{
+    const QString volume = ui_->lineEdit_Volume->text();
+    return volume.isEmpty() ? QString() : tr("tmiw_380").arg(name_, volume);
+}
+
 void VLK_Form_Fuel_Sensor::setKindAndName(int kind, const QString& name)
 {
     name_ = name;
@@ -335,7 +341,7 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Clear()
 {
-    if (!vlk::agrees(this, tr("cfgt6_051"), "wrd_002"))
+    if (!vlk::agrees(this, tr("cfgt6_051"), "wrd_002", notAdded()))
         return;
     clearRows();
     setEdited(isNameTyped_);

@@ -55,6 +55,8 @@ public:
     vlk::FuelRows rows() const;
     vlk::FuelCaptions captions() const;
     bool isEdited() const { return edited_ && !dirty_; }
+    // Says which volume was typed and not added, and goes with the table; empty for none.
+    QString notAdded() const;
     void setKindAndName(int kind, const QString& name);
     void setParamEditable(bool editable);
     // What the sensor says now, in millivolts or as a code. While it still changes the field is marked, and

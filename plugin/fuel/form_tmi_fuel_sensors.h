@@ -108,6 +108,8 @@ private:
     // `before` was on show, `type` is the sensor that the file names, `otherColumn` the heading of values
     // that are none of this sensor.
     void showLoaded(const VLK_Form_Fuel_Sensor* before, const QString& type, const QString& otherColumn = {});
+    // Which points of a saved table were taken while the reading still changed: no file holds it.
+    void tellNotInFile(const QString& path, const vlk::FuelRows& rows);
     // That a file has come to another tab than the one that was on show, and what a saved one does not hold.
     void endNews();
     // A table without new rows that is as it stands in no file, be it for the fractions of its volumes alone.

@@ -37,6 +37,7 @@ enum NoticeNumber {
     kFlaw,
     kShownAt,
     kNotInFile,
+    kNotAdded,
     kOffers,
     kEdited = std::numeric_limits<int>::max()
 };
@@ -182,8 +183,13 @@ template <class Read>
 bool VLK_Form_TMI_Fuel_Sensors::load(const VLK_Form_Fuel_Sensor& form, Read read)
 {
     const bool staysKept = isToBeKept(form, currentSensor());
+    const QString notAdded = form.notAdded();
     if (!read())
         return false;
+    // A file empties the field.
+    bar_->end(kNotAdded);
+    if (!notAdded.isEmpty())
+        bar_->tellNews(kNotAdded, [notAdded] { return Notice{Mark::advice, notAdded, {}}; });
     cutIn_[currentSensor()] = 0;
     // What was edited is kept and offered; what is saved or given up is kept no longer.
     staysKept ? kept_.release(form) : kept_.end(form);
@@ -312,7 +318,9 @@ void VLK_Form_TMI_Fuel_Sensors::loadCsv(const QString& path)
         return;
     const auto& csv = std::get<FuelCsv>(read);
     load(*form, [&] {
-        form->replaceRows(csv.rows);
+        FuelRows rows = csv.rows;
+        recallUnsteady(telemetryFolder(), path, rows);
+        form->replaceRows(rows);
         return true;
     });
     const FuelMeasure other = fuelKind(form->kind()).millivolts ? FuelMeasure::Level : FuelMeasure::Voltage;
@@ -364,10 +372,8 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
             isCutClosed_[currentSensor()] = false;
         }
         tellOfTable();
-        if (const int unsteady = form ? rememberUnsteady(telemetryFolder(), path, form->rows()) : 0)
-            bar_->tellNews(kNotInFile, [unsteady] {
-                return Notice{Mark::advice, tr("tmiw_360").arg(unsteady), {}};
-            });
+        if (form)
+            tellNotInFile(path, form->rows());
         return;
     }
     if (wasDirty)
@@ -389,6 +395,16 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
     cutIn_[currentSensor()] = 0;
     noteChange(currentSensor());
     tellOfTable();
+    tellNotInFile(path, form->rows());
+}
+
+void VLK_Form_TMI_Fuel_Sensors::tellNotInFile(const QString& path, const FuelRows& rows)
+{
+    bar_->end(kNotInFile);
+    if (const int unsteady = rememberUnsteady(telemetryFolder(), path, rows))
+        bar_->tellNews(kNotInFile, [unsteady] {
+            return Notice{Mark::advice, tr("tmiw_360").arg(unsteady), {}};
+        });
 }
 
 void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Print()

@@ -147,7 +147,7 @@ void VLK_Device_R7106::attach(const vlk::ConnectInfo& info)
         endGrowth();
     trackerText1_ = info.text1;
     trackerText2_ = info.text2;
-    trackerMask_ = quint64(info.maskHigh) << 32 | info.maskLow;
+    trackerMask_ = static_cast<quint64>(info.maskHigh) << 32 | info.maskLow;
     connected_ = true;
     balanceUssd_[0] = '\0';
     if (configDialog_)

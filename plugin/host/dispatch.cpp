@@ -95,7 +95,7 @@ void bytesToView(VLK_Device_R7106& device, const Parameters& parameters)
 
 quint64 numberOf(const vlk::IdPair& pair)
 {
-    return quint64(pair.high) << 32 | pair.low;
+    return static_cast<quint64>(pair.high) << 32 | pair.low;
 }
 
 // The size that the record of an extension says it has; 0 where there is none.

@@ -22,6 +22,7 @@ FileRemark told(const review::FileRemark& remark)
     told.path = &remark.path;
     told.paths = &remark.paths;
     told.page = orNull(remark.page);
+    told.group = orNull(remark.group);
     told.caption = orNull(remark.caption);
     told.text = &remark.text;
     return told;

@@ -272,7 +272,8 @@ struct FileRemark
     // Where the setting stands, in the present language; null for what is no setting.
     const QString* page = nullptr;
     const QString* caption = nullptr;
-    const QString* text = nullptr; // a sentence in the present language
+    const QString* text = nullptr;  // a sentence in the present language
+    const QString* group = nullptr; // null as the others
 };
 
 // As with CompareFiles the plug-in calls `take` during the message.

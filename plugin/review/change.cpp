@@ -52,9 +52,11 @@ Change why(const Link&, const Reading&, const QString&)
     return Change::otherForm;
 }
 
-Change why(const Flag&, const Reading& reading, const QString&)
+Change why(const Flag&, const Reading& reading, const QString& value)
 {
-    return isWholeNumber(reading.text) ? Change::otherForm : Change::notANumber;
+    if (!isWholeNumber(reading.text))
+        return Change::notANumber;
+    return leadingInt(reading.text) == leadingInt(value) ? Change::otherForm : Change::looseForm;
 }
 
 Change why(const Number& row, const Reading& reading, const QString& value)
@@ -92,12 +94,27 @@ Change why(const Text& row, const Reading& reading, const QString& value)
     return isFull && filled(reading.text).startsWith(filled(value)) ? Change::tooLong : Change::unknownCode;
 }
 
+// Whether a text is a digit of 0 to `top(position)` a position.
+bool isOfDigits(const QString& text, int size, auto top)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (i >= size || text[i] < QLatin1Char('0') || text[i] > QLatin1Char(static_cast<char>('0' + top(i))))
+            return false;
+    }
+    return text.size() == size;
+}
+
 Change why(const Choice& row, const Reading& reading, const QString&)
 {
     const Code* code = codeOf(row, reading.text);
-    return !code                               ? Change::unknownCode
-           : offersCode(*code, reading.limits) ? Change::otherForm
-                                               : Change::notOffered;
+    if (!code)
+        return Change::unknownCode;
+    if (!offersCode(*code, reading.limits))
+        return Change::notOffered;
+    const bool isTyped =
+        code->pattern ? isOfDigits(reading.text, QLatin1String(code->pattern).size(), [](int) { return 1; })
+                      : !row.numeric || isWholeNumber(reading.text);
+    return isTyped ? Change::otherForm : Change::looseForm;
 }
 
 Change why(const Period& row, const Reading& reading, const QString& value)
@@ -119,7 +136,9 @@ Change why(const Digits& row, const Reading& reading, const QString& value)
         if (row.positions[i].widget && digitAt(reading.text, i) > 0 && digitAt(value, i) == 0)
             return Change::notOffered;
     }
-    return Change::otherForm;
+    const auto top = [&](int i) { return row.positions[static_cast<std::size_t>(i)].top; };
+    return isOfDigits(reading.text, static_cast<int>(row.positions.size()), top) ? Change::otherForm
+                                                                                 : Change::looseForm;
 }
 
 // Whether a position of a mask is switched on with another one of its field.
@@ -135,7 +154,7 @@ Change why(const Mask& row, const Reading& reading, const QString& value)
 {
     if (reading.text.size() > row.length)
         return Change::tooLong;
-    Change change = Change::otherForm;
+    Change change = Change::looseForm;
     for (int i = 0; i < row.length; ++i) {
         const bool isOn = digitAt(value, i) != 0;
         if ((digitAt(reading.text, i) != 0) == isOn)

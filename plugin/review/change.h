@@ -19,6 +19,7 @@ enum class Change {
     completed,   // half of a field was on, which is switched as a whole
     notCarried,  // letters that a section does not carry are read as "?"
     otherForm,   // the same value, spelled otherwise
+    looseForm,   // the same, spelled as no window lets it be typed
     byRule,      // another setting forbids it
 };
 
@@ -34,7 +35,7 @@ Taken takenAs(const Setting& setting, const Reading& reading);
 // Whether nothing of the text is lost.
 constexpr bool isWhole(Change change)
 {
-    return change == Change::none || change == Change::otherForm;
+    return change == Change::none || change == Change::otherForm || change == Change::looseForm;
 }
 
 } // namespace vlk

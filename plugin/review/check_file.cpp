@@ -165,6 +165,7 @@ private:
         const FileKey& place = FileKeys::all()[key];
         const SettingWords words = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
         remark->page = words.page;
+        remark->group = words.group;
         remark->caption = words.caption;
     }
 

@@ -22,6 +22,7 @@ struct FileRemark
     QStringList paths{}; // of all settings that take part
     // Where the setting stands, in the present language; null for what is no setting.
     QString page{};
+    QString group{};
     QString caption{};
     QString text{}; // a sentence
 };

@@ -55,6 +55,7 @@ const char* noteKey(const Difference& difference)
     case Change::none:
     case Change::missing:
     case Change::otherForm:
+    case Change::looseForm:
         break;
     }
     return nullptr;

@@ -117,6 +117,14 @@ bool Differences::isAlong(int key) const
            isFresh(table, held.row, held.text);
 }
 
+bool Differences::isByLoad(int key) const
+{
+    const Held& before = before_.at(key);
+    const Held& after = after_.at(key);
+    return !after_.isDocument() && isDifferent(key) && before.isSaved == after.isThere &&
+           before.saved == after.text;
+}
+
 bool Differences::isWith(int key, const std::vector<int>& keys) const
 {
     const std::vector<int> deciders = decidersOf(key);
@@ -147,7 +155,7 @@ Difference Differences::differenceAt(int key) const
 {
     const Held& before = before_.at(key);
     const Held& after = after_.at(key);
-    const bool byLoad = !after_.isDocument() && before.isSaved == after.isThere && before.saved == after.text;
+    const bool byLoad = isByLoad(key);
     return {key,
             after.isThere || before.row < 0 ? after.row : before.row,
             FileKeys::all()[key].path,

@@ -18,8 +18,7 @@ struct Difference
     // Null where the side lacks the key.
     QString before;
     QString after;
-    // Made by the load alone of what stood before, nobody has edited it. `change` says why; none where the
-    // load has no place for the key.
+    // Differences::isByLoad(). `change` says why; none where the load has no place for the key.
     bool byLoad = false;
     Change change = Change::none;
     bool isAlong = false; // Differences::isAlong()
@@ -41,6 +40,10 @@ public:
     // Goes or comes with another setting that differs and decides whether the file has the key, as it stands
     // in a new configuration: nobody has edited this one.
     bool isAlong(int key) const;
+    // Made by the load alone of what stood before, nobody has edited it; isFilledIn: of nothing, the load has
+    // given a key that was not there its default.
+    bool isByLoad(int key) const;
+    bool isFilledIn(int key) const { return !before_.at(key).isThere && isByLoad(key); }
     // Whether it would come along with some of these keys.
     bool isWith(int key, const std::vector<int>& keys) const;
     // What a person would count: keys of a table, or of all, that differ and do not come along.

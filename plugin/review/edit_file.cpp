@@ -56,8 +56,9 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     // A long period is lost by the next load alone, which advice tells.
     if (taken.change == Change::wrapped)
         taken = takenAs(setting, {edit.value, values.value(holder), limits, Source::edit});
-    const Change change =
-        isWhole(taken.change) && !isSettable(setting, edit.value) ? Change::unknownCode : taken.change;
+    const Change change = isWhole(taken.change) && !isSettable(setting, edit.value, taken.change)
+                              ? Change::unknownCode
+                              : taken.change;
     if (!isWhole(change)) {
         *problem = {What::badValue, edit.path, edit.value, change, &setting, limits};
         return std::nullopt;

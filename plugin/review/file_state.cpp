@@ -125,9 +125,8 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     held.isWhole = isWhole(taken.change);
     held.isOfEdit = !held.isWhole && takenAs(values, held.row, text, Source::edit).value == text;
     held.meaning = held.isWhole ? taken.value : text;
-    held.change = !held.isWhole                                ? taken.change
-                  : held.isSaved && held.saved != held.meaning ? Change::byRule
-                                                               : Change::none;
+    const bool isRuled = held.isWhole && held.isSaved && held.saved != held.meaning;
+    held.change = isRuled ? Change::byRule : taken.change;
 }
 
 void FileState::take(const Values& values)

@@ -193,8 +193,8 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
         // A long period is lost by the next load alone, which advice tells.
         const bool isLong = held.isOfEdit && held.change == Change::wrapped;
         const bool isLost = !held.isSaved || (!isLong && held.saved != held.meaning);
-        const bool isUnfit =
-            isLost || !isSettable(setting, entry.second) || isDoubted(applied.result, entry.first);
+        const bool isUnfit = isLost || !isSettable(setting, entry.second, held.change) ||
+                             isDoubted(applied.result, entry.first);
         if (isUnfit)
             applied.problems.push_back({!held.isSaved && held.isWhole ? What::noPlace : What::badValue,
                                         place.path, entry.second, isLost ? held.change : Change::unknownCode,

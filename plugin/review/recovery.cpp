@@ -85,7 +85,8 @@ bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason)
     QByteArray content(kMark);
     QDataStream stream(&content, QIODevice::Append);
     stream.setVersion(kStreamVersion);
-    stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after << unsaved.quick;
+    stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after << unsaved.quick
+           << unsaved.file << unsaved.inFile;
     QDir().mkpath(QFileInfo(path).path());
     return replacePrivateFile(path, content + sumOf(content), reason);
 }
@@ -106,6 +107,9 @@ std::optional<Unsaved> unsavedIn(const QString& path)
     stream >> unsaved.subject >> unsaved.moment >> unsaved.before >> unsaved.after >> unsaved.quick;
     if (stream.status() != QDataStream::Ok)
         return {};
+    // Earlier versions end here.
+    if (!stream.atEnd())
+        stream >> unsaved.file >> unsaved.inFile;
     return unsaved;
 }
 

@@ -24,6 +24,10 @@ struct Unsaved
     QByteArray after;
     // The values of the quick window by path, where it was on show; some of them no file holds.
     QMap<QString, QString> quick{};
+    // Of a tracker: the file that holds what was edited earlier and is not among these, and how many
+    // settings.
+    QString file{};
+    int inFile = 0;
 };
 
 struct KeptUnsaved

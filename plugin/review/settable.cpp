@@ -13,54 +13,6 @@ namespace vlk::review {
 
 namespace {
 
-// One function a kind: whether a window takes what a load would.
-template <IsStructure Row>
-bool isProper(const Row&, const QString&)
-{
-    return true;
-}
-
-bool isProper(const Period&, const QString&)
-{
-    return true;
-}
-
-bool isProper(const Flag& row, const QString& text)
-{
-    const int number = leadingInt(text);
-    return isWholeNumber(text) && (number == 0 || number == row.on);
-}
-
-bool isProper(const Number& row, const QString& text)
-{
-    return !row.isPort || leadingLong(text) <= kHighestPort;
-}
-
-bool isProper(const Choice& row, const QString& text)
-{
-    const auto isPlain = [](QChar sign) { return sign == QLatin1Char('0') || sign == QLatin1Char('1'); };
-    const Code* code = codeOf(row, text);
-    if (code && code->pattern)
-        return text.size() == QLatin1String(code->pattern).size() && std::ranges::all_of(text, isPlain);
-    return !row.numeric || isWholeNumber(text);
-}
-
-bool isProper(const Digits& row, const QString& text)
-{
-    if (text.size() != static_cast<int>(row.positions.size()))
-        return false;
-    return std::ranges::equal(text, row.positions, [](QChar sign, const Position& position) {
-        return sign >= QLatin1Char('0') && sign <= QLatin1Char(static_cast<char>('0' + position.top));
-    });
-}
-
-bool isProper(const Mask& row, const QString& text)
-{
-    return text.size() == row.length && std::ranges::all_of(text, [](QChar sign) {
-               return sign == QLatin1Char('0') || sign == QLatin1Char('1');
-           });
-}
-
 bool fits(const char* pattern, const QString& text)
 {
     return QRegularExpression(QLatin1String(pattern)).match(text).hasMatch();
@@ -88,6 +40,7 @@ bool isOneLine(const QString& text)
     });
 }
 
+// Whether a line edit takes the text and does not mark it.
 bool isProper(const Text& row, const QString& text)
 {
     if (text.isEmpty())
@@ -105,11 +58,14 @@ bool isProper(const Text& row, const QString& text)
 
 } // namespace
 
-bool isSettable(const Setting& setting, const QString& text)
+bool isSettable(const Setting& setting, const QString& text, Change change)
 {
+    const Number* number = setting.number();
+    const auto* line = setting.as<Text>();
     // What a file would not bring back is none either.
-    return isOneLine(text) && sectionText(text) == text && decodeValue(text) == text &&
-           std::visit([&](const auto& row) { return isProper(row, text); }, setting.kind);
+    return change != Change::looseForm && isOneLine(text) && sectionText(text) == text &&
+           decodeValue(text) == text && (!line || isProper(*line, text)) &&
+           (!number || !number->isPort || leadingLong(text) <= kHighestPort);
 }
 
 bool isDoubted(const Configuration& configuration, int key)

@@ -12,9 +12,9 @@ constexpr auto kElementRows =
     repeat<kBluetoothSensors>([](int) { return elementRows(std::make_index_sequence<kTypes>{}); });
 
 constexpr auto kFormSets = [] {
-    std::array<Sets, kTypes + 1> sets{};
-    for (std::size_t i = 0; i <= kTypes; ++i)
-        sets[i] = onEditOrRead(when("SENS%1/type", kFormCodes[i].code), "SENS%1/form", kFormCodes[i].code);
+    std::array<Sets, kTypeCodes.size()> sets{};
+    for (std::size_t i = 0; i < sets.size(); ++i)
+        sets[i] = onEditOrRead(when("SENS%1/type", kTypeCodes[i].code), "SENS%1/form", kTypeCodes[i].code);
     return sets;
 }();
 

@@ -27,13 +27,13 @@ struct Sets
     Moment moment;
     When when;
     Path path;
-    // '*' leaves its position alone; then no position comes, and what lies beyond the end is passed over.
-    const char* to;
+    const char* to;             // laid over the value (base/masked_text.h): '*' leaves its position alone
     std::array<When, 2> also{}; // hold too
     bool isOnset = false;       // only where `when` did not hold before
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(when), visit(path), visit(also); }
+    constexpr void eachValue(auto visit) const { visit(path, to); }
 
     constexpr Sets onlyIf(When first, When second = {}) const
     {
@@ -88,11 +88,12 @@ struct RangeWhen
     double least = 0;
     double most = 0;
     const char* unit = nullptr;
-    const char* offers = nullptr; // "0|1"
+    const char* offers = nullptr; // "0|1"; the same in all repetitions
     bool startsOver = false;
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(when), visit(path); }
+    constexpr void eachValue(auto visit) const { visit(path, numbers.outer > 1 ? "" : offers); }
 };
 
 // A choice out of a list that several settings share, each code for one of them: two temperature sensors have
@@ -141,6 +142,15 @@ struct Presets
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(trigger), visit(fields); }
+    constexpr void eachValue(auto visit) const
+    {
+        visit(trigger, other);
+        for (const PresetRow& row : rows) {
+            visit(trigger, row.code);
+            for (std::size_t field = 0; field < fields.size(); ++field)
+                visit(fields[field], row.values[field]);
+        }
+    }
 };
 
 // A value that is taken as it stands, and marked in its widget while all conditions hold: `complaint` is the

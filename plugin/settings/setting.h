@@ -69,6 +69,16 @@ struct Setting
 
 static_assert(sizeof(Setting) < 200, "a row is small");
 
+// A value that a rule names: a code of a choice, digits and their signs, '*' for any.
+constexpr void checkValue(const Setting& setting, std::string_view value)
+{
+    const auto* choice = setting.as<Choice>();
+    if (choice ? !isKnown(*choice, value)
+               : setting.shown() && !setting.is<Text>() &&
+                     value.find_first_not_of("0123456789ABCDEF.-*") != value.npos)
+        throw "a rule names a value that its setting cannot have";
+}
+
 QString normalise(const Setting& setting, const Reading& reading);
 // Texts of the two defaults in the present language, as a file would hold them.
 QString loadDefault(const Setting& setting);

@@ -8,18 +8,6 @@
 
 namespace vlk::tables {
 
-constexpr std::uint64_t pathHash(std::string_view element, Numbers ofElement, std::string_view key,
-                                 Numbers numbers)
-{
-    return hashOf(key, numbers, hashOf("/", {}, hashOf(element, ofElement)));
-}
-
-constexpr std::uint64_t widgetHash(std::string_view form, std::string_view widget, Numbers numbers)
-{
-    // Forms of one class, one a number, have widgets of the same names.
-    return hashOf(widget, numbers, hashOf("/", {}, hashOf(form, numbers, numbers.outer)));
-}
-
 // Hands every widget that a row names to `take`, as form, widget, and numbers.
 constexpr void eachWidget(const Setting& row, auto take)
 {
@@ -81,7 +69,8 @@ constexpr auto namesIn()
     return isEachOnce(names) ? names : throw "a name stands twice";
 }
 
-// Finds the rows of paths.
+// Finds the rows of paths, and looks at what rules say of them: that they are of a kind that these can act
+// on, and that they can have the values that these name.
 struct Finder
 {
     constexpr void operator()(Path& path) const
@@ -89,11 +78,18 @@ struct Finder
         if (path && (path.row = rowOf(pathHash(path.form(), numbers, path.tail, numbers), names)) < 0)
             throw "no row has this path";
     }
+    template <class... Kinds>
+    constexpr void operator()(PathOf<Kinds...>& path) const
+    {
+        operator()(static_cast<Path&>(path));
+        if (path && !(values[path.row]->template is<Kinds>() || ...))
+            throw "a rule acts on a setting of another kind";
+    }
     constexpr void operator()(When& when) const
     {
         operator()(static_cast<Path&>(when));
         if (!when.same)
-            return;
+            return checkValues(when, when.codes);
         Path other(when.codes, when.tail);
         operator()(other);
         when.other = other.row;
@@ -103,36 +99,16 @@ struct Finder
         for (auto& item : all)
             operator()(item);
     }
+    constexpr void checkValues(const Path& path, const char* list) const
+    {
+        eachName(values.empty() || path.row < 0 || !list ? "" : list, '|',
+                 [&](std::string_view value) { checkValue(*values[path.row], value); });
+    }
 
     NameTable names;
     Numbers numbers;
+    std::span<const Setting* const> values; // by row; empty while rows are made
 };
-
-// Looks at rules: what they act on is of a kind that they can act on.
-struct RuleFinder : Finder
-{
-    using Finder::operator();
-    template <class... Kinds>
-    constexpr void operator()(PathOf<Kinds...>& path) const
-    {
-        operator()(static_cast<Path&>(path));
-        if (path && !(values[path.row]->template is<Kinds>() || ...))
-            throw "a rule acts on a setting of another kind";
-    }
-
-    std::span<const Setting* const> values; // by row
-};
-
-constexpr void checkTargets(const Enable& rule, NameTable widgets)
-{
-    std::string_view names(rule.targets.tail);
-    while (!rule.targets.areParts && !names.empty()) {
-        const std::size_t end = std::min(names.find(' '), names.size());
-        if (rowOf(widgetHash(rule.targets.form(), names.substr(0, end), rule.numbers), widgets) < 0)
-            throw "no row has this widget";
-        names.remove_prefix(std::min(end + 1, names.size()));
-    }
-}
 
 // The rows of a table, checked, with the rows of their conditions found.
 template <const auto& source>
@@ -143,7 +119,7 @@ struct Made
     static constexpr auto kRows = [] {
         auto all = source;
         for (Setting& setting : all) {
-            const Finder find{kPaths, setting.base().numbers};
+            const Finder find{kPaths, setting.base().numbers, {}};
             std::visit(
                 [&](auto& row) {
                     if constexpr (requires { check(row); })
@@ -172,13 +148,25 @@ struct MadeRules
     static constexpr auto kRules = [] {
         auto all = given;
         for (auto& rule : all) {
-            rule.eachPath(RuleFinder{{Made<source>::kPaths, rule.numbers}, Made<source>::kValues});
+            const Finder find{Made<source>::kPaths, rule.numbers, Made<source>::kValues};
+            rule.eachPath(find);
+            if constexpr (requires { rule.eachValue(find); })
+                rule.eachValue([&](const auto&... item) { find.checkValues(item...); });
+            if constexpr (requires { rule.startsOver; }) {
+                if (!find.values[rule.path.row]->number() == !rule.offers || rule.least > rule.most)
+                    throw "a rule gives a range of another kind";
+            }
             if constexpr (requires { rule.listHash; }) {
                 rule.listHash = hashOf(rule.list, rule.numbers);
                 rule.holderHash = hashOf(rule.holder, rule.numbers);
             }
-            if constexpr (requires { rule.targets; })
-                checkTargets(rule, Made<source>::kWidgets);
+            if constexpr (requires { rule.targets; }) {
+                eachName(rule.targets.areParts ? "" : rule.targets.tail, ' ', [&](std::string_view name) {
+                    const auto hash = widgetHash(rule.targets.form(), name, rule.numbers);
+                    if (rowOf(hash, Made<source>::kWidgets) < 0)
+                        throw "no row has this widget";
+                });
+            }
         }
         return all;
     }();

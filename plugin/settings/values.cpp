@@ -42,7 +42,7 @@ QString Values::written(int row, const QString& value) const
     QString text = number && number->blankIsZero && value.isEmpty() ? QStringLiteral("0") : value;
     for (const Sets* rule : layout_->rows[row].saves) {
         if (holdsToo(*rule))
-            text = laidOver(text, rule->to);
+            text = laidOver(text, QLatin1String(rule->to));
     }
     return text;
 }

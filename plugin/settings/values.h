@@ -11,6 +11,7 @@
 // A value is known by its row, counted from 0 in the order of the table, or by its path below the section:
 // "POINTS/angle". All tables together are a Configuration (document/configuration.h).
 
+#include "base/masked_text.h"
 #include "settings/table_layout.h"
 
 #include <functional>
@@ -94,8 +95,6 @@ private:
     // The code that a setting without a claim gets for one that is taken: the next one that is free now and
     // was before, else the one that has just been given back.
     QString yielded(const ExclusiveChoice& sharer, int row, const QString& before);
-    // What a rule makes of a value (Sets::to).
-    static QString laidOver(const QString& value, const char* to);
     void setAll(const std::vector<const Sets*>& rules, Changes* changed);
     // What the rules of the row, which was worth `before`, set.
     void setBy(int row, bool isRead, const QString& before, Changes* changed);

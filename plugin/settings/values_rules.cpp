@@ -67,24 +67,11 @@ void Values::setBy(int row, bool isRead, const QString& before, Changes* changed
     }
 }
 
-QString Values::laidOver(const QString& value, const char* to)
-{
-    const QLatin1String pattern(to);
-    if (!pattern.contains(QLatin1Char('*')))
-        return pattern;
-    QString text = value;
-    for (int i = 0; i < std::min(text.size(), pattern.size()); ++i) {
-        if (pattern[i] != QLatin1Char('*'))
-            text[i] = pattern[i];
-    }
-    return text;
-}
-
 void Values::setAll(const std::vector<const Sets*>& rules, Changes* changed)
 {
     for (const Sets* rule : rules) {
         if (holdsToo(*rule))
-            put(rule->path.row, laidOver(values_[rule->path.row], rule->to), changed);
+            put(rule->path.row, laidOver(values_[rule->path.row], QLatin1String(rule->to)), changed);
     }
 }
 

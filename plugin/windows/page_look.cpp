@@ -1,12 +1,15 @@
 #include "windows/page_look.h"
 
 #include "typing/grid.h"
+#include "windows/eliding_combobox.h"
 #include "windows/folding_grid.h"
 #include "windows/page_style.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -122,6 +125,7 @@ private:
     void dressGroups();
     void dressBoxes();
     void dressFields();
+    void dressLists();
     void findGrids();
     int room() const;
     void stackBoxes(QBoxLayout* row, int width);
@@ -143,6 +147,7 @@ void PageLook::refresh()
     dressBoxes();
     findGrids();
     dressFields();
+    dressLists();
     wrapCaptions();
     lineUp();
     busy_ = false;
@@ -238,6 +243,39 @@ void PageLook::dressFields()
         }
         for (QAbstractSpinBox* box : boxes)
             box->setMinimumWidth(width);
+    }
+}
+
+// A list is as wide as its longest item needs, and no wider than the usual list unless that is more, however
+// wide the fields of its column are. The style likes it that wide.
+void PageLook::dressLists()
+{
+    for (QComboBox* list : page_->findChildren<QComboBox*>()) {
+        QStyleOptionComboBox option;
+        option.initFrom(list);
+        const QFontMetrics letters = list->fontMetrics();
+        int longest = 0;
+        for (int i = 0; i < list->count(); ++i)
+            longest = std::max(longest, letters.horizontalAdvance(list->itemText(i)));
+        const QSize words(longest, letters.height());
+        const int needed =
+            QApplication::style()->sizeFromContents(QStyle::CT_ComboBox, &option, words, list).width();
+        list->setMaximumWidth(std::max(needed, PageStyle::listWidth(option)));
+        if (!qobject_cast<ElidingComboBox*>(list)) { // which know what they need
+            if (list->style() != style_.get())
+                list->setStyle(style_.get());
+            if (list->sizeAdjustPolicy() != QComboBox::AdjustToMinimumContentsLengthWithIcon) {
+                list->setMinimumWidth(needed);
+            } else if (list->minimumWidth() == 0) {
+                // One that may be cut where the page is narrow.
+                list->setMinimumWidth(std::min(list->minimumSizeHint().width(), list->maximumWidth()));
+                list->setMinimumContentsLength(longest / letters.horizontalAdvance(QLatin1Char('X')) + 1);
+            }
+        }
+        auto* around = qobject_cast<QGridLayout*>(layoutAround(list->parentWidget()->layout(), list));
+        QLayoutItem* item = around ? around->itemAt(around->indexOf(list)) : nullptr;
+        if (item && !(item->alignment() & Qt::AlignLeft))
+            around->setAlignment(list, Qt::AlignLeft | Qt::AlignVCenter);
     }
 }
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kTabPadding = 8;
 constexpr int kBarHeight = 8;
+constexpr int kLettersOfList = 28;
 
 void paintBar(const QStyleOptionSlider& slider, const QRect& groove, QPainter* painter)
 {
@@ -75,7 +76,16 @@ QSize PageStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const
 {
     const QSize size = TitleStyle::sizeFromContents(type, option, contents, widget);
+    if (const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        list && type == CT_ComboBox)
+        return size.expandedTo({listWidth(*list), 0});
     return type == CT_PushButton ? withRoomBesideWords(size, contents, option) : size;
+}
+
+int PageStyle::listWidth(const QStyleOptionComboBox& option)
+{
+    const QSize words(kLettersOfList * option.fontMetrics.averageCharWidth(), option.fontMetrics.height());
+    return QApplication::style()->sizeFromContents(CT_ComboBox, &option, words).width();
 }
 
 QIcon PageStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const

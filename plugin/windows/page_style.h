@@ -2,14 +2,15 @@
 
 // How the parts of a settings page are drawn: titles of groups stand out and are whole, only the outermost
 // group has a frame, tabs stand close together, boxes can be seen on dark windows too, buttons have air
-// beside their words, and a slider that shows a measured value is a bar. It is set on the single widgets;
-// whatever else they do is the application's own style.
+// beside their words, lists like to be equally wide, and a slider that shows a measured value is a bar. It is
+// set on the single widgets; whatever else they do is the application's own style.
 
 #include "typing/title_style.h"
 
 #include <memory>
 
 class QMessageBox;
+class QStyleOptionComboBox;
 class QWidget;
 
 namespace vlk {
@@ -21,6 +22,8 @@ class PageStyle : public TitleStyle
 public:
     // One for all that hold it.
     static std::shared_ptr<PageStyle> shared();
+    // Of a list whose items are no longer than 28 characters.
+    static int listWidth(const QStyleOptionComboBox& option);
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget = nullptr) const override;

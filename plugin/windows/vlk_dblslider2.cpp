@@ -290,7 +290,7 @@ int VLK_DblSlider2::pixelOf(double value) const
     if (maximum_ <= minimum_)
         return 0;
     const double position = width() / (maximum_ - minimum_) * (value - minimum_);
-    return position > 0 ? static_cast<int>(std::min(position, double(width()))) : 0;
+    return position > 0 ? static_cast<int>(std::min(position, static_cast<double>(width()))) : 0;
 }
 
 void VLK_DblSlider2::paintTrack(QPainter& painter, int pixel1, int pixel2) const

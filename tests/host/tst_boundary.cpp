@@ -188,7 +188,8 @@ private Q_SLOTS:
                 const auto orDash = [](const QString* text) { return text ? *text : QString("-"); };
                 *static_cast<QStringList*>(context) << QString("%1%2 ").arg(row->kind).arg(row->severity) +
                                                            *row->path + '|' + row->paths->join(',') + '|' +
-                                                           orDash(row->page) + '|' + orDash(row->caption);
+                                                           orDash(row->page) + '|' + orDash(row->group) +
+                                                           '|' + orDash(row->caption);
             };
             host_.send(Message::CheckFile, &asked);
             return QString::number(asked.outcome) + ' ' + QString::number(asked.remarks) + ' ' +
@@ -196,8 +197,8 @@ private Q_SLOTS:
         };
         constexpr quint32 whole = sizeof(vlk::FileCheck);
         QCOMPARE(check(&file, whole),
-                 QString("1 4 01 TRACK/POINTS/angle|TRACK/POINTS/angle|cfgt3_001|cfgt3_010 "
-                         "11 DEVICE/model|DEVICE/model|-|-"));
+                 QString("1 4 01 TRACK/POINTS/angle|TRACK/POINTS/angle|cfgt3_001|cfgt3_006|cfgt3_010 "
+                         "11 DEVICE/model|DEVICE/model|-|-|-"));
         QCOMPARE(check(&none, whole), QString("2 0 "));
         QCOMPARE(check(&file, whole - 1), QString("0 0 "));
         QCOMPARE(check(nullptr, whole), QString("0 0 "));

@@ -3,6 +3,7 @@
 
 #include "support/data_table.h"
 #include "support/distances.h"
+#include "support/letters.h"
 #include "support/scripted_host.h"
 #include "window/appearance.h"
 #include "window/house_style.h"
@@ -59,6 +60,20 @@ bool isWhole(QWidget* widget)
     const auto* button = qobject_cast<QAbstractButton*>(widget);
     const bool hasWords = qobject_cast<QLabel*>(widget) || (button && !button->text().isEmpty());
     return !hasWords || widget->width() >= widget->minimumSizeHint().width();
+}
+
+// Wider than 28 characters, and than its longest item needs.
+bool isTooWide(const QComboBox* list)
+{
+    const QFontMetrics letters = list->fontMetrics();
+    int words = 28 * letters.averageCharWidth();
+    for (int i = 0; i < list->count(); ++i)
+        words = std::max(words, letters.horizontalAdvance(list->itemText(i)));
+    QStyleOptionComboBox option;
+    option.initFrom(list);
+    const QSize size(words, letters.height());
+    return list->width() >
+           QApplication::style()->sizeFromContents(QStyle::CT_ComboBox, &option, size).width();
 }
 
 } // namespace
@@ -118,11 +133,11 @@ private Q_SLOTS:
             for (int tab = 0; !list->isVisible(); ++tab)
                 tabs_->setCurrentIndex(tab);
             for (int item = 0; item < list->count(); ++item) {
-                // The table of registers has many columns: it has room with letters of an ordinary size.
+                // The table of registers has many columns: it has room with the letters of a desktop.
                 const bool isModbus = list->itemData(item) == QLatin1String("MDBS");
                 const QFont before = QApplication::font();
                 if (isModbus)
-                    QApplication::setFont(QFont(before.family(), 10));
+                    QApplication::setFont(QFont(before.family(), 9));
                 list->setCurrentIndex(item);
                 settle();
                 const QStringList found = faults();
@@ -173,7 +188,7 @@ private Q_SLOTS:
         }
     }
 
-    // From a field to the caption of the next one.
+    // From a field that takes its column to the caption of the next one.
     void gapOfPairs()
     {
         host_.open({});
@@ -182,7 +197,7 @@ private Q_SLOTS:
              {"Transfer_lineEdit_GSM_Login_1 label_GSM_Psw_1", "GPRSSrv_lineEdit_IP_DNS_Main label_Port_Main",
               "comboBox_RS485_Boudrate label_RS485_Parity", "comboBox_RS485_Parity label_RS485_StopBit",
               "Settings_Psw_lineEdit_CSD label_Psw_SMS", "lineEdit_Name_In1 label_Title_NormState_In1",
-              "comboBox_Type_Sens_1 label_MacAddr_Sens_1"}) {
+              "lineEdit_Name_Sens_1 label_MacAddr_Sens_1"}) {
             const QStringList names = QString(pair).split(' ');
             auto* field = tabs_->findChild<QWidget*>(names[0]);
             for (int tab = 0; !field->isVisible(); ++tab)
@@ -337,12 +352,20 @@ private Q_SLOTS:
             QComboBox list;
             list.addItem(QStringLiteral("All"));
             QTextBrowser page;
-            for (QWidget* widget : QWidgetList{&elsewhere, &button, &box, &tool, &list, &page})
+            QSlider slider(Qt::Horizontal);
+            QListWidget lines;
+            lines.addItem(QStringLiteral("IN1"));
+            lines.setCurrentRow(0);
+            const QPalette& palette = QApplication::palette();
+            QVERIFY(contrast(palette.highlight().color(), palette.base().color()) > 3);
+            QVERIFY(contrast(palette.highlight().color(), palette.highlightedText().color()) > 3);
+            const QWidgetList widgets{&button, &box, &tool, &list, &page, &slider, &lines};
+            for (QWidget* widget : QWidgetList{&elsewhere} + widgets)
                 layout.addWidget(widget);
             window.show();
             QApplication::setActiveWindow(&window);
             elsewhere.setFocus();
-            for (QWidget* widget : QWidgetList{&button, &box, &tool, &list, &page}) {
+            for (QWidget* widget : widgets) {
                 const QImage without = widget->grab().toImage();
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                 QVERIFY(widget->hasFocus());
@@ -390,6 +413,8 @@ private:
     QStringList faults() const
     {
         QStringList found = oddDistances(window_);
+        if (const QString letters = sharedLetters(window_); !letters.isEmpty())
+            found << letters;
         for (QWidget* widget : window_->findChildren<QWidget*>()) {
             if (!widget->isVisible())
                 continue;
@@ -407,6 +432,8 @@ private:
                 found << QStringLiteral("scrolls within what scrolls");
             if (!isWhole(widget))
                 found << widget->objectName() + QStringLiteral(" is cut");
+            if (const auto* list = qobject_cast<QComboBox*>(widget); list && isTooWide(list))
+                found << widget->objectName() + QStringLiteral(" is wide");
             const auto* label = qobject_cast<QLabel*>(widget);
             if (label && qobject_cast<QCheckBox*>(label->buddy()))
                 found << widget->objectName() + QStringLiteral(" stands beside its box");

@@ -1,39 +1,23 @@
 // What was edited and neither saved nor written when the window closed or the process died: kept on disk, and
 // offered when the same configuration is opened again.
 
-#include "review/recovery.h"
+#include "host/unsaved_window.h"
 #include "support/data_table.h"
-#include "support/files.h"
 #include "support/full_disk.h"
-#include "support/scripted_host.h"
-#include "support/typing.h"
-#include "support/window_parts.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 #include <cstdio>
-#include <memory>
 #include <random>
-
-using vlk::Message;
 
 namespace {
 
 constexpr char kFolder[] = "VLK_EDITED_FOLDER"; // in the environment of a process that is to be killed
 constexpr char kKills[] = "VLK_KILLS";
 
-void useFolder(ScriptedHost& host, const QString& folder)
-{
-    host.start();
-    const vlk::Paths paths{{}, folder, {}, {}};
-    host.send(Message::SetPaths, &paths);
-}
-
 // Edits for ever, and says after each edit which one it was, and when.
 int editUntilKilled(const QString& folder)
 {
     ScriptedHost host;
+    host.start();
     useFolder(host, folder);
     host.open({});
     // One key an edit: what is kept in the middle of typing a number would be taken for another one.
@@ -74,7 +58,7 @@ public:
 
 } // namespace
 
-class UnsavedTest : public QObject, private WindowParts
+class UnsavedTest : public QObject, private UnsavedWindow
 {
     Q_OBJECT
 
@@ -84,15 +68,7 @@ private Q_SLOTS:
         QDir::setCurrent(folder_.path());
         toldInTheFirstWindow();
     }
-    void init()
-    {
-        kept_ = std::make_unique<QTemporaryDir>();
-        const vlk::Paths paths{{}, kept_->path(), {}, {}};
-        host_.send(Message::SetPaths, &paths);
-        attach("1");
-        open("file");
-        window = ScriptedHost::window("VLK_Widget_Config");
-    }
+    void init() { begin(); }
 
     void broughtBack_data()
     {
@@ -177,28 +153,14 @@ private Q_SLOTS:
         QCOMPARE(readFile(path), saved);
         open(source, full);
         QCOMPARE(offer(), isOfTracker ? QString("rev_345: 1") : QString());
+        // Of what is offered nowhere the file is named.
+        if (isOfTracker) {
+            const auto kept = vlk::review::unsavedIn(files().value(0));
+            QVERIFY(kept && kept->file == path && kept->inFile == 2);
+            QVERIFY(child<QLabel>("label_Unsaved")->text().endsWith(". rev_434"));
+        }
         host_.open(path, full, true);
         QCOMPARE(offer(), isOfTracker ? QString() : QString("rev_345: 1"));
-    }
-
-    // From then on the tracker has what was written; a file that was opened stays as it is.
-    void comparedWithWhatIsWritten()
-    {
-        for (const QString source : {"tracker", "file"}) {
-            open(source, false);
-            edit(false);
-            const auto* count = child<QToolButton>("toolButton_Differences");
-            QVERIFY(count->text() != "0");
-            written(false);
-            QCOMPARE(count->text() == "0", source == "tracker");
-            press("pushButton_Light_ConfigFull");
-            const auto* mark =
-                child<QWidget>("page_Full")->findChild<QWidget*>("mark_GPRSSrv_spinBox_Port_Main");
-            QCOMPARE(mark && mark->isVisible(), source == "file");
-            press("toolButton_Differences");
-            QCOMPARE(child<QComboBox>("comboBox_Against")->itemText(0),
-                     QString(source == "tracker" ? "rev_255" : "rev_109"));
-        }
     }
 
     // What is taken back, saved to a file or there already is not offered, nor another tracker's.
@@ -247,35 +209,6 @@ private Q_SLOTS:
         QVERIFY(offer().isEmpty());
     }
 
-    // What the file still holds is kept there; what the tracker held before a write is an edit.
-    void takenBackBehindAWrite()
-    {
-        for (const QString source : {"file", "tracker"}) {
-            open(source);
-            edit();
-            written();
-            press("toolButton_Undo");
-            press("toolButton_Undo");
-            window->close();
-            QCOMPARE(files().size(), source == "tracker" ? 1 : 0);
-        }
-    }
-
-    // A new configuration is the tracker's once it is written, and so is what is edited from then on.
-    void goesOnInTheTracker()
-    {
-        open("new");
-        edit();
-        written();
-        type(child<QSpinBox>("spinBox_RegTimer"), "<All>61<Tab>");
-        window->close();
-        open("new");
-        QVERIFY(offer().isEmpty());
-        open("tracker");
-        QCOMPARE(offer(), QString("rev_345: 1"));
-        QCOMPARE(files().size(), 1);
-    }
-
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
     void countedAlike()
     {
@@ -288,8 +221,7 @@ private Q_SLOTS:
         for (const QString& folder : {QString(), kept_->path()}) {
             if (!folder.isEmpty())
                 QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of \\d\\d:\\d\\d: $"));
-            const vlk::Paths paths{{}, folder, {}, {}};
-            host_.send(Message::SetPaths, &paths);
+            useFolder(host_, folder);
         }
         open("new");
         QCOMPARE(offer(), QString("rev_345: 3"));
@@ -444,74 +376,6 @@ private Q_SLOTS:
         QCOMPARE(lost, 0);
     }
 
-    // From the host's word on a message that hands it over is not enough, and what was edited since stays.
-    void confirmed()
-    {
-        vlk::WriteConfirmation told;
-        host_.send(Message::ConfirmWrite);
-        for (const quint32 size : {0U, 4U}) {
-            told.size = size;
-            host_.send(Message::ConfirmWrite, &told);
-        }
-        edit();
-        written();
-        QCOMPARE(files().size(), 0);
-
-        told.size = sizeof told;
-        host_.send(Message::ConfirmWrite, &told);
-        told.step = vlk::WriteConfirmation::confirmed;
-        type(child<QLineEdit>("lineEdit_Name"), "<All>again");
-        const QByteArray first = written();
-        QCOMPARE(files().size(), 1);
-        type(child<QSpinBox>("spinBox_RegTimer"), "<All>61<Tab>");
-        written(); // which the host refuses
-        told.content = &first;
-        host_.send(Message::ConfirmWrite, &told);
-        open("tracker");
-        host_.send(Message::ConfirmWrite, &told);
-        open("file");
-        QCOMPARE(offer(), QString("rev_345: 1"));
-        press("label_Unsaved_Action2");
-        written();
-        open("tracker");
-        told.size = offsetof(vlk::WriteConfirmation, content); // the last one
-        host_.send(Message::ConfirmWrite, &told);
-        QCOMPARE(files().size(), 0);
-    }
-
-    // A write that its run did not see the end of is tried again by the next run, which knows of it by what
-    // the tracker has now alone.
-    void confirmedInTheNextRun_data()
-    {
-        DataTable<QString, bool> table({"source", "full"});
-        for (const char* source : {"tracker", "new", "file"})
-            table.row(source, source, true);
-        table.row("quick", "tracker", false);
-    }
-    void confirmedInTheNextRun()
-    {
-        QFETCH(QString, source);
-        QFETCH(bool, full);
-        host_.send(Message::ConfirmWrite);
-        open(source, full);
-        edit(full);
-        vlk::WriteConfirmation told;
-        told.step = vlk::WriteConfirmation::confirmed;
-        const QByteArray content = written(full);
-        told.content = &content;
-        const QString kept = files().value(0);
-        QVERIFY(QFile::copy(kept, kept.chopped(qstrlen(".unsaved")) + "0.unsaved"));
-        auto unsaved = vlk::review::unsavedIn(kept);
-        QVERIFY(unsaved);
-        unsaved->subject = "tracker firmware\n2"; // which has not got it
-        const QString other = vlk::review::recoveryPath(kept_->path(), unsaved->subject);
-        QString reason;
-        QVERIFY(vlk::review::keepUnsaved(other, *unsaved, &reason));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes are written: "));
-        host_.send(Message::ConfirmWrite, &told);
-        QCOMPARE(files(), QStringList{other});
-    }
-
 private:
     // The first window of a process is told of what an earlier one left while it has no size yet.
     void toldInTheFirstWindow()
@@ -525,6 +389,7 @@ private:
         writeFile(files()[0], readFile(files()[0]).left(100));
 
         const LongSentence sentence;
+        host_.start();
         useFolder(host_, kept_->path());
         host_.open({});
         window = ScriptedHost::window("VLK_Widget_Config");
@@ -536,54 +401,6 @@ private:
         for (const QWidget* part : {child<QWidget>("label_Unsaved"), child<QWidget>("label_Unsaved_Close")})
             QVERIFY2(bar->rect().contains(part->geometry()), qPrintable(part->objectName()));
     }
-    void attach(const QString& number)
-    {
-        const vlk::ConnectInfo info{"R-7106", "firmware", number, {}, 0, 0};
-        host_.send(Message::TrackerAttached, &info);
-    }
-    void open(const QString& source, bool full = true)
-    {
-        const QString path = source == "new" ? QString() : VLK_SOURCE "/fuzz/corpus/settings/factory.xml";
-        host_.open(path, full, source == "file");
-    }
-    // Two settings that both windows have.
-    void edit(bool full = true)
-    {
-        window = ScriptedHost::window("VLK_Widget_Config");
-        auto* page = child<QWidget>(full ? "page_Full" : "page_Light");
-        type(page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"), "<All>5555<Tab>");
-        type(page->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "<All>10.0.0.1<Tab>");
-        QCoreApplication::processEvents();
-    }
-    // What the button for the tracker hands over.
-    QByteArray written(bool full = true)
-    {
-        press(full ? "pushButton_LoadToDevice" : "pushButton_Light_LoadToDevice");
-        const QString path = host_.takeSent(Message::WriteConfiguration).value(0).text1;
-        QByteArray content = readFile(path);
-        QFile::remove(path);
-        return content;
-    }
-    // Empty while nothing is offered.
-    QString offer() const
-    {
-        const auto* label = child<QLabel>("label_Unsaved");
-        return label->isVisible() ? label->text().section(" (", 0, 0) : QString();
-    }
-    QStringList files() const
-    {
-        QStringList paths;
-        for (const QFileInfo& file :
-             QDir(kept_->filePath(".unsaved")).entryInfoList(QDir::Files | QDir::Hidden)) {
-            if (file.suffix() != QLatin1String("lock"))
-                paths << file.filePath();
-        }
-        return paths;
-    }
-
-    ScriptedHost host_;
-    QTemporaryDir folder_;
-    std::unique_ptr<QTemporaryDir> kept_;
 };
 
 int main(int argc, char* argv[])

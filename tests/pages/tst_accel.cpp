@@ -5,6 +5,7 @@
 #include "link/messages.h"
 #include "settings_page.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
@@ -88,7 +89,7 @@ private Q_SLOTS:
     {
         check({{"checkBox_Auto", true}});
         page().showPresentValues({0, 0, 810000});
-        box(2)->setValue(49.9);
+        type(box(2), "<All>49.9<Enter>");
         QCOMPARE(seen(2), QString("50.0 % 500!"));
         page().retranslate();
         QCOMPARE(seen(2), QString("50.0 % 500!"));
@@ -137,7 +138,7 @@ private Q_SLOTS:
         VLK_Widget_Config_Full full;
         show(full);
         full.deviceConnected();
-        get<QSpinBox>("spinBox_Auto_TimeOut")->setValue(7);
+        type(get<QSpinBox>("spinBox_Auto_TimeOut"), "<All>7<Enter>");
         check({{"checkBox_Auto", true}});
         QCOMPARE(take(), QVector<Message>{Message::RequestAccel});
         QCOMPARE(notEnabled("spinBox_Auto_TimeOut pushButton_Quest", false), QStringList());

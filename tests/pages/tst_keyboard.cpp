@@ -8,6 +8,7 @@
 #include "dialog/widget_config_full.h"
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
+#include "support/brackets.h"
 #include "support/device.h"
 #include "support/setting_samples.h"
 #include "support/typing.h"
@@ -17,7 +18,6 @@
 #include <QLineEdit>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTranslator>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -26,19 +26,6 @@
 #include <optional>
 
 namespace {
-
-class TypedTexts : public QTranslator
-{
-public:
-    QString translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        return texts.value(QString::fromLatin1(key));
-    }
-    bool isEmpty() const override { return false; }
-
-    Texts texts;
-};
 
 // What is typed into the field or the boxes of a setting, and the value that the setting is to have then;
 // none where it is refused.
@@ -142,11 +129,7 @@ class KeyboardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        device().initialize(nullptr);
-        QCoreApplication::installTranslator(&translator_);
-    }
+    void initTestCase() { device().initialize(nullptr); }
 
     void everyField_data()
     {
@@ -162,7 +145,7 @@ private Q_SLOTS:
         QFETCH(QString, language);
         QFETCH(bool, isFull);
         QLocale::setDefault(QLocale(language));
-        translator_.texts = readTexts(language);
+        texts_ = readTexts(language);
         sign_ = QLatin1Char(language == "ru" ? '.' : ',');
         fields_ = 0;
         wrong_.clear();
@@ -359,7 +342,8 @@ private:
         return lines.join('\n');
     }
 
-    TypedTexts translator_;
+    Texts texts_;
+    const TextsAs translator_{[this](const QString& key) { return texts_.value(key); }};
     QLatin1Char sign_{'.'};
     int fields_ = 0;
     QStringList wrong_;

@@ -7,6 +7,7 @@
 #include "pages/form_lines_in_settings.h"
 #include "settings_page.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QtTest>
@@ -79,21 +80,21 @@ private Q_SLOTS:
         QVERIFY(!shortest->isEnabled());
         use->setChecked(true);
         QCOMPARE(shortest->value(), 0.1);
-        shortest->setValue(0.5);
+        type(shortest, "<All>0,5<Enter>");
         use->setChecked(false);
         QCOMPARE(shortest->value(), 0.0);
         QVERIFY(!shortest->isEnabled());
         use->setChecked(true);
         QCOMPARE(shortest->value(), 0.5);
 
-        part<QSpinBox>(2, "spinBox_PLS_Stop_Time")->setValue(0);
+        type(part<QSpinBox>(2, "spinBox_PLS_Stop_Time"), "<All>0<Enter>");
         QVERIFY(!part<QWidget>(2, "groupBox_PLS_Work")->isEnabled());
         QVERIFY(part<QWidget>(3, "groupBox_PLS_Work")->isEnabled());
 
         for (const QString name : {"PLS", "FRQ", "TAHO"}) {
             auto* slider = part<QSlider>(2, "horizontalSlider_" + name + "_ThldBand");
             auto* level = part<QDoubleSpinBox>(2, "doubleSpinBox_" + name + "_ThldBand");
-            level->setValue(3.14);
+            type(level, "<All>3.14<Enter>");
             QCOMPARE(slider->value(), 3140);
             slider->setValue(4150);
             QCOMPARE(level->value(), 4.15);
@@ -151,7 +152,7 @@ private Q_SLOTS:
             const bool isSaid = !child<QLabel>("label_Quest_Since")->text().isEmpty();
             return isSaid && box->palette().color(QPalette::Text) != fresh;
         };
-        child<QSpinBox>("spinBox_AutoQuest_TimeOut")->setValue(2);
+        type(child<QSpinBox>("spinBox_AutoQuest_TimeOut"), "<All>2<Enter>");
         auto* again = child<QCheckBox>("checkBox_AutoQuest");
         again->setChecked(true);
         form->showLineValues("0000000"

@@ -122,6 +122,18 @@ private Q_SLOTS:
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0"));
         QVERIFY(toggle("checkBox_Fuel_RS485_Use_2").startsWith("rev_160"));
         QVERIFY(toggle("checkBox_Fuel_RS485_Use_2").isEmpty());
+        // Full setup fills in what quick setup has left out: nobody has edited it.
+        dialog_->switchToFull();
+        for (const bool isEdited : {false, true}) {
+            QVERIFY(child<QToolButton>("toolButton_Differences")->text().startsWith(isEdited ? "1+" : "0+"));
+            QVERIFY(child<QToolButton>("toolButton_Differences")->toolTip().endsWith("rev_432"));
+            QVERIFY(!child<QTabWidget>("tabWidget")->tabToolTip(9).contains("rev_161"));
+            type(child<QLineEdit>("lineEdit_Name"), "KAMAZ");
+        }
+        QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(child<QLabel>("label_UneditedSummary")->text(), QString("rev_431"));
+        QCOMPARE(child<QTableView>("tableView_Differences")->model()->index(0, 1).data().toString(),
+                 QString("▸ rev_430"));
     }
 
     // A bound that a typed one pushes away comes back with it, though not when that is typed back.

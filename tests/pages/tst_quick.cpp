@@ -4,6 +4,7 @@
 #include "dialog/form_config_light.h"
 #include "settings_page.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 
 #include <QSpinBox>
 #include <QtTest>
@@ -156,10 +157,8 @@ private:
         auto* widget = get(name);
         if (auto* list = qobject_cast<QComboBox*>(widget))
             list->setCurrentIndex(value.toInt());
-        else if (auto* number = qobject_cast<QSpinBox*>(widget))
-            number->setValue(value.toInt());
-        else if (auto* line = qobject_cast<QLineEdit*>(widget))
-            line->setText(value);
+        else if (qobject_cast<QSpinBox*>(widget) || qobject_cast<QLineEdit*>(widget))
+            type(widget, "<All><Back>" + value + "<Enter>");
         else if (auto* button = qobject_cast<QAbstractButton*>(widget);
                  button->isChecked() != (value == "1") || button->autoExclusive())
             button->click();

@@ -8,6 +8,7 @@
 #include "peripherals/form_config_rs_param_pcnt.h"
 #include "settings/rs_settings.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 #include "windows/wnd_config_full.h"
 
 #include <QCheckBox>
@@ -177,7 +178,7 @@ private Q_SLOTS:
             QCOMPARE(box->value(), shown);
         }
         test_.get<QPushButton>("pushButton_Programm_Get")->click();
-        box->setValue(77);
+        type(box, "<All>77<Enter>");
         test_.get<QPushButton>("pushButton_Programm_Set")->click();
         QCOMPARE(window.asked, QStringList({"get", "set 77"}));
         QVERIFY(!test_.save().contains("CNLG/program"));

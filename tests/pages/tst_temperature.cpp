@@ -3,6 +3,7 @@
 #include "pages/form_config_sensors_temp.h"
 #include "settings_page.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QDoubleSpinBox>
@@ -40,7 +41,7 @@ private Q_SLOTS:
         auto* slider = get<VLK_DblSlider2>("slider_Temp_4");
         for (const auto& [what, degrees] : steps) {
             if (what == "hyst")
-                get<QSpinBox>("spinBox_Hyst_4")->setValue(static_cast<int>(degrees));
+                type(get<QSpinBox>("spinBox_Hyst_4"), QString("<All>%1<Enter>").arg(degrees));
             else
                 what == "left" ? slider->setValue1(degrees) : slider->setValue2(degrees);
         }

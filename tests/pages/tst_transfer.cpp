@@ -3,6 +3,7 @@
 
 #include "support/answers.h"
 #include "support/data_table.h"
+#include "support/typing.h"
 #include "transfer_page.h"
 
 #include <QtTest>
@@ -53,12 +54,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, address);
         auto* edit = get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main");
-        edit->setText(address);
+        type(edit, "<All>" + address);
         QTEST(edit->toolTip() == QString("cfgt1_125"), "marked");
         QFETCH(bool, marked);
-        edit->setText(address + ' ');
+        type(edit, " ");
         QCOMPARE(edit->toolTip(), QString(marked ? "cfgt1_125" : "typed_blanks"));
-        edit->setText(address);
+        type(edit, "<Back>");
         QCOMPARE(saved("SRV1/addr"), address);
     }
 
@@ -67,7 +68,7 @@ private Q_SLOTS:
         const auto isMarked = [&] { return !get("GPRSSrv_spinBox_Port_Main")->toolTip().isEmpty(); };
         load({{"SRV1/addr", "10.0.0.1"}, {"SRV1/port", "0"}});
         QVERIFY(isMarked());
-        get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main")->setText("0.0.0.0");
+        type(get<QLineEdit>("GPRSSrv_lineEdit_IP_DNS_Main"), "<All>0.0.0.0<Enter>");
         QVERIFY(!isMarked());
         load({{"SRV1/addr", "10.0.0.1"}, {"SRV1/port", "4000"}});
         QVERIFY(!isMarked());

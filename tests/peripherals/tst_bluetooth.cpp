@@ -9,6 +9,7 @@
 #include "peripherals/form_config_bluetooth_device_type.h"
 #include "support/data_table.h"
 #include "support/setting_samples.h"
+#include "support/typing.h"
 #include "windows/wnd_config_full.h"
 
 #include <QAction>
@@ -462,7 +463,7 @@ private Q_SLOTS:
         auto* mac = get<QLineEdit>("lineEdit_Bt_MacAdr");
         QVERIFY(get("groupBox_Bt_Device")->isHidden());
         kind->setCurrentIndex(2);
-        mac->setText("01:02:03:04:05:06");
+        type(mac, "<Home>010203040506");
         kind->setCurrentIndex(0);
         QCOMPARE(mac->text(), QString(":::::"));
         kind->setCurrentIndex(1);

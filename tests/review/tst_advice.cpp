@@ -5,12 +5,12 @@
 #include "review/advice_rules.h"
 #include "settings/all_settings.h"
 #include "settings/data_set_boxes.h"
+#include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/setting_samples.h"
 #include "translations/text_files.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -38,23 +38,6 @@ void edit(vlk::Configuration& configuration, const QString& edits)
         configuration.edit(path, value);
     }
 }
-
-class TextsOf : public QTranslator
-{
-public:
-    explicit TextsOf(const QString& language) : texts_(readTexts(language))
-    {
-        QCoreApplication::installTranslator(this);
-    }
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* key, const char*, int) const override
-    {
-        return texts_.value(QString::fromLatin1(key));
-    }
-
-private:
-    const Texts texts_;
-};
 
 QStringList rulesOf(const std::vector<vlk::review::Finding>& findings)
 {
@@ -182,7 +165,7 @@ private Q_SLOTS:
                 }
             }
         }
-        const TextsOf english("en");
+        const TextsAs english([texts = readTexts("en")](const QString& key) { return texts.value(key); });
         vlk::Configuration configuration = factory_;
         edit(configuration,
              "TRANS/SRV1/addr=%2 %1; RS485/FS4/use=1; PROTOCOL/ZETA/mask=0@22; TRACK/GNSS/angle=31");

@@ -35,13 +35,19 @@ constexpr auto kRows = rowsOf(group("A"), flag("on", 0).in("box"), flag("off", 0
 #elif CASE == 15
                               integer("number", 5).switchedOnTo(7),
 #endif
-                              integer("speed", 5).range(1, 5));
+                              choice("code", kCodes, "a"), integer("speed", 5).range(1, 5));
 
 constexpr auto kSets = rulesOf(
 #if CASE == 7
     onEdit(when("A/speeds"), "A/on", "1"),
 #elif CASE == 8
     onEdit(when("A/speed"), "B/on", "1"),
+#elif CASE == 19
+    onEdit(when("A/code", "a|c"), "A/on", "1"),
+#elif CASE == 20
+    onEdit(when("A/on"), "A/code", "c"),
+#elif CASE == 21
+    onEdit(when("A/on"), "A/speed", "fast"),
 #endif
     always(when("A/speed", "5"), "A/off", "1"));
 
@@ -51,6 +57,13 @@ constexpr auto kPairs = rulesOf(Distance{"A/speed", "A/on"});
 constexpr auto kPairs = rulesOf(ExclusiveChoice{.path = "A/speed"});
 #elif CASE == 18
 constexpr auto kPairs = rulesOf(Presets{.trigger = "A/on"});
+#elif CASE == 22
+constexpr PresetRow kPresets[] = {{"a", {"1"}}, {"c", {"2"}}};
+constexpr auto kPairs = rulesOf(Presets{.trigger = "A/code", .fields = {"A/speed"}, .rows = kPresets});
+#elif CASE == 23
+constexpr auto kPairs = rulesOf(RangeWhen{.path = "A/code", .offers = "b|c"});
+#elif CASE == 24
+constexpr auto kPairs = rulesOf(RangeWhen{.path = "A/speed", .offers = "1|2"});
 #else
 constexpr auto kPairs = rulesOf(Distance{"A/speed", "A/speed"});
 #endif
@@ -89,5 +102,5 @@ int main()
 #if CASE == 10
     normalised(Forgotten(), Reading{{}, {}, {}});
 #endif
-    return static_cast<int>(kTable.rows.size()) - 4;
+    return static_cast<int>(kTable.rows.size()) - 5;
 }

@@ -196,9 +196,9 @@ private Q_SLOTS:
     {
         DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
         table.row("constant", "A/mode", "7", "1", Change::notOffered);
-        table.row("flag", "A/flag", "5", "1", Change::otherForm);
+        table.row("flag", "A/flag", "5", "1", Change::looseForm);
         table.row("flag, no number", "A/flag", "yes", "0", Change::notANumber);
-        table.row("flag of another value", "A/line", "1", "0", Change::otherForm);
+        table.row("flag of another value", "A/line", "1", "0", Change::looseForm);
         table.row("flag of its value", "A/line", "3", "3", Change::none);
         table.row("leading zeros", "A/whole", "007", "7", Change::otherForm);
         table.row("number", "A/whole", "91", "90", Change::outOfRange);
@@ -232,8 +232,8 @@ private Q_SLOTS:
         table.row("period beyond its boxes", "A/period", "999999999", "258360", Change::outOfRange);
         table.row("period beyond a day", "A/wrapped", "90060", "3660", Change::wrapped);
         table.row("least period", "A/least", "60", "300", Change::outOfRange);
-        table.row("digits", "A/digits", "9x", "100", Change::otherForm);
-        table.row("digits of lists", "A/lists", "231", "201", Change::otherForm);
+        table.row("digits", "A/digits", "9x", "100", Change::looseForm);
+        table.row("digits of lists", "A/lists", "231", "201", Change::looseForm);
         table.row("digit that a list lacks", "A/lists", "301", "001", Change::notOffered);
         table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
         table.row("half of a field", "A/fields", "10010001", "10010101", Change::completed);

@@ -4,6 +4,7 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QSet>
 #include <QStringList>
 #include <QWidget>
@@ -26,6 +27,9 @@ inline QStringList oddDistances(const QWidget* window)
             continue;
         QList<QPair<int, bool>> distances;
         const QMargins around = layout->contentsMargins();
+        const auto* group = qobject_cast<const QGroupBox*>(parent);
+        if (group && group->layout() == layout && !group->title().isEmpty())
+            distances << qMakePair(around.left(), around.left() == 16);
         for (const int margin : {around.left(), around.top(), around.right(), around.bottom()})
             distances << qMakePair(margin, margins.contains(margin));
         const auto between = [&distances](int spacing, int count, bool isRow) {
@@ -36,9 +40,7 @@ inline QStringList oddDistances(const QWidget* window)
             between(grid->horizontalSpacing(), grid->columnCount(), true);
             between(grid->verticalSpacing(), grid->rowCount(), false);
         } else if (const auto* box = qobject_cast<const QBoxLayout*>(layout)) {
-            // Between areas of a window stands its margin.
-            const bool isOfAreas = box->objectName() == QLatin1String("horizontalLayout_Center");
-            between(box->spacing(), box->count(), box->direction() == QBoxLayout::LeftToRight && !isOfAreas);
+            between(box->spacing(), box->count(), box->direction() == QBoxLayout::LeftToRight);
         }
         for (const auto& [distance, isOurs] : distances) {
             if (!isOurs)

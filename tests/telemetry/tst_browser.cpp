@@ -258,6 +258,8 @@ private Q_SLOTS:
         QByteArray binary = readFile(write(pages, TelemetryForm::binary));
         const QByteArray wholeBinary = binary;
         binary[128 + 42 + 2] = 9; // the second record's type
+        QByteArray joined = readFile(write(numbered({11111, 11112, 11113, 11114}, 3), TelemetryForm::binary));
+        joined.remove(128 + 42 + 40, 42); // one of two halves
         const QStringList all{"11111", "11112", "11113"};
         DataTable<QByteArray, QStringList, QString>({"content", "numbers", "bar"})
             .row("cut in a number", xml.left(xml.indexOf("<NumPage>11112") + 11), {"11111", "0"},
@@ -265,7 +267,8 @@ private Q_SLOTS:
             .row("no number", QByteArray(xml).replace(">11112<", ">1111x<"), {"11111", "0", "11113"},
                  "tmiw_188 tmiw_192")
             .row("binary", wholeBinary, all, "")
-            .row("a type changed", binary, {"11111", "11113"}, "tmiw_189 tmiw_192 tmiw_194");
+            .row("a type changed", binary, {"11111", "11113"}, "tmiw_189 tmiw_192 tmiw_194")
+            .row("two halves", joined, {"11111", "11112", "11114"}, "tmiw_189 tmiw_194 rec_682");
     }
     // Whole records before and behind the damage are shown, and what can be walked to is what there is. A bar
     // in both windows tells of it.

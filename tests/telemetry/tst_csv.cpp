@@ -1,11 +1,11 @@
 // The columns of the CSV form, and rows of hand-made records. Without a translator a word shows as its key.
 
 #include "sample_pages.h"
+#include "support/brackets.h"
 #include "telemetry/files/csv_columns.h"
 #include "telemetry/files/telemetry_csv_writer.h"
 
 #include <QBuffer>
-#include <QTranslator>
 #include <QtTest>
 
 #include <set>
@@ -63,20 +63,14 @@ QStringList headingsOf(int field)
 }
 
 // A language in which doors have a marker and degrees their sign.
-class Marked : public QTranslator
+QString marked(const QString& key)
 {
-public:
-    QString translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        if (QByteArray(key) == "tmizta_211")
-            return QStringLiteral("Door <val>: in");
-        if (QByteArray(key) == "abbr_017")
-            return QString::fromUtf8("°C");
-        return QByteArray(key) == "tmizta_206" ? QStringLiteral("Acc<val>eration") : QLatin1String(key);
-    }
-    bool isEmpty() const override { return false; }
-};
+    if (key == "tmizta_211")
+        return QStringLiteral("Door <val>: in");
+    if (key == "abbr_017")
+        return QString::fromUtf8("°C");
+    return key == "tmizta_206" ? QStringLiteral("Acc<val>eration") : key;
+}
 
 QStringList csv(const TelemetryPages& pages, const TelemetryTitles& titles = {})
 {
@@ -123,8 +117,7 @@ private Q_SLOTS:
             const QString field = line.section('=', 0, 0);
             QCOMPARE(field + '=' + headingsOf(field.toInt()).join(';'), line);
         }
-        Marked language;
-        QCoreApplication::installTranslator(&language);
+        const TextsAs language(marked);
         QCOMPARE(headingsOf(109).join(';'), QStringLiteral("Door 1: in;tmizta_212 1"));
         QCOMPARE(headingsOf(106).join(';'),
                  QStringLiteral("tmizta_205 Acc;tmizta_205 Acc Y;tmizta_205 Acc Z"));
@@ -161,8 +154,7 @@ private Q_SLOTS:
 private:
     void rowsInThisEncoding()
     {
-        Marked language;
-        QCoreApplication::installTranslator(&language);
+        const TextsAs language(marked);
         TelemetryPages pages;
         pages.push_back(recordOf({{element("NumPage"), 7},
                                   {element("Code"), 35},

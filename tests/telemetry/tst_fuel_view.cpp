@@ -11,6 +11,7 @@
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
 #include "telemetry/view/period_file.h"
+#include "typing/notice_bar.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -72,7 +73,8 @@ private Q_SLOTS:
     void init()
     {
         records_ = std::make_unique<ShownRecords>();
-        view_ = std::make_unique<FuelView>(records_.get());
+        bar_ = std::make_unique<NoticeBar>(nullptr, "label_Told");
+        view_ = std::make_unique<FuelView>(records_.get(), nullptr, bar_.get());
         records_->setContents(drained());
         view_->resize(700, 400);
         view_->show();
@@ -246,6 +248,8 @@ private Q_SLOTS:
         Q_EMIT menu->aboutToShow();
         menu->actions().last()->trigger();
         QVERIFY(!news->isVisible());
+        const QString told = bar_->findChild<QLabel*>("label_Told")->text();
+        QVERIFY2(QFileInfo::exists(told.section(": ", 1)), qPrintable(told));
         QCOMPARE(view_->litres().front(), 200.5 + (3120 - 2005) / 1995.0 * 199.5);
         QCOMPARE(table()->model()->rowCount(), 1);
     }
@@ -318,7 +322,7 @@ private Q_SLOTS:
         QVERIFY2(news.startsWith("Fall from 10.0\u00a0l is below the noise of the level, "),
                  qPrintable(news));
         const auto* fall = view_->findChild<QDoubleSpinBox*>("doubleSpinBox_FuelFall");
-        QVERIFY(fall->toolTip().contains("expect false ones"));
+        QVERIFY(fall->toolTip().contains("there may be false ones"));
     }
 
     void savesAndPrints()
@@ -468,6 +472,7 @@ private:
     EnglishTexts texts_;
     QTemporaryDir folder_;
     std::unique_ptr<ShownRecords> records_;
+    std::unique_ptr<NoticeBar> bar_;
     std::unique_ptr<FuelView> view_;
     QString good_;
 };

@@ -1,6 +1,7 @@
 // Records that come live while a saved period is shown: which of them join it, and what is told of them.
 
 #include "saving_view.h"
+#include "support/answers.h"
 
 using vlk::Message;
 
@@ -67,6 +68,10 @@ private Q_SLOTS:
         QCOMPARE(number(table->currentIndex().row()), QString("11"));
         host.send(Message::TrackerDetached);
         QCOMPARE(told(), QString("rec_543 rec_544 rec_545"));
+        // Nobody can read them again now: they do not go unasked.
+        answerBox("wrd_031", "rec_680");
+        records->close();
+        QVERIFY(records->isVisible());
         open();
         // They are not told as records of the tracker that comes next.
         QCOMPARE(text("label_SavedInPart"), QString());
@@ -114,6 +119,10 @@ private Q_SLOTS:
         QCOMPARE(seen(), qMakePair(2, QString()));
         send(Message::RecordByNumber, 9);
         QCOMPARE(seen(), qMakePair(3, QString("rec_543")));
+        host.send(Message::TrackerDetached);
+        answerBox("rec_681", "rec_680");
+        QVERIFY(records->close());
+        QVERIFY(!records->isVisible());
     }
 
     // The present state comes under the number of the latest record, which is another one.

@@ -1,6 +1,7 @@
 // What the window of records does with them: finding, opening, exporting, and files that take a while.
 
 #include "records_window.h"
+#include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -9,20 +10,6 @@
 using namespace vlk;
 
 Q_DECLARE_METATYPE(vlk::ExportForm)
-
-// Gives the text that a file cannot be written two lines, the file and why, and the button a letter.
-class ReasonApart : public QTranslator
-{
-public:
-    ReasonApart() { QCoreApplication::installTranslator(this); }
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* key, const char*, int) const override
-    {
-        if (qstrcmp(key, "rec_007") == 0)
-            return QStringLiteral("&Export");
-        return qstrcmp(key, "tmiw_187") == 0 ? QStringLiteral("%1\n%2") : QString();
-    }
-};
 
 class RecordsWindowTest : public QObject, private RecordsWindow
 {
@@ -178,7 +165,10 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(int, count);
         QFETCH(bool, isDiskFull);
-        const ReasonApart reason;
+        // The text that a file cannot be written has two lines, the file and why, and the button a letter.
+        const TextsAs reason([](const QString& key) {
+            return key == "rec_007" ? "&Export" : key == "tmiw_187" ? "%1\n%2" : QString();
+        });
         show(drive());
         type("lineEdit_Filter", "NumPage < 1005");
         pressInFilter(Qt::Key_Return);
@@ -220,7 +210,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(path), !isDiskFull);
         const QByteArray content = readFile(path);
         // By which spreadsheets know the encoding of headings.
-        QCOMPARE(content.startsWith("\xEF\xBB\xBFNumPage"),
+        QCOMPARE(content.startsWith("\xEF\xBB\xBFtmizta_123"),
                  rowOf(form).hasDecimalSign && !path.endsWith("GPX"));
         const auto* again = window->findChild<QAbstractButton*>("label_Damage_Action1");
         QCOMPARE(again ? again->text() : QString(), isDiskFull ? "Export" : "");

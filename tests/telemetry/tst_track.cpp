@@ -1,5 +1,6 @@
 // Where the vehicle was: which records are points, how far they are apart, and the track on show.
 
+#include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
@@ -20,17 +21,6 @@
 using namespace vlk;
 
 namespace {
-
-class CapitalTexts : public QTranslator
-{
-public:
-    CapitalTexts() { QCoreApplication::installTranslator(this); }
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* key, const char*, int) const override
-    {
-        return QString::fromLatin1(key).toUpper();
-    }
-};
 
 constexpr quint32 kStart = 1'763'625'600; // 20.11.2025 08:00 UTC
 
@@ -269,7 +259,7 @@ void TestTrack::showsAndMoves()
     const QImage before = canvas->grab().toImage();
     {
         // In another language its unit and its legend are other ones.
-        const CapitalTexts texts;
+        const TextsAs texts([](const QString& key) { return key.toUpper(); });
         view.retranslate();
         QCOMPARE(place->text(), told.toUpper());
         QVERIFY(canvas->grab().toImage() != before);

@@ -68,9 +68,15 @@ private Q_SLOTS:
         press("pushButton_Get_Current");
         QVERIFY(!functions->isVisible() && child<QWidget>("stackedWidget")->isVisible());
         window->setMinimumSize(0, 0);
-        window->resize(1024, 720);
+        // So they do where a row of them is wider than the window.
+        for (const int width : {800, 1600}) {
+            window->resize(width, 720);
+            press("pushButton_Func");
+            QVERIFY(functions->isVisible());
+            QCOMPARE(child<QWidget>("stackedWidget")->isVisible(), width == 1600);
+            press("pushButton_Func");
+        }
         press("pushButton_Func");
-        QVERIFY(functions->isVisible() && child<QWidget>("stackedWidget")->isVisible());
         QTest::keyClick(window, Qt::Key_Escape);
         QVERIFY(!functions->isVisible() && window->isVisible());
     }

@@ -19,6 +19,7 @@ struct Pour
 {
     qint64 from;
     qint64 until;
+    double before; // litres in the tanks
     double litres; // drained below 0
     qint64 seen;   // at the latest by sensors that sleep without ignition
 };
@@ -67,7 +68,8 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
         for (const tracker::Segment& segment : plan.segments) {
             using enum tracker::Activity;
             if (segment.activity == Filling || segment.activity == Draining)
-                driven.pours.push_back({segment.from, segment.from + segment.seconds, segment.fuelDelta, 0});
+                driven.pours.push_back(
+                    {segment.from, segment.from + segment.seconds, segment.at.fuel, segment.fuelDelta, 0});
             for (Pour& pour : driven.pours) {
                 if (pour.seen == 0 && segment.activity == Idling)
                     pour.seen = segment.from + kWakesWithin;
@@ -78,23 +80,34 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
     return driven;
 }
 
-// As somebody would calibrate the tank, ten litres at a time.
-inline vlk::FuelRows calibrationOf(const tracker::Tank& tank)
+// As somebody would calibrate the tank, ten litres at a time; or a tank so many times as large.
+inline vlk::FuelRows calibrationOf(const tracker::Tank& tank, double times = 1)
 {
     vlk::FuelRows rows;
     for (int litres = 0; litres <= tank.litres; litres += 10)
         rows.push_back(
-            {QString::number(litres),
+            {QString::number(litres * times),
              QString::number(std::round(tracker::sensorValue(tank, tracker::fuelHeight(tank, litres))))});
     return rows;
 }
 
-// Both tanks of the vehicle.
-inline std::vector<vlk::TankSensor> bothTanks()
+inline std::vector<vlk::TankSensor> tanksOf(std::initializer_list<tracker::Tank> tanks, double times = 1)
 {
-    std::vector<vlk::TankSensor> kTanks;
-    for (const tracker::Tank& tank : {tracker::kTanks[1], tracker::kTanks[2]})
-        kTanks.push_back({vlk::levelSensorOfTable(QLatin1String(tank.sensor)),
-                          vlk::FuelCurve(calibrationOf(tank), vlk::LevelKind::Code)});
-    return kTanks;
+    std::vector<vlk::TankSensor> sensors;
+    for (const tracker::Tank& tank : tanks)
+        sensors.push_back({vlk::levelSensorOfTable(QLatin1String(tank.sensor)),
+                           vlk::FuelCurve(calibrationOf(tank, times), vlk::LevelKind::Code)});
+    return sensors;
+}
+
+// Both tanks of the vehicle.
+inline std::vector<vlk::TankSensor> bothTanks(double times = 1)
+{
+    return tanksOf({tracker::kTanks[1], tracker::kTanks[2]}, times);
+}
+
+// The tank that is drawn on once the other one is empty.
+inline std::vector<vlk::TankSensor> lastTank(double times = 1)
+{
+    return tanksOf({tracker::kTanks[1]}, times);
 }

@@ -16,6 +16,8 @@ using vlk::Mark;
 using vlk::Notice;
 using vlk::NoticeBar;
 
+Q_DECLARE_METATYPE(NoticeBar::Place)
+
 class NoticeBarTest : public QObject
 {
     Q_OBJECT
@@ -56,15 +58,17 @@ private Q_SLOTS:
 
     void movesNothing_data()
     {
-        DataTable<bool, int, bool>({"keeps", "words", "moves"})
-            .row("a word", true, 1, false)
-            .row("two lines", true, 7, false)
-            .row("many lines", true, 80, false)
-            .row("many lines, no place kept", false, 80, true);
+        using Place = NoticeBar::Place;
+        DataTable<Place, int, bool>({"place", "words", "moves"})
+            .row("a word", Place::lines, 1, false)
+            .row("two lines", Place::lines, 7, false)
+            .row("many lines", Place::lines, 80, false)
+            .row("many lines, at the edge", Place::edge, 80, true)
+            .row("many lines, no place kept", Place::none, 80, true);
     }
     void movesNothing()
     {
-        QFETCH(bool, keeps);
+        QFETCH(NoticeBar::Place, place);
         QFETCH(int, words);
         QFETCH(bool, moves);
         QWidget window;
@@ -74,7 +78,7 @@ private Q_SLOTS:
         auto* below = new QPushButton(QStringLiteral("below"));
         column->addWidget(bar);
         column->addWidget(below, 1);
-        bar->keepPlace(keeps);
+        bar->keepPlace(place);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         const int before = below->y();
@@ -89,7 +93,7 @@ private Q_SLOTS:
         const QPoint middle = label->rect().center();
         QHelpEvent help(QEvent::ToolTip, middle, label->mapToGlobal(middle));
         QCoreApplication::sendEvent(label, &help);
-        QCOMPARE(QToolTip::text(), keeps && words > 7 ? told : QString());
+        QCOMPARE(QToolTip::text(), place != NoticeBar::Place::none && words > 7 ? told : QString());
     }
 };
 

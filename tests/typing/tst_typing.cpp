@@ -1,5 +1,6 @@
 // What a person types into fields: keys, both decimal signs, each end of typing, in both languages.
 
+#include "support/brackets.h"
 #include "support/data_table.h"
 #include "support/typing.h"
 #include "typing/field_mark.h"
@@ -15,35 +16,16 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
-#include <QTranslator>
 #include <QVBoxLayout>
 #include <QtTest>
 
 #include <cerrno>
-
-namespace {
-
-// Texts that begin with their key.
-class Keys : public QTranslator
-{
-public:
-    QString translate(const char* /*context*/, const char* key, const char* /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        return QString::fromLatin1(key) + QStringLiteral(" %1 %2 %3 %4");
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
 
 class TypingTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QCoreApplication::installTranslator(&keys_); }
-
     void init()
     {
         window_ = std::make_unique<QDialog>();
@@ -388,7 +370,8 @@ private:
         return field;
     }
 
-    Keys keys_;
+    // Texts that begin with their key.
+    const TextsAs keys_{[](const QString& key) { return key + QStringLiteral(" %1 %2 %3 %4"); }};
     std::unique_ptr<QDialog> window_;
     QSpinBox* whole_ = nullptr;
     QDoubleSpinBox* real_ = nullptr;

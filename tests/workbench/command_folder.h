@@ -11,6 +11,25 @@
 #include <memory>
 #include <tuple>
 
+// A status, standard output and standard error.
+using Ended = std::tuple<int, QByteArray, QByteArray>;
+
+// Runs the program in a folder.
+inline Ended runCommand(const QString& folder, const QStringList& arguments, const QByteArray& input)
+{
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C.UTF-8");
+    process.setProcessEnvironment(environment);
+    process.start(VLK_COMMAND, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished())
+        return {-1, {}, process.errorString().toUtf8()};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
 class CommandFolder
 {
 public:
@@ -110,21 +129,9 @@ public:
     QString path(const QString& name) const { return folder_->filePath(name); }
     void put(const QString& name, const QByteArray& content) const { writeFile(path(name), content); }
 
-    // Status, standard output and standard error.
-    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments,
-                                                const QByteArray& input = {}) const
+    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
     {
-        QProcess process;
-        process.setWorkingDirectory(folder_->path());
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("LC_ALL", "C.UTF-8");
-        process.setProcessEnvironment(environment);
-        process.start(VLK_COMMAND, arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        if (!process.waitForFinished())
-            return {-1, {}, process.errorString().toUtf8()};
-        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+        return runCommand(folder_->path(), arguments, input);
     }
 
     std::unique_ptr<QTemporaryDir> folder_;

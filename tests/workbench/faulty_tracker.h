@@ -126,7 +126,9 @@ struct Bench : OpenedWorkbench
         const QFrame* own = nullptr;
         for (const auto* candidate : window->findChildren<QFrame*>(QStringLiteral("noticeBar")))
             own = candidate->window() == window ? candidate : own;
-        const QRect room(own->mapToGlobal(QPoint()), own->size());
+        // A low window keeps an edge for it.
+        const int height = own->height() > 0 ? own->height() : bar->height();
+        const QRect room(own->mapToGlobal(QPoint()), QSize(own->width(), height));
         return room.contains(bar->geometry())
                    ? bar->findChild<QLabel*>(QStringLiteral("label_WindowNotice"))->text()
                    : QStringLiteral("out of place");

@@ -3,11 +3,11 @@
 #include "check/answer_check.h"
 #include "check/configuration_check.h"
 #include "check/record_check.h"
+#include "check/sealed_record.h"
 #include "check/telemetry_file_check.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/records.h"
-#include "tracker/sealed_record.h"
 #include "tracker/simulated_tracker.h"
 
 #include <QTemporaryDir>
@@ -192,8 +192,8 @@ private Q_SLOTS:
     {
         DataTable<Message, QByteArray, int> table({"answer", "bytes", "kind"});
         QByteArray analog(vlk::kAnalogRecordSize, '\7'), supply(sizeof(vlk::SupplyRecord), '\7');
-        tracker::seal(analog, Message::RequestAnalog);
-        tracker::seal(supply, Message::RequestSupply);
+        workbench::seal(analog, Message::RequestAnalog);
+        workbench::seal(supply, Message::RequestSupply);
         const int damaged = AnswerProblem::Damaged;
         table.row("analogue", Message::AnalogRecord, analog, kFine)
             .row("analogue, a wrong byte", Message::AnalogRecord, QByteArray(analog).replace(30, 1, "x"),

@@ -133,7 +133,8 @@ private Q_SLOTS:
                  "")
             .row("no drain by that threshold", "fuel --fall 61.5 --table tank.xml week.xml", 0, "", "")
             .row("a threshold below the noise", "fuel --fall 5 --table tank.xml noisy.xml", 0, "",
-                 "noisy.xml: --fall of 5.0\u00a0l is below the noise of the level, 5.3\u00a0l: expect false "
+                 "noisy.xml: --fall of 5.0\u00a0l is below the noise of the level, 5.3\u00a0l: there may be "
+                 "false "
                  "ones\n")
             .row("a table that names no sensor", "fuel --table tank.csv week.xml", 2, "",
                  "tank.csv: the table names no sensor: add --sensor FIELD (week.xml: LevelRS485_1)\n")

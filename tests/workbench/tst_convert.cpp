@@ -1,6 +1,7 @@
 // Telemetry converted on the command line, by the program in a folder of its own.
 
 #include "base/windows1251.h"
+#include "command_folder.h"
 #include "support/data_table.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -10,7 +11,6 @@
 #include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTextCodec>
 #include <QtTest>
@@ -428,17 +428,9 @@ private:
     QString path(const QString& name) const { return folder_.filePath(name); }
     void put(const QString& name, const QByteArray& content) const { writeFile(path(name), content); }
 
-    std::tuple<int, QByteArray, QByteArray> run(const QStringList& arguments,
-                                                const QByteArray& input = {}) const
+    Ended run(const QStringList& arguments, const QByteArray& input = {}) const
     {
-        QProcess process;
-        process.setWorkingDirectory(folder_.path());
-        process.start(VLK_COMMAND, QStringList{"--language", "en"} + arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        if (!process.waitForFinished())
-            return {-1, {}, process.errorString().toUtf8()};
-        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+        return runCommand(folder_.path(), QStringList{"--language", "en"} + arguments, input);
     }
 
     const QTemporaryDir folder_;

@@ -2,6 +2,7 @@
 
 #include "road_bench.h"
 #include "support/files.h"
+#include "support/letters.h"
 
 using Bench = RoadBench;
 
@@ -28,6 +29,7 @@ private Q_SLOTS:
                    table->model()->index(0, 2).data().toString();
         };
         QCOMPARE(values(), before + ">Van 1");
+        QCOMPARE(sharedLetters(list->window()), QString());
         const auto tracker = [list] { return list->topLevelItem(0)->text(0); };
         QCOMPARE(tracker(), QString("860000000071060 Van 2")); // as it is called now
         QTRY_COMPARE_WITH_TIMEOUT(list->topLevelItem(0)->child(0)->text(2), QString("1"), Bench::kPatienceMs);
@@ -124,6 +126,7 @@ private Q_SLOTS:
         bench.window.setLanguage("ru");
         QTRY_VERIFY(list->window()->windowTitle().startsWith(QString("История")));
         QCOMPARE(captionOf("pushButton_BringWhole"), QString("&Вернуть №\u00A03…"));
+        QCOMPARE(sharedLetters(list->window()), QString());
     }
 
     // Nothing brings back what is dropped here.

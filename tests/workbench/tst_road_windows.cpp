@@ -3,6 +3,7 @@
 #include "road_bench.h"
 #include "support/files.h"
 #include "support/full_disk.h"
+#include "support/letters.h"
 
 using workbench::RoadReport;
 
@@ -48,11 +49,21 @@ private Q_SLOTS:
     void reportFollowsTheLanguage()
     {
         Bench bench;
+        const auto letters = [&bench](const char* window) {
+            QString shared;
+            for (const char* language : {"ru", "en"}) {
+                bench.window.setLanguage(language);
+                shared += sharedLetters(Bench::find(window));
+            }
+            return shared;
+        };
         bench.action("action_Read")->trigger();
         bench.editName("Van 1");
         QVERIFY(Bench::isReviewed());
+        QCOMPARE(letters("dialog_Review"), QString());
         Bench::press("pushButton_Write");
         QVERIFY(Bench::comes("dialog_Report"));
+        QCOMPARE(letters("dialog_Report"), QString());
         QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
         bench.session().link().send(vlk::Message::CloseWindows);
         const auto* model = bench.window.findChild<QTableView*>("tableView_Report")->model();
@@ -147,6 +158,10 @@ private Q_SLOTS:
     {
         Bench bench;
         bench.action("action_Read")->trigger();
+        // What is spelled otherwise counts as no change.
+        QByteArray document = bench.session().tracker().readConfiguration().document;
+        for (const auto& [port, changes] : {std::pair("04000", 0), {"4001", 1}})
+            QCOMPARE(bench.session().edited().changesIn(QByteArray(document).replace("4000", port)), changes);
         auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
         const auto type = [box](const QString& keys) {
             QApplication::setActiveWindow(box->window());
@@ -173,6 +188,15 @@ private Q_SLOTS:
         }
         bench.editName("Van 3");
         QVERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Cancel");
+        // Of what cannot work one sentence, by what stands there now.
+        type("70000");
+        bench.editName("Van 3");
+        QVERIFY(Bench::isReviewed());
+        const auto lines = Bench::find("dialog_Review")
+                               ->findChild<QListWidget*>("listWidget_Advice")
+                               ->findItems("Port: ", Qt::MatchContains);
+        QVERIFY(lines.size() == 1 && lines[0]->text().contains("65536, which does not exist"));
         Bench::press("pushButton_Cancel");
         // With what stands there already nothing is red any more.
         type(port);

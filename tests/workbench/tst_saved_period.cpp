@@ -158,16 +158,30 @@ private Q_SLOTS:
         QVERIFY2(!Bench::notice().contains(QLatin1String("No answer")), qPrintable(Bench::notice()));
     }
 
-    // What has come is not lost when the session or the computer ends, and the next run tells of it.
+    // What has come is not lost when the desktop's session ends, which may still be called off: all stays
+    // open.
+    void endedByTheDesktop()
+    {
+        Bench bench;
+        const workbench::EndSignals end(bench.window);
+        bench.beginSave();
+        QObject session; // of which nobody asks anything
+        QMetaObject::invokeMethod(qApp, "commitDataRequest", QGenericArgument("QSessionManager&", &session));
+        QFile saved(bench.file());
+        QVERIFY(saved.open(QIODevice::ReadOnly) && saved.readAll().count("<Page ") > 2);
+        QTRY_VERIFY2(bench.status().startsWith(QLatin1String("Saved in part: ")),
+                     qPrintable(bench.everything()));
+        QVERIFY(Bench::telemetry()->isVisible() && bench.window.isVisible());
+    }
+
+    // Nor when the program is told to end, and the next run tells of it.
     void endedByTheSystem()
     {
         QStringList left;
         QString file;
         {
             Bench bench;
-            const workbench::EndSignals signalsToEnd;
-            connect(&signalsToEnd, &workbench::EndSignals::came, &bench.window,
-                    &workbench::WorkbenchWindow::leave);
+            const workbench::EndSignals end(bench.window);
             // A table over which its window asks when it is closed holds nothing up.
             bench.prepare(CloseOverTable);
             bench.collect();

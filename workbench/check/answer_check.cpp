@@ -1,6 +1,6 @@
 #include "check/answer_check.h"
 
-#include "tracker/sealed_record.h"
+#include "check/sealed_record.h"
 
 #include <algorithm>
 
@@ -63,7 +63,7 @@ std::optional<AnswerProblem> AnswerCheck::look(Message answer, const void* p1, c
     }
     for (const SealedRow& row : kSealedRows) {
         if (row.answer == answer &&
-            !tracker::isSealed(QByteArray::fromRawData(static_cast<const char*>(p1), row.size), row.request))
+            !isSealed(QByteArray::fromRawData(static_cast<const char*>(p1), row.size), row.request))
             return AnswerProblem{AnswerProblem::Damaged, row.size, 0};
     }
     return {};

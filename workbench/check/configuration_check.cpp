@@ -108,7 +108,7 @@ public:
 private:
     Problem at(Problem::Kind kind, const QString& found = {}) const
     {
-        return {kind, bytes_, xml_.lineNumber(), std::max(qint64(1), xml_.columnNumber()), found};
+        return {kind, bytes_, xml_.lineNumber(), std::max(qint64{1}, xml_.columnNumber()), found};
     }
 
     bool namesArePlain() const

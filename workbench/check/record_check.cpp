@@ -45,7 +45,7 @@ constexpr int kPacketTime = 11;
 
 constexpr qint64 kYear2000 = 946684800;
 constexpr qint64 kYear2100 = 4102444800;
-constexpr qint64 kTwoYears = qint64(2) * 366 * 86400;
+constexpr qint64 kTwoYears = qint64{2} * 366 * 86400;
 
 template <class Number>
 Number numberAt(const QByteArray& bytes, int offset)

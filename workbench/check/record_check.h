@@ -4,8 +4,8 @@
 // agrees with the record, its bytes are all there, its length is the one that its mask asks for, its time
 // lies between 2000 and 2100 and not years from that of the record before. Knows no widget.
 
+#include "check/plugin_names.h"
 #include "plugin/host/host_interface.h"
-#include "plugin_names.h"
 
 #include <optional>
 

@@ -4,7 +4,7 @@
 // packet its length.
 
 #include "catalogue/field_mask.h"
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #include "check/telemetry_file_check.h"
 
+#include "check/plugin_names.h"
 #include "check/record_form.h"
-#include "plugin_names.h"
 #include "telemetry/files/binary_layout.h"
 
 #include <QFile>

@@ -50,7 +50,7 @@ FilterNames namesInBothLanguages()
         names.addTexts();
         for (quint16 event = 0; event <= tracker::kHighestNamedEvent; ++event)
             names.addWord(languages.textIn(code, tracker::eventKey(event).constData()), vlk::item("Code"),
-                          {double(event), double(event)});
+                          {static_cast<double>(event), static_cast<double>(event)});
     }
     return names;
 }

@@ -66,6 +66,7 @@ const char* reasonKey(const PresetProblem& problem)
     case Change::completed:
     case Change::notCarried:
     case Change::otherForm:
+    case Change::looseForm:
         break;
     }
     return "cli_033";

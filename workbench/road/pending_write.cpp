@@ -43,7 +43,7 @@ auto listsOf(RoadReport& report)
 void PendingWrite::keep(const RoadReport& report) const
 {
     RoadReport kept = report;
-    QJsonObject object{{kOriginKey, int(kept.request.origin)},
+    QJsonObject object{{kOriginKey, static_cast<int>(kept.request.origin)},
                        {kDocumentKey, QString::fromLatin1(kept.request.document.toBase64())},
                        {kBackupKey, kept.backup},
                        {kTimeKey, QDateTime::currentDateTimeUtc().toString(Qt::ISODate)}};
@@ -73,8 +73,9 @@ std::optional<RoadReport> PendingWrite::left() const
     report.outcome = RoadReport::Outcome::unknown;
     report.fault = RoadReport::Fault::interrupted;
     report.step = RoadReport::Step::writing;
-    report.request.origin = WriteRequest::Origin(std::clamp(
-        object[kOriginKey].toInt(), int(WriteRequest::Origin::tracker), int(WriteRequest::Origin::previous)));
+    report.request.origin = WriteRequest::Origin(
+        std::clamp(object[kOriginKey].toInt(), static_cast<int>(WriteRequest::Origin::tracker),
+                   static_cast<int>(WriteRequest::Origin::previous)));
     report.request.document = QByteArray::fromBase64(object[kDocumentKey].toString().toLatin1());
     report.backup = object[kBackupKey].toInt();
     report.time = QDateTime::fromString(object[kTimeKey].toString(), Qt::ISODate).toLocalTime();

@@ -53,7 +53,7 @@ struct WriteReview
         bringsBack
     };
 
-    int changed() const { return int(changes.size()) - added - removed; }
+    int changed() const { return static_cast<int>(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
     SettingChanges alongside() const
     {

@@ -40,6 +40,7 @@ struct SettingAdvice
 {
     bool isError = false;
     QString page;
+    QString group;
     QString caption;
     QString text;
 };

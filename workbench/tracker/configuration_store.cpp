@@ -25,7 +25,7 @@ namespace {
 
 const QString kOwnModel = QStringLiteral("R-7106");
 // A configuration is some tens of kilobytes; the device has no room for more than this.
-constexpr qint64 kLargestDocument = qint64(1) << 20;
+constexpr qint64 kLargestDocument = qint64{1} << 20;
 
 struct Refusal
 {

@@ -85,7 +85,7 @@ QByteArray cardContent(const Vehicle& vehicle)
 
 QByteArray vehicleContent(int code, quint32 parameter, const Vehicle& vehicle)
 {
-    const qint64 lastDay = (code == kDayCode ? qint64(parameter) : vehicle.m.time) / kDaySeconds;
+    const qint64 lastDay = (code == kDayCode ? static_cast<qint64>(parameter) : vehicle.m.time) / kDaySeconds;
     QByteArray file;
     appendSigned(file, 0x7601, padded("XTC652001N1710601", 17) + padded("A710BC76", 14));
     appendSigned(file, static_cast<quint16>(0x7602 + code),

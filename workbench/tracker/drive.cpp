@@ -67,7 +67,7 @@ quint32 Drive::lastBefore(qint64 time)
     if (time < midnight_)
         return 0;
     const Day& day = dayAt(time);
-    const qint64 second = time - midnight_ - qint64(day.index) * kDaySeconds;
+    const qint64 second = time - midnight_ - static_cast<qint64>(day.index) * kDaySeconds;
     const auto& points = day.tracked.points;
     const auto after = std::ranges::upper_bound(points, second, {}, &TrackPoint::second);
     const quint32 made = begins_[day.index].trace.records + static_cast<quint32>(after - points.begin());
@@ -85,7 +85,7 @@ quint32 Drive::firstAfter(qint64 time)
 Drive::Day Drive::make(int index) const
 {
     const Begin& begin = begins_[index];
-    const qint64 midnight = midnight_ + qint64(index) * kDaySeconds;
+    const qint64 midnight = midnight_ + static_cast<qint64>(index) * kDaySeconds;
     Day day{index, planDay(seed_, midnight, begin.at), {}};
     day.tracked = trackDay(seed_, midnight, day.plan, begin.trace, settings_);
     return day;
@@ -134,7 +134,7 @@ const TrackPoint& Drive::pointOf(quint32 number, qint64& time)
     const auto& points = day.tracked.points;
     const std::size_t index = number - begins_[day.index].trace.records;
     const TrackPoint& point = points.empty() ? none : points[std::min<std::size_t>(index, points.size() - 1)];
-    time = midnight_ + qint64(day.index) * kDaySeconds + point.second;
+    time = midnight_ + static_cast<qint64>(day.index) * kDaySeconds + point.second;
     return point;
 }
 
@@ -155,7 +155,7 @@ Moment Drive::moment(const Day& day, qint64 time) const
 
     result.at = segment.odometersAt(elapsed);
     result.speedLimit = speedLimitAt(result.at.km);
-    const qint64 second = time - midnight_ - qint64(day.index) * kDaySeconds;
+    const qint64 second = time - midnight_ - static_cast<qint64>(day.index) * kDaySeconds;
     result.sensed = day.tracked.sensed.at(second);
     result.settings = settings_.at(time).settings;
     result.outside = outsideTemperature(seed_, time);

@@ -73,15 +73,15 @@ constexpr double kFlowStands = 0x1000;
 
 // clang-format off
 constexpr FieldRow kFieldRows[] = {
-    {element("NumPage"), [](const Vehicle& v, int) { return double(v.m.number); }},
-    {element("Code"), [](const Vehicle& v, int) { return double(v.m.code); }},
-    {element("Time"), [](const Vehicle& v, int) { return double(v.m.time); }},
+    {element("NumPage"), [](const Vehicle& v, int) { return static_cast<double>(v.m.number); }},
+    {element("Code"), [](const Vehicle& v, int) { return static_cast<double>(v.m.code); }},
+    {element("Time"), [](const Vehicle& v, int) { return static_cast<double>(v.m.time); }},
     {element("State"), [](const Vehicle& v, int) { return state(v); }},
     {element("Module1"), [](const Vehicle& v, int) { return module1(v); }},
     {element("Module2"), [](const Vehicle& v, int) { return module2(v); }},
     {element("GSM"), [](const Vehicle& v, int) { return gsmLevel(v); }},
     {element("StateNGauge"), [](const Vehicle& v, int) { return navigationState(v); }},
-    {element("LastTime"), [](const Vehicle& v, int) { return double(v.m.fixTime); }},
+    {element("LastTime"), [](const Vehicle& v, int) { return static_cast<double>(v.m.fixTime); }},
     {element("Latitude"), [](const Vehicle& v, int) { return v.m.road.latitude * kCoordinate; }},
     {element("Longitude"), [](const Vehicle& v, int) { return v.m.road.longitude * kCoordinate; }},
     {element("Altitude"), [](const Vehicle& v, int) { return v.m.road.altitude * 10; }},
@@ -89,8 +89,8 @@ constexpr FieldRow kFieldRows[] = {
     {element("Course"), [](const Vehicle& v, int) { return std::fmod(std::round(v.m.road.course), 360); }},
     {element("Run"), [](const Vehicle& v, int) { return v.mileage(); }},
     {element("Way"), [](const Vehicle& v, int) { return v.m.segmentKm; }},
-    {element("AllSeconds"), [](const Vehicle& v, int) { return double(v.m.segmentSeconds); }},
-    {element("SecondsLast"), [](const Vehicle& v, int) { return double(v.m.movingSeconds); }},
+    {element("AllSeconds"), [](const Vehicle& v, int) { return static_cast<double>(v.m.segmentSeconds); }},
+    {element("SecondsLast"), [](const Vehicle& v, int) { return static_cast<double>(v.m.movingSeconds); }},
 
     {element("Power"), [](const Vehicle& v, int) { return supplyVoltage(v); }},
     {element("Reserv"), [](const Vehicle& v, int) { return backupSupply(v); }},
@@ -132,12 +132,12 @@ constexpr FieldRow kFieldRows[] = {
     {element("LbsMcc"), constant<250>, 3, 5},
     {element("LbsMnc"), constant<1>, 3, 5},
     {element("LbsLevel"), [](const Vehicle& v, int i) { return stationLevel(v, i); }, 3, 5},
-    {element("LbsTime"), [](const Vehicle& v, int) { return double(v.m.time); }},
+    {element("LbsTime"), [](const Vehicle& v, int) { return static_cast<double>(v.m.time); }},
 
     {element("TempRS485_1"), fuelTemperatureOf, 6},
     {element("LevelRS485_7"), [](const Vehicle& v, int i) { return fuelOf(v, 6 + i); }, 10, 2},
     {element("TempRS485_7"), [](const Vehicle& v, int i) { return fuelTemperatureOf(v, 6 + i); }, 10, 2},
-    {element("TiresNum1"), [](const Vehicle&, int i) { return double(i + 1); }, 30, 3, LineOwner::Tyres},
+    {element("TiresNum1"), [](const Vehicle&, int i) { return static_cast<double>(i + 1); }, 30, 3, LineOwner::Tyres},
     {element("TiresPres1"), [](const Vehicle& v, int i) { return tyrePressure(v, i); }, 30, 3, LineOwner::Tyres},
     {element("TiresTemp1"), [](const Vehicle& v, int i) { return tyreTemperature(v, i); }, 30, 3, LineOwner::Tyres, -127},
 
@@ -146,7 +146,7 @@ constexpr FieldRow kFieldRows[] = {
     {element("TahoFlags"), [](const Vehicle& v, int) { return v.driving() ? 3.0 : 1.0; }, 1, 1, LineOwner::Tachograph},
     {element("TahoSpeed"), [](const Vehicle& v, int) { return v.m.speed; }, 1, 1, LineOwner::Tachograph},
     {element("TahoOdometer"), [](const Vehicle& v, int) { return (68000 + v.m.at.km) * 10; }, 1, 1, LineOwner::Tachograph, kNoValue32},
-    {element("TahoTime"), [](const Vehicle& v, int) { return double(v.m.time); }, 1, 1, LineOwner::Tachograph},
+    {element("TahoTime"), [](const Vehicle& v, int) { return static_cast<double>(v.m.time); }, 1, 1, LineOwner::Tachograph},
     {element("DispCur"), [](const Vehicle& v, int) { return v.driving() ? 2.0 : 1.0; }},
     {element("DispLastIndex"), constant<41>},
 

@@ -1,8 +1,8 @@
 #include "tracker/live_requests.h"
 
+#include "check/sealed_record.h"
 #include "tracker/bytes.h"
 #include "tracker/driver.h"
-#include "tracker/sealed_record.h"
 #include "tracker/vehicle_fuel.h"
 #include "tracker/vehicle_motion.h"
 #include "tracker/vehicle_power.h"
@@ -53,7 +53,7 @@ void LiveRequests::addTo(Handlers& handlers)
         record.values[vlk::kSupplyElement] =
             static_cast<std::uint16_t>(std::lround(supplyVoltage(present_())));
         Answer answer = Answer::record(record);
-        seal(answer.data, Message::RequestSupply);
+        workbench::seal(answer.data, Message::RequestSupply);
         return {answer};
     };
     handlers[Message::RequestAccel] = [this](void*) -> Answers {
@@ -120,7 +120,7 @@ Answers LiveRequests::analog() const
         putWord(record, vlk::kAnalogRecordLine1 + 2 * i, lineVoltage(vehicle, i));
     for (int i = 0; i < fuelSensorCount; ++i)
         putWord(record, fuelSensors + 3 * i, fuelSensor(vehicle, i));
-    seal(record, Message::RequestAnalog);
+    workbench::seal(record, Message::RequestAnalog);
     return {{Answer::Form::Record, record, {}}};
 }
 

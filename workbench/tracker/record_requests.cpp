@@ -29,7 +29,7 @@ Answers byTime(Message request, const RecordArchive::Found& found)
     QByteArray header = shortHeader(request, found.bytes);
     append(header, found.number);
     append(header, found.time);
-    append(header, quint16(0));
+    append(header, quint16{0});
     return {Answer::bytes(header + found.bytes)};
 }
 

@@ -13,7 +13,7 @@ bool SensorStates::outputNow(const OutputRules& rules, qint64 time) const
         return elapsed < rules.onPeriod;
     if (rules.form != OutputForm::Periodic)
         return true;
-    const qint64 period = qint64(rules.onPeriod) + rules.offPeriod;
+    const qint64 period = static_cast<qint64>(rules.onPeriod) + rules.offPeriod;
     const bool stopped = rules.stops && elapsed >= rules.stopsAfter;
     return !stopped && period > 0 && elapsed % period < rules.onPeriod;
 }

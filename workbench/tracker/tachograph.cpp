@@ -100,11 +100,11 @@ Answers cardAnswer(const Vehicle& vehicle, FrameKind kind)
     const QByteArray names[] = {driver.surname, driver.firstName, "FBU ROSAVTOTRANS", "YAROSLAVL"};
     Frame frame(kind, size, kStatusOk);
     frame.put(8, nibbles(doing(vehicle), kCardInside));
-    frame.put(10, quint8(nationRussia));
+    frame.put(10, static_cast<quint8>(nationRussia));
     frame.text(11, 16, driver.card);
     frame.put(27, static_cast<quint32>(vehicle.m.at.km));
     for (int i = 0; i < 4; ++i) {
-        frame.put(31 + nameStep * i, quint8(latin));
+        frame.put(31 + nameStep * i, static_cast<quint8>(latin));
         frame.text(32 + nameStep * i, nameStep - 1, names[i]);
     }
     return frame.answers();
@@ -117,10 +117,10 @@ Answers vehicleAnswer(const Vehicle& vehicle)
     Frame frame(VehicleUnit, 113, kStatusOk);
     frame.text(8, 32, "TACHOGRAPH DT-20M");
     frame.text(40, 17, "XTC652001N1710601");
-    frame.put(57, quint8(43));
-    frame.put(58, quint8(1));
+    frame.put(57, quint8{43});
+    frame.put(58, quint8{1});
     frame.text(59, 15, "A710BC76");
-    frame.put(74, quint8(12));
+    frame.put(74, quint8{12});
     frame.put(75, now - year);
     frame.put(79, now - year / 2);
     frame.put(83, now + year / 2);

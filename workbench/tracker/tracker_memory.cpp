@@ -73,7 +73,7 @@ void TrackerMemory::setCanLogProgram(int program)
 void TrackerMemory::load()
 {
     QSettings file(file_, QSettings::IniFormat);
-    firstMidnight_ = file.value(kFirstDayKey).toInt() * qint64(kDaySeconds);
+    firstMidnight_ = file.value(kFirstDayKey).toInt() * static_cast<qint64>(kDaySeconds);
     canLogProgram_ = file.value(kProgramKey).toInt();
     const int count = file.beginReadArray(kChangesKey);
     for (int i = 0; i < count; ++i) {

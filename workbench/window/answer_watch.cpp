@@ -14,7 +14,7 @@ bool asksForAnswer(quint32 id)
     if (hasEffect(static_cast<Message>(id), Effect::Destroys))
         return false;
     return std::ranges::any_of(vlk::kMessages, [id](const vlk::MessageInfo& row) {
-        return quint32(row.number) == id && row.answer != 0;
+        return static_cast<quint32>(row.number) == id && row.answer != 0;
     });
 }
 

@@ -1,6 +1,6 @@
 #include "window/appearance.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/kept_palette.h"
 
 #include <QApplication>
@@ -44,7 +44,7 @@ void apply(Appearance appearance)
     static constexpr Colours light{0xffefefefu, 0xffffffffu, 0xfff7f7f7u, 0xffefefefu,
                                    0xff000000u, 0xff004aadu, 0xff308cc6u, 0xffffffffu};
     static constexpr Colours dark{0xff2b2d30u, 0xff1e1f22u, 0xff26282bu, 0xff35373au,
-                                  0xffe6e6e6u, 0xff8ab8ffu, 0xff2f65a7u, 0xffffffffu};
+                                  0xffe6e6e6u, 0xff8ab8ffu, 0xff3878c2u, 0xffffffffu};
     // An empty palette has all of its colours from the system, as they are and as they come to be.
     QApplication::setPalette(appearance == Appearance::System
                                  ? QPalette()

@@ -1,6 +1,6 @@
 #include "window/backup_list.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/grid.h"
 #include "typing/table_look.h"
@@ -181,7 +181,7 @@ void BackupList::countNext()
         session_.comparer().compare(backups.document(earlierThan(backups, *backup)), backups.document(next));
     if (!changes)
         return;
-    changes_[next] = int(changes->size());
+    changes_[next] = static_cast<int>(changes->size());
     for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
         if (numberOf(*item) == next)
             (*item)->setText(Changes, number(changes->size()));

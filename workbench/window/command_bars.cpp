@@ -108,8 +108,9 @@ void CommandBars::buildAppearances(QMenu* menu)
 {
     auto* choice = new QActionGroup(menu);
     for (const Appearance appearance : {Appearance::System, Appearance::Light, Appearance::Dark}) {
-        QAction* action = texts_.bind(menu->addAction(QString()), kAppearanceKeys[int(appearance)]);
-        action->setObjectName(QStringLiteral("action_Appearance_%1").arg(int(appearance)));
+        QAction* action =
+            texts_.bind(menu->addAction(QString()), kAppearanceKeys[static_cast<int>(appearance)]);
+        action->setObjectName(QStringLiteral("action_Appearance_%1").arg(static_cast<int>(appearance)));
         action->setCheckable(true);
         action->setActionGroup(choice);
         action->setChecked(settings_.appearance() == appearance);

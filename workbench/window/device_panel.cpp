@@ -1,6 +1,6 @@
 #include "window/device_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/present_value.h"
@@ -73,7 +73,7 @@ QLabel* DevicePanel::addRow(QFormLayout* form, const char* name, const char* key
 
 const char* DevicePanel::modeKey(int mode)
 {
-    return kModeKeys[std::clamp(mode, 0, int(std::size(kModeKeys)) - 1)];
+    return kModeKeys[std::clamp(mode, 0, static_cast<int>(std::size(kModeKeys)) - 1)];
 }
 
 void DevicePanel::setMode(int mode)

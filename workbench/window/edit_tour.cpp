@@ -246,7 +246,7 @@ void lookAtHistory(Tour& tour)
     tour.window().session().link().send(Message::CloseWindows);
     tour.window().findChild<QAction*>(QStringLiteral("action_History"))->trigger();
     const auto* table = Tour::find<QTableView>("tableView_History");
-    Tour::expect(table->model()->rowCount() >= int(std::size(kEdits)),
+    Tour::expect(table->model()->rowCount() >= static_cast<int>(std::size(kEdits)),
                  QStringLiteral("the history shows too few differences"));
     tour.picture(QStringLiteral("history.png"), table->window());
     table->window()->close();

@@ -15,6 +15,7 @@ void EditedConfiguration::readFromTracker(const QByteArray& document, const QStr
     known_ = document;
     source_ = Source::Tracker;
     unknown_.clear();
+    document_ = document;
     asRead_ = ConfigurationValues(document);
     tracker_ = asRead_;
     written_.reset();
@@ -28,6 +29,7 @@ void EditedConfiguration::openFile(const QString& path, const QByteArray& docume
     seenIn_.clear();
     known_.clear();
     file_ = QFileInfo(path).fileName();
+    document_ = document;
     asRead_ = ConfigurationValues(document);
     written_.reset();
 }
@@ -77,7 +79,8 @@ std::optional<int> EditedConfiguration::changesIn(const QByteArray& document) co
 {
     if (source_ == Source::New || source_ == Source::None)
         return {};
-    return tracker::differingKeys(asRead_, ConfigurationValues(document));
+    const auto changes = compare_(document_, document);
+    return changes ? int(changes->size()) : tracker::differingKeys(asRead_, ConfigurationValues(document));
 }
 
 QString EditedConfiguration::text() const

@@ -3,6 +3,7 @@
 // What the configuration window holds: where it came from, and how what was written or saved from it differs
 // from what was read. The host learns of the user's edits when they are written or saved, not before.
 
+#include "road/setting_change.h"
 #include "tracker/configuration_values.h"
 
 #include <QStringList>
@@ -14,6 +15,8 @@ namespace workbench {
 class EditedConfiguration
 {
 public:
+    explicit EditedConfiguration(Compare compare) : compare_(std::move(compare)) {}
+
     void readFromTracker(const QByteArray& document, const QString& number);
     // `unknown`: paths of the keys that the plug-in does not read.
     void openFile(const QString& path, const QByteArray& document, const QStringList& unknown);
@@ -36,7 +39,8 @@ public:
     // What a write loses of the file that was opened.
     QStringList unknown() const { return unknown_; }
     bool isNew() const { return source_ == Source::New; }
-    // How many keys of the document differ from what was read; nothing was read of a new one.
+    // In how many settings the document differs from what was read, by what they mean where the plug-in can
+    // tell; nothing was read of a new one.
     std::optional<int> changesIn(const QByteArray& document) const;
 
     // "from the tracker", "fleet.xml; differences from the tracker: 3"; a dash while nothing is open.
@@ -54,6 +58,8 @@ private:
     QString seenIn_;
     QByteArray known_;
     QStringList unknown_;
+    Compare compare_;
+    QByteArray document_; // that was read
     tracker::ConfigurationValues asRead_;
     std::optional<tracker::ConfigurationValues> tracker_; // what it held when it was heard of last
     std::optional<int> written_;                          // changes that were written

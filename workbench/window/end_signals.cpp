@@ -1,5 +1,8 @@
 #include "window/end_signals.h"
 
+#include "window/workbench_window.h"
+
+#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QSocketNotifier>
 
@@ -32,16 +35,17 @@ void noteEndSignal(int /*number*/)
 
 } // namespace
 
-EndSignals::EndSignals()
+EndSignals::EndSignals(WorkbenchWindow& window)
 {
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&window] { window.endSave(); });
     if (::pipe2(theEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         qCWarning(lcEnd) << "no pipe for signals";
         return;
     }
     auto* notifier = new QSocketNotifier(theEnds[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+    connect(notifier, &QSocketNotifier::activated, &window, [&window, notifier] {
         notifier->setEnabled(false);
-        Q_EMIT came();
+        window.leave();
     });
     for (const int number : kEndSignals) {
         struct sigaction now = {};

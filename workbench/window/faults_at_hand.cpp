@@ -44,7 +44,7 @@ bool FaultsAtHand::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::KeyPress || !object->isWidgetType() || QApplication::activePopupWidget())
         return false;
     const auto& pressed = *static_cast<QKeyEvent*>(event);
-    if (QKeySequence(pressed.key() | int(pressed.modifiers())) != key_)
+    if (QKeySequence(pressed.key() | static_cast<int>(pressed.modifiers())) != key_)
         return false;
     toggle();
     return true;

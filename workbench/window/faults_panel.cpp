@@ -1,6 +1,6 @@
 #include "window/faults_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/number_entry.h"
 #include "typing/title_style.h"
@@ -51,8 +51,8 @@ FaultsPanel::FaultsPanel(SimulatedTracker& tracker, QWidget* parent)
             [this] { tracker_.attached() ? tracker_.detach() : tracker_.attach(); });
 
     auto* faults = texts_.bind(new QGroupBox(this), "wb_faults");
-    vlk::dressGroup(faults);
     auto* list = new QVBoxLayout(faults);
+    vlk::dressGroup(faults);
     for (const FaultRow& row : kFaultRows)
         addFault(list, row.name, row.key, row.fault);
     addDelay(list);

@@ -74,9 +74,10 @@ std::optional<QVector<SettingAdvice>> FileComparer::advise(const QByteArray& doc
     asked.take = [](void* context, const FileRemark* told) {
         const bool isError = told->severity == FileRemark::error;
         // What a load makes of it is the plug-in's business, unless it cannot work.
+        const QString group = told->size < sizeof(FileRemark) ? QString() : orNull(told->group);
         if (told->kind == FileRemark::advice || isError)
             static_cast<QVector<SettingAdvice>*>(context)->append(
-                {isError, orNull(told->page), orNull(told->caption), orNull(told->text)});
+                {isError, orNull(told->page), group, orNull(told->caption), orNull(told->text)});
     };
     return check(document, asked) ? std::optional(advice) : std::nullopt;
 }

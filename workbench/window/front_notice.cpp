@@ -19,7 +19,7 @@ FrontNotice::FrontNotice(const PluginLink& link, PluginWindows& windows) : windo
     news_.setInterval(kNewsMs);
     connect(&news_, &QTimer::timeout, this, &FrontNotice::goByItself);
     connect(&link, &PluginLink::passed, this, [this](Direction, quint32 id) {
-        if (id == quint32(Message::OpenTelemetry))
+        if (id == static_cast<quint32>(Message::OpenTelemetry))
             noteTelemetry();
     });
     connect(&windows_, &PluginWindows::opened, this, [this](QWidget* window) {

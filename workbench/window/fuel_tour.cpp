@@ -81,7 +81,7 @@ void calibrate(Tour& tour)
         inForm<QLineEdit>("lineEdit_Volume")->setText(QString::number(litres));
         inForm<QAbstractButton>("pushButton_Add")->click();
     }
-    Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == int(std::size(kPours)),
+    Tour::expect(inForm<QTableWidget>("tableWidget")->rowCount() == static_cast<int>(std::size(kPours)),
                  QStringLiteral("the table has not all points"));
     tour.picture(QStringLiteral("tank.png"), &tour.window());
     for (const QString& code : Languages::codes()) {
@@ -102,7 +102,7 @@ void saveTables(Tour& tour)
     inForm<QLineEdit>("lineEdit_Name")->setText(QStringLiteral("Tank 5"));
     save(tour, "pushButton_Save_Excel", QStringLiteral("calibration.csv"));
     Tour::expect(content(tour, QStringLiteral("calibration.csv")).count(QStringLiteral("\r\n")) ==
-                     1 + int(std::size(kPours)),
+                     1 + static_cast<int>(std::size(kPours)),
                  QStringLiteral("the CSV file has not a line a point"));
     save(tour, "pushButton_Save_Xml", QStringLiteral("calibration.xml"));
     Tour::expect(content(tour, QStringLiteral("calibration.xml")).contains(QStringLiteral("param_U=\"70\"")),

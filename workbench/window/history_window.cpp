@@ -1,7 +1,7 @@
 #include "window/history_window.h"
 
 #include "check/configuration_check.h"
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"

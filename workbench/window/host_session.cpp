@@ -195,7 +195,7 @@ void HostSession::receive(vlk::Message id, void* p1, void* p2)
         if (p1)
             takeWritten(*static_cast<const QString*>(p1));
     } else if (!commands_.take(id, p1) && !requests_.send(id, p1, p2)) {
-        qCInfo(lcSession) << "message without a receiver" << quint32(id);
+        qCInfo(lcSession) << "message without a receiver" << static_cast<quint32>(id);
     }
     followSearch(id, nullptr);
 }

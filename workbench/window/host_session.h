@@ -106,7 +106,9 @@ private:
     RepeatedRequests requests_{tracker_, [this] { return link_.runningWork().saving != 0; }};
     TrackerCommands commands_{tracker_, requests_, link_};
     bool isSearching_ = false; // for Bluetooth devices
-    EditedConfiguration edited_;
+    EditedConfiguration edited_{[this](const QByteArray& before, const QByteArray& after) {
+        return comparer_.compare(before, after);
+    }};
     int opened_ = 0; // how many configurations so far
     FileComparer comparer_{link_};
     SimulatedPort port_{tracker_};

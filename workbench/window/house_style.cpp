@@ -1,6 +1,6 @@
 #include "window/house_style.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
 #include "typing/kept_palette.h"
@@ -55,13 +55,18 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     outlineFocus(element, *option, *painter, widget);
 }
 
+void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                    QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    outlineFocus(control, *option, *painter);
+}
+
 QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const
 {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    // Beside a page of the configuration small screens have no room for more; its pages see to their own.
-    const bool isBesidePage = widget && widget->window()->inherits("VLK_Widget_Config");
-    return type == CT_PushButton && !isBesidePage ? vlk::withRoomBesideWords(size, contents, option) : size;
+    return type == CT_PushButton ? vlk::withRoomBesideWords(size, contents, option) : size;
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -94,7 +94,8 @@ void LinkNotices::lookForCancel()
 void LinkNotices::connectRequests()
 {
     const auto log = [this](const char* key, vlk::Message message) {
-        log_.appendWarning(QStringLiteral("vlk.workbench.link"), text(key).arg(quint32(message)));
+        log_.appendWarning(QStringLiteral("vlk.workbench.link"),
+                           text(key).arg(static_cast<quint32>(message)));
     };
     const RepeatedRequests* requests = &session_.requests();
     connect(requests, &RepeatedRequests::sentAgain, this, [this, log](vlk::Message request) {
@@ -107,8 +108,9 @@ void LinkNotices::connectRequests()
             [log](vlk::Message answer) { log("wb_answer_dropped", answer); });
     connect(requests, &RepeatedRequests::refused, this,
             [this](vlk::Message answer, const AnswerProblem& problem, std::optional<vlk::Message> request) {
-                log_.appendWarning(QStringLiteral("vlk.workbench.link"),
-                                   text("wb_answer_refused").arg(quint32(answer)).arg(noteOn(problem)));
+                log_.appendWarning(
+                    QStringLiteral("vlk.workbench.link"),
+                    text("wb_answer_refused").arg(static_cast<quint32>(answer)).arg(noteOn(problem)));
                 if (request)
                     tellRefused(answer, problem, *request);
             });
@@ -196,7 +198,7 @@ void LinkNotices::tellRefused(vlk::Message answer, const AnswerProblem& problem,
     watch_.forget();
     watch_.begin(request);
     refused_ = answer;
-    setTrouble([this, problem, id = quint32(answer)] {
+    setTrouble([this, problem, id = static_cast<quint32>(answer)] {
         const char* key = isSaving_ ? "wb_answer_again_save" : "wb_answer_again";
         return text(isCancelled_ ? "wb_answer_again_cancelled" : key).arg(id).arg(noteOn(problem));
     });

@@ -10,7 +10,7 @@ namespace {
 QVariant alignment(int column)
 {
     const auto side = column == MessageLogModel::Number ? Qt::AlignRight : Qt::AlignLeft;
-    return int(side | Qt::AlignVCenter);
+    return static_cast<int>(side | Qt::AlignVCenter);
 }
 
 } // namespace
@@ -22,7 +22,7 @@ MessageLogModel::MessageLogModel(int capacity, QObject* parent)
 
 int MessageLogModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(messages_.size());
+    return parent.isValid() ? 0 : static_cast<int>(messages_.size());
 }
 
 int MessageLogModel::columnCount(const QModelIndex& parent) const
@@ -64,7 +64,7 @@ QVariant MessageLogModel::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == Parameters))
         return cell(message, index.column());
     if (role == kDirectionRole)
-        return int(message.direction);
+        return static_cast<int>(message.direction);
     return role == Qt::TextAlignmentRole ? alignment(index.column()) : QVariant();
 }
 
@@ -98,13 +98,13 @@ void MessageLogModel::appendWarning(const QString& category, const QString& text
 
 void MessageLogModel::add(LoggedMessage message)
 {
-    if (int(messages_.size()) >= capacity_) {
+    if (static_cast<int>(messages_.size()) >= capacity_) {
         const int dropped = std::max(1, capacity_ / 10);
         beginRemoveRows({}, 0, dropped - 1);
         messages_.erase(messages_.begin(), messages_.begin() + dropped);
         endRemoveRows();
     }
-    const int row = int(messages_.size());
+    const int row = static_cast<int>(messages_.size());
     beginInsertRows({}, row, row);
     messages_.push_back(std::move(message));
     endInsertRows();
@@ -115,7 +115,7 @@ void MessageLogModel::markNewest(const QString& note)
     if (messages_.empty())
         return;
     messages_.back().note = note;
-    const int row = int(messages_.size()) - 1;
+    const int row = static_cast<int>(messages_.size()) - 1;
     Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
 }
 

@@ -4,8 +4,8 @@
 // newest last. It holds a bounded number of entries and drops the oldest tenth when it is full. Bytes are
 // kept as they came and turned into hex when they are looked at.
 
+#include "check/plugin_names.h"
 #include "plugin/host/host_interface.h"
-#include "plugin_names.h"
 
 #include <QAbstractTableModel>
 

@@ -1,7 +1,7 @@
 #include "window/message_log_view.h"
 
 #include "base/whole_file.h"
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/file_error.h"
 #include "typing/grid.h"

@@ -23,7 +23,7 @@ QString quoted(const QString& text)
 
 QString quoted(const char* text, std::size_t size)
 {
-    return quoted(QString::fromLocal8Bit(text, int(qstrnlen(text, uint(size)))));
+    return quoted(QString::fromLocal8Bit(text, static_cast<int>(qstrnlen(text, static_cast<uint>(size)))));
 }
 
 QString hexNumber(quint64 value, int digits)
@@ -48,7 +48,7 @@ struct RecordRow
 MessageText describePair(const void* p)
 {
     const auto& pair = as<IdPair>(p);
-    const quint64 number = quint64(pair.high) << 32 | pair.low;
+    const quint64 number = static_cast<quint64>(pair.high) << 32 | pair.low;
     return {QStringLiteral("id=%1 (%2)").arg(number).arg(hexNumber(number, 16)), {}};
 }
 
@@ -80,7 +80,7 @@ constexpr RecordRow kRecords[] = {
          const auto& r = as<ConnectInfo>(p);
          return {QStringLiteral("model=%1 text1=%2 text2=%3 mask=%4")
                      .arg(quoted(r.model), quoted(r.text1), quoted(r.text2),
-                          hexNumber(quint64(r.maskHigh) << 32 | r.maskLow, 16)),
+                          hexNumber(static_cast<quint64>(r.maskHigh) << 32 | r.maskLow, 16)),
                  {}};
      }},
     {Message::OpenConfiguration,
@@ -189,7 +189,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
     if (kind == Parameter::None)
         return {};
     if (kind == Parameter::Value)
-        return {QString::number(qint64(vlk::asValue(p))), {}};
+        return {QString::number(static_cast<qint64>(vlk::asValue(p))), {}};
     if (!p)
         return {QStringLiteral("null"), {}};
     switch (kind) {
@@ -198,7 +198,7 @@ MessageText describeParameter(Message message, Parameter kind, const void* p)
     case Parameter::Int32Address:
         return {QString::number(as<std::int32_t>(p)), {}};
     case Parameter::FloatAddress:
-        return {QString::number(double(as<float>(p))), {}};
+        return {QString::number(static_cast<double>(as<float>(p))), {}};
     case Parameter::StringAddress:
         return {quoted(as<QString>(p)), {}};
     case Parameter::BytesAddress:
@@ -222,7 +222,7 @@ const MessageInfo* findMessage(Direction direction, quint32 id)
 {
     const auto* row = std::ranges::lower_bound(kMessages, Message(id), {}, &MessageInfo::number);
     const bool found =
-        row != std::end(kMessages) && quint32(row->number) == id && row->direction == direction;
+        row != std::end(kMessages) && static_cast<quint32>(row->number) == id && row->direction == direction;
     return found ? row : nullptr;
 }
 

@@ -3,8 +3,8 @@
 // What a message says, for people: its name and its parameters in words, and the bytes of those parameters
 // that are bytes. Reads the parameters where they lie, so it must be asked while the message passes.
 
+#include "check/plugin_names.h"
 #include "plugin/host/host_interface.h"
-#include "plugin_names.h"
 
 #include <QByteArray>
 #include <QString>

@@ -123,7 +123,12 @@ void PluginLink::setPaths(const QString& telemetry, const QString& configuration
 void PluginLink::attachTracker(const QString& model, const QString& text1, const QString& text2,
                                quint64 capabilities)
 {
-    vlk::ConnectInfo info{model, text1, text2, {}, quint32(capabilities), quint32(capabilities >> 32)};
+    vlk::ConnectInfo info{model,
+                          text1,
+                          text2,
+                          {},
+                          static_cast<quint32>(capabilities),
+                          static_cast<quint32>(capabilities >> 32)};
     send(vlk::Message::TrackerAttached, &info);
 }
 

@@ -5,8 +5,8 @@
 //
 // Messages sent while no plug-in is loaded go nowhere.
 
+#include "check/plugin_names.h"
 #include "plugin/host/host_interface.h"
-#include "plugin_names.h"
 
 #include <QLibrary>
 #include <QObject>

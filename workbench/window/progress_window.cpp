@@ -1,6 +1,6 @@
 #include "window/progress_window.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "road/write_road.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
@@ -47,8 +47,8 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
 
     connect(&road_, &WriteRoad::stepChanged, this, &ProgressWindow::showStep);
     connect(&road_, &WriteRoad::progressed, this, [this](qint64 bytes, qint64 all) {
-        bar_->setRange(0, int(all));
-        bar_->setValue(int(bytes));
+        bar_->setRange(0, static_cast<int>(all));
+        bar_->setValue(static_cast<int>(bytes));
         bar_->setFormat(text("wb_progress_bytes").arg(number(bytes), number(all)));
     });
     connect(&road_, &WriteRoad::taken, this, &ProgressWindow::showTaken);

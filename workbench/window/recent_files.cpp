@@ -1,6 +1,6 @@
 #include "window/recent_files.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "window/short_file_name.h"
 #include "window/stored_file.h"

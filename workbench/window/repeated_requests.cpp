@@ -37,7 +37,7 @@ Asked askedBy(Message request, const void* p1)
 bool answersReading(Message answer)
 {
     return std::ranges::any_of(kMessages, [answer](const MessageInfo& row) {
-        return row.answer == quint32(answer) &&
+        return row.answer == static_cast<quint32>(answer) &&
                (hasEffect(row.number, Effect::Reads) || hasEffect(row.number, Effect::MayBeMute));
     });
 }

@@ -8,7 +8,7 @@
 // Only the newest request of each number is sent again: whoever asks anew has given up on the one before.
 
 #include "check/answer_check.h"
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "tracker/simulated_tracker.h"
 
 #include <QTimer>

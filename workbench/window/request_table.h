@@ -3,8 +3,8 @@
 // What the requests of the plug-in do to the tracker, one row each, and what follows from it for the host:
 // only what reads may be asked again when no answer comes, and what destroys is asked of the user first.
 
+#include "check/plugin_names.h"
 #include "plugin/host/host_interface.h"
-#include "plugin_names.h"
 
 namespace workbench {
 

@@ -1,6 +1,6 @@
 #include "window/review_window.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"
@@ -232,7 +232,7 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
     list->setWordWrap(true);
     list->setIconSize({kMarkSize, kMarkSize});
     for (const SettingAdvice& advice : review_.advice) {
-        QStringList place{advice.page, advice.caption};
+        QStringList place{advice.page, advice.group, advice.caption};
         place.removeAll(QString());
         const Mark mark = advice.isError ? Mark::invalid : Mark::advice;
         new QListWidgetItem(QIcon(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF())),

@@ -51,7 +51,7 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
-        if (id == quint32(vlk::Message::OpenConfiguration))
+        if (id == static_cast<quint32>(vlk::Message::OpenConfiguration))
             typing_.forget();
     });
 }

@@ -1,6 +1,6 @@
 #include "window/setting_change_model.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 
 #include <QGuiApplication>
@@ -60,7 +60,7 @@ void SettingChangeModel::retranslate()
 
 int SettingChangeModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(changes_.size());
+    return parent.isValid() ? 0 : static_cast<int>(changes_.size());
 }
 
 int SettingChangeModel::columnCount(const QModelIndex& parent) const

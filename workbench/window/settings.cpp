@@ -95,12 +95,12 @@ void Settings::setMode(int mode)
 Appearance Settings::appearance() const
 {
     const int value = store_->value(kAppearanceKey, 0).toInt();
-    return value >= 0 && value <= int(Appearance::Dark) ? Appearance(value) : Appearance::System;
+    return value >= 0 && value <= static_cast<int>(Appearance::Dark) ? Appearance(value) : Appearance::System;
 }
 
 void Settings::setAppearance(Appearance appearance)
 {
-    store_->setValue(kAppearanceKey, int(appearance));
+    store_->setValue(kAppearanceKey, static_cast<int>(appearance));
 }
 
 bool Settings::fullWindow() const

@@ -90,7 +90,7 @@ void SimulatedPort::sendBlock()
     case Block::Kept:
         break;
     }
-    sent_ = std::min(sent_ + kBlockSize, qint64(document_.size()));
+    sent_ = std::min(sent_ + kBlockSize, static_cast<qint64>(document_.size()));
     const bool isAll = sent_ == document_.size();
     // Who hears of it may drop the rest.
     later(kBlockMs, [this] { sendBlock(); });

@@ -1,6 +1,6 @@
 #include "window/tracker_panel.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "tracker/configuration_values.h"
 #include "tracker/simulated_tracker.h"
 #include "typing/empty_note.h"
@@ -117,7 +117,7 @@ QWidget* TrackerPanel::buildKeys()
 void TrackerPanel::showKeys()
 {
     const tracker::ConfigurationValues& values = tracker_.configuration();
-    keys_->setRowCount(int(values.paths().size()));
+    keys_->setRowCount(static_cast<int>(values.paths().size()));
     for (int row = 0; row < keys_->rowCount(); ++row) {
         const QString& path = values.paths().at(row);
         keys_->setItem(row, 0, new QTableWidgetItem(path));

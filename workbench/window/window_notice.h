@@ -6,7 +6,7 @@
 // window, goes with it and never takes the focus. F6 on the window shows what can be done about the notice in
 // a menu; pressed on it goes to the areas of the window.
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/notice_bar.h"
 
 #include <QElapsedTimer>

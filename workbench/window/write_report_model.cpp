@@ -1,6 +1,6 @@
 #include "window/write_report_model.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/field_mark.h"
 #include "window/languages.h"
 #include "window/setting_change_model.h"
@@ -24,7 +24,7 @@ void WriteReportModel::retranslate()
 
 int WriteReportModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(settings_.size());
+    return parent.isValid() ? 0 : static_cast<int>(settings_.size());
 }
 
 int WriteReportModel::columnCount(const QModelIndex& parent) const

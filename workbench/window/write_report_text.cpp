@@ -108,7 +108,7 @@ QString seenLater(const RoadReport& report)
 
 QString firstLine(const RoadReport& report)
 {
-    const int all = int(report.settings.size());
+    const int all = static_cast<int>(report.settings.size());
     const int missed = report.missed();
     if (report.isSeenLater)
         return seenLater(report);

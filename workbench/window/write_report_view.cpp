@@ -1,6 +1,6 @@
 #include "window/write_report_view.h"
 
-#include "plugin_names.h"
+#include "check/plugin_names.h"
 #include "typing/empty_note.h"
 #include "typing/field_mark.h"
 #include "typing/grid.h"

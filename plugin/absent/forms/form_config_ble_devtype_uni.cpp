@@ -3,7 +3,7 @@
 #include "absent/params/sensor_offers.h"
 #include "typing/grid.h"
 #include "windows/binder/page_settings.h"
-#include "windows/eliding_combobox.h"
+#include "windows/binder/row_inputs.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,48 +11,47 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSpinBox>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
-enum class Cell { check, spin, combo, line };
-
-// The columns of both tables: the head's text, and the stem of the widgets below it.
+// The columns of both tables: the head's text, and the stem of the widgets below it. Those of settings are
+// made as their rows say, the others are check boxes.
 struct UniversalColumn
 {
     const char* title;
     const char* head;
     const char* widget;
-    Cell cell;
-    int from = 1; // first row that has a widget; before it the row is always on
+    int from = 1; // first row that can be off
 };
 constexpr UniversalColumn kConditions[] = {
-    {"label_Condition_Title_Use", "cfgt17_032", "checkBox_Condition_Use_%1", Cell::check, 2},
-    {"label_Condition_Title_Group", "cfgt17_058", "spinBox_Condition_Group_%1", Cell::spin},
-    {"label_Condition_Title_Operator", "cfgt17_059", "comboBox_Condition_Operator_%1", Cell::combo, 2},
-    {"label_Condition_Title_Type", "cfgt17_060", "spinBox_Condition_Type_%1", Cell::spin},
-    {"label_Condition_Title_Displacement", "cfgt17_061", "spinBox_Condition_Displacement_%1", Cell::spin},
-    {"label_Condition_Title_Mask", "cfgt17_062", "lineEdit_Condition_Mask_%1", Cell::line},
+    {"label_Condition_Title_Use", "cfgt17_032", "checkBox_Condition_Use_%1", 2},
+    {"label_Condition_Title_Group", "cfgt17_058", "spinBox_Condition_Group_%1"},
+    {"label_Condition_Title_Operator", "cfgt17_059", "comboBox_Condition_Operator_%1"},
+    {"label_Condition_Title_Type", "cfgt17_060", "spinBox_Condition_Type_%1"},
+    {"label_Condition_Title_Displacement", "cfgt17_061", "spinBox_Condition_Displacement_%1"},
+    {"label_Condition_Title_Mask", "cfgt17_062", "lineEdit_Condition_Mask_%1"},
 };
 constexpr UniversalColumn kValues[] = {
-    {"label_Parameters_Title_Use", "cfgt17_032", "checkBox_Parameters_Use_%1", Cell::check},
-    {"label_Parameters_Title_Group", "cfgt17_058", "spinBox_Parameters_Group_%1", Cell::spin},
-    {"label_Parameters_Title_Type", "cfgt17_060", "spinBox_Parameters_Type_%1", Cell::spin},
-    {"label_Parameters_Title_Displacement", "cfgt17_061", "spinBox_Parameters_Displacement_%1", Cell::spin},
-    {"label_Parameters_Title_Dimension", "cfgt17_033", "comboBox_Parameters_Dimension_%1", Cell::combo},
-    {"label_Parameters_Title_ByteOrder", "cfgt17_067", "comboBox_Parameters_ByteOrder_%1", Cell::combo},
-    {"label_Parameters_Title_SensorType", "cfgt17_040", "comboBox_Parameters_SensorType_%1", Cell::combo},
-    {"label_Parameters_Title_Index", "cfgt17_068", "comboBox_Parameters_Index_%1", Cell::combo},
-    {"label_Parameters_Title_Multiplier", "cfgt17_069", "spinBox_Parameters_Multiplier_%1", Cell::spin},
-    {"label_Parameters_Title_Divider", "cfgt17_070", "spinBox_Parameters_Divider_%1", Cell::spin},
-    {"label_Parameters_Title_Amendment", "cfgt17_071", "spinBox_Parameters_Amendment_%1", Cell::spin},
+    {"label_Parameters_Title_Use", "cfgt17_032", "checkBox_Parameters_Use_%1"},
+    {"label_Parameters_Title_Group", "cfgt17_058", "spinBox_Parameters_Group_%1"},
+    {"label_Parameters_Title_Type", "cfgt17_060", "spinBox_Parameters_Type_%1"},
+    {"label_Parameters_Title_Displacement", "cfgt17_061", "spinBox_Parameters_Displacement_%1"},
+    {"label_Parameters_Title_Dimension", "cfgt17_033", "comboBox_Parameters_Dimension_%1"},
+    {"label_Parameters_Title_ByteOrder", "cfgt17_067", "comboBox_Parameters_ByteOrder_%1"},
+    {"label_Parameters_Title_SensorType", "cfgt17_040", "comboBox_Parameters_SensorType_%1"},
+    {"label_Parameters_Title_Index", "cfgt17_068", "comboBox_Parameters_Index_%1"},
+    {"label_Parameters_Title_Multiplier", "cfgt17_069", "spinBox_Parameters_Multiplier_%1"},
+    {"label_Parameters_Title_Divider", "cfgt17_070", "spinBox_Parameters_Divider_%1"},
+    {"label_Parameters_Title_Amendment", "cfgt17_071", "spinBox_Parameters_Amendment_%1"},
 };
 // The check against an example message: hidden, nothing fills its results.
 constexpr UniversalColumn kConditionTests[] = {
-    {"label_Condition_Test_Title_Use", "cfgt17_064", "checkBox_Condition_Test_Use_%1", Cell::check}};
+    {"label_Condition_Test_Title_Use", "cfgt17_064", "checkBox_Condition_Test_Use_%1"}};
 constexpr UniversalColumn kValueTests[] = {
-    {"label_Parameters_Test_Title_Use", "cfgt17_064", "checkBox_Parameters_Test_Use_%1", Cell::check}};
+    {"label_Parameters_Test_Title_Use", "cfgt17_064", "checkBox_Parameters_Test_Use_%1"}};
 
 struct Table
 {
@@ -73,22 +72,31 @@ constexpr Table kTables[] = {
      vlk::kUniversalValues, "label_Parameters_Test_Rez_%1"},
 };
 
-QWidget* makeCell(Cell cell)
+// Null where the setting has no widget in the line.
+QWidget* makeCell(const std::vector<const vlk::Setting*>& rows, const UniversalColumn& column, int line)
 {
-    switch (cell) {
-    case Cell::check:
-        return new QCheckBox;
-    case Cell::spin:
-        return new QSpinBox;
-    case Cell::combo: {
-        auto* list = new vlk::ElidingComboBox;
-        list->reserve({}, QStringLiteral("00…"));
-        list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        return list;
+    const QString stem = QString::fromLatin1(column.widget);
+    const auto rowAt = [&](int number) {
+        return std::ranges::find_if(rows, [name = stem.arg(number)](const vlk::Setting* row) {
+            return vlk::numberedName(row->shown()->widget.tail, row->shown()->numbers) == name;
+        });
+    };
+    if (const auto row = rowAt(line); row != rows.end()) {
+        QWidget* input = vlk::makeInput(**row);
+        if (auto* list = qobject_cast<QComboBox*>(input)) {
+            list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+            list->setMinimumContentsLength(3);
+            list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        }
+        return input;
     }
-    default:
-        return new QLineEdit;
-    }
+    if (rowAt(2) != rows.end())
+        return nullptr;
+    auto* box = new QCheckBox;
+    box->setObjectName(stem.arg(line));
+    box->setChecked(line < column.from);
+    box->setEnabled(line >= column.from);
+    return box;
 }
 
 QLabel* makeLabel(const QString& name, const QString& text = {})
@@ -98,7 +106,7 @@ QLabel* makeLabel(const QString& name, const QString& text = {})
     return label;
 }
 
-QGroupBox* makeTable(const Table& table)
+QGroupBox* makeTable(const Table& table, const std::vector<const vlk::Setting*>& rows)
 {
     auto* box = new QGroupBox;
     box->setObjectName(QString::fromLatin1(table.group));
@@ -113,17 +121,12 @@ QGroupBox* makeTable(const Table& table)
     int column = 0;
     for (const UniversalColumn& place : table.columns) {
         grid->addWidget(makeLabel(QString::fromLatin1(place.title)), 0, ++column);
-        grid->setColumnStretch(column, place.cell == Cell::line ? 1 : 0);
-        for (int row = 1; row <= table.rows; ++row) {
-            if (row < place.from && place.cell != Cell::check)
+        for (int line = 1; line <= table.rows; ++line) {
+            QWidget* cell = makeCell(rows, place, line);
+            if (!cell)
                 continue;
-            QWidget* cell = makeCell(place.cell);
-            cell->setObjectName(QString::fromLatin1(place.widget).arg(row));
-            grid->addWidget(cell, row, column);
-            if (row < place.from) {
-                static_cast<QCheckBox*>(cell)->setChecked(true);
-                cell->setEnabled(false);
-            }
+            grid->addWidget(cell, line, column);
+            grid->setColumnStretch(column, qobject_cast<QLineEdit*>(cell) ? 1 : 0);
         }
     }
     return box;
@@ -135,8 +138,10 @@ void VLK_Form_Config_Ble_DevType_Uni::makeWidgets()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    const auto rows =
+        vlk::rowsOfForm(settings().values().table(), type().section, {static_cast<std::uint8_t>(sensor())});
     for (const Table& table : kTables) {
-        QGroupBox* box = makeTable(table);
+        QGroupBox* box = makeTable(table, rows);
         layout->addWidget(box);
         if (!table.result)
             continue;

@@ -1,7 +1,7 @@
 #include "fuel/table/fuel_text.h"
 
+#include "base/thousands.h"
 #include "base/windows1251.h"
-#include "typing/thousands.h"
 
 #include <QLocale>
 #include <QRegularExpression>

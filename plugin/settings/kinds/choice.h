@@ -49,15 +49,21 @@ constexpr Choice choice(const char* key, std::span<const Code> codes, const char
     return keyed<Choice>(key, loadDefault).with(&Choice::codes, codes);
 }
 
+constexpr bool isKnown(const Choice& row, std::string_view code)
+{
+    for (const Code& known : row.codes) {
+        if (*known.code == *code.data() && code == known.code)
+            return true;
+    }
+    return row.none && code == row.none;
+}
+
 constexpr void check(const Choice& row)
 {
-    const auto isChoice = [&](const char* wanted) {
-        const auto is = [&](const char* code) { return code && std::string_view(code) == wanted; };
-        return !wanted || is(row.none) ||
-               std::ranges::any_of(row.codes, [&](const Code& known) { return is(known.code); });
-    };
-    if (!isChoice(row.load) || !isChoice(row.reset) || !isChoice(row.fallback))
-        throw "a default is none of the choices";
+    for (const char* code : {row.load, row.reset, row.fallback}) {
+        if (code && !isKnown(row, code))
+            throw "a default is none of the choices";
+    }
 }
 
 constexpr void eachBox(const Choice& row, auto take)

@@ -19,6 +19,7 @@ namespace vlk {
 namespace {
 
 constexpr int kWidestName = 130;
+constexpr int kWidestOnPaper = 260; // where no tip has it whole
 constexpr int kNameMargin = 6;
 constexpr int kMarkReach = 4;
 constexpr int kRowPadding = 3;
@@ -95,7 +96,8 @@ void BandsStrip::refresh()
         fit(band.title);
     for (const MarkRow& row : model_->marks())
         fit(row.title);
-    plot_->setLeftWidth(width == 0 ? 0 : std::min(width, kWidestName) + kNameMargin);
+    plot_->setLeftWidth(
+        width == 0 ? 0 : std::min(width, plot_->isPaper() ? kWidestOnPaper : kWidestName) + kNameMargin);
     updateGeometry();
     update();
 }
@@ -116,7 +118,8 @@ void BandsStrip::paintEvent(QPaintEvent*)
     const auto paintName = [&](const QString& name) {
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(names.translated(0, row.top()), Qt::AlignRight | Qt::AlignVCenter,
-                         fontMetrics().elidedText(name, Qt::ElideRight, names.width()));
+                         // Lines and sensors of a kind differ at the end.
+                         fontMetrics().elidedText(name, Qt::ElideMiddle, names.width()));
     };
     for (int band = 0; band < bandCount(); ++band) {
         paintName(model_->bands()[band].title);

@@ -122,6 +122,13 @@ QString itemName(ItemIndex item)
     return QString::fromLatin1(name.data(), static_cast<int>(name.size()));
 }
 
+QString furtherTitle(const QString& first, const QString& title)
+{
+    const int number = title.lastIndexOf(QLatin1Char(' ')) + 1;
+    const bool isOfKind = title.midRef(number).toInt() > 0 && first.startsWith(title.leftRef(number));
+    return isOfKind ? title.mid(number) : title;
+}
+
 QString withUnit(const CurveColumn& column)
 {
     return column.unit.isEmpty() ? column.title : QStringLiteral("%1, %2").arg(column.title, column.unit);

@@ -31,6 +31,8 @@ double numberOf(ShownRecords& records, const CurveColumn& column, int record);
 
 QString itemName(ItemIndex item);
 
+// What a title adds to the first one of its axis: of sensors of a kind their number alone.
+QString furtherTitle(const QString& first, const QString& title);
 // "Fuel level, l".
 QString withUnit(const CurveColumn& column);
 // "251.5 l" in the language on show, a dash for none; with its sign where it is a difference.

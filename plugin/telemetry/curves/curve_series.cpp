@@ -67,15 +67,15 @@ private:
 
 std::size_t CurveSeries::firstAt(double time) const
 {
-    const auto found =
-        std::ranges::lower_bound(times_, time, {}, [](quint32 seconds) { return double(seconds); });
+    const auto found = std::ranges::lower_bound(times_, time, {},
+                                                [](quint32 seconds) { return static_cast<double>(seconds); });
     return static_cast<std::size_t>(found - times_.begin());
 }
 
 std::size_t CurveSeries::firstBehind(double time) const
 {
-    const auto found =
-        std::ranges::upper_bound(times_, time, {}, [](quint32 seconds) { return double(seconds); });
+    const auto found = std::ranges::upper_bound(times_, time, {},
+                                                [](quint32 seconds) { return static_cast<double>(seconds); });
     return static_cast<std::size_t>(found - times_.begin());
 }
 

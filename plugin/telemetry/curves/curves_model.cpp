@@ -209,7 +209,7 @@ void CurvesModel::addCurve(CurveColumn column)
     if (like != curves_.end())
         axis = like->axis;
     if (like != curves_.end() && column.unit.isEmpty())
-        axes_[axis] += QLatin1String(", ") + column.title;
+        axes_[axis] += QLatin1String(", ") + furtherTitle(like->column.title, column.title);
     else if (like == curves_.end())
         axes_ << (column.unit.isEmpty() ? column.title : column.unit);
     curves_.push_back({std::move(column), std::move(series), axis});

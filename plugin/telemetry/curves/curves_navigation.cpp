@@ -159,7 +159,7 @@ bool CurvesNavigation::drag(const QMouseEvent& event)
     QWidget* const canvas = plot_->canvas();
     const int way = event.x() - dragFrom_.x();
     if (drag_ == Drag::pan) {
-        const double share = -double(way) / std::max(canvas->width(), 1);
+        const double share = -static_cast<double>(way) / std::max(canvas->width(), 1);
         records_.setInSight(moved(dragSpan_, share, records_.wholeTime()));
     } else if (rubber_ || std::abs(way) >= QApplication::startDragDistance()) {
         if (!rubber_)

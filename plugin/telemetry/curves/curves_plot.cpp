@@ -28,6 +28,22 @@ namespace {
 constexpr int kValueTicks = 5;
 constexpr int kLeastTitleRoom = 80; // less cuts titles to nothing
 
+// The title of an axis, in two lines where one is too long for the room.
+QString titleIn(int room, const QString& title, const QFontMetrics& metrics)
+{
+    const auto fits = [&](const QString& line) { return metrics.horizontalAdvance(line) <= room; };
+    if (fits(title))
+        return title;
+    if (room < kLeastTitleRoom)
+        return {};
+    for (int blank = title.lastIndexOf(QLatin1Char(' ')); blank > 0;
+         blank = title.lastIndexOf(QLatin1Char(' '), blank - 1)) {
+        if (fits(title.left(blank)) && fits(title.mid(blank + 1)))
+            return title.left(blank) + QLatin1Char('\n') + title.mid(blank + 1);
+    }
+    return metrics.elidedText(title, Qt::ElideRight, room);
+}
+
 class TimeScaleDraw : public QwtScaleDraw
 {
 public:
@@ -198,10 +214,11 @@ void CurvesPlot::setValueAxis(int axis)
     const QFontMetrics metrics(font());
     const int most = std::clamp(canvas()->height() / (3 * metrics.height()), 2, 2 * kValueTicks);
     const QwtScaleDiv division = valueDivision(isUsed ? model_->extremesAt(axis, span()) : Extremes(), most);
-    const QString name = isUsed ? model_->axes()[axis] : QString();
-    const bool hasRoom =
-        canvas()->height() >= kLeastTitleRoom || metrics.horizontalAdvance(name) <= canvas()->height();
-    QwtText title(hasRoom ? metrics.elidedText(name, Qt::ElideRight, canvas()->height()) : QString());
+    QString name = isUsed ? model_->axes()[axis] : QString();
+    // Turned aside, a lone letter "l" would be a dash.
+    if (name == tr("abbr_026"))
+        name = tr("rec_246");
+    QwtText title(titleIn(canvas()->height(), name, metrics));
     title.setFont(font());
     if (axis < 2) {
         const int id = axis == 0 ? yLeft : yRight;

@@ -67,17 +67,19 @@ HandOver::HandOver(QWidget* window, NoticeBar* bar) : QObject(window), window_(w
 void HandOver::save(const QString& path, const WriteContent& write)
 {
     QString reason;
-    const bool isSaved = replaceFile(path, write, &reason);
-    const QString shown = QDir::toNativeSeparators(path);
-    if (!bar_)
-        return;
-    if (isSaved)
-        bar_->tellNews(kHandedOver, [shown] {
-            return Notice{Mark::right, translated("rec_170").arg(shown), {}};
-        });
-    else
-        bar_->tell(kHandedOver, [shown, reason] {
+    if (replaceFile(path, write, &reason))
+        return tellSaved(path);
+    if (bar_)
+        bar_->tell(kHandedOver, [shown = QDir::toNativeSeparators(path), reason] {
             return Notice{Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}};
+        });
+}
+
+void HandOver::tellSaved(const QString& path)
+{
+    if (bar_)
+        bar_->tellNews(kHandedOver, [shown = QDir::toNativeSeparators(QDir::cleanPath(path))] {
+            return Notice{Mark::right, translated("rec_170").arg(shown), {}};
         });
 }
 

@@ -40,6 +40,8 @@ public:
     // By the suffix of the path: as SVG, as PNG otherwise.
     void savePicture(const QString& path, const PaintPicture& paint);
     void saveTable(const QString& path, const WriteContent& write);
+    // That a file is there which was saved elsewhere.
+    void tellSaved(const QString& path);
 
     // Ask where; the names get a suffix of their own.
     void askPicture(const QString& proposed, const PaintPicture& paint);

@@ -73,7 +73,7 @@ TimeTicks timeTicks(const TimeSpan& span, int most, qint32 utcOffset)
     const auto* step = std::ranges::find_if(kTimeSteps, fits);
     if (step == std::end(kTimeSteps))
         --step;
-    return {double(step->major), roundMoments(span, step->major, utcOffset),
+    return {static_cast<double>(step->major), roundMoments(span, step->major, utcOffset),
             roundMoments(span, step->minor, utcOffset)};
 }
 

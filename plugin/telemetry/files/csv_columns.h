@@ -18,6 +18,8 @@ struct CsvColumn
 
     ElementIndex element() const { return kItems[item].element; }
     int field() const { return kElements[element()].field; }
+    // By whose name filters and scripts know it: a time on show has a zone of its own.
+    ItemIndex named() const { return item == vlk::item("Time.local") ? vlk::item("Time") : item; }
 };
 
 inline constexpr int kCsvColumnCount = 576;

@@ -17,6 +17,8 @@
 
 namespace vlk {
 
+struct CsvColumn;
+
 enum class ExportForm : std::uint8_t { csv, csvText, tsv, ndjson, gpx, kml, geojson, xml, tmi };
 
 struct ExportFormRow
@@ -77,6 +79,8 @@ struct ExportOptions
     // Those asked for, in this order; none: all that any record has. For the forms that have columns.
     std::vector<FilterColumn> columns{};
     EventText eventText{};
+    // Of a table of numbers, in the place of names of elements: what a column is called in the language.
+    std::function<QString(const CsvColumn&)> heading{};
     TextEncoder encode = [](const QString& text) { return text.toLocal8Bit(); }; // of texts in CSV
 };
 

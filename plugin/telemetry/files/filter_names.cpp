@@ -132,7 +132,7 @@ void FilterNames::addTexts()
 {
     QMultiHash<QString, ItemIndex> withoutUnits;
     for (const CsvColumn& column : csvColumns()) {
-        const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
+        const ItemIndex shown = column.named();
         const QString heading = headingText(column);
         add(heading, shown);
         addWordsOf(shown);

@@ -46,7 +46,7 @@ std::vector<ItemIndex> itemsOfColumns()
 {
     std::vector<ItemIndex> items;
     for (const CsvColumn& column : csvColumns())
-        items.push_back(column.item == item("Time.local") ? item("Time") : column.item);
+        items.push_back(column.named());
     return items;
 }
 

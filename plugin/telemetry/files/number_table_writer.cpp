@@ -2,6 +2,7 @@
 
 #include "base/csv_line.h"
 #include "telemetry/files/column_offsets.h"
+#include "telemetry/files/csv_columns.h"
 #include "telemetry/files/json_writer.h"
 #include "telemetry/files/number_cells.h"
 #include "telemetry/files/title_lines.h"
@@ -52,6 +53,27 @@ std::vector<ElementIndex> elementsOf(const ExportAhead& ahead, const ExportOptio
     return elements;
 }
 
+// The column of a table of texts that shows the cell and nothing else of its element; null for none.
+const CsvColumn* columnOf(const NumberCell& cell)
+{
+    const CsvColumn* found = nullptr;
+    for (const CsvColumn& column : csvColumns()) {
+        if (cell.kind == NumberCell::ofItem ? column.item != cell.item : column.element() != cell.element)
+            continue;
+        if (found)
+            return nullptr;
+        found = &column;
+    }
+    if (!found || cell.kind == NumberCell::asFile)
+        return nullptr;
+    const Item& item = kItems[found->item];
+    const Rule& rule = item.rule();
+    const bool isWhole =
+        cell.kind == NumberCell::ofItem || (rule.bits.count == 0 && rule.shape != Shape::twoState);
+    const bool isInItsUnit = cell.kind == NumberCell::moment || measureOf(item, rule).unit == cell.unit;
+    return isWhole && isInItsUnit ? found : nullptr;
+}
+
 class NumberTableWriter : public ExportWriter
 {
 public:
@@ -59,7 +81,7 @@ public:
         : isCsv_(form == ExportForm::csv), separator_(!isCsv_                ? '\t'
                                                       : options.decimalComma ? ';'
                                                                              : ','),
-          isMarked_(options.isMarked), isArchive_(options.archive),
+          isMarked_(options.isMarked), heading_(options.heading), isArchive_(options.archive),
           hasEntries_(options.columns.empty() && (options.archive || ahead.hasPackets)),
           absent_(options.archive ? "\\N" : ""), cells_(cellsOf(ahead, options)),
           offsets_(elementsIn(cells_), true), numbers_(options.utcOffset, options.decimalComma ? ',' : '.'),
@@ -121,8 +143,10 @@ private:
         return elements;
     }
 
-    static QByteArray headingOf(const NumberCell& cell)
+    QByteArray headingOf(const NumberCell& cell) const
     {
+        if (const CsvColumn* const column = heading_ ? columnOf(cell) : nullptr)
+            return heading_(*column).toUtf8();
         const std::string_view name = kElements[cell.element].name;
         const QByteArray heading(name.data(), static_cast<int>(name.size()));
         const Word& unit = unitWord(cell.unit);
@@ -194,6 +218,7 @@ private:
     bool isCsv_;
     char separator_;
     bool isMarked_;
+    std::function<QString(const CsvColumn&)> heading_;
     bool isArchive_;
     bool hasEntries_;
     std::string_view absent_;

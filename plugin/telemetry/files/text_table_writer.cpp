@@ -26,7 +26,7 @@ std::vector<CsvColumn> textColumns(const ExportAhead& ahead, const ExportOptions
         std::ranges::copy_if(csvColumns(), std::back_inserter(columns), isThere);
     for (const FilterColumn& asked : options.columns) {
         std::ranges::copy_if(csvColumns(), std::back_inserter(columns), [&](const CsvColumn& column) {
-            const ItemIndex shown = column.item == item("Time.local") ? item("Time") : column.item;
+            const ItemIndex shown = column.named();
             const bool isAsked = asked == FilterColumn(shown) || asked == FilterColumn(column.element());
             return isAsked && isThere(column) &&
                    std::ranges::find(columns, column.item, &CsvColumn::item) == columns.end();

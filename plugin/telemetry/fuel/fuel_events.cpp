@@ -1,10 +1,10 @@
 #include "telemetry/fuel/fuel_events.h"
 
 #include "telemetry/files/track_points.h"
+#include "telemetry/fuel/burnt_fuel.h"
 #include "telemetry/fuel/level_noise.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -17,10 +17,6 @@ namespace {
 constexpr double kLeastStep = 0.5;
 // Litres a second by which a level may creep while nobody takes or pours: 3 an hour.
 constexpr double kCreep = 3 / 3600.0;
-// An engine that idles burns this share of what it burns while the vehicle moves. The guess weighs as much as
-// levels over so many seconds, for there may be a few minutes of them only.
-constexpr double kIdlingShare = 0.25;
-constexpr double kSureTime = 1800;
 // How far what was burnt may be from the average.
 constexpr double kBurnSpread = 0.5;
 // Seconds of a pause in one pouring.
@@ -40,12 +36,7 @@ constexpr double kShortestStop = 120;
 // Litres by which a level that is the same may differ, and the share of the change by which it may.
 constexpr double kSameLevel = 0.5;
 constexpr double kSameShare = 0.05;
-// Seconds from which on a pause between records may hide a drive.
-constexpr double kLongPause = 900;
 constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
-
-constexpr int kBackwards = -1;
-constexpr int kForwards = 1;
 
 class EventFinder
 {
@@ -53,12 +44,9 @@ public:
     EventFinder(RecordColumns& columns, const NumberColumn& litres, const std::vector<LevelMedian>& medians,
                 const FuelThresholds& thresholds)
         : times_(columns.times()), litres_(litres), byTime_(recordsByTime(columns)), medians_(medians),
-          thresholds_(thresholds), walls_(medians_.size(), false)
+          thresholds_(thresholds), burnt_(medians, std::min(thresholds.rise, thresholds.fall) / 2),
+          walls_(medians_.size(), false)
     {
-        learnBurning();
-        burnt_.assign(medians_.size(), 0);
-        for (int i = 1; i < size(); ++i)
-            burnt_[i] = burnt_[i - 1] + burntBetween(i - 1);
     }
 
     std::vector<FuelEvent> find()
@@ -92,36 +80,16 @@ private:
     int size() const { return static_cast<int>(medians_.size()); }
     double seconds(int i) const { return medians_[i + 1].middle() - medians_[i].middle(); }
 
-    // The average of what falls from one median to the next without a step, for each state of the engine.
-    void learnBurning()
-    {
-        std::array<double, 2> litres{};
-        std::array<double, 2> time{};
-        const double step = std::min(thresholds_.rise, thresholds_.fall) / 2;
-        for (int i = 0; i + 1 < size(); ++i) {
-            const LevelMedian& one = medians_[i];
-            const LevelMedian& other = medians_[i + 1];
-            const double fall = one.litres - other.litres;
-            if (!one.burns || !other.burns || one.moves != other.moves || seconds(i) > kLongPause ||
-                std::abs(fall) > step)
-                continue;
-            litres[one.moves] += fall;
-            time[one.moves] += seconds(i);
-        }
-        const auto average = [](double fell, double seconds) {
-            return seconds > 0 ? std::max(0.0, fell / seconds) : 0;
-        };
-        burning_[1] = average(litres[1], time[1]);
-        burning_[0] = average(litres[0], time[0]);
-        if (time[1] > 0)
-            burning_[0] = std::min(burning_[1], average(litres[0] + kIdlingShare * burning_[1] * kSureTime,
-                                                        time[0] + kSureTime));
-    }
-
     // Litres a second.
-    double burning(const LevelMedian& median) const
+    double burning(const LevelMedian& median, double moving) const
     {
-        return median.moves ? burning_[1] : median.burns ? burning_[0] : 0;
+        return median.moves ? moving : median.burns ? burnt_.average(false) : 0;
+    }
+    double burning(const LevelMedian& median) const { return burning(median, burnt_.average(true)); }
+
+    double burningBeside(int start, int direction, bool moves) const
+    {
+        return burnt_.beside(start, direction, moves, walls_);
     }
 
     bool isSamePlace(int i) const
@@ -131,23 +99,26 @@ private:
         return vlk::isSamePlace(one.latitude, one.longitude, other.latitude, other.longitude);
     }
 
-    double burntBetween(int i) const
+    double burntBetween(int i) const { return burntBetween(i, burnt_.average(true)); }
+    double burntBetween(int i, double moving) const
     {
         const LevelMedian& one = medians_[i];
         const LevelMedian& other = medians_[i + 1];
         const double least = std::min(seconds(i), kLongPause);
         if (seconds(i) > kLongPause && isSamePlace(i))
-            return burning(one.moves ? other : one) * least;
+            return burning(one.moves ? other : one, moving) * least;
         if (seconds(i) > kLongPause && !one.burns && !other.burns &&
             std::isnan(one.latitude + other.latitude))
             return 0;
         if (seconds(i) > kLongPause)
-            return burning_[1] * seconds(i);
+            return moving * seconds(i);
         // An engine that was started in between ran while the sensors woke.
         const double between = other.from - one.until;
         const double ran = one.burns == other.burns ? between : std::min<double>(between, kWakeTime);
-        return (burning(one) * (one.until - one.from) / 2 + burning(other) * (other.until - other.from) / 2) +
-               std::max(burning(one), burning(other)) * ran;
+        const double first = burning(one, moving);
+        const double second = burning(other, moving);
+        return first * (one.until - one.from) / 2 + second * (other.until - other.from) / 2 +
+               std::max(first, second) * ran;
     }
 
     // How much more than burnt went, or came; 0 where it tells nothing.
@@ -173,8 +144,10 @@ private:
                 const double more = change(next);
                 if (more * first < 0)
                     break;
-                // What swings as the vehicle drives off is no more of it.
-                if (more != 0 && (!medians_[next + 1].moves || isBarrier(next)))
+                // What swings as the vehicle drives off is no more of it, unless it was still being poured
+                // then.
+                const bool goesOn = last == next - 1 && medians_[next].count < kLeastLevels;
+                if (more != 0 && (!medians_[next + 1].moves || isBarrier(next) || goesOn))
                     last = next;
             }
             steps.push_back({i, last + 1});
@@ -207,14 +180,17 @@ private:
         std::vector<double> numbers;
         Level level{};
         const LevelMedian& inner = medians_[start];
-        const double rest = burning(inner) * (inner.until - inner.from) / 2;
+        const double moving = burningBeside(start, direction, true);
+        double burnt = burning(inner, moving) * (inner.until - inner.from) / 2; // up to the inner end
         for (int i = start; i >= 0 && i < size(); i += direction) {
             level.endsAtEvent = i != start && walls_[std::min(i, i - direction)];
             if (level.endsAtEvent ||
                 (i != start && !wanted(i, std::abs(medians_[i].middle() - inner.middle()),
                                        static_cast<int>(numbers.size()))))
                 break;
-            numbers.push_back(medians_[i].litres + burnt_[i] - burnt_[start] + direction * rest);
+            if (i != start)
+                burnt += burntBetween(std::min(i, i - direction), moving);
+            numbers.push_back(medians_[i].litres + direction * burnt);
             level.count += medians_[i].count;
         }
         level.litres = medianOf(numbers);
@@ -236,14 +212,45 @@ private:
         });
     }
 
-    // Nobody pours while the vehicle moves, though the fuel swings: a step has to be clear of that then.
-    double swing(const Step& step)
+    // Whether the state of the vehicle is known, and this one, all the time.
+    bool isAlways(const Step& step, bool LevelMedian::*state) const
     {
         for (int i = step.from; i < step.to; ++i) {
-            if (!medians_[i].moves || !medians_[i + 1].moves ||
+            if (!(medians_[i].*state) || !(medians_[i + 1].*state) ||
                 medians_[i + 1].from - medians_[i].until > kShortestStop)
-                return 0;
+                return false;
         }
+        return true;
+    }
+
+    // What the engine burns in so many seconds of a step, if on as it does before it or behind it.
+    double evenly(const Step& step, double seconds) const
+    {
+        const auto beside = [&](int i, int direction) {
+            return burningBeside(i, direction, medians_[i].moves);
+        };
+        return std::max(beside(step.from, kBackwards), beside(step.to, kForwards)) * seconds;
+    }
+
+    double burntInside(const Step& step) const
+    {
+        const double seconds = medians_[step.to].from - medians_[step.from].until;
+        return isAlways(step, &LevelMedian::burns) ? evenly(step, seconds) : 0;
+    }
+
+    // Nobody pours while the vehicle moves. Where a tank begins to be drawn on, or the road to rise, the
+    // level falls evenly from there on; what a tracker told late falls at once.
+    bool isSharp(const Step& step, double litres) const
+    {
+        const LevelMedian& one = medians_[step.from];
+        const LevelMedian& other = medians_[step.to];
+        const double even = evenly(step, other.middle() - one.middle());
+        return (other.litres - one.litres + even) / litres >= kHeld;
+    }
+
+    // The fuel swings while the vehicle moves: a step has to be clear of that then.
+    double swing()
+    {
         if (!noise_)
             noise_ = levelNoise(medians_);
         return *noise_;
@@ -258,7 +265,9 @@ private:
             return litres + burntUnseen(step) >= thresholds_.rise + more ||
                    -litres >= thresholds_.fall + (1 + kBurnSpread) * longBurnt(step) + more;
         };
-        if (!exceeds(0) || !exceeds(swing(step)))
+        const auto isMotion = [&] { return isAlways(step, &LevelMedian::moves); };
+        if (!exceeds(0) || (litres < 0 && !exceeds(burntInside(step))) ||
+            (isMotion() && (!exceeds(swing()) || !isSharp(step, litres))))
             return {};
         const Level was = farLevel(step.from, kBackwards);
         const Level stays = farLevel(step.to, kForwards);
@@ -337,10 +346,9 @@ private:
     const std::vector<int> byTime_;
     const std::vector<LevelMedian>& medians_;
     const FuelThresholds thresholds_;
-    std::array<double, 2> burning_{}; // litres a second, standing and moving
-    std::vector<double> burnt_;       // up to the middle of each
-    std::vector<bool> walls_;         // between a median and the next: an event
-    std::optional<double> noise_;     // of the level, once it is asked for
+    const BurntFuel burnt_;
+    std::vector<bool> walls_;     // between a median and the next: an event
+    std::optional<double> noise_; // of the level, once it is asked for
 };
 
 void tellPlaces(RecordColumns& columns, std::vector<FuelEvent>& events)

@@ -59,7 +59,8 @@ std::vector<LevelMedian> levelMedians(RecordColumns& columns, const NumberColumn
         if (window.empty() || medians.back().moves != moves || medians.back().burns != burns ||
             time - medians.back().from > (moves ? kWindowMoving : kWindowStanding)) {
             close();
-            medians.push_back({double(time), double(time), record, record, 0, 0, moves, burns, 0, 0});
+            medians.push_back({static_cast<double>(time), static_cast<double>(time), record, record, 0, 0,
+                               moves, burns, 0, 0});
         }
         window.push_back(litres[record]);
         LevelMedian& median = medians.back();

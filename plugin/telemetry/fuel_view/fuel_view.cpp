@@ -107,6 +107,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
             [this] { tanks_->hasSensors() ? computeLitres() : refreshRecords(); });
     connect(vehicle_, &QLineEdit::editingFinished, this, &FuelView::readVehicle);
     connect(tanks_, &TankButton::chosen, this, &FuelView::computeLitres);
+    connect(tanks_, &TankButton::tableSaved, handOver_, &HandOver::tellSaved);
     for (QDoubleSpinBox* box : {rise_, fall_})
         connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] {
             TankChoiceMemory choice = tanks_->memory().choice(vehicle_->text());

@@ -50,7 +50,7 @@ constexpr Figure kFigures[] = {
     {"rec_287", Kind::Whole, [](const Summary& s) { return poured(s, s.drains, s.drains); }},
     {"rec_475", Kind::Whole, [](const Summary& s) { return poured(s, s.drains, s.drained); }},
     {"rec_288", Kind::Whole, [](const Summary& s) { return s.greatestSpeed; }},
-    {"rec_289", Kind::Whole, [](const Summary& s) { return double(s.records); }},
+    {"rec_289", Kind::Whole, [](const Summary& s) { return static_cast<double>(s.records); }},
     {"rec_290", Kind::Whole, [](const Summary& s) { return s.missing; }},
     {"rec_291", Kind::Hours, [](const Summary& s) { return s.withoutFix; }},
 };

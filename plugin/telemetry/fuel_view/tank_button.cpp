@@ -150,6 +150,7 @@ void TankButton::typeTable(const LevelSensor& sensor)
     takeFile(sensor, dialog.path());
     showState();
     Q_EMIT chosen();
+    Q_EMIT tableSaved(dialog.path());
 }
 
 bool TankButton::takeFile(const LevelSensor& sensor, const QString& path)

@@ -33,6 +33,8 @@ public:
 
 Q_SIGNALS:
     void chosen();
+    // A table that was typed.
+    void tableSaved(const QString& path);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -35,7 +35,8 @@ void ShownRecords::setContents(std::shared_ptr<TelemetryContents> contents, Read
     passes_ = {};
     chosen_.clear();
     wholeTime_ = byTime_.empty() ? TimeSpan()
-                                 : TimeSpan{double(times[byTime_.front()]), double(times[byTime_.back()])};
+                                 : TimeSpan{static_cast<double>(times[byTime_.front()]),
+                                            static_cast<double>(times[byTime_.back()])};
     inSight_ = wholeTime_;
     current_ = times.empty() ? -1 : 0;
     computed_.clear();
@@ -67,9 +68,9 @@ void ShownRecords::append(std::span<const std::uint8_t> record, Current current)
     if (isFollowed)
         current_ = added;
     if (time != 0) {
-        wholeTime_ = byTime_.empty() ? TimeSpan{double(time), double(time)}
-                                     : TimeSpan{std::min(wholeTime_.from, double(time)),
-                                                std::max(wholeTime_.to, double(time))};
+        wholeTime_ = byTime_.empty() ? TimeSpan{static_cast<double>(time), static_cast<double>(time)}
+                                     : TimeSpan{std::min(wholeTime_.from, static_cast<double>(time)),
+                                                std::max(wholeTime_.to, static_cast<double>(time))};
         const auto timeOfRecord = [&](int each) { return times[each]; };
         byTime_.insert(std::ranges::upper_bound(byTime_, time, {}, timeOfRecord), added);
         if (showedAll)
@@ -117,7 +118,7 @@ void ShownRecords::setCurrent(int record)
 int ShownRecords::nearestInSight(double time) const
 {
     const std::vector<quint32>& times = columns_->times();
-    const auto timeOfRecord = [&](int record) { return double(times[record]); };
+    const auto timeOfRecord = [&](int record) { return static_cast<double>(times[record]); };
     const auto first = std::ranges::lower_bound(byTime_, inSight_.from, {}, timeOfRecord);
     const auto end = std::ranges::upper_bound(byTime_, inSight_.to, {}, timeOfRecord);
     if (first >= end)

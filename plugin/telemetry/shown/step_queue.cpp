@@ -65,7 +65,7 @@ void StepQueue::tell()
         return;
     if (steps_.empty())
         giveMemoryBack();
-    Q_EMIT wentOn(steps_.empty() ? 1 : double(done_) / added_);
+    Q_EMIT wentOn(steps_.empty() ? 1 : static_cast<double>(done_) / added_);
 }
 
 void StepQueue::doFirst()

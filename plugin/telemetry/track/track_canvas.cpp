@@ -220,7 +220,8 @@ QString TrackCanvas::tipAt(const QPointF& pixel) const
     const std::vector<quint32>& times = records.columns().times();
     for (const Stop& stop : model_->stops()) {
         if (times[stop.first] <= times[record] && times[record] <= times[stop.last])
-            lines << tr("rec_195").arg(durationText(double(times[stop.last]) - times[stop.first]));
+            lines << tr("rec_195").arg(
+                durationText(static_cast<double>(times[stop.last]) - times[stop.first]));
     }
     if (std::ranges::binary_search(model_->events(), record))
         lines << requests::eventText(static_cast<int>(records.columns().codes()[record]));

@@ -55,6 +55,29 @@ Damage damageOf(const TelemetryContents& contents)
             contents.mayHideMore};
 }
 
+// A loss of as many bytes as a record has leaves one of two halves that is whole by its length: where the
+// file lacks as many records as their numbers do in one place alone, the one before that place. -1 for none.
+int mixedRecord(const TelemetryContents& contents, const Damage& damage)
+{
+    const auto isChecksum = [](const FileDamage& place) { return place.kind == FileDamage::RecordsChecksum; };
+    const qint64 lost = damage.announced - damage.whole;
+    if (lost <= 0 || damage.places.size() != 1 || !isChecksum(damage.places.front()))
+        return -1;
+    const auto numberAt = [&](int record) { return qint64{recordNumberOf(*contents.records.at(record))}; };
+    int found = -1;
+    qint64 before = numberAt(0);
+    for (int record = 1; record < contents.records.size(); ++record) {
+        const qint64 missing = numberAt(record) - before - 1;
+        before += missing + 1;
+        if (missing == 0)
+            continue;
+        if (missing != lost || found >= 0)
+            return -1;
+        found = record - 1;
+    }
+    return found;
+}
+
 QStringList sentences(const Damage& damage, std::size_t most)
 {
     QStringList said{damage.announced == damage.whole
@@ -124,10 +147,16 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
         return damage.kind == FileDamage::Records || damage.kind == FileDamage::CutShort;
     });
     const auto records = contents.records.size();
+    const Damage found = damageOf(contents);
+    const int mixed = records == 0 ? -1 : mixedRecord(contents, found);
     const int record =
-        place == contents.damages.end() || records == 0 ? -1 : std::min(place->record, records - 1);
-    bar->tell(kDamage, [bar, actions, record, damage = damageOf(contents)] {
-        Notice notice{Mark::advice, sentences(damage, kInBar).join(QLatin1Char(' ')), {}};
+        place == contents.damages.end() || records == 0 ? mixed : std::min(place->record, records - 1);
+    const QString mixedNumber = mixed < 0 ? QString() : number(recordNumberOf(*contents.records.at(mixed)));
+    bar->tell(kDamage, [bar, actions, record, mixedNumber, damage = found] {
+        QStringList said = sentences(damage, kInBar);
+        if (!mixedNumber.isEmpty())
+            said << translated("rec_682").arg(mixedNumber, number(damage.announced - damage.whole));
+        Notice notice{Mark::advice, said.join(QLatin1Char(' ')), {}};
         if (damage.hidden > 0 || damage.mayHideMore)
             notice.actions.push_back({translated("rec_077"), actions.bringBack});
         if (record >= 0)

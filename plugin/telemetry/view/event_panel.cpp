@@ -43,12 +43,12 @@ EventPanel::EventPanel(QWidget* parent)
 {
     setObjectName(QStringLiteral("frame_TMI_Title"));
     group_->setObjectName(QStringLiteral("groupBox_Event"));
-    dressGroup(group_);
     auto* frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 0, 0);
     frame->addWidget(group_);
 
     auto* grid = new QGridLayout(group_);
+    dressGroup(group_);
     grid->setHorizontalSpacing(grid::kColumn);
     grid->addWidget(numberText_, 0, 0);
     grid->addWidget(number_, 0, 1);

@@ -153,7 +153,7 @@ void FilterField::addEvent(quint32 code)
 {
     const QString event = requests::eventText(static_cast<int>(code));
     if (!event.isEmpty())
-        names_->addWord(event, item("Code"), {double(code), double(code)});
+        names_->addWord(event, item("Code"), {static_cast<double>(code), static_cast<double>(code)});
 }
 
 ParsedFilter FilterField::parsed(const QString& text)

@@ -7,7 +7,7 @@
 VLK_Form_Tmi_F3_Tab::VLK_Form_Tmi_F3_Tab(const char* titleKey, QWidget* parent)
     : QWidget(parent), titleKey_(titleKey), sideBySide_(new QHBoxLayout), layout_(new QVBoxLayout(this))
 {
-    layout_->setContentsMargins(vlk::grid::kAroundWindow);
+    layout_->setContentsMargins(vlk::grid::kAroundPage);
     layout_->setSpacing(vlk::grid::kGroup);
     layout_->addLayout(sideBySide_);
     layout_->addStretch();

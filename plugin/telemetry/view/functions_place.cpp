@@ -2,6 +2,8 @@
 
 #include "ui_VLK_Designer_Widget_Tmi_View.h"
 
+#include "typing/grid.h"
+
 #include <QKeyEvent>
 
 namespace vlk {
@@ -53,10 +55,10 @@ bool FunctionsPlace::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-// In a row below all, or two by two beside the buttons of the record.
+// In a row below all, or in two columns beside the buttons of the record.
 void FunctionsPlace::arrange()
 {
-    const bool takesPlace = window_->height() < kRoomForBoth;
+    const bool takesPlace = window_->height() < kRoomForBoth || window_->width() < widthOfRow();
     if (takesPlace == takesPlace_)
         return;
     takesPlace_ = takesPlace;
@@ -64,12 +66,31 @@ void FunctionsPlace::arrange()
     QBoxLayout* to = takesPlace ? ui_.verticalLayout_Record : ui_.verticalLayout_Content;
     from->removeWidget(ui_.frame_Btn_Func);
     to->addWidget(ui_.frame_Btn_Func);
-    QGroupBox* const groups[] = {ui_.groupBox_Btn_Save, ui_.groupBox_Btn_Clear, ui_.groupBox_Btn_Keys,
-                                 ui_.groupBox_Btn_Device};
-    const int columns = takesPlace ? 2 : int(std::size(groups));
-    for (int i = 0; i < int(std::size(groups)); ++i)
-        ui_.gridLayout_Func->addWidget(groups[i], i / columns, i % columns);
-    ui_.gridLayout_Func->setRowStretch(2, takesPlace ? 1 : 0);
+    // Low ones stand beside high ones, so that the columns are about as high.
+    struct Place
+    {
+        int row, column, rows;
+    };
+    constexpr Place inColumns[] = {{0, 0, 1}, {0, 1, 2}, {1, 0, 2}, {2, 1, 1}};
+    const auto groups = this->groups();
+    for (int i = 0; i < int(groups.size()); ++i) {
+        const Place place = takesPlace ? inColumns[i] : Place{0, i, 1};
+        ui_.gridLayout_Func->addWidget(groups[i], place.row, place.column, place.rows, 1);
+    }
+    ui_.gridLayout_Func->setRowStretch(3, takesPlace ? 1 : 0);
+}
+
+std::array<QGroupBox*, 4> FunctionsPlace::groups() const
+{
+    return {ui_.groupBox_Btn_Save, ui_.groupBox_Btn_Clear, ui_.groupBox_Btn_Keys, ui_.groupBox_Btn_Device};
+}
+
+int FunctionsPlace::widthOfRow() const
+{
+    int width = 2 * grid::kWindow - grid::kColumn;
+    for (const QGroupBox* group : groups())
+        width += group->minimumSizeHint().width() + grid::kColumn;
+    return width;
 }
 
 } // namespace vlk

@@ -1,9 +1,14 @@
 #pragma once
 
-// Where the functions of the telemetry view stand when they are opened: below the record, or, in a window
-// that has no room for both, in the place of the record's tabs. Esc closes them before it closes the window.
+// Where the functions of the telemetry view stand when they are opened: in a row below the record, or, in a
+// window that has no room for both, in the place of the record's tabs. Esc closes them before it closes the
+// window.
 
 #include <QObject>
+
+#include <array>
+
+class QGroupBox;
 
 namespace Ui {
 class VLK_Designer_Widget_Tmi_View;
@@ -28,6 +33,8 @@ protected:
 private:
     void open(bool open);
     void arrange();
+    std::array<QGroupBox*, 4> groups() const;
+    int widthOfRow() const;
 
     const Ui::VLK_Designer_Widget_Tmi_View& ui_;
     const QWidget* window_;

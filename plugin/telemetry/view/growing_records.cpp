@@ -7,6 +7,8 @@
 #include "typing/notice_bar.h"
 
 #include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 #include <utility>
@@ -36,7 +38,7 @@ void GrowingRecords::again()
 
 void GrowingRecords::forget()
 {
-    isGrowing_ = isClosed_ = false;
+    isGrowing_ = isClosed_ = isKept_ = false;
     records_ = states_ = 0;
     bar_->end(kGrown);
 }
@@ -73,6 +75,7 @@ void GrowingRecords::count(quint32 number)
     if (before_ == 0)
         before_ = number - 1;
     known_ = std::max(known_, number);
+    isKept_ = false;
     if (!isClosed_)
         tell();
 }
@@ -90,6 +93,25 @@ void GrowingRecords::tell()
                       said.join(QLatin1Char(' ')),
                       {{translated("rec_007").remove(QLatin1Char('&')), keep_}}};
     });
+}
+
+bool GrowingRecords::mayGo(QWidget* window)
+{
+    if (isGrowing_ || isKept_ || records_ + states_ == 0)
+        return true;
+    QMessageBox box(QMessageBox::Question, window->windowTitle(),
+                    translated("rec_680").arg(QLocale().toString(records_ + states_)), QMessageBox::NoButton,
+                    window);
+    box.setObjectName(QStringLiteral("messageBox_GrownRecords"));
+    const auto* const keep = box.addButton(translated("rec_007"), QMessageBox::ActionRole);
+    const auto* const close = box.addButton(translated("rec_681"), QMessageBox::DestructiveRole);
+    auto* const cancel = box.addButton(translated("wrd_031"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == keep)
+        keep_();
+    return box.clickedButton() == close;
 }
 
 QByteArray withoutNumber(const QByteArray& record)

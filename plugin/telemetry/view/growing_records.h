@@ -11,6 +11,8 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace vlk {
 
 class NoticeBar;
@@ -37,6 +39,10 @@ public:
     // Whether a present state that came under this number tells that there is a newer record.
     bool takesPresent(quint32 number);
     bool isGrowing() const { return isGrowing_; }
+    // All that is on show was written to a file.
+    void setKept() { isKept_ = true; }
+    // Before the window closes: asks where records would go that neither a file nor the tracker at hand has.
+    bool mayGo(QWidget* window);
 
 private:
     void count(quint32 number);
@@ -47,9 +53,10 @@ private:
     std::function<void()> keep_;
     bool isGrowing_ = false;
     bool isClosed_ = false; // what is told, by the user
-    quint32 before_ = 0;    // number of the newest record before the growth
-    quint32 newest_ = 0;    // that joined
-    quint32 known_ = 0;     // that there is, read or not
+    bool isKept_ = false;
+    quint32 before_ = 0; // number of the newest record before the growth
+    quint32 newest_ = 0; // that joined
+    quint32 known_ = 0;  // that there is, read or not
     qint64 records_ = 0;
     qint64 states_ = 0;
 };

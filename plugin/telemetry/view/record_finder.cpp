@@ -61,7 +61,7 @@ void RecordFinder::lookOn()
             return;
         }
         if (clock.elapsed() >= kFindMs) {
-            Q_EMIT searching(double(looked_) / rows);
+            Q_EMIT searching(static_cast<double>(looked_) / rows);
             return;
         }
     }

@@ -239,8 +239,15 @@ QVariant RecordsModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (role == Qt::TextAlignmentRole)
         return alignment(section) | Qt::TextWordWrap;
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
-        return columnAt(section) ? columns_[section].head : packetHead_;
+    const CsvColumn* const column = columnAt(section);
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
+        if (!column || role == Qt::DisplayRole)
+            return column ? columns_[section].head : packetHead_;
+        // By which filters and scripts know it in any language.
+        const std::string_view name(kItems[column->named()].name);
+        return columns_[section].head + QLatin1Char('\n') +
+               QLatin1String(name.data(), static_cast<int>(name.size()));
+    }
     return {};
 }
 

@@ -79,7 +79,7 @@ void RecordsPlaces::keep(Division* division)
     const int room = std::accumulate(sizes.begin(), sizes.end(), 0);
     if (room == 0)
         return;
-    division->share = double(sizes.front()) / room;
+    division->share = static_cast<double>(sizes.front()) / room;
     if (const QString file = recordsMemory(kPlacesFile); !file.isEmpty())
         QSettings(file, QSettings::IniFormat).setValue(QLatin1String(division->name), division->share);
 }

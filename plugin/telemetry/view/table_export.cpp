@@ -2,6 +2,7 @@
 
 #include "link/device.h"
 #include "link/requests.h"
+#include "telemetry/shown/record_cell.h"
 #include "telemetry/shown/records_notices.h"
 #include "telemetry/shown/shown_records.h"
 #include "telemetry/view/records_export.h"
@@ -95,6 +96,9 @@ ExportOptions TableExport::options() const
     options.decimalComma = choice_.decimalComma;
     options.isMarked = true;
     options.eventText = &requests::eventText;
+    options.heading = [titles = shown_->titles()](const CsvColumn& column) {
+        return headText(column, titles);
+    };
     if (!choice_.onlyShownColumns || !rowOf(choice_.form).hasDecimalSign)
         return options;
     for (const int column : table_->shownColumns()) {
@@ -106,6 +110,9 @@ ExportOptions TableExport::options() const
 
 void TableExport::tellWritten(const QString& path, qint64 withoutPlace)
 {
+    const bool holdsAll = choice_.form == ExportForm::xml || choice_.form == ExportForm::tmi;
+    if (holdsAll && exported_ == shown_->records().size())
+        Q_EMIT allKept();
     notices_->tellNews(kHandedOver, [path, withoutPlace, count = exported_ - withoutPlace, leftOut = leftOut_,
                                      form = choice_.form, isFormOfEnding = isFormOfEnding_] {
         const QString ending = QFileInfo(path).suffix();

@@ -34,6 +34,10 @@ public:
     // Takes the decimal sign of the language.
     void retranslate();
 
+Q_SIGNALS:
+    // All that is on show is in a file now.
+    void allKept();
+
 private:
     void start(const QString& path);
     ExportOptions options() const;

@@ -126,6 +126,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
         tellCancelled(notices_, [this] { read(); });
     });
     connect(exportButton_, &QPushButton::clicked, export_, &TableExport::ask);
+    connect(export_, &TableExport::allKept, growing_, &GrowingRecords::setKept);
     addKeys();
     retranslate();
 }
@@ -309,6 +310,13 @@ void VLK_Widget_Tmi_Table::closeEvent(QCloseEvent* event)
         QDialog::closeEvent(event);
     else
         event->ignore();
+}
+
+// By Esc and by the cross.
+void VLK_Widget_Tmi_Table::reject()
+{
+    if (growing_->mayGo(this))
+        QDialog::reject();
 }
 
 // What was opened, typed or put on the records last goes first; false where nothing is left of it.

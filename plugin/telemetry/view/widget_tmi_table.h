@@ -60,6 +60,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void reject() override;
 
 private:
     void append(const QByteArray& record);

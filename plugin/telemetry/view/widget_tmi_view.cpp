@@ -193,8 +193,9 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
     const auto text = [part, isDetached = isDetached_] {
         const QLocale locale;
         QString held = tr("tmiw_186")
-                           .arg(locale.toString(quint64(part.records)), locale.toString(quint64(part.all)),
-                                part.until, nameForBar(QFileInfo(part.path).fileName()));
+                           .arg(locale.toString(static_cast<quint64>(part.records)),
+                                locale.toString(static_cast<quint64>(part.all)), part.until,
+                                nameForBar(QFileInfo(part.path).fileName()));
         if (!part.earlier.isEmpty())
             held += QLatin1Char(' ') + tr("tmiw_294").arg(QFileInfo(part.earlier).fileName());
         return isDetached ? tr("tmiw_266") + QLatin1Char(' ') + held : held;
@@ -246,9 +247,11 @@ bool VLK_Widget_Tmi_View::agreesToEndSave()
 {
     const auto [records, all] = save_.fetched();
     const QLocale locale;
-    QMessageBox box(QMessageBox::Question, tr("tmiw_001"),
-                    tr("tmiw_310").arg(locale.toString(quint64(records)), locale.toString(quint64(all))),
-                    QMessageBox::NoButton, this);
+    QMessageBox box(
+        QMessageBox::Question, tr("tmiw_001"),
+        tr("tmiw_310")
+            .arg(locale.toString(static_cast<quint64>(records)), locale.toString(static_cast<quint64>(all))),
+        QMessageBox::NoButton, this);
     box.setObjectName(QStringLiteral("messageBox_EndSave"));
     const auto* const end = box.addButton(tr("tmiw_311"), QMessageBox::AcceptRole);
     auto* const goOn = box.addButton(tr("tmiw_312"), QMessageBox::RejectRole);

@@ -35,6 +35,9 @@ Q_LOGGING_CATEGORY(lcTyping, "vlk.settings.typing")
 // The fields of which that holds no longer.
 Q_LOGGING_CATEGORY(lcRetyped, "vlk.settings.retyped")
 
+// What is wrong between a table and its forms: a row without its widget, a rule without its target.
+Q_LOGGING_CATEGORY(lcForms, "vlk.settings.forms")
+
 // Counts what is being shown, so that the widgets' signals are no edits meanwhile.
 class Showing
 {
@@ -74,7 +77,7 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int row)
         QWidget* widget = forms_.find(name, setting.base().numbers);
         found = found || widget;
         if (!widget && name)
-            problems_ << QStringLiteral("%1: no widget %2").arg(path, QLatin1String(name.tail));
+            qCWarning(lcForms).noquote() << path + QStringLiteral(": no widget ") + QLatin1String(name.tail);
         return widget;
     };
     const Joint joint{*this, row, find};
@@ -84,14 +87,13 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int row)
     }
     auto adapter = std::visit([&](const auto& kind) { return adapterFor(kind, joint); }, setting.kind);
     if (!adapter && found)
-        problems_ << QStringLiteral("%1: its widget is of another kind").arg(path);
+        qCWarning(lcForms).noquote() << path + QStringLiteral(": its widget is of another kind");
     return adapter;
 }
 
 void Binder::bind()
 {
     const Showing showing(showing_);
-    problems_.clear();
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
         if (!adapters_[row] && !isLate(*layout_.rows[row].setting))
             adapters_[row] = makeAdapter(static_cast<int>(row));
@@ -102,8 +104,8 @@ void Binder::bind()
             continue;
         if (auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, rule.numbers)))
             handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, slider));
-        else
-            problems_ << QStringLiteral("no slider %1").arg(QLatin1String(rule.slider.tail));
+        else if (!forms_.isLate(numberedName(rule.slider.form(), rule.numbers)))
+            qCWarning(lcForms) << "no slider" << rule.slider.tail;
     }
     ruled_.clear();
     for (const Enable& rule : values_.table().all<Enable>()) {
@@ -112,7 +114,7 @@ void Binder::bind()
             if (QWidget* widget = forms_.find(form, name, rule.numbers.outer))
                 ruled_.add(widget, forms_.labelOf(widget), rule);
             else if (!forms_.isLate(form))
-                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
+                qCWarning(lcForms).noquote() << "no widget to enable:" << name;
         }
     }
 }

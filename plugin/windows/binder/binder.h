@@ -59,9 +59,6 @@ public:
     // Takes the first item of every combo box as an edit.
     void selectFirstItems();
 
-    // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
-    // target. Empty when all is well.
-    const QStringList& problems() const { return problems_; }
     // Rows whose widgets hold another value than the settings.
     QStringList disagreements() const;
 
@@ -117,7 +114,6 @@ private:
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
     RuledWidgets ruled_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
-    QStringList problems_;
     std::map<int, QString> told_; // rows of which something was logged, with their names
     int showing_ = 0;
 };

@@ -7,14 +7,15 @@
 
 #include <numeric>
 
-namespace tracker {
+namespace workbench {
 
 inline constexpr int kSealSize = 4;
 
 inline quint8 sumOf(const QByteArray& record)
 {
-    return std::accumulate(record.begin(), record.end(), quint8(0),
-                           [](quint8 sum, char byte) { return static_cast<quint8>(sum + quint8(byte)); });
+    return std::accumulate(record.begin(), record.end(), quint8{0}, [](quint8 sum, char byte) {
+        return static_cast<quint8>(sum + static_cast<quint8>(byte));
+    });
 }
 
 inline void seal(QByteArray& record, vlk::Message request)
@@ -30,7 +31,8 @@ inline void seal(QByteArray& record, vlk::Message request)
 inline bool isSealed(const QByteArray& record, vlk::Message request)
 {
     return record.size() >= kSealSize && record.at(0) == static_cast<char>(request) &&
-           (quint8(record.at(1)) | quint8(record.at(2)) << 8) == record.size() && sumOf(record) == 0;
+           (static_cast<quint8>(record.at(1)) | static_cast<quint8>(record.at(2)) << 8) == record.size() &&
+           sumOf(record) == 0;
 }
 
-} // namespace tracker
+} // namespace workbench
