@@ -2543,7 +2543,7 @@
     <message id="wb_back_failed"><translation>Конфигурация не возвращена.</translation></message>
     <message id="wb_back_choose"><translation>Выберите в истории другую копию.</translation></message>
     <message id="wb_back_gone"><translation>Файла резервной копии №&#160;%1 больше нет.</translation></message>
-    <message id="wb_back_unreadable"><translation>Резервная копия №&#160;%1 не читается.</translation></message>
+    <message id="wb_back_unreadable"><translation>Файл резервной копии №&#160;%1 не читается.</translation></message>
     <message id="wb_balance"><translation>Запрос баланса</translation></message>
     <message id="wb_balance_code"><translation>Код запроса баланса: &lt;b&gt;%1&lt;/b&gt;</translation></message>
     <message id="wb_balance_none"><translation>Код запроса баланса не задан: конфигурация ещё не читалась или кода в ней нет.</translation></message>
