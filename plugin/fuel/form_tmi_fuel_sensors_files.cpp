@@ -14,7 +14,6 @@
 #include "fuel/table/unsteady_points.h"
 #include "link/device.h"
 #include "typing/notice_bar.h"
-#include "typing/text_entry.h"
 #include "xml/xml_document.h"
 
 #include <QFile>
@@ -366,7 +365,6 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
     if (form)
         form->saveXml(root);
     if (document.saveAs(path)) {
-        TextEntry::settleIn(this);
         if (form) {
             cutIn_[currentSensor()] = cutVolumes(form->rows());
             isCutClosed_[currentSensor()] = false;
@@ -391,7 +389,6 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
                                            proposedName(form->name()), QStringLiteral("csv"));
     if (path.isEmpty() || !form->saveCsv(path))
         return;
-    TextEntry::settleIn(this);
     cutIn_[currentSensor()] = 0;
     noteChange(currentSensor());
     tellOfTable();
