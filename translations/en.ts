@@ -1809,6 +1809,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
     <message id="rev_434"><translation>%2 more: in %1</translation></message>
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
+    <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
+    <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
+    <message id="rev_762"><translation>values taken over from the tracker</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
@@ -2538,6 +2541,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_asked_again"><translation>No answer of use: request %1 was sent to the tracker again.</translation></message>
     <message id="wb_attach"><translation>Attach the trac&amp;ker</translation></message>
     <message id="wb_back_failed"><translation>The configuration was not brought back.</translation></message>
+    <message id="wb_back_choose"><translation>Choose another one in the history.</translation></message>
+    <message id="wb_back_gone"><translation>The file of backup No.&#160;%1 is gone.</translation></message>
     <message id="wb_back_unreadable"><translation>Backup No.&#160;%1 cannot be read.</translation></message>
     <message id="wb_balance"><translation>Balance request</translation></message>
     <message id="wb_balance_code"><translation>Balance request code: &lt;b&gt;%1&lt;/b&gt;</translation></message>
@@ -2581,8 +2586,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_do_cable"><translation>Check the cable and try again.</translation></message>
     <message id="wb_do_data_set"><translation>Open the configuration in the full window, uncheck fields on the tab &quot;Data set&quot; and write it again.</translation></message>
     <message id="wb_do_disk"><translation>Make room on the disk and try again.</translation></message>
+    <message id="wb_do_disk_write"><translation>Make room on the disk and write once more.</translation></message>
     <message id="wb_do_file"><translation>Choose another file, or read the configuration from the tracker.</translation></message>
     <message id="wb_do_folder"><translation>Check that files can be saved there, and try again.</translation></message>
+    <message id="wb_do_folder_write"><translation>Check that files can be saved there, and write once more.</translation></message>
     <message id="wb_do_part"><translation>Save the period again to have all of it.</translation></message>
     <message id="wb_do_save"><translation>Make room on the disk or choose another folder, and save again.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Choose another folder or another name, and save again.</translation></message>
@@ -2678,6 +2685,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_history_bring_chosen"><translation>Bring &amp;chosen back…</translation></message>
     <message id="wb_history_bring_chosen_of"><translation>Bring &amp;chosen back from No.&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Changes</translation></message>
+    <message id="wb_history_choose"><translation>Choose a backup.</translation></message>
     <message id="wb_history_drop"><translation>Backups older than %1: %2. Delete them for good?</translation></message>
     <message id="wb_history_drop_not"><translation>Those with a note stay (%1 of the older ones), and the last one of each tracker.</translation></message>
     <message id="wb_history_drop_verb"><translation>Delete</translation></message>
@@ -2832,6 +2840,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_copy"><translation>Copy the report</translation></message>
     <message id="wb_report_do"><translation>Try again, or bring the backup back.</translation></message>
     <message id="wb_report_earlier"><translation>An earlier write was not confirmed and may have been taken. Try again, or bring back No.&#160;%1.</translation></message>
+    <message id="wb_report_earlier_back"><translation>An earlier write was not confirmed and may have been taken. Bring back No.&#160;%1, or write that configuration again from its window.</translation></message>
+    <message id="wb_report_earlier_kept"><translation>Its file is kept: %1</translation></message>
     <message id="wb_report_else"><translation>If that does not help, bring the backup back.</translation></message>
     <message id="wb_report_kept"><translation>The file is kept: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Sections that the file does not have stay as they were: %1</translation></message>
@@ -2842,6 +2852,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_none"><translation>When a configuration has been written to the tracker, its report stands here.</translation></message>
     <message id="wb_report_nothing"><translation>No setting has changed.</translation></message>
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
+    <message id="wb_report_of_previous"><translation>It was the previous configuration, which the tracker keeps, that was to be brought back.</translation></message>
     <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
@@ -2856,13 +2867,14 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker or brings back an earlier configuration is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker, meets something else in it than was known or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
     <message id="wb_review_chosen"><translation>Chosen settings of backup No.&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>%1 changed, %2 added</translation></message>
     <message id="wb_review_file"><translation>This configuration comes from the file %1 and was not read from this tracker.</translation></message>
+    <message id="wb_review_known"><translation>The tracker holds something else than was last read from it or written to it from this window.</translation></message>
     <message id="wb_review_lost"><translation>These keys of the file are not known and are not written: %1.</translation></message>
     <message id="wb_review_menu"><translation>Show changes before &amp;every write</translation></message>
     <message id="wb_review_new"><translation>This configuration is new and was not read from this tracker.</translation></message>
@@ -2880,6 +2892,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_why"><translation>Showing every write is switched off, but this one has to be seen: %1.</translation></message>
     <message id="wb_review_why_back"><translation>an earlier configuration is brought back</translation></message>
     <message id="wb_review_why_error"><translation>the configuration has an error</translation></message>
+    <message id="wb_review_why_known"><translation>the tracker holds something else than was last read from it or written to it here</translation></message>
     <message id="wb_review_why_lost"><translation>unknown keys of the file are not written</translation></message>
     <message id="wb_review_why_more"><translation>other settings come back along with the chosen ones</translation></message>
     <message id="wb_review_why_other"><translation>the configuration was not read from this tracker</translation></message>

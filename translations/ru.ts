@@ -1809,6 +1809,9 @@
     <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
+    <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
+    <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
+    <message id="rev_762"><translation>значения взяты из трекера</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
@@ -2538,7 +2541,9 @@
     <message id="wb_asked_again"><translation>Пригодного ответа нет: запрос %1 отправлен трекеру повторно.</translation></message>
     <message id="wb_attach"><translation>Подкл&amp;ючить трекер</translation></message>
     <message id="wb_back_failed"><translation>Конфигурация не возвращена.</translation></message>
-    <message id="wb_back_unreadable"><translation>Резервная копия №&#160;%1 не читается.</translation></message>
+    <message id="wb_back_choose"><translation>Выберите в истории другую копию.</translation></message>
+    <message id="wb_back_gone"><translation>Файла резервной копии №&#160;%1 больше нет.</translation></message>
+    <message id="wb_back_unreadable"><translation>Файл резервной копии №&#160;%1 не читается.</translation></message>
     <message id="wb_balance"><translation>Запрос баланса</translation></message>
     <message id="wb_balance_code"><translation>Код запроса баланса: &lt;b&gt;%1&lt;/b&gt;</translation></message>
     <message id="wb_balance_none"><translation>Код запроса баланса не задан: конфигурация ещё не читалась или кода в ней нет.</translation></message>
@@ -2581,8 +2586,10 @@
     <message id="wb_do_cable"><translation>Проверьте кабель и повторите.</translation></message>
     <message id="wb_do_data_set"><translation>Откройте конфигурацию в полном окне, снимите лишние отметки на вкладке «Набор данных» и запишите её снова.</translation></message>
     <message id="wb_do_disk"><translation>Освободите место на диске и повторите.</translation></message>
+    <message id="wb_do_disk_write"><translation>Освободите место на диске и запишите ещё раз.</translation></message>
     <message id="wb_do_file"><translation>Выберите другой файл или прочитайте конфигурацию из трекера.</translation></message>
     <message id="wb_do_folder"><translation>Проверьте, можно ли сохранять туда файлы, и повторите.</translation></message>
+    <message id="wb_do_folder_write"><translation>Проверьте, можно ли сохранять туда файлы, и запишите ещё раз.</translation></message>
     <message id="wb_do_part"><translation>Чтобы получить весь период, сохраните его ещё раз.</translation></message>
     <message id="wb_do_save"><translation>Освободите место на диске или выберите другую папку и сохраните ещё раз.</translation></message>
     <message id="wb_do_save_elsewhere"><translation>Выберите другую папку или другое имя и сохраните ещё раз.</translation></message>
@@ -2678,6 +2685,7 @@
     <message id="wb_history_bring_chosen"><translation>Вернуть &amp;отмеченные…</translation></message>
     <message id="wb_history_bring_chosen_of"><translation>Вернуть &amp;отмеченные из №&#160;%1…</translation></message>
     <message id="wb_history_changes"><translation>Отличий</translation></message>
+    <message id="wb_history_choose"><translation>Выберите резервную копию.</translation></message>
     <message id="wb_history_drop"><translation>Резервные копии, срок которых больше, чем «%1»: %2. Удалить их навсегда?</translation></message>
     <message id="wb_history_drop_not"><translation>Копии с заметкой (среди старых их %1) и последняя копия каждого трекера останутся.</translation></message>
     <message id="wb_history_drop_verb"><translation>Удалить</translation></message>
@@ -2832,6 +2840,8 @@
     <message id="wb_report_copy"><translation>Копировать отчёт</translation></message>
     <message id="wb_report_do"><translation>Повторите запись или верните резервную копию.</translation></message>
     <message id="wb_report_earlier"><translation>Прежняя запись не подтверждена и могла быть принята. Повторите запись или верните №&#160;%1.</translation></message>
+    <message id="wb_report_earlier_back"><translation>Прежняя запись не подтверждена и могла быть принята. Верните №&#160;%1 или запишите ту конфигурацию из её окна.</translation></message>
+    <message id="wb_report_earlier_kept"><translation>Её файл сохранён: %1</translation></message>
     <message id="wb_report_else"><translation>Если не поможет, верните резервную копию.</translation></message>
     <message id="wb_report_kept"><translation>Файл сохранён: %1</translation></message>
     <message id="wb_report_kept_sections"><translation>Разделы, которых нет в файле, остались как были: %1</translation></message>
@@ -2842,6 +2852,7 @@
     <message id="wb_report_none"><translation>Здесь появится отчёт, когда конфигурация будет записана в трекер.</translation></message>
     <message id="wb_report_nothing"><translation>Ни один параметр не изменён.</translation></message>
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
+    <message id="wb_report_of_previous"><translation>Возвращалась предыдущая конфигурация, которую хранит трекер.</translation></message>
     <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
@@ -2856,13 +2867,14 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера, ложится на изменённое с тех пор или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
     <message id="wb_review_chosen"><translation>Отмеченные параметры резервной копии №&#160;%1.</translation></message>
     <message id="wb_review_counts"><translation>Изменится: %1, добавится: %2</translation></message>
     <message id="wb_review_file"><translation>Эта конфигурация из файла %1, она не прочитана из этого трекера.</translation></message>
+    <message id="wb_review_known"><translation>В трекере уже не то, что из него прочитано или записано в него из этого окна в последний раз.</translation></message>
     <message id="wb_review_lost"><translation>Эти ключи файла неизвестны и записаны не будут: %1.</translation></message>
     <message id="wb_review_menu"><translation>Показывать &amp;изменения перед каждой записью</translation></message>
     <message id="wb_review_new"><translation>Эта конфигурация новая, она не прочитана из этого трекера.</translation></message>
@@ -2880,6 +2892,7 @@
     <message id="wb_review_why"><translation>Показ перед каждой записью выключен, но эту запись нужно увидеть: %1.</translation></message>
     <message id="wb_review_why_back"><translation>возвращается прежняя конфигурация</translation></message>
     <message id="wb_review_why_error"><translation>в конфигурации есть ошибка</translation></message>
+    <message id="wb_review_why_known"><translation>в трекере уже не то, что из него прочитано или записано в него в последний раз</translation></message>
     <message id="wb_review_why_lost"><translation>неизвестные ключи файла не записываются</translation></message>
     <message id="wb_review_why_more"><translation>с отмеченными параметрами вернутся и другие</translation></message>
     <message id="wb_review_why_other"><translation>конфигурация прочитана не из этого трекера</translation></message>

@@ -232,7 +232,7 @@ void elideInTheMiddle(QAbstractItemView* table, int column)
 
 void wrapTexts(QTableView* table)
 {
-    constexpr int mostLines = 3;
+    constexpr int mostLines = 4;
     table->setWordWrap(true);
     auto* due = new QTimer(table);
     due->setSingleShot(true);

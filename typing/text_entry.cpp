@@ -29,6 +29,13 @@ TextEntry* TextEntry::join(QLineEdit* line)
     return known ? known : new TextEntry(line);
 }
 
+void TextEntry::settleIn(const QWidget* window)
+{
+    const auto entries = window->findChildren<TextEntry*>();
+    for (TextEntry* entry : entries)
+        entry->before_ = entry->line_->text();
+}
+
 TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line->text())
 {
     line->installEventFilter(this);

@@ -12,6 +12,7 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QWidget;
 
 namespace vlk {
 
@@ -22,6 +23,8 @@ class TextEntry : public QObject
 public:
     // Joins it to a line, once.
     static TextEntry* join(QLineEdit* line);
+    // What stands in the lines below a window is saved or written: Esc goes back no further than this.
+    static void settleIn(const QWidget* window);
 
     // Says what is wrong with a text that is taken all the same, with an empty text if nothing is.
     void doubt(std::function<QString(const QString&)> complaint);

@@ -130,6 +130,20 @@ void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QStr
     Q_EMIT changed();
 }
 
+std::vector<int> ConfigurationReview::setReplaced(const QByteArray& document)
+{
+    XmlDocument file(document, QStringLiteral("DEVICE"));
+    if (!file.isOpen())
+        return {};
+    const Differences moved(asItCame_, FileState::ofDocument(*file.root()));
+    if (moved.count() == 0)
+        return {};
+    std::vector<int> keys = moved.keys();
+    std::erase_if(keys, [this](int key) { return edited_.isDifferent(key); });
+    setWritten(document, {});
+    return keys;
+}
+
 bool ConfigurationReview::compareWith(Against against, const QString& path)
 {
     FileState before = asItCame();

@@ -34,6 +34,9 @@ public:
     // `quick`: the quickValues() of which it was written. A file that lacks a sensor reads as one that uses
     // it.
     void setWritten(const QByteArray& document, const QMap<QString, QString>& quick);
+    // The tracker has this document now, but not from here. The keys of what it changes among the settings
+    // that had not been edited since the file.
+    std::vector<int> setReplaced(const QByteArray& document);
     bool isWritten() const { return isWritten_; }
 
     // A preset is compared as the configuration that it would make if it were applied now.

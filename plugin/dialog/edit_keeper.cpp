@@ -242,6 +242,12 @@ void EditKeeper::handedOver(const QByteArray& content)
     handedOver_.push_back({content, review_.document(), review_.quickValues(), path_});
 }
 
+void EditKeeper::beginAnew()
+{
+    beginWith(review_.document());
+    keep();
+}
+
 void EditKeeper::confirmed(const QByteArray& content)
 {
     const auto found =

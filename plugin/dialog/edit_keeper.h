@@ -46,6 +46,8 @@ public:
     void saved(const QString& path);
     // What there is now goes to the tracker, in a file that holds the content.
     void handedOver(const QByteArray& content);
+    // What there is now is no edit: it has come from the tracker.
+    void beginAnew();
     // The tracker has that, or what was handed over last, or nobody will say whether it has.
     void confirmed(const QByteArray& content);
 

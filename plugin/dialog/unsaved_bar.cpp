@@ -20,6 +20,7 @@ namespace {
 constexpr int kFailure = 0;
 constexpr int kFile = -1;
 constexpr int kDamaged = -2;
+constexpr int kReplaced = -3;
 // Behind the offers.
 constexpr int kTakenForUsed = std::numeric_limits<int>::max();
 constexpr int kLeftOut = kTakenForUsed - 1;
@@ -43,6 +44,8 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
     connect(this, &NoticeBar::closed, this, [this](int number) {
         if (number > kFailure && number < kLeftOut)
             offers_[number - 1].isClosed = true;
+        if (number == kReplaced)
+            tellReplaced({});
         if (number == kDamaged) {
             review::setKnown(damaged_.takeLast());
             tellDamaged();
@@ -55,6 +58,9 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
     end(kFile);
+    end(kReplaced);
+    replaced_.clear();
+    toldReplaced_ = 0;
     for (auto& [number, sensors] : sensors_)
         end(number);
     sensors_.clear();
@@ -128,6 +134,39 @@ void UnsavedBar::refresh()
     }
     tellSensors(kTakenForUsed, "rev_371", &ConfigurationReview::takenForUsed);
     tellSensors(kLeftOut, "rev_435", &ConfigurationReview::leftOut);
+    const std::size_t count = replaced().size();
+    if (std::exchange(toldReplaced_, count) == count)
+        return;
+    if (count == 0)
+        return end(kReplaced);
+    tell(kReplaced, [this] { return noticeOfReplaced(); });
+}
+
+std::vector<int> UnsavedBar::replaced() const
+{
+    std::vector<int> keys = replaced_;
+    std::erase_if(keys, [this](int key) { return !review_.isOwn(key); });
+    return keys;
+}
+
+void UnsavedBar::tellReplaced(std::vector<int> keys)
+{
+    replaced_ = std::move(keys);
+    refresh();
+}
+
+Notice UnsavedBar::noticeOfReplaced()
+{
+    const Notice::Action take{words("rev_761"), [this] {
+                                  review_.bringBack(replaced_, [] { return words("rev_762"); });
+                                  Q_EMIT tookOver();
+                              }};
+    const Notice::Action show{words("rev_141"), [this] {
+                                  review_.compareWith(ConfigurationReview::Against::file);
+                                  Q_EMIT shown();
+                              }};
+    const QString count = QLocale().toString(static_cast<int>(replaced().size()));
+    return {Mark::advice, words("rev_760").arg(count), {take, show}};
 }
 
 void UnsavedBar::tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const)

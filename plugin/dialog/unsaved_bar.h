@@ -4,7 +4,8 @@
 // the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
 // editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
 // been shown it can be discarded, which happens when the window closes. It tells, too, which sensors quick
-// setup takes for used though the file has none, and which it would remove.
+// setup takes for used though the file has none, and which it would remove, and offers to take over what the
+// tracker was brought back to.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
@@ -32,12 +33,16 @@ public:
     void tellFile(const std::function<Notice()>& notice);
     // What it told is of the other window.
     void endFile();
+    // The tracker holds other values of these settings than before, which can be taken over.
+    void tellReplaced(std::vector<int> keys);
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
 
 Q_SIGNALS:
     // The review compares with an offer.
     void shown();
+    // What the tracker was brought back to.
+    void tookOver();
 
 private:
     struct Offer
@@ -60,6 +65,9 @@ private:
     void tellDamaged();
     // While there are some.
     void tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const);
+    // Settings that the tracker was brought back to and that stand otherwise in the window.
+    std::vector<int> replaced() const;
+    Notice noticeOfReplaced();
     void refresh();
     void tellOffer(int number);
     Notice noticeOf(int number);
@@ -71,6 +79,8 @@ private:
     ConfigurationReview& review_;
     QStringList damaged_; // what is left of changes that cannot be offered; the last one is told
     std::map<int, QStringList> sensors_; // that a notice told last
+    std::vector<int> replaced_;          // by the tracker, and not taken over
+    std::size_t toldReplaced_ = 0;       // how many of them
     std::vector<Offer> offers_;          // a notice has the number of its place, from 1 on
 };
 

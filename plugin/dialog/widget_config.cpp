@@ -19,6 +19,7 @@
 #include "settings/all_settings.h"
 #include "typing/area_keys.h"
 #include "typing/kept_palette.h"
+#include "typing/text_entry.h"
 #include "typing/typed_entry.h"
 #include "windows/fit_to_screen.h"
 #include "xml/xml_document.h"
@@ -157,6 +158,11 @@ void VLK_Widget_Config::addKeeper()
     connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
             [this] { unsaved_->tellFailure(keeper_.failure()); });
     connect(area_->differences(), &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
+    connect(unsaved_, &vlk::UnsavedBar::tookOver, this, [this] {
+        // With what the tracker holds there is nothing to keep.
+        if (review_.edited() == 0)
+            keeper_.beginAnew();
+    });
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { area_->show(vlk::ReviewBar::Differences); });
 }
 
@@ -287,6 +293,7 @@ void VLK_Widget_Config::write(const QString& path)
     file.open(QIODevice::ReadOnly);
     const QByteArray content = file.readAll();
     file.close();
+    vlk::TextEntry::settleIn(this);
     history_.keepState();
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
@@ -294,8 +301,20 @@ void VLK_Widget_Config::write(const QString& path)
         keeper_.confirmed(content);
 }
 
+// What was open as a file stays that, and what stands in the fields stays there.
+void VLK_Widget_Config::trackerHolds(const QByteArray& content)
+{
+    if (!isVisible() || !(isOfTracker_ || (file_.isEmpty() && review_.isWritten())))
+        return;
+    for (vlk::PageSettings* page : history_.pages())
+        page->binder().finishTyping();
+    history_.settle();
+    unsaved_->tellReplaced(review_.setReplaced(content));
+}
+
 void VLK_Widget_Config::fileSaved(const QString& path)
 {
+    vlk::TextEntry::settleIn(this);
     history_.keepState();
     keeper_.saved(path);
 }

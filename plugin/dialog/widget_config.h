@@ -56,6 +56,9 @@ public:
     void confirmWritten(const QByteArray& content) { keeper_.confirmed(content); }
 
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
+    // The tracker holds this now, and not by a write of what is open here.
+    void trackerHolds(const QByteArray& content);
+
     vlk::ConfigurationReview& review() { return review_; }
     // Opens the panel with what the preset would change. False when there is nothing open or no such file.
     bool showPreset(const QString& path);

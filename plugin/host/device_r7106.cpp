@@ -192,6 +192,8 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
 void VLK_Device_R7106::confirmWrite(const vlk::WriteConfirmation& told)
 {
     confirmsWrites_ = true;
+    if (told.step == vlk::WriteConfirmation::held && told.content && configDialog_)
+        configDialog_->trackerHolds(*told.content);
     if (told.step != vlk::WriteConfirmation::confirmed)
         return;
     if (configDialog_)

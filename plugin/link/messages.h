@@ -243,10 +243,12 @@ struct FileComparison
 
 // ConfirmWrite: edits are kept on disk until they are written. A host that compares what it has written with
 // what the tracker holds then says so once, after SetHostMode, and then of each configuration that came out
-// right. Of a host that says nothing WriteConfiguration itself is taken for that.
+// right. Of a host that says nothing WriteConfiguration itself is taken for that. `held` tells of a tracker
+// that has been brought back, or has taken something else than was sent: what it holds now, while a
+// configuration of it is open.
 struct WriteConfirmation
 {
-    enum Step : std::uint32_t { willConfirm, confirmed };
+    enum Step : std::uint32_t { willConfirm, confirmed, held };
 
     std::uint32_t size = sizeof(WriteConfirmation);
     std::uint32_t step = willConfirm;

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 namespace vlk::review {
 
@@ -194,7 +195,8 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
     }
     // The quick window writes some keys that no setting of the full one reads.
     const TableLayout& quick = layoutOf(kQuickSettings);
-    if (const int row = quick.rowAt(difference.path); row >= 0) {
+    const int row = quick.rowAt(difference.path);
+    if (row >= 0) {
         const SettingWords words = wordsOf(quick, row);
         text.group = words.group;
         text.caption = words.caption;
@@ -204,8 +206,11 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
     }
     text.before = difference.before;
     text.after = difference.after;
-    text.beforeText = withoutEmptyAddress(text.before);
-    text.afterText = withoutEmptyAddress(text.after);
+    for (const auto& [told, value] :
+         {std::pair(&text.beforeText, &text.before), std::pair(&text.afterText, &text.after)}) {
+        const bool isChoice = row >= 0 && quick.rows[row].setting->is<Choice>();
+        *told = isChoice ? valueText(*quick.rows[row].setting, *value, nullptr) : withoutEmptyAddress(*value);
+    }
     if (keys.looksSecret(difference.path) && secrets == Secrets::masked)
         mask(&text);
     text.note = translated(noteKey(difference));

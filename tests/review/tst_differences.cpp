@@ -199,6 +199,9 @@ private Q_SLOTS:
         QCOMPARE(bare.join(" "), QString());
         const auto text = textOf(vlk::review::Difference{-1, -1, "RS485/OPTIONS/owner2", {}, "", {}});
         QCOMPARE(text.page + '|' + text.group + '|' + text.caption, QString("cfgt6_001|cfgwl_011|rev_247"));
+        const auto zeta =
+            textOf(vlk::review::Difference{-1, -1, "TRANS/SRV1/format", "EGTS", "VLKB_ZETA", {}});
+        QCOMPARE(zeta.after + '|' + zeta.afterText, QString("VLKB_ZETA|ZETA"));
     }
 
     void secretsAreToldOnDemandAlone()

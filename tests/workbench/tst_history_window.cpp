@@ -58,6 +58,7 @@ private Q_SLOTS:
         QVERIFY(std::ranges::any_of(notes, [](const QLabel* note) {
             return note->isVisible() && note->text() == "Nothing matches.";
         }));
+        QTest::keyClick(filter, Qt::Key_Backspace);
 
         // Enter presses the button that has the keyboard.
         QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
@@ -179,6 +180,43 @@ private Q_SLOTS:
         QVERIFY(asked.startsWith("Backups older than 1\u00A0year: 1."));
         QCOMPARE(keep->currentText(), QString("1\u00A0year"));
         QVERIFY(backups.all().size() == 3 && backups.find(1) && backups.find(3) && backups.find(4));
+    }
+
+    // What can be brought back is in sight, and which of two cannot be read is said.
+    void worksWithWhatIsInSight()
+    {
+        Bench bench;
+        workbench::Backups& backups = bench.session().backups();
+        const auto add = [&backups](const char* tracker, const char* name, const char* document) {
+            return backups.add({"R-7106", tracker, name}, document, QDateTime::currentDateTimeUtc(), nullptr);
+        };
+        add("860000000071060", "Van B2", "<DEVICE/>");
+        add("860000000071060", "Van B3", "<DEVICE><A");
+        add("99999", "Lorry", "<DEVICE/>");
+        bench.action("action_History")->trigger();
+        auto* list = Bench::find<QTreeWidget>("treeWidget_Backups");
+        auto* filter = Bench::find<QLineEdit>("lineEdit_HistoryFilter");
+        const auto* whole = Bench::find<QPushButton>("pushButton_BringWhole");
+        const auto said = [] {
+            return Bench::find("tableView_History")->findChild<QLabel*>("label_Empty")->text();
+        };
+        QVERIFY(whole->text().contains("No.\u00A02"));
+        QVERIFY2(said().startsWith("Backup No.\u00A02 cannot be read. It is cut short"), qPrintable(said()));
+        const auto filterBy = [filter](const char* words) {
+            filter->selectAll();
+            QTest::keyClicks(filter, words);
+        };
+        filterBy("99999");
+        QVERIFY(whole->text().contains("No.\u00A03") && whole->isEnabled());
+        filterBy("b2"); // as it was called then
+        QVERIFY(whole->text().contains("No.\u00A01") && whole->isEnabled());
+        filterBy("?");
+        QVERIFY(!whole->isEnabled() && !Bench::find("pushButton_Note")->isEnabled());
+        filter->clear();
+        QVERIFY(whole->text().contains("No.\u00A02"));
+        list->setCurrentItem(list->topLevelItem(1));
+        QVERIFY(!whole->isEnabled());
+        QCOMPARE(said(), QString("Choose a backup."));
     }
 
     // A chosen setting takes along what it needs, and the review says so.

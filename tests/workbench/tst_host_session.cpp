@@ -320,6 +320,40 @@ private Q_SLOTS:
         QVERIFY(!bench.session.bringBack(2));
         QCOMPARE(workbench::summary(bench.report()).split('\n').value(1),
                  QString("It was backup No.\u00A02 that was to be brought back."));
+        QVERIFY(!bench.session.bringBackPrevious());
+        QVERIFY(workbench::summary(bench.report()).contains("It was the previous configuration, which"));
+        // One that is lost or damaged is named, and what to do about it.
+        const QString lost = bench.session.backups().find(2)->path;
+        writeFile(lost, "<DEVICE><A");
+        QVERIFY2(bench.session.bringBack(2)().startsWith("Backup No.\u00A02 cannot be read. It is cut short"),
+                 qPrintable(bench.session.bringBack(2)()));
+        QVERIFY(QFile::remove(lost));
+        QCOMPARE(bench.session.bringBack(2)(),
+                 QString("The file of backup No.\u00A02 is gone. Choose another one in the history."));
+    }
+
+    // What is to be done can be done from there.
+    void namesWaysThatAreThere()
+    {
+        Bench bench; // with its texts
+        QVERIFY(bench.start());
+        RoadReport report;
+        report.request.origin = workbench::WriteRequest::Origin::backup;
+        report.request.name = "2";
+        report.fault = RoadReport::Fault::detached;
+        report.earlier = 1;
+        report.earlierFile = writeFile(bench.root.filePath("lost.xml"), "<DEVICE/>");
+        QVERIFY2(
+            workbench::summary(report).endsWith(
+                "\nAn earlier write was not confirmed and may have been taken. Bring back No.\u00A01, or "
+                "write that configuration again from its window. Its file is kept: " +
+                report.earlierFile),
+            qPrintable(workbench::summary(report)));
+        report = {};
+        report.fault = RoadReport::Fault::unsaved;
+        report.detail = "x.xml: " + qt_error_string(ENOSPC);
+        QVERIFY2(workbench::summary(report).endsWith("\nMake room on the disk and write once more."),
+                 qPrintable(workbench::summary(report)));
     }
 
     // A delay slows a write as it slows every answer; what is opened meanwhile is none of its business.

@@ -390,6 +390,68 @@ private Q_SLOTS:
         Bench::enter("pushButton_Close");
     }
 
+    // What was brought back under the open window does not come back unseen, and what was written there is
+    // what Esc goes back to.
+    void knowsThatTheTrackerWasBroughtBack()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.action("action_ReviewAlways")->trigger();
+        const QString before = bench.nameInTracker();
+        auto* field = Bench::find<QLineEdit>("lineEdit_Name");
+        const auto write = [field] {
+            QApplication::setActiveWindow(field->window());
+            QTest::keyClick(field->window(), Qt::Key_W, Qt::AltModifier);
+        };
+        for (const bool isPrevious : {false, true}) {
+            field->setFocus();
+            field->selectAll();
+            QTest::keyClicks(field, "Van 1");
+            write();
+            if (isPrevious) {
+                QVERIFY(Bench::isReviewed());
+                Bench::press("pushButton_Write");
+            }
+            QVERIFY(Bench::comes("dialog_Report"));
+            QCOMPARE(bench.nameInTracker(), QString("Van 1"));
+            if (isPrevious) {
+                Bench::press("pushButton_Close");
+                QVERIFY(!bench.session().bringBackPrevious());
+            } else {
+                Bench::press("pushButton_BringBack");
+            }
+            QVERIFY(Bench::isReviewed());
+            Bench::press("pushButton_Write");
+            QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), before, Bench::kPatienceMs);
+            QVERIFY(Bench::comes("dialog_Report"));
+            Bench::press("pushButton_Close");
+            QCOMPARE(field->text(), QString("Van 1"));
+            write();
+            QVERIFY(Bench::isReviewed());
+            const QString said = Bench::find<QLabel>("label_Origin")->text();
+            QVERIFY2(said.contains("has to be seen: the tracker holds something else"), qPrintable(said));
+            QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
+            Bench::press("pushButton_Cancel");
+            QVERIFY(Bench::goes("dialog_Review"));
+            // One button takes over what the tracker has, as one step.
+            auto* told = Bench::find<QLabel>("label_Unsaved");
+            QVERIFY(told && told->text().contains("was brought back to another"));
+            QVERIFY(Bench::find<QAbstractButton>("toolButton_Differences")->text() == "1");
+            Bench::press("label_Unsaved_Action1");
+            QCOMPARE(field->text(), before);
+            QVERIFY(!Bench::find("label_Unsaved"));
+        }
+        field->setFocus();
+        QTest::keyClicks(field, "x");
+        write();
+        QVERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Write");
+        QVERIFY(Bench::comes("dialog_Report"));
+        Bench::press("pushButton_Close");
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(field->text(), bench.nameInTracker());
+    }
+
     // Nobody is there who could cancel.
     void takesItsProgressAlong()
     {

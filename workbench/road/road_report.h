@@ -24,6 +24,7 @@ struct WriteRequest
     QStringList chosen;  // paths of the settings that were asked for; empty: all
     QStringList lost;    // paths of the keys that were opened and that nobody knows: the document lacks them
     QStringList typed{}; // a line for each field that was not taken as it was typed
+    QByteArray known{};  // what the user has last seen of what the tracker holds; empty: nothing
 };
 
 struct WriteReview
@@ -37,10 +38,20 @@ struct WriteReview
     int removed = 0;
     int errors = 0;
     bool isOfThisTracker = false;
-    bool isUnchecked = false; // nobody could look for errors
+    bool isUnchecked = false;   // nobody could look for errors
+    bool isKnownNoMore = false; // the tracker holds something else than the user has seen last
 
     // Why it has to be looked at.
-    enum class Why { removes, hasErrors, isUnchecked, isOfAnother, losesKeys, bringsMore, bringsBack };
+    enum class Why {
+        removes,
+        hasErrors,
+        isUnchecked,
+        isOfAnother,
+        isKnownNoMore,
+        losesKeys,
+        bringsMore,
+        bringsBack
+    };
 
     int changed() const { return static_cast<int>(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
@@ -109,6 +120,7 @@ struct RoadReport
     TrackerIdentity tracker;
     int backup = 0;  // its number; 0 where there is none
     int earlier = 0; // the backup of an earlier write that may have been taken, while nothing is known of it
+    QString earlierFile{};            // what that was to write
     QVector<WrittenSetting> settings; // what was not taken comes first
     QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;
@@ -138,6 +150,7 @@ inline QVector<WriteReview::Why> WriteReview::reasons() const
     add(Why::hasErrors, errors > 0);
     add(Why::isUnchecked, isUnchecked);
     add(Why::isOfAnother, !isOfThisTracker);
+    add(Why::isKnownNoMore, isKnownNoMore);
     add(Why::losesKeys, !request.lost.isEmpty());
     add(Why::bringsMore, !alongside().isEmpty());
     // Nobody has edited what is brought back: the review is the one look at it.

@@ -244,8 +244,17 @@ void WriteRoad::presentCame(const QByteArray& document)
                           [](const SettingAdvice& advice) { return advice.isError; });
     review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
+    review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);
     setStep(Step::review);
     Q_EMIT reviewReady(review_);
+}
+
+bool WriteRoad::isChanged(const QByteArray& known) const
+{
+    if (known.isEmpty() || known == before_)
+        return false;
+    const auto changes = compare_(known, before_);
+    return !changes || !changes->isEmpty();
 }
 
 void WriteRoad::approve()
@@ -312,6 +321,9 @@ std::optional<RoadReport::Outcome> WriteRoad::outcomeIn(const QByteArray& docume
     if (!missed || !moved)
         return {};
     report.readBack = document;
+    // The report shows it.
+    if (!report.request.known.isEmpty())
+        report.request.known = document;
     SettingChanges notTaken = *missed;
     leaveKeptSections(notTaken, sectionsOf(report.request.document), &SettingChange::before);
     // Where nothing was to change, what came back is not what had been there.
@@ -417,7 +429,7 @@ void WriteRoad::settle(RoadReport& report)
     if (report.outcome == Outcome::unknown)
         unsettled_ = report;
     else if (report.outcome == Outcome::notWritten && maybeSame)
-        report.earlier = unsettled_.backup;
+        std::tie(report.earlier, report.earlierFile) = std::tie(unsettled_.backup, unsettled_.request.file);
     else if (report.outcome != Outcome::cancelled && maybeSame)
         unsettled_ = {};
 }

@@ -78,6 +78,8 @@ private:
     void presentCame(const QByteArray& document);
     void readBackCame(const QByteArray& document);
     void writeCame(const PortAnswer& answer);
+    // Whether the tracker holds something else than this.
+    bool isChanged(const QByteArray& known) const;
     void giveUp();
     void fail(Fault fault, const PortAnswer& answer = {});
     void end(Outcome outcome);

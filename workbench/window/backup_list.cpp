@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kListIndent = 12;
 constexpr int kTrackerRole = Qt::UserRole + 1; // its number
+constexpr int kNameRole = Qt::UserRole + 2;    // what the vehicle was called then
 
 enum Column { Moment, Number, Changes, Note, ColumnCount };
 constexpr const char* kColumnKeys[ColumnCount] = {"wb_history_time", "wb_history_number_head",
@@ -88,10 +89,8 @@ void BackupList::buildTree()
     empty_ = new EmptyNote(tree_);
     texts_.bind([this] { tellEmpty(); });
     connect(filter_, &QLineEdit::textChanged, this, &BackupList::filter);
-    connect(tree_, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
-        if (const int backup = numberOf(item))
-            Q_EMIT selected(backup);
-    });
+    connect(tree_, &QTreeWidget::currentItemChanged, this,
+            [this](const QTreeWidgetItem* item) { Q_EMIT selected(numberOf(item)); });
     connect(tree_, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
         if (numberOf(item) != 0)
             Q_EMIT entered();
@@ -117,6 +116,7 @@ void BackupList::fill()
         auto* item =
             new QTreeWidgetItem(tracker, {moment(backup.made), number(backup.number), {}, backup.note});
         item->setData(0, Qt::UserRole, backup.number);
+        item->setData(0, kNameRole, backup.name);
         for (const int column : {Number, Changes})
             item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         if (changes_.contains(backup.number))
@@ -144,7 +144,16 @@ void BackupList::nameAttached()
 
 int BackupList::newest() const
 {
-    return tree_->topLevelItemCount() > 0 ? numberOf(tree_->topLevelItem(0)->child(0)) : 0;
+    for (QTreeWidgetItemIterator item(tree_, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
+        if (const int backup = numberOf(*item); backup != 0 && !(*item)->parent()->isHidden())
+            return backup;
+    }
+    return 0;
+}
+
+void BackupList::clearFilter()
+{
+    filter_->clear();
 }
 
 void BackupList::select(int backup)
@@ -188,8 +197,10 @@ void BackupList::filter()
         bool any = false;
         for (int i = 0; i < tracker->childCount(); ++i) {
             QTreeWidgetItem* item = tracker->child(i);
-            const QString words = item->text(Moment) + QLatin1Char(' ') + item->text(Note) +
-                                  QLatin1Char(' ') + QString::number(numberOf(item));
+            const QString words =
+                QStringList{item->text(Moment), item->text(Note), item->data(0, kNameRole).toString(),
+                            QString::number(numberOf(item))}
+                    .join(QLatin1Char(' '));
             const bool shown = isTracker || words.contains(wanted, Qt::CaseInsensitive);
             item->setHidden(!shown);
             any |= shown;
@@ -198,6 +209,16 @@ void BackupList::filter()
     }
     tellEmpty();
     empty_->refresh();
+    // What is worked with is in sight.
+    const QTreeWidgetItem* current = tree_->currentItem();
+    if (const int first = newest(); first == 0) {
+        tree_->setCurrentItem(nullptr);
+    } else if (!current || current->isHidden() || (current->parent() && current->parent()->isHidden())) {
+        for (QTreeWidgetItemIterator item(tree_); *item; ++item) {
+            if (numberOf(*item) == first)
+                tree_->setCurrentItem(*item);
+        }
+    }
 }
 
 void BackupList::tellEmpty()

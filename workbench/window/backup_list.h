@@ -36,14 +36,16 @@ public:
     explicit BackupList(HostSession& session, QWidget* parent = nullptr);
 
     void fill();
-    // 0 while there is none.
+    // Of those that the filter has left, of the first tracker; 0 while there is none.
     int newest() const;
     void select(int backup);
+    void clearFilter();
     // It may be called otherwise now.
     void nameAttached();
     void retranslate() { texts_.apply(); }
 
 Q_SIGNALS:
+    // 0: none, as a tracker's heading, or the filter has left none.
     void selected(int backup);
     // By Enter or a double click: to what it is about.
     void entered();

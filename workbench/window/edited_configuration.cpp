@@ -12,6 +12,7 @@ using tracker::ConfigurationValues;
 void EditedConfiguration::readFromTracker(const QByteArray& document, const QString& number)
 {
     seenIn_ = number;
+    known_ = document;
     source_ = Source::Tracker;
     unknown_.clear();
     document_ = document;
@@ -26,6 +27,7 @@ void EditedConfiguration::openFile(const QString& path, const QByteArray& docume
     unknown_ = unknown;
     source_ = Source::File;
     seenIn_.clear();
+    known_.clear();
     file_ = QFileInfo(path).fileName();
     document_ = document;
     asRead_ = ConfigurationValues(document);
@@ -36,21 +38,31 @@ void EditedConfiguration::beginNew()
 {
     source_ = Source::New;
     seenIn_.clear();
+    known_.clear();
     unknown_.clear();
     asRead_ = ConfigurationValues();
     written_.reset();
 }
 
-void EditedConfiguration::written(const QByteArray& document, const QString& number)
+void EditedConfiguration::written(const QByteArray& document, const QString& number, const QByteArray& held)
 {
     if (source_ == Source::New) {
         readFromTracker(document, number);
+        known_ = held;
         return;
     }
     seenIn_ = number;
+    known_ = held;
     unknown_.clear();
     written_ = changesIn(document);
     trackerHolds(document);
+}
+
+void EditedConfiguration::writtenInPart(const QString& number, const QByteArray& held)
+{
+    if (seenIn_ == number)
+        known_ = held;
+    trackerHolds(held);
 }
 
 void EditedConfiguration::trackerHolds(const QByteArray& document)

@@ -21,9 +21,11 @@ public:
     // `unknown`: paths of the keys that the plug-in does not read.
     void openFile(const QString& path, const QByteArray& document, const QStringList& unknown);
     void beginNew();
-    // The tracker of that number took it.
-    void written(const QByteArray& document, const QString& number);
-    // The tracker took one that was open before.
+    // The tracker of that number took it, and holds this now.
+    void written(const QByteArray& document, const QString& number, const QByteArray& held);
+    // A write of it ended so that the tracker of that number holds this, as its report shows.
+    void writtenInPart(const QString& number, const QByteArray& held);
+    // The tracker took one that was open before, or has been brought back.
     void trackerHolds(const QByteArray& document);
     // The window is closed.
     void close();
@@ -32,6 +34,8 @@ public:
 
     // The number of the tracker that it was read from or written to; empty where no tracker has seen it.
     QString seenIn() const { return seenIn_; }
+    // What that tracker held then; empty where no tracker has seen it.
+    QByteArray known() const { return known_; }
     // What a write loses of the file that was opened.
     QStringList unknown() const { return unknown_; }
     bool isNew() const { return source_ == Source::New; }
@@ -52,6 +56,7 @@ private:
     Source source_ = Source::None;
     QString file_; // without its folder
     QString seenIn_;
+    QByteArray known_;
     QStringList unknown_;
     Compare compare_;
     QByteArray document_; // that was read

@@ -264,28 +264,41 @@ void HistoryWindow::chooseOther(int index)
 std::optional<QByteArray> HistoryWindow::other(Sentence& why)
 {
     const int wanted = other_->currentIndex() < 0 ? 0 : other_->currentData().toInt();
-    if (wanted == TheTracker)
-        return session_.present(why);
-    QByteArray document;
-    if (wanted == AFile) {
-        QFile file(file_);
-        document = file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
-    } else {
-        document = session_.backups().document(wanted);
+    if (wanted == TheTracker) {
+        Sentence silence;
+        std::optional<QByteArray> document = session_.present(silence);
+        if (silence)
+            why = [silence] { return sentences({text("wb_history_unreadable"), silence()}); };
+        return document;
     }
+    if (wanted != AFile) {
+        why = whyUnreadable(wanted);
+        return why ? std::nullopt : std::optional(session_.backups().document(wanted));
+    }
+    QFile file(file_);
+    const QByteArray document =
+        file.open(QIODevice::ReadOnly) ? file.read(kLargestConfiguration + 1) : QByteArray();
     if (const auto problem = checkConfiguration(document, session_.tracker().model())) {
-        why = [problem] { return reasonOf(*problem); };
+        why = [problem] { return sentences({text("wb_history_unreadable"), reasonOf(*problem)}); };
         return {};
     }
     return document;
+}
+
+Sentence HistoryWindow::whyUnreadable(int backup) const
+{
+    if (damageOf(session_.backups(), backup, session_.tracker().model()).isEmpty())
+        return {};
+    return [this, backup] { return damageOf(session_.backups(), backup, session_.tracker().model()); };
 }
 
 void HistoryWindow::compare()
 {
     std::optional<SettingChanges> changes;
     const int backup = selected();
-    Sentence why;
-    const std::optional<QByteArray> before = backup == 0 ? std::nullopt : other(why);
+    const bool any = backup != 0 && other_->currentIndex() >= 0;
+    Sentence why = any ? whyUnreadable(backup) : Sentence();
+    const std::optional<QByteArray> before = any && !why ? other(why) : std::nullopt;
     if (before)
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
     // What was chosen stays while the same two are looked at.
@@ -295,10 +308,11 @@ void HistoryWindow::compare()
     model_.setChanges(changes.value_or(SettingChanges()), chosen);
     model_.retranslate();
     columns_->fit();
-    empty_->tell(backup == 0 || other_->currentIndex() < 0 ? text("wb_history_alone")
-                 : changes                                 ? text("wb_review_none")
-                 : why                                     ? sentences({text("wb_history_unreadable"), why()})
-                                                           : text("wb_history_unreadable"));
+    empty_->tell(backup == 0 ? text(one_->count() > 0 ? "wb_history_choose" : "wb_history_alone")
+                 : !any      ? text("wb_history_alone")
+                 : changes   ? text("wb_review_none")
+                 : why       ? why()
+                             : text("wb_history_unreadable"));
     updateButtons();
 }
 
@@ -378,8 +392,10 @@ void HistoryWindow::keyPressEvent(QKeyEvent* event)
 void HistoryWindow::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (!event->spontaneous())
-        select(list_->newest());
+    if (event->spontaneous())
+        return;
+    list_->clearFilter();
+    select(list_->newest());
 }
 
 void HistoryWindow::changeEvent(QEvent* event)

@@ -67,6 +67,8 @@ private:
     // What stands on the other side; none when it does not come.
     // With why there is none.
     std::optional<QByteArray> other(Sentence& why);
+    // Of a backup; null when it can be read.
+    Sentence whyUnreadable(int backup) const;
     QString headOf(int column) const;
 
     HostSession& session_;

@@ -230,6 +230,7 @@ void HostSession::takeWritten(const QString& path)
     request.document = contentOf(file);
     request.name = edited_.file();
     request.readFrom = edited_.seenIn();
+    request.known = edited_.known();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
     request.file = error.isEmpty() ? unwritten_.take(path, QDateTime::currentDateTime()) : path;
@@ -266,13 +267,18 @@ void HostSession::finish(const RoadReport& report)
     const bool isConfirmed = report.outcome == Outcome::confirmed;
     // What is given up at its first try is in the window still; later the file may be all that is left.
     const bool isGivenUp = report.outcome == Outcome::cancelled && !isAgain_;
+    const bool isOfOpen = !request.file.isEmpty() && openedThen_ == opened_;
     if (isConfirmed) {
-        if (request.file.isEmpty() || openedThen_ != opened_)
-            edited_.trackerHolds(request.document);
+        if (isOfOpen)
+            edited_.written(request.document, report.tracker.number, report.readBack);
         else
-            edited_.written(request.document, report.tracker.number);
+            edited_.trackerHolds(request.document);
         dropWritten(request);
+    } else if (isOfOpen && !report.readBack.isEmpty()) {
+        edited_.writtenInPart(report.tracker.number, report.readBack);
     }
+    if (!report.readBack.isEmpty() && !(isConfirmed && isOfOpen) && edited_.seenIn() == report.tracker.number)
+        link_.tellHeld(report.readBack);
     if (isGivenUp)
         removeKept(request.file);
     Q_EMIT editedChanged();
@@ -315,13 +321,17 @@ Sentence HostSession::writeAgain(const WriteRequest& request)
 
 Sentence HostSession::bringBack(int backup, const QStringList& paths)
 {
+    if (!damageOf(backups_, backup, tracker_.model()).isEmpty())
+        return [this, backup] {
+            return sentences({damageOf(backups_, backup, tracker_.model()), text("wb_back_choose")});
+        };
     const auto kept = backups_.find(backup);
     WriteRequest request;
     request.origin = WriteRequest::Origin::backup;
     request.document = backups_.document(backup);
     request.name = QString::number(backup);
     request.readFrom = kept ? kept->tracker : QString();
-    if (!paths.isEmpty() && !request.document.isEmpty()) {
+    if (!paths.isEmpty()) {
         const Fetched fetched = fetchConfiguration();
         if (fetched.failure)
             return [why = fetched.failure] { return sentences({text("wb_back_failed"), why()}); };
@@ -332,8 +342,6 @@ Sentence HostSession::bringBack(int backup, const QStringList& paths)
         const QByteArray brought = comparer_.bring(fetched.document, request.document, paths);
         request.document = withChosen(brought, request.document, paths);
     }
-    if (request.document.isEmpty())
-        return [backup] { return text("wb_back_unreadable").arg(number(backup)); };
     return writeAgain(request);
 }
 

@@ -179,6 +179,14 @@ void PluginLink::confirmWrite(const QByteArray& content)
     send(vlk::Message::ConfirmWrite, &record);
 }
 
+void PluginLink::tellHeld(const QByteArray& content)
+{
+    vlk::WriteConfirmation record;
+    record.step = vlk::WriteConfirmation::held;
+    record.content = &content;
+    send(vlk::Message::ConfirmWrite, &record);
+}
+
 void PluginLink::offerTexts(Languages& languages)
 {
     vlk::OfferedTexts offered;

@@ -50,6 +50,8 @@ public:
     // Once, then after each write with what the plug-in's file held.
     void promiseConfirmations();
     void confirmWrite(const QByteArray& content);
+    // What the tracker of the open configuration holds, where no write of that has come out right.
+    void tellHeld(const QByteArray& content);
     // Offers the texts of every language, until they are withdrawn; `languages` lives as long.
     void offerTexts(Languages& languages);
     void withdrawTexts();

@@ -73,6 +73,7 @@ constexpr WhyRow kWhyRows[] = {
     {WriteReview::Why::hasErrors, "wb_review_why_error"},
     {WriteReview::Why::isUnchecked, "wb_review_why_unchecked"},
     {WriteReview::Why::isOfAnother, "wb_review_why_other"},
+    {WriteReview::Why::isKnownNoMore, "wb_review_why_known"},
     {WriteReview::Why::losesKeys, "wb_review_why_lost"},
     {WriteReview::Why::bringsMore, "wb_review_why_more"},
     {WriteReview::Why::bringsBack, "wb_review_why_back"},
@@ -103,6 +104,8 @@ QStringList notesOf(const WriteReview& review, bool isUnasked)
     add("wb_review_alongside", alongside);
     add("wb_review_lost", review.request.lost);
     add("wb_report_kept_sections", review.keptSections);
+    if (review.isKnownNoMore)
+        notes.append(text("wb_review_known"));
     if (review.isUnchecked)
         notes.append(text("wb_review_unchecked"));
     if (isUnasked)

@@ -55,13 +55,14 @@ bool SettingColumns::eventFilter(QObject* watched, QEvent* event)
 void SettingColumns::fit()
 {
     constexpr int fewest = 9; // letters
-    constexpr int share = 5;  // two of five parts are for the names
+    // Of what is for the names; keys beside them leave less.
+    const double share = columns_.size() > 2 ? 0.4 : 0.5;
     const QAbstractItemView& view = *table_;
     const QHeaderView& header = *table_->horizontalHeader();
     const int letter = table_->fontMetrics().averageCharWidth();
     const int room = view.viewport()->width();
     std::vector<Width> widths;
-    int missing = room * 2 / share - room;
+    int missing = int(room * share) - room;
     for (const Column& column : columns_) {
         const int head = header.sectionSizeHint(column.number);
         const int wanted = std::max(view.sizeHintForColumn(column.number), head);

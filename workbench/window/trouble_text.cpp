@@ -1,8 +1,10 @@
 #include "window/trouble_text.h"
 
+#include "road/backups.h"
 #include "typing/file_error.h"
 #include "window/languages.h"
 
+#include <QFile>
 #include <QLocale>
 #include <QStringList>
 
@@ -36,6 +38,16 @@ QString reasonOf(const ConfigurationProblem& problem)
         return text("wb_problem_model").arg(problem.found);
     }
     return {};
+}
+
+QString damageOf(const Backups& backups, int backup, const QString& model)
+{
+    const auto known = backups.find(backup);
+    if (!known || !QFile::exists(known->path))
+        return text("wb_back_gone").arg(number(backup));
+    const auto problem = checkConfiguration(backups.document(backup), model);
+    return problem ? sentences({text("wb_back_unreadable").arg(number(backup)), reasonOf(*problem)})
+                   : QString();
 }
 
 QString reasonOf(const TelemetryFileProblem& problem)

@@ -12,11 +12,15 @@
 
 namespace workbench {
 
+class Backups;
+
 // Sentences side by side; empty ones are left out.
 QString sentences(std::initializer_list<QString> parts);
 
 // Why an answer or a file is said to be no configuration, or to hold no telemetry.
 QString reasonOf(const ConfigurationProblem& problem);
+// Which backup cannot be read as a configuration of the model, and why; empty where it can.
+QString damageOf(const Backups& backups, int backup, const QString& model);
 QString reasonOf(const TelemetryFileProblem& problem);
 // A few words without a full stop, for a list.
 QString noteOn(const AnswerProblem& problem);

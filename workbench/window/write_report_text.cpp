@@ -74,7 +74,10 @@ QString reasonFor(const RoadReport& report)
     // A detail ends without a full stop.
     if (advice)
         reason += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) +
-                  (advice == kDisk ? adviceOnDisk(report.detail) : text(advice));
+                  (advice != kDisk ? text(advice)
+                   : report.fault == Fault::unsaved
+                       ? text(isAboutRoom(report.detail) ? "wb_do_disk_write" : "wb_do_folder_write")
+                       : adviceOnDisk(report.detail));
     return reason;
 }
 
@@ -143,13 +146,26 @@ QString broughtBack(const RoadReport& report)
         return text(report.request.chosen.isEmpty() ? "wb_report_brought" : "wb_report_brought_chosen")
             .arg(report.request.name);
     case WriteRequest::Origin::previous:
-        return isConfirmed ? text("wb_report_brought_previous") : QString();
+        return text(isConfirmed ? "wb_report_brought_previous" : "wb_report_of_previous");
     case WriteRequest::Origin::tracker:
     case WriteRequest::Origin::file:
     case WriteRequest::Origin::fresh:
         break;
     }
     return {};
+}
+
+// Where something was to be brought back, no button repeats the write before it.
+QString earlierWrite(const RoadReport& report)
+{
+    using Origin = WriteRequest::Origin;
+    const bool isOfBack =
+        report.request.origin == Origin::backup || report.request.origin == Origin::previous;
+    const QString said =
+        text(isOfBack ? "wb_report_earlier_back" : "wb_report_earlier").arg(number(report.earlier));
+    return isOfBack && QFile::exists(report.earlierFile)
+               ? said + QLatin1Char(' ') + text("wb_report_earlier_kept").arg(report.earlierFile)
+               : said;
 }
 
 // The very file that was to be written.
@@ -179,7 +195,7 @@ QString summary(const RoadReport& report)
     else if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
         lines.append(text(saysTryAgain(lines.first()) ? "wb_report_else" : "wb_report_do"));
     if (report.earlier > 0)
-        lines.append(text("wb_report_earlier").arg(number(report.earlier)));
+        lines.append(earlierWrite(report));
     if (isWritten(report)) {
         lines.append(typedText(report));
         if (!report.keptSections.isEmpty())
