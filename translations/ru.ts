@@ -1749,6 +1749,8 @@
     <message id="rec_680"><translation>С трекера пришло записей, которых нет ни в одном файле: %1. Трекер отключён, и с закрытием окна они пропадут.</translation></message>
     <message id="rec_681"><translation>Закрыть окно</translation></message>
     <message id="rec_682"><translation>Запись №&#160;%1 может состоять из двух: за ней по номерам пропущено %2.</translation></message>
+    <message id="rec_740"><translation>стоянка %1</translation></message>
+    <message id="rec_741"><translation>тонкая серая линия — как подъехал и уехал, %1</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

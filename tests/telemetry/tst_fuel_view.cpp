@@ -346,7 +346,7 @@ private Q_SLOTS:
             asked = span;
             painter.drawLine(0, 0, size.width(), size.height());
         };
-        view_->setPictures(paint, paint);
+        view_->setPictures(paint, paint, [](const TimeSpan&) { return QString("Track of then"); });
         choose(file("short.csv", "Level;Volume, l\n0;0\n3119;311.9\n"));
         QTextDocument sheet;
         view_->writeSheet(sheet);
@@ -358,6 +358,7 @@ private Q_SLOTS:
         QVERIFY(sheet.toPlainText().contains("20 of 40 readings of RS-485 Fuel level 1 are beyond"));
         QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-60.9"));
         QVERIFY(sheet.toPlainText().contains("28.05.2026 23:45 – 23:46"));
+        QVERIFY(sheet.toPlainText().contains("Track of then"));
         QVERIFY(asked.contains(kStart + 20 * 60));
     }
 
