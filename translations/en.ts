@@ -1751,6 +1751,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_682"><translation>Record No.&#160;%1 may be made of two: behind it %2 are missing by their numbers.</translation></message>
     <message id="rec_740"><translation>it stood %1</translation></message>
     <message id="rec_741"><translation>thin and grey how it came there and left, %1</translation></message>
+    <message id="rec_742"><translation>Byte %1: several elements share a line there, while this form has a line for each. They were taken apart.</translation></message>
+    <message id="rec_743"><translation>More records may be brought back.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

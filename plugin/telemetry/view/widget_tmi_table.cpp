@@ -117,8 +117,17 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
     connect(helpButton_, &QPushButton::clicked, this,
             [this] { requests::showHelp(QLatin1String(places_->helpPage())); });
-    connect(opening_, &FileOpening::wholeRead, shown_, &ShownRecords::prepare);
-    connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
+    connect(opening_, &FileOpening::wholeRead, this, [this](const auto& contents) {
+        if (!areTornBySharedLines(*contents))
+            shown_->prepare(contents);
+    });
+    connect(opening_, &FileOpening::opened, this, [this](const auto& contents) {
+        // Rows of what no file holds help nobody.
+        if (areTornBySharedLines(*contents))
+            opening_->start(path_, TelemetryReading::salvage);
+        else
+            showContents(contents);
+    });
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
     connect(opening_, &FileOpening::cancelled, this, [this] {
         if (shown_->isBeingRead())
