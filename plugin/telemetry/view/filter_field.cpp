@@ -101,7 +101,9 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
     connect(shown, &ShownRecords::contentsChanged, this, [this] {
         names_.reset();
+        hasAllEvents_ = false;
         applied_.clear();
+        appliedFilter_ = {};
         line_->clear();
         tell({});
     });
@@ -123,7 +125,6 @@ const FilterNames& FilterField::names()
     if (names_)
         return *names_;
     names_.emplace();
-    hasAllEvents_ = false;
     names_->addTexts();
     for (const char* language : kLanguages) {
         const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
@@ -146,14 +147,24 @@ const FilterNames& FilterField::names()
     const std::vector<quint32>& codes = shown_->columns().codes();
     for (const quint32 code : std::set<quint32>(codes.begin(), codes.end()))
         addEvent(code);
+    if (hasAllEvents_)
+        addAllEvents();
     return *names_;
 }
 
 void FilterField::addEvent(quint32 code)
 {
-    const QString event = requests::eventText(static_cast<int>(code));
-    if (!event.isEmpty())
-        names_->addWord(event, item("Code"), {double(code), double(code)});
+    QStringList words{requests::eventText(static_cast<int>(code))};
+    for (const char* language : kLanguages)
+        words << requests::eventTextIn(language, static_cast<int>(code));
+    for (const QString& word : words)
+        names_->addWord(word, item("Code"), {double(code), double(code)});
+}
+
+void FilterField::addAllEvents()
+{
+    for (quint32 code = 0; code < kEventCodes; ++code)
+        addEvent(code);
 }
 
 ParsedFilter FilterField::parsed(const QString& text)
@@ -161,8 +172,7 @@ ParsedFilter FilterField::parsed(const QString& text)
     ParsedFilter read = parseFilter(text, names(), shown_->utcOffset());
     if (read.filter || std::exchange(hasAllEvents_, true))
         return read;
-    for (quint32 code = 0; code < kEventCodes; ++code)
-        addEvent(code);
+    addAllEvents();
     return parseFilter(text, names(), shown_->utcOffset());
 }
 
@@ -225,6 +235,7 @@ void FilterField::applyTyped()
     }
     tellAbsent(*parsed.filter);
     applied_ = text;
+    appliedFilter_ = *parsed.filter;
     keepFilter(parsed.filter->text());
     ShownRecords::Passes passes;
     if (!parsed.filter->empty())
@@ -315,6 +326,12 @@ void FilterField::retranslate()
     line_->setPlaceholderText(tr("rec_002"));
     line_->setToolTip(tr("rec_003"));
     latest_->setToolTip(tr("rec_300"));
+    if (isApplied()) {
+        const QString words = inWords(appliedFilter_);
+        if (line_->text() == applied_)
+            line_->setText(words);
+        applied_ = words;
+    }
     tell(told_, mark_);
 }
 
