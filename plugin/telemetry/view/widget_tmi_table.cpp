@@ -198,6 +198,8 @@ void VLK_Widget_Tmi_Table::addKeys()
 
 void VLK_Widget_Tmi_Table::open(const QString& path)
 {
+    if (!growing_->mayGo(this, GrowingRecords::Going::others))
+        return;
     // A file may be large: two of them need not be in memory.
     open(std::make_shared<TelemetryContents>(), QFileInfo(path).fileName());
     path_ = path;
@@ -215,9 +217,12 @@ void VLK_Widget_Tmi_Table::read()
 void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name,
                                 Growth growth)
 {
+    const bool areSame = growth == Growth::live && contents == growsFrom_ && growing_->isGrowing();
+    if (!areSame && !growing_->mayGo(this, GrowingRecords::Going::others))
+        return;
     opening_->stop();
     filter_->setFocus();
-    if (growth == Growth::live && contents == growsFrom_ && growing_->isGrowing()) {
+    if (areSame) {
         // The zone may have been chosen anew.
         if (grown_->records.utcOffset() != contents->records.utcOffset()) {
             grown_->records.setUtcOffset(contents->records.utcOffset());
@@ -324,7 +329,7 @@ void VLK_Widget_Tmi_Table::closeEvent(QCloseEvent* event)
 // By Esc and by the cross.
 void VLK_Widget_Tmi_Table::reject()
 {
-    if (growing_->mayGo(this))
+    if (growing_->mayGo(this, GrowingRecords::Going::close))
         QDialog::reject();
 }
 
