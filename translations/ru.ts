@@ -1755,6 +1755,7 @@
     <message id="rec_743"><translation>Возможно, удастся вернуть ещё записи.</translation></message>
     <message id="rec_744"><translation>С трекера пришло записей, которых нет ни в одном файле: %1. Они пропадут, если показать в этом окне другие.</translation></message>
     <message id="rec_745"><translation>Показать другие</translation></message>
+    <message id="rec_746"><translation>Символ %1: «%2» считается по тарировочной таблице, такого столбца у фильтра нет. Он принимает показания датчика.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -10,7 +10,9 @@
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/view/filter_field.h"
 #include "telemetry/view/period_file.h"
+#include "telemetry/view/records_model.h"
 #include "typing/notice_bar.h"
 
 #include <QClipboard>
@@ -360,6 +362,26 @@ private Q_SLOTS:
         QVERIFY(sheet.toPlainText().contains("28.05.2026 23:45 – 23:46"));
         QVERIFY(sheet.toPlainText().contains("Track of then"));
         QVERIFY(asked.contains(kStart + 20 * 60));
+    }
+
+    // Litres are among the curves; whoever filters them is told that only readings can be.
+    void filterOfLitres_data()
+    {
+        DataTable<QString, bool>({"typed", "told"})
+            .row("by name", "Speed = 0 and fuel > 100", true)
+            .row("with unit, in quotes", "\"Fuel, l\" > 100", true)
+            .row("another name", "Fueling > 100", false);
+    }
+    void filterOfLitres()
+    {
+        QFETCH(QString, typed);
+        records_->setComputed({{"litres", "Fuel", "l", {}}});
+        RecordsModel model(records_.get(), nullptr);
+        FilterField field(records_.get(), &model, nullptr);
+        field.apply(typed);
+        const QString said = field.findChild<QLabel*>("label_FilterFault")->text();
+        QVERIFY(!said.isEmpty());
+        QTEST(said.contains("\"Fuel\" is computed with a calibration table"), "told");
     }
 
     // Records that come meanwhile count, with fuel in them or without.

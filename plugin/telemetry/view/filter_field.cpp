@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QStringListModel>
 
 #include <algorithm>
@@ -227,8 +228,7 @@ void FilterField::applyTyped()
         line_->setCursorPosition(parsed.fault.position);
         // In words of the language of the moment.
         tell([this, text] {
-            const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
-            const QString told = tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            const QString told = faultText(text);
             return isApplied() ? told + QLatin1Char(' ') + tr("rec_511").arg(applied_) : told;
         });
         return;
@@ -244,6 +244,23 @@ void FilterField::applyTyped()
         };
     shown_->setPassing(passing(*parsed.filter, shown_->columns()), std::move(passes));
     Q_EMIT applied();
+}
+
+QString FilterField::faultText(const QString& text)
+{
+    const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
+    const QString at = QString::number(fault.position + 1);
+    static const QRegularExpression notInWords(QStringLiteral("^\\W"),
+                                               QRegularExpression::UseUnicodePropertiesOption);
+    const QString rest = foldedForFilter(text.mid(fault.position)).remove(notInWords);
+    // It is among the curves, so that somebody looks for it here.
+    for (const ComputedColumn& column : shown_->computed()) {
+        const QString title = foldedForFilter(column.title);
+        const bool isWhole = rest.size() <= title.size() || !rest[title.size()].isLetterOrNumber();
+        if (rest.startsWith(title) && isWhole)
+            return tr("rec_746").arg(at, column.title);
+    }
+    return tr("rec_005").arg(at, fault.expected);
 }
 
 void FilterField::offerLatest()

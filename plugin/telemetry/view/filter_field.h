@@ -51,6 +51,7 @@ private:
     void complete(const QString& text);
     void applyTyped();
     void offerLatest();
+    QString faultText(const QString& text);
     void tell(const std::function<QString()>& sentence, Mark mark = Mark::invalid);
     void tellAbsent(const Filter& filter);
     const FilterNames& names();
