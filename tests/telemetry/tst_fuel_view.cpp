@@ -310,6 +310,25 @@ private Q_SLOTS:
     }
 
     // Its scale ends at 1023, all that is above it is an error.
+    void headsInAnotherLanguage()
+    {
+        const auto isWhole = [this] {
+            const QHeaderView* heads = table()->horizontalHeader();
+            bool isWhole = true;
+            for (int column = 0; column < heads->count() - 1; ++column)
+                isWhole = isWhole && heads->sectionSize(column) >= heads->sectionSizeHint(column);
+            return isWhole;
+        };
+        {
+            EnglishTexts russian;
+            QVERIFY(russian.load("ru", VLK_TEXTS) && QCoreApplication::installTranslator(&russian));
+            view_->retranslate();
+            QVERIFY(isWhole());
+        }
+        view_->retranslate();
+        QVERIFY(isWhole());
+    }
+
     void saysThatATableGivesNoVolume()
     {
         choose(file("small.csv", "Level;Volume, l\n1;0\n1000;400\n"));

@@ -309,6 +309,7 @@ void FuelView::retranslate()
     table_->setAccessibleName(tr("rec_263"));
     tanks_->retranslate();
     model_->retranslate();
+    table_->resizeColumnsToContents();
     showState();
 }
 
