@@ -1749,6 +1749,13 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rec_680"><translation>Records that came from the tracker and are in no file: %1. The tracker is detached, and they go when the window closes.</translation></message>
     <message id="rec_681"><translation>Close the window</translation></message>
     <message id="rec_682"><translation>Record No.&#160;%1 may be made of two: behind it %2 are missing by their numbers.</translation></message>
+    <message id="rec_740"><translation>it stood %1</translation></message>
+    <message id="rec_741"><translation>thin and grey how it came there and left, %1</translation></message>
+    <message id="rec_742"><translation>Byte %1: several elements share a line there, while this form has a line for each. They were taken apart.</translation></message>
+    <message id="rec_743"><translation>More records may be brought back.</translation></message>
+    <message id="rec_744"><translation>Records that came from the tracker and are in no file: %1. They go when others are shown in this window.</translation></message>
+    <message id="rec_745"><translation>Show the others</translation></message>
+    <message id="rec_746"><translation>Character %1: &quot;%2&quot; is computed with a calibration table, and the filter has no such column. It takes the readings of the sensor.</translation></message>
     <message id="rev_240"><translation>Mode</translation></message>
     <message id="rev_241"><translation>Pull-up resistor</translation></message>
     <message id="rev_242"><translation>Use of channel 1</translation></message>

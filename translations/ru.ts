@@ -1749,6 +1749,13 @@
     <message id="rec_680"><translation>С трекера пришло записей, которых нет ни в одном файле: %1. Трекер отключён, и с закрытием окна они пропадут.</translation></message>
     <message id="rec_681"><translation>Закрыть окно</translation></message>
     <message id="rec_682"><translation>Запись №&#160;%1 может состоять из двух: за ней по номерам пропущено %2.</translation></message>
+    <message id="rec_740"><translation>стоянка %1</translation></message>
+    <message id="rec_741"><translation>тонкая серая линия — как подъехал и уехал, %1</translation></message>
+    <message id="rec_742"><translation>Байт %1: там несколько элементов в одной строке, а в этой форме строка у каждого своя. Они разделены.</translation></message>
+    <message id="rec_743"><translation>Возможно, удастся вернуть ещё записи.</translation></message>
+    <message id="rec_744"><translation>С трекера пришло записей, которых нет ни в одном файле: %1. Они пропадут, если показать в этом окне другие.</translation></message>
+    <message id="rec_745"><translation>Показать другие</translation></message>
+    <message id="rec_746"><translation>Символ %1: «%2» считается по тарировочной таблице, такого столбца у фильтра нет. Он принимает показания датчика.</translation></message>
     <message id="rev_240"><translation>Режим</translation></message>
     <message id="rev_241"><translation>Подтягивающий резистор</translation></message>
     <message id="rev_242"><translation>Назначение канала 1</translation></message>

@@ -355,8 +355,9 @@ struct PresetApplication
 };
 
 // OfferTexts: how the plug-in gets texts of a language that is not on show, by which settings are found in
-// both. The host fills the text of a key in a language ("ru", "en"), or leaves it null where it has none. The
-// function is called until another one, or none, is offered.
+// both. The host fills the text of a key in a language ("ru", "en"), or leaves it null where it has none; of
+// the key "event 35" what RequestEventText gives for that code where this language is on show. The function
+// is called until another one, or none, is offered.
 struct OfferedTexts
 {
     std::uint32_t size = sizeof(OfferedTexts);

@@ -25,6 +25,14 @@ QString eventText(int code)
     return text;
 }
 
+QString eventTextIn(const char* language, int code)
+{
+    const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
+    const QByteArray key = "event " + QByteArray::number(code);
+    const QString text = source ? source(key.constData()) : QString();
+    return text == QLatin1String(key) ? QString() : text;
+}
+
 void liveKey(int owner)
 {
     if (!vlkDevice)

@@ -46,6 +46,8 @@ requires(isSent(id)) void withAddress(T value)
 void showHelp(const QString& page);
 // The host's words for an event code, empty without a host.
 QString eventText(int code);
+// As it is in that language, "ru" or "en"; empty where the host does not tell.
+QString eventTextIn(const char* language, int code);
 // With owner 1 the answer goes to the telemetry view, with 0 nowhere.
 void liveKey(int owner);
 

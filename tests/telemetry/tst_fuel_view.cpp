@@ -10,7 +10,9 @@
 #include "telemetry/fuel_view/fuel_view.h"
 #include "telemetry/fuel_view/summary_view.h"
 #include "telemetry/record/record_head.h"
+#include "telemetry/view/filter_field.h"
 #include "telemetry/view/period_file.h"
+#include "telemetry/view/records_model.h"
 #include "typing/notice_bar.h"
 
 #include <QClipboard>
@@ -308,6 +310,25 @@ private Q_SLOTS:
     }
 
     // Its scale ends at 1023, all that is above it is an error.
+    void headsInAnotherLanguage()
+    {
+        const auto isWhole = [this] {
+            const QHeaderView* heads = table()->horizontalHeader();
+            bool isWhole = true;
+            for (int column = 0; column < heads->count() - 1; ++column)
+                isWhole = isWhole && heads->sectionSize(column) >= heads->sectionSizeHint(column);
+            return isWhole;
+        };
+        {
+            EnglishTexts russian;
+            QVERIFY(russian.load("ru", VLK_TEXTS) && QCoreApplication::installTranslator(&russian));
+            view_->retranslate();
+            QVERIFY(isWhole());
+        }
+        view_->retranslate();
+        QVERIFY(isWhole());
+    }
+
     void saysThatATableGivesNoVolume()
     {
         choose(file("small.csv", "Level;Volume, l\n1;0\n1000;400\n"));
@@ -346,7 +367,7 @@ private Q_SLOTS:
             asked = span;
             painter.drawLine(0, 0, size.width(), size.height());
         };
-        view_->setPictures(paint, paint);
+        view_->setPictures(paint, paint, [](const TimeSpan&) { return QString("Track of then"); });
         choose(file("short.csv", "Level;Volume, l\n0;0\n3119;311.9\n"));
         QTextDocument sheet;
         view_->writeSheet(sheet);
@@ -358,7 +379,28 @@ private Q_SLOTS:
         QVERIFY(sheet.toPlainText().contains("20 of 40 readings of RS-485 Fuel level 1 are beyond"));
         QVERIFY(sheet.toPlainText().contains("KAMAZ") && sheet.toPlainText().contains("-60.9"));
         QVERIFY(sheet.toPlainText().contains("28.05.2026 23:45 – 23:46"));
+        QVERIFY(sheet.toPlainText().contains("Track of then"));
         QVERIFY(asked.contains(kStart + 20 * 60));
+    }
+
+    // Litres are among the curves; whoever filters them is told that only readings can be.
+    void filterOfLitres_data()
+    {
+        DataTable<QString, bool>({"typed", "told"})
+            .row("by name", "Speed = 0 and fuel > 100", true)
+            .row("with unit, in quotes", "\"Fuel, l\" > 100", true)
+            .row("another name", "Fueling > 100", false);
+    }
+    void filterOfLitres()
+    {
+        QFETCH(QString, typed);
+        records_->setComputed({{"litres", "Fuel", "l", {}}});
+        RecordsModel model(records_.get(), nullptr);
+        FilterField field(records_.get(), &model, nullptr);
+        field.apply(typed);
+        const QString said = field.findChild<QLabel*>("label_FilterFault")->text();
+        QVERIFY(!said.isEmpty());
+        QTEST(said.contains("\"Fuel\" is computed with a calibration table"), "told");
     }
 
     // Records that come meanwhile count, with fuel in them or without.

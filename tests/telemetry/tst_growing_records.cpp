@@ -72,6 +72,10 @@ private Q_SLOTS:
         answerBox("wrd_031", "rec_680");
         records->close();
         QVERIFY(records->isVisible());
+        const qint32 asTable = 1;
+        answerBox("wrd_031", "rec_744");
+        host.send(Message::ShowStoredFile, &file_, &asTable);
+        QCOMPARE(rows(), 7);
         open();
         // They are not told as records of the tracker that comes next.
         QCOMPARE(text("label_SavedInPart"), QString());
@@ -79,6 +83,7 @@ private Q_SLOTS:
         QCOMPARE(rows(), 7);
         // It ended before what is already known.
         startSave(7, 8);
+        answerBox("rec_745", "rec_744");
         show();
         QCOMPARE(told(), QString());
         send(Message::RecordByNumber, 18);
@@ -112,7 +117,9 @@ private Q_SLOTS:
         QCOMPARE(seen(), qMakePair(4, QString()));
         press("label_SavedInPart_Action1");
         QCOMPARE(seen(), qMakePair(4, QString("rec_543 rec_544")));
+        // Closed it keeps them as long as the tracker is there; behind other records they would be gone.
         const qint32 asTable = 1;
+        answerBox("rec_745", "rec_744");
         host.send(Message::ShowStoredFile, &file_, &asTable);
         QTRY_COMPARE(seen(), qMakePair(2, QString()));
         press("label_SavedInPart_Action1");

@@ -122,6 +122,35 @@ private Q_SLOTS:
         QCOMPARE(numbers().size(), 20);
     }
 
+    // The words of an event are known in both languages; in another one the filter stands in its words.
+    void otherLanguage()
+    {
+        OfferedTexts offered;
+        offered.fill = [](void*, const char* language, const char* key, QString* text) {
+            if (qstrcmp(language, "ru") == 0 && qstrcmp(key, "event 35") == 0)
+                *text = QStringLiteral("Начало заправки");
+        };
+        host_.send(Message::OfferTexts, &offered);
+        show(drive());
+        auto* line = child<QLineEdit>("lineEdit_Filter");
+        const QString typed = QStringLiteral("Code = \"начало заправки\"");
+        const QString turned = QStringLiteral("tmizta_124 = \"event 35\"");
+        for (const char* unread : {"", "Pow"}) {
+            line->setText(typed);
+            pressInFilter(Qt::Key_Return);
+            QCOMPARE(text("label_FilterFault"), QString());
+            QCOMPARE(numbers(), QStringList({"1007", "1030"}));
+            if (*unread)
+                line->setText(unread);
+            host_.send(Message::LanguageChanged);
+            QCOMPARE(line->text(), *unread ? QString(unread) : turned);
+            QCOMPARE(numbers().size(), 2);
+        }
+        QTest::keyClick(line, Qt::Key_Escape);
+        QCOMPARE(line->text(), turned);
+        host_.send(Message::OfferTexts);
+    }
+
     // The current record, at which a cursor stands, is there again with the filter gone.
     void keptRecord()
     {

@@ -332,6 +332,27 @@ private Q_SLOTS:
         QCOMPARE(window->findChildren<QWidget*>("noticeBar").size(), 1);
     }
 
+    // Of elements that share a line the first one is read, until they are taken apart: by whom is asked, or
+    // where there would hardly be a record.
+    void sharedLines()
+    {
+        show(drive());
+        const QString path = folder_.filePath("telemetry.xml");
+        const QByteArray whole = readFile(path);
+        const int first = whole.indexOf("\t<Page ");
+        QByteArray content = whole;
+        content.remove(content.indexOf("\r\n", first), 2);
+        open(writeFile(path, content));
+        QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_660 tmiw_192 rec_743"));
+        QCOMPARE(table_->model()->rowCount(), 40);
+        child<QPushButton>("label_Damage_Action1")->click();
+        QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_742"));
+        open(writeFile(path, whole.left(first) + whole.mid(first).replace("\r\n", "")));
+        QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_742"));
+        QCOMPARE(numbers().size(), 40);
+        QCOMPARE(numbers().value(39), QString("1039"));
+    }
+
     // A damaged record is grey and counted apart; no filter finds it, no copy and no export holds its
     // numbers.
     void damagedRecord()

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void classifies_data();
     void classifies();
     void showsAndMoves();
+    void tellsTimesApart();
     void survivesOddTracks_data();
     void survivesOddTracks();
 };
@@ -343,6 +344,42 @@ void TestTrack::showsAndMoves()
     QVERIFY(place->text().endsWith(QChar(0x2013)));
     view.saveTo(folder.filePath(QStringLiteral("n.svg")));
     QVERIFY(!readFile(folder.filePath(QStringLiteral("n.svg"))).contains("tmizta_"));
+}
+
+// How a vehicle came and left at other times than the one that is pictured is in no colours of speed, and the
+// caption names its time.
+void TestTrack::tellsTimesApart()
+{
+    std::vector<Fix> fixes{{kStart - 120, 55, 37.01, 2, 60}, {kStart - 60, 55, 37.005, 2, 40}};
+    for (quint32 second = 0; second <= 1200; second += 60)
+        fixes.push_back({kStart + second, 55, 37});
+    fixes.push_back({kStart + 1260, 55, 37.01, 2, 60});
+    TelemetryContents contents;
+    contents.records = storeOf(fixes);
+    contents.records.setUtcOffset(0);
+    ShownRecords records;
+    const TrackView view(&records);
+    records.setContents(std::move(contents));
+    const auto colours = [&view](const TimeSpan& span) {
+        const QImage picture = pictureOf(view, span);
+        int colours = 0;
+        for (int x = picture.width() / 2; x < picture.width(); ++x)
+            for (int y = picture.height() / 3; y < picture.height() * 2 / 3; ++y)
+                colours += QColor(picture.pixel(x, y)).hsvSaturation() > 60;
+        return colours;
+    };
+    const TimeSpan parked{kStart + 300, kStart + 600};
+    const TimeSpan all{kStart - 200, kStart + 2000};
+    QVERIFY2(colours(all) > 20 * (colours(parked) + 1), qPrintable(QString::number(colours(parked))));
+    // Nor is a record of another time marked there.
+    const QImage picture = pictureOf(view, parked);
+    records.setCurrent(1);
+    QCOMPARE(pictureOf(view, parked), picture);
+    const TextsAs texts([](const QString& key) { return key.startsWith("rec_74") ? key + " %1" : key; });
+    QCOMPARE(view.caption(parked),
+             QStringLiteral("rec_199: 20.11.2025 08:05 – 08:10, UTC; rec_740 20.11.2025 08:00 – 08:20; "
+                            "rec_741 20.11.2025 07:58 – 08:21"));
+    QCOMPARE(view.caption(all), QStringLiteral("rec_199: 20.11.2025 07:56 – 08:33, UTC"));
 }
 
 void TestTrack::survivesOddTracks_data()

@@ -131,6 +131,29 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(bench.file()));
     }
 
+    // A filter knows events by their words in both languages, and stands in those of the program.
+    void filtersInBothLanguages()
+    {
+        Bench bench;
+        const QByteArray file =
+            "<Page type=\"176\" ver=\"30\" format=\"111\">\n<NumPage>1</NumPage>\n<Code>%1</Code>\n"
+            "<Time>1738400400</Time>\n</Page>\n";
+        const QString path =
+            writeFile(bench.root.filePath(QStringLiteral("two.xml")),
+                      QByteArray(file).replace("%1", "40") + QByteArray(file).replace("%1", "2"));
+        bench.window.session().link().showStoredFile(path, 1);
+        QWidget* records = Bench::pluginWindow("VLK_Widget_Tmi_Table");
+        auto* filter = records->findChild<QLineEdit*>(QStringLiteral("lineEdit_Filter"));
+        const auto* table = records->findChild<QTableView*>(QStringLiteral("tableWidget"));
+        filter->setText(QStringLiteral("Code = \"начало заправки\""));
+        QTest::keyClick(filter, Qt::Key_Return);
+        QCOMPARE(table->model()->rowCount(), 1);
+        bench.window.setLanguage(QStringLiteral("ru"));
+        QCOMPARE(filter->text(), QStringLiteral("Событие = \"Начало заправки\""));
+        bench.window.setLanguage(QStringLiteral("en"));
+        QCOMPARE(filter->text(), QStringLiteral("Event = \"Start of refuelling\""));
+    }
+
     // The notice moves nothing in the configuration either, where a window is not too low for it.
     void movesNoPage()
     {

@@ -1,5 +1,6 @@
 #include "window/plugin_link.h"
 
+#include "tracker/event_code.h"
 #include "window/languages.h"
 #include "window/message_text.h"
 
@@ -192,7 +193,10 @@ void PluginLink::offerTexts(Languages& languages)
     vlk::OfferedTexts offered;
     offered.context = &languages;
     offered.fill = [](void* context, const char* language, const char* key, QString* filled) {
-        *filled = static_cast<Languages*>(context)->textIn(QString::fromLatin1(language), key);
+        QByteArray name(key);
+        if (name.startsWith("event "))
+            name = tracker::eventKey(name.mid(6).toUShort());
+        *filled = static_cast<Languages*>(context)->textIn(QString::fromLatin1(language), name.constData());
     };
     send(vlk::Message::OfferTexts, &offered);
 }

@@ -18,7 +18,7 @@ namespace vlk {
 
 namespace {
 
-constexpr int kWidestName = 130;
+constexpr int kWidestName = 150;
 constexpr int kWidestOnPaper = 260; // where no tip has it whole
 constexpr int kNameMargin = 6;
 constexpr int kMarkReach = 4;

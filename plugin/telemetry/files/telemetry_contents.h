@@ -62,6 +62,13 @@ struct TelemetryContents
     bool mayHideMore = false; // lines were not taken apart that elements share
 };
 
+// Whether at least half of the records are none, but what is left of several whose elements share lines.
+inline bool areTornBySharedLines(const TelemetryContents& contents)
+{
+    return contents.mayHideMore &&
+           2 * contents.damaged.size() >= static_cast<std::size_t>(contents.records.size());
+}
+
 // The time of a record, or of an extra packet's head.
 inline quint32 timeOf(const TmiPage_Zeta3& page)
 {

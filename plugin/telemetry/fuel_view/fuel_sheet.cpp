@@ -73,10 +73,7 @@ void addPictures(QTextDocument& document, const FuelSheet& sheet, int lines)
     };
     // The curve has a heading of its own.
     add(sheet.curve, kCurvePicture, {});
-    add(sheet.track, kTrackPicture,
-        QStringLiteral("%1: %2 – %3, %4")
-            .arg(translated("rec_199"), listTime(sheet.pictured.from, sheet.utcOffset),
-                 listTime(sheet.pictured.to, sheet.utcOffset), zoneText(sheet.utcOffset)));
+    add(sheet.track, kTrackPicture, sheet.trackCaption);
 }
 
 } // namespace

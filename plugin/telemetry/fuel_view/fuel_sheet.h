@@ -25,6 +25,7 @@ struct FuelSheet
     TimeSpan pictured; // by the curve and the track
     PaintSpan curve;   // null for none
     PaintSpan track;
+    QString trackCaption;
 };
 
 void writeFuelSheet(QTextDocument& document, const FuelSheet& sheet);

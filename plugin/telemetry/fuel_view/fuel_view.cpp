@@ -138,10 +138,11 @@ void FuelView::setTitle(const QString& title)
     buttons_->setTitle(title);
 }
 
-void FuelView::setPictures(PaintSpan curve, PaintSpan track)
+void FuelView::setPictures(PaintSpan curve, PaintSpan track, CaptionOfSpan trackCaption)
 {
     curve_ = std::move(curve);
     track_ = std::move(track);
+    trackCaption_ = std::move(trackCaption);
 }
 
 void FuelView::readVehicle()
@@ -290,7 +291,8 @@ void FuelView::writeSheet(QTextDocument& document) const
                               whole,
                               span,
                               curve_,
-                              track_});
+                              track_,
+                              trackCaption_ ? trackCaption_(span) : QString()});
 }
 
 void FuelView::retranslate()
@@ -307,6 +309,7 @@ void FuelView::retranslate()
     table_->setAccessibleName(tr("rec_263"));
     tanks_->retranslate();
     model_->retranslate();
+    table_->resizeColumnsToContents();
     showState();
 }
 

@@ -37,8 +37,9 @@ public:
     void setVehicle(const QString& vehicle);
     // What a file of the list is called by.
     void setTitle(const QString& title);
+    using CaptionOfSpan = std::function<QString(const TimeSpan& span)>;
     // For the sheet on paper; null for none.
-    void setPictures(PaintSpan curve, PaintSpan track);
+    void setPictures(PaintSpan curve, PaintSpan track, CaptionOfSpan trackCaption);
     void retranslate();
 
     // One a record, empty while no sensor is chosen.
@@ -90,6 +91,7 @@ private:
     EmptyNote* empty_;
     PaintSpan curve_;
     PaintSpan track_;
+    CaptionOfSpan trackCaption_;
     NumberColumn litres_;
     std::vector<ReadingsBeyond> beyond_; // by tank
     std::vector<LevelMedian> medians_;   // of them

@@ -67,7 +67,8 @@ TrackSight TrackCanvas::sightIn(const QSizeF& room) const
 void TrackCanvas::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    paintTrack(painter, size(), *model_, sight_, model_->shownTime(), palette());
+    const TimeSpan shown = model_->shownTime();
+    paintTrack(painter, size(), *model_, sight_, shown, shown, palette());
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -137,9 +137,10 @@ class TrackDrawing
 {
 public:
     TrackDrawing(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                 const TimeSpan& span, const QPalette& palette)
-        : painter_(painter), size_(size), model_(model), sight_(sight), span_(span), palette_(palette),
-          text_(palette.color(QPalette::Text)), base_(palette.color(QPalette::Base)), metrics_(painter.font())
+                 const TimeSpan& span, const TimeSpan& around, const QPalette& palette)
+        : painter_(painter), size_(size), model_(model), sight_(sight), span_(span), around_(around),
+          palette_(palette), text_(palette.color(QPalette::Text)), base_(palette.color(QPalette::Base)),
+          metrics_(painter.font())
     {
     }
 
@@ -152,6 +153,8 @@ public:
                               translated(model_.isBeingMade() ? "rec_371" : "rec_193"));
             return;
         }
+        if (around_ != span_)
+            drawAround();
         drawPath();
         drawStops();
         drawEvents();
@@ -162,18 +165,30 @@ public:
     }
 
 private:
+    double timeOf(int record) const { return model_.records().columns().times()[record]; }
+
     // The last point of the record or before it; nothing where that is not shown.
     std::optional<QPointF> pixelOf(int record) const
     {
         const int point = model_.path().pointOf(record);
-        return point < 0 ? std::nullopt : pixelOfPoint(point);
+        return point < 0 ? std::nullopt : pixelOfPoint(point, around_);
     }
 
-    std::optional<QPointF> pixelOfPoint(int point) const
+    std::optional<QPointF> pixelOfPoint(int point, const TimeSpan& span) const
     {
-        if (!span_.contains(model_.path().time(point)))
+        if (!span.contains(model_.path().time(point)))
             return std::nullopt;
         return sight_.toPixel(model_.path().place(point), size_);
+    }
+
+    // Its colours would tell speeds of another time.
+    void drawAround()
+    {
+        const PathLines lines(model_, sight_, around_, size_);
+        painter_.setRenderHint(QPainter::Antialiasing);
+        painter_.setPen(QPen(palette_.color(QPalette::Mid), 1));
+        for (int bin = 0; bin < kBins; ++bin)
+            painter_.drawLines(lines.of(bin));
     }
 
     void drawPath()
@@ -199,6 +214,9 @@ private:
     {
         Crowd crowd(size_);
         for (const Stop& stop : model_.stops()) {
+            // It may have begun before the time that is shown.
+            if (timeOf(stop.last) < span_.from || timeOf(stop.first) > span_.to)
+                continue;
             const std::optional<QPointF> pixel = pixelOf(stop.first);
             if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
                 continue;
@@ -223,7 +241,8 @@ private:
             behind = std::find_if(behind, records.end(), [record](int other) { return other > record; });
             if (behind == before)
                 continue;
-            const std::optional<QPointF> pixel = pixelOfPoint(static_cast<int>(behind - records.begin()) - 1);
+            const std::optional<QPointF> pixel =
+                pixelOfPoint(static_cast<int>(behind - records.begin()) - 1, span_);
             if (!pixel || !isSeen(*pixel) || !crowd.hasRoomAt(*pixel))
                 continue;
             painter_.drawPolygon(
@@ -231,7 +250,8 @@ private:
                            *pixel + QPointF(0, kEventReach), *pixel + QPointF(-kEventReach, 0)}));
         }
         for (const FoundEvent& event : model_.records().found()) {
-            if (const std::optional<QPointF> pixel = pixelOf(event.record); pixel && isSeen(*pixel))
+            const std::optional<QPointF> pixel = pixelOf(event.record);
+            if (pixel && isSeen(*pixel) && span_.contains(timeOf(event.record)))
                 paintFoundEvent(painter_, event.isRise, *pixel, palette_);
         }
     }
@@ -240,7 +260,7 @@ private:
     {
         const int record = model_.records().current();
         const std::optional<QPointF> pixel = pixelOf(record);
-        if (!pixel)
+        if (!pixel || !span_.contains(timeOf(record)))
             return;
         // Dashed where the record itself has no place.
         const TrackPath& path = model_.path();
@@ -356,6 +376,7 @@ private:
     const TrackModel& model_;
     const TrackSight sight_;
     const TimeSpan span_;
+    const TimeSpan around_;
     const QPalette& palette_;
     const QColor text_;
     const QColor base_;
@@ -374,11 +395,11 @@ TrackSight sightOf(const QRectF& bounds, const QSizeF& size)
 }
 
 void paintTrack(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                const TimeSpan& span, const QPalette& palette)
+                const TimeSpan& span, const TimeSpan& around, const QPalette& palette)
 {
     painter.save();
     painter.setClipRect(QRectF(QPointF(), size));
-    TrackDrawing(painter, size, model, sight, span, palette).draw();
+    TrackDrawing(painter, size, model, sight, span, around, palette).draw();
     painter.restore();
 }
 

@@ -35,8 +35,8 @@ struct TrackSight
 // All of the bounds, with a margin; of a vehicle that never moved its surroundings.
 TrackSight sightOf(const QRectF& bounds, const QSizeF& size);
 
-// The part of the track in that time.
+// The part of the track in that time, and behind it, thin and pale, that of a wider one.
 void paintTrack(QPainter& painter, const QSizeF& size, const TrackModel& model, const TrackSight& sight,
-                const TimeSpan& span, const QPalette& palette);
+                const TimeSpan& span, const TimeSpan& around, const QPalette& palette);
 
 } // namespace vlk

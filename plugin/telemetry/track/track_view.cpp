@@ -26,13 +26,14 @@ namespace {
 
 constexpr int kPlaceDecimals = 6;
 constexpr int kTitleHeight = 30;
+constexpr const char* kMinutes = "dd.MM.yyyy HH:mm";
 // Metres. A part of the track within less shows how the vehicle came there and left, up to so far away.
 constexpr double kLeastSurroundings = 1000;
 constexpr double kWidestSurroundings = 3000;
 
 struct TrackPart
 {
-    TimeSpan span;
+    TimeSpan around; // with the way there and from there
     QRectF bounds;
 };
 
@@ -44,7 +45,7 @@ TrackPart partIn(const TrackPath& path, const TimeSpan& span)
     const auto take = [&](int point, bool isFirst) {
         unite(part.bounds, path.place(point), isFirst);
         const double time = points[point].time;
-        part.span = {std::min(part.span.from, time), std::max(part.span.to, time)};
+        part.around = {std::min(part.around.from, time), std::max(part.around.to, time)};
     };
     if (count == 0)
         return part;
@@ -200,13 +201,41 @@ void TrackView::paintInSight(QPainter& painter, const QSize& size) const
             .trimmed());
     painter.translate(0, kTitleHeight);
     const QSizeF room(size.width(), size.height() - kTitleHeight);
-    paintTrack(painter, room, *model_, canvas_->sightIn(room), model_->shownTime(), paperPalette());
+    const TimeSpan shown = model_->shownTime();
+    paintTrack(painter, room, *model_, canvas_->sightIn(room), shown, shown, paperPalette());
 }
 
 void TrackView::paint(QPainter& painter, const QSize& size, const TimeSpan& span) const
 {
     const TrackPart part = partIn(model_->path(), span);
-    paintTrack(painter, size, *model_, sightOf(part.bounds, size), part.span, paperPalette());
+    paintTrack(painter, size, *model_, sightOf(part.bounds, size), span, part.around, paperPalette());
+}
+
+QString TrackView::caption(const TimeSpan& span) const
+{
+    const qint32 offset = records_->utcOffset();
+    const auto told = [offset](const TimeSpan& time) {
+        const auto minute = [offset](double moment, const char* form) {
+            return momentText(static_cast<qint64>(moment), offset, form);
+        };
+        const bool isOneDay = minute(time.from, "dd.MM.yyyy") == minute(time.to, "dd.MM.yyyy");
+        return QStringLiteral("%1 – %2").arg(minute(time.from, kMinutes),
+                                             minute(time.to, isOneDay ? "HH:mm" : kMinutes));
+    };
+    QString text = QStringLiteral("%1: %2, %3").arg(tr("rec_199"), told(span), zoneText(offset));
+    const TimeSpan around = partIn(model_->path(), span).around;
+    if (around == span)
+        return text;
+    const std::vector<quint32>& times = records_->columns().times();
+    QStringList stands;
+    for (const Stop& stop : model_->stops()) {
+        const TimeSpan stood{double(times[stop.first]), double(times[stop.last])};
+        if (stood.to >= span.from && stood.from <= span.to)
+            stands << told(stood);
+    }
+    if (!stands.empty())
+        text += QLatin1String("; ") + tr("rec_740").arg(stands.join(QLatin1String(", ")));
+    return text + QLatin1String("; ") + tr("rec_741").arg(told(around));
 }
 
 void TrackView::saveTo(const QString& path)

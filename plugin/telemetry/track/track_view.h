@@ -28,8 +28,11 @@ public:
 
     // What stands above a picture, the vehicle or the file.
     void setTitle(const QString& title);
-    // The part of the track in that span, as a picture.
+    // The part of the track in that span, as a picture; pale, where that is but a place, how the vehicle came
+    // there and left.
     void paint(QPainter& painter, const QSize& size, const TimeSpan& span) const;
+    // What that picture shows, and of what time.
+    QString caption(const TimeSpan& span) const;
     // What is in sight, as SVG or PNG by the suffix.
     void saveTo(const QString& path);
     void retranslate();

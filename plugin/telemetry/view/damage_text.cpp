@@ -30,8 +30,10 @@ QString number(qint64 value)
 }
 
 // Where no byte is lost a record lacks its end alone.
-const char* sentenceOf(const FileDamage& place)
+const char* sentenceOf(const FileDamage& place, bool isTakenApart)
 {
+    if (place.kind == FileDamage::SharedLine && isTakenApart)
+        return "rec_742";
     return place.kind == FileDamage::Records && place.bytes == 0 ? "rec_380" : kSentences[place.kind];
 }
 
@@ -85,12 +87,15 @@ QStringList sentences(const Damage& damage, std::size_t most)
                          : translated("tmiw_189").arg(number(damage.whole), number(damage.announced))};
     const std::size_t told = std::min(damage.places.size(), most);
     for (const FileDamage& place : std::span(damage.places).first(told))
-        said << QString(translated(sentenceOf(place)))
+        said << QString(translated(sentenceOf(place, !damage.mayHideMore)))
                     .replace(QLatin1String("%1"), number(place.offset))
                     .replace(QLatin1String("%2"), number(place.offset + place.bytes));
     if (damage.places.size() > told)
         said << translated("tmiw_198").arg(number(static_cast<qint64>(damage.places.size() - told)));
-    if (damage.hidden > 0)
+    // How many share lines is not known before they are taken apart.
+    if (damage.mayHideMore)
+        said << translated("rec_743");
+    else if (damage.hidden > 0)
         said << translated("rec_076").arg(number(damage.hidden));
     return said;
 }

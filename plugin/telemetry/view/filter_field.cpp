@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QStringListModel>
 
 #include <algorithm>
@@ -101,7 +102,9 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     connect(completer_, qOverload<const QString&>(&QCompleter::activated), this, &FilterField::complete);
     connect(shown, &ShownRecords::contentsChanged, this, [this] {
         names_.reset();
+        hasAllEvents_ = false;
         applied_.clear();
+        appliedFilter_ = {};
         line_->clear();
         tell({});
     });
@@ -123,7 +126,6 @@ const FilterNames& FilterField::names()
     if (names_)
         return *names_;
     names_.emplace();
-    hasAllEvents_ = false;
     names_->addTexts();
     for (const char* language : kLanguages) {
         const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
@@ -146,14 +148,24 @@ const FilterNames& FilterField::names()
     const std::vector<quint32>& codes = shown_->columns().codes();
     for (const quint32 code : std::set<quint32>(codes.begin(), codes.end()))
         addEvent(code);
+    if (hasAllEvents_)
+        addAllEvents();
     return *names_;
 }
 
 void FilterField::addEvent(quint32 code)
 {
-    const QString event = requests::eventText(static_cast<int>(code));
-    if (!event.isEmpty())
-        names_->addWord(event, item("Code"), {static_cast<double>(code), static_cast<double>(code)});
+    QStringList words{requests::eventText(static_cast<int>(code))};
+    for (const char* language : kLanguages)
+        words << requests::eventTextIn(language, static_cast<int>(code));
+    for (const QString& word : words)
+        names_->addWord(word, item("Code"), {static_cast<double>(code), static_cast<double>(code)});
+}
+
+void FilterField::addAllEvents()
+{
+    for (quint32 code = 0; code < kEventCodes; ++code)
+        addEvent(code);
 }
 
 ParsedFilter FilterField::parsed(const QString& text)
@@ -161,8 +173,7 @@ ParsedFilter FilterField::parsed(const QString& text)
     ParsedFilter read = parseFilter(text, names(), shown_->utcOffset());
     if (read.filter || std::exchange(hasAllEvents_, true))
         return read;
-    for (quint32 code = 0; code < kEventCodes; ++code)
-        addEvent(code);
+    addAllEvents();
     return parseFilter(text, names(), shown_->utcOffset());
 }
 
@@ -217,14 +228,14 @@ void FilterField::applyTyped()
         line_->setCursorPosition(parsed.fault.position);
         // In words of the language of the moment.
         tell([this, text] {
-            const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
-            const QString told = tr("rec_005").arg(QString::number(fault.position + 1), fault.expected);
+            const QString told = faultText(text);
             return isApplied() ? told + QLatin1Char(' ') + tr("rec_511").arg(applied_) : told;
         });
         return;
     }
     tellAbsent(*parsed.filter);
     applied_ = text;
+    appliedFilter_ = *parsed.filter;
     keepFilter(parsed.filter->text());
     ShownRecords::Passes passes;
     if (!parsed.filter->empty())
@@ -233,6 +244,23 @@ void FilterField::applyTyped()
         };
     shown_->setPassing(passing(*parsed.filter, shown_->columns()), std::move(passes));
     Q_EMIT applied();
+}
+
+QString FilterField::faultText(const QString& text)
+{
+    const FilterFault fault = parseFilter(text, names(), shown_->utcOffset()).fault;
+    const QString at = QString::number(fault.position + 1);
+    static const QRegularExpression notInWords(QStringLiteral("^\\W"),
+                                               QRegularExpression::UseUnicodePropertiesOption);
+    const QString rest = foldedForFilter(text.mid(fault.position)).remove(notInWords);
+    // It is among the curves, so that somebody looks for it here.
+    for (const ComputedColumn& column : shown_->computed()) {
+        const QString title = foldedForFilter(column.title);
+        const bool isWhole = rest.size() <= title.size() || !rest[title.size()].isLetterOrNumber();
+        if (rest.startsWith(title) && isWhole)
+            return tr("rec_746").arg(at, column.title);
+    }
+    return tr("rec_005").arg(at, fault.expected);
 }
 
 void FilterField::offerLatest()
@@ -315,6 +343,12 @@ void FilterField::retranslate()
     line_->setPlaceholderText(tr("rec_002"));
     line_->setToolTip(tr("rec_003"));
     latest_->setToolTip(tr("rec_300"));
+    if (isApplied()) {
+        const QString words = inWords(appliedFilter_);
+        if (line_->text() == applied_)
+            line_->setText(words);
+        applied_ = words;
+    }
     tell(told_, mark_);
 }
 

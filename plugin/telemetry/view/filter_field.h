@@ -51,10 +51,12 @@ private:
     void complete(const QString& text);
     void applyTyped();
     void offerLatest();
+    QString faultText(const QString& text);
     void tell(const std::function<QString()>& sentence, Mark mark = Mark::invalid);
     void tellAbsent(const Filter& filter);
     const FilterNames& names();
     void addEvent(quint32 code);
+    void addAllEvents();
     // Asks the host for the words of events that this file lacks, where it cannot be read without.
     ParsedFilter parsed(const QString& text);
     QString inWords(const Filter& filter);
@@ -73,6 +75,7 @@ private:
     std::function<QString()> told_;
     Mark mark_ = Mark::invalid;
     QString applied_;
+    Filter appliedFilter_;
 };
 
 } // namespace vlk

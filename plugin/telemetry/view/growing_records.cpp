@@ -95,23 +95,28 @@ void GrowingRecords::tell()
     });
 }
 
-bool GrowingRecords::mayGo(QWidget* window)
+bool GrowingRecords::mayGo(QWidget* window, Going going)
 {
-    if (isGrowing_ || isKept_ || records_ + states_ == 0)
+    const bool closes = going == Going::close;
+    if ((closes && isGrowing_) || isKept_ || records_ + states_ == 0)
         return true;
     QMessageBox box(QMessageBox::Question, window->windowTitle(),
-                    translated("rec_680").arg(QLocale().toString(records_ + states_)), QMessageBox::NoButton,
-                    window);
+                    translated(closes ? "rec_680" : "rec_744").arg(QLocale().toString(records_ + states_)),
+                    QMessageBox::NoButton, window);
     box.setObjectName(QStringLiteral("messageBox_GrownRecords"));
     const auto* const keep = box.addButton(translated("rec_007"), QMessageBox::ActionRole);
-    const auto* const close = box.addButton(translated("rec_681"), QMessageBox::DestructiveRole);
+    const auto* const go =
+        box.addButton(translated(closes ? "rec_681" : "rec_745"), QMessageBox::DestructiveRole);
     auto* const cancel = box.addButton(translated("wrd_031"), QMessageBox::RejectRole);
     box.setDefaultButton(cancel);
     box.setEscapeButton(cancel);
     box.exec();
     if (box.clickedButton() == keep)
         keep_();
-    return box.clickedButton() == close;
+    if (box.clickedButton() != go)
+        return false;
+    forget();
+    return true;
 }
 
 QByteArray withoutNumber(const QByteArray& record)

@@ -41,8 +41,10 @@ public:
     bool isGrowing() const { return isGrowing_; }
     // All that is on show was written to a file.
     void setKept() { isKept_ = true; }
-    // Before the window closes: asks where records would go that neither a file nor the tracker at hand has.
-    bool mayGo(QWidget* window);
+    // Before the window closes or shows other records: asks where records would go that are in no file.
+    // Closed it keeps them as long as the tracker is there.
+    enum class Going { close, others };
+    bool mayGo(QWidget* window, Going going);
 
 private:
     void count(quint32 number);

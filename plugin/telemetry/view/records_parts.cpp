@@ -59,7 +59,8 @@ std::vector<RecordsPart> makeRecordsParts(ShownRecords* shown, NoticeBar* bar, Q
             view->paint(painter, size, span);
         };
     };
-    fuel->setPictures(pictureOf(curves), pictureOf(track));
+    fuel->setPictures(pictureOf(curves), pictureOf(track),
+                      [track](const TimeSpan& span) { return track->caption(span); });
     QObject::connect(fuel, &FuelView::fuelChanged, summary,
                      [shown, fuel, summary] { tellFuel(shown, *fuel, summary); });
     RecordsPart top = titledPart(curves, nullptr);

@@ -117,8 +117,17 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(findBar_, &FindBar::closed, table_, [this] { table_->setFocus(); });
     connect(helpButton_, &QPushButton::clicked, this,
             [this] { requests::showHelp(QLatin1String(places_->helpPage())); });
-    connect(opening_, &FileOpening::wholeRead, shown_, &ShownRecords::prepare);
-    connect(opening_, &FileOpening::opened, this, &VLK_Widget_Tmi_Table::showContents);
+    connect(opening_, &FileOpening::wholeRead, this, [this](const auto& contents) {
+        if (!areTornBySharedLines(*contents))
+            shown_->prepare(contents);
+    });
+    connect(opening_, &FileOpening::opened, this, [this](const auto& contents) {
+        // Rows of what no file holds help nobody.
+        if (areTornBySharedLines(*contents))
+            opening_->start(path_, TelemetryReading::salvage);
+        else
+            showContents(contents);
+    });
     connect(this, &QDialog::finished, opening_, &FileOpening::stop);
     connect(opening_, &FileOpening::cancelled, this, [this] {
         if (shown_->isBeingRead())
@@ -189,6 +198,8 @@ void VLK_Widget_Tmi_Table::addKeys()
 
 void VLK_Widget_Tmi_Table::open(const QString& path)
 {
+    if (!growing_->mayGo(this, GrowingRecords::Going::others))
+        return;
     // A file may be large: two of them need not be in memory.
     open(std::make_shared<TelemetryContents>(), QFileInfo(path).fileName());
     path_ = path;
@@ -206,9 +217,12 @@ void VLK_Widget_Tmi_Table::read()
 void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name,
                                 Growth growth)
 {
+    const bool areSame = growth == Growth::live && contents == growsFrom_ && growing_->isGrowing();
+    if (!areSame && !growing_->mayGo(this, GrowingRecords::Going::others))
+        return;
     opening_->stop();
     filter_->setFocus();
-    if (growth == Growth::live && contents == growsFrom_ && growing_->isGrowing()) {
+    if (areSame) {
         // The zone may have been chosen anew.
         if (grown_->records.utcOffset() != contents->records.utcOffset()) {
             grown_->records.setUtcOffset(contents->records.utcOffset());
@@ -315,7 +329,7 @@ void VLK_Widget_Tmi_Table::closeEvent(QCloseEvent* event)
 // By Esc and by the cross.
 void VLK_Widget_Tmi_Table::reject()
 {
-    if (growing_->mayGo(this))
+    if (growing_->mayGo(this, GrowingRecords::Going::close))
         QDialog::reject();
 }
 
