@@ -1,5 +1,6 @@
 // The windows round a write, worked with keys: what there is to do first, review, progress and report.
 
+#include "answered_dialogs.h"
 #include "road_bench.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -211,6 +212,38 @@ private Q_SLOTS:
                      qPrintable(bench.text("label_Report")));
             Bench::press(next);
         }
+    }
+
+    // What is red when a file is saved is told, each field once, as a review would.
+    void tellsWhatIsRedInASavedFile()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        QWidget* dialog = Bench::find("lineEdit_Name")->window();
+        const auto type = [dialog](const char* name, const QString& keys) {
+            auto* field = dialog->findChild<QWidget*>(name);
+            QApplication::setActiveWindow(dialog);
+            field->setFocus();
+            QMetaObject::invokeMethod(field, "selectAll");
+            QTest::keyClicks(field, keys);
+            QTest::keyClick(field, Qt::Key_Tab);
+        };
+        const auto save = [&bench](const char* name) {
+            chooseNext(bench.root.filePath(name));
+            return messageDuring([] { Bench::press("pushButton_SaveToFile"); });
+        };
+        QCOMPARE(save("right.xml"), QString());
+        type("Transfer_lineEdit_GSM_Pin1", "124");
+        type("GPRSSrv_spinBox_Port_Main", "70000");
+        type("spinBox_RegTimer", "999999");
+        for (const char* name : {"red.xml", "again.xml"}) {
+            const QStringList lines = save(name).split('\n');
+            QVERIFY2(lines[0].contains(name), qPrintable(lines[0]));
+            for (const char* field : {"PIN: ", "Port: ", "999999"})
+                QVERIFY2(lines.filter(field).size() == 1, field);
+        }
+        type("Transfer_lineEdit_GSM_Pin1", "1234");
+        QVERIFY(!save("mended.xml").contains("PIN: "));
     }
 
     // The program was killed in the middle of a write: the next one says so, and goes on from there.

@@ -84,15 +84,26 @@ void SaveNotices::tellSavedInPart(const QString& path, const SavedPart& part)
 void SaveNotices::tellConfiguration(const QString& path)
 {
     QFile file(path);
-    const auto changes =
-        file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
-    const QString typed = typing_.take();
-    const auto sentence = [shown = QDir::toNativeSeparators(path), changes, typed] {
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    const QByteArray content = file.readAll();
+    const auto changes = isOpen ? session_.edited().changesIn(content) : std::nullopt;
+    // What a review before a write would show as errors.
+    QVector<SettingAdvice> advice = session_.comparer().advise(content).value_or(QVector<SettingAdvice>());
+    addRefused(&advice, typing_.lines());
+    typing_.forget();
+    QStringList errors;
+    for (const SettingAdvice& told : qAsConst(advice)) {
+        if (told.isError)
+            errors << told.line();
+    }
+    const auto sentence = [shown = QDir::toNativeSeparators(path), changes, errors] {
         const QString saved =
             changes ? text("wb_saved_changes").arg(shown, number(*changes)) : text("wb_saved").arg(shown);
-        return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
+        return errors.isEmpty() ? saved
+                                : QStringList{saved, text("wb_typed"), errors.join(QLatin1Char('\n'))}.join(
+                                      QLatin1Char('\n'));
     };
-    if (typed.isEmpty())
+    if (errors.isEmpty())
         Q_EMIT saved(sentence, watch_.window());
     else
         warn(sentence);
