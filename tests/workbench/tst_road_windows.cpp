@@ -242,6 +242,8 @@ private Q_SLOTS:
             for (const char* field : {"PIN: ", "Port: ", "999999"})
                 QVERIFY2(lines.filter(field).size() == 1, field);
         }
+        type("Transfer_lineEdit_GSM_Pin1", "12x34");
+        QVERIFY(save("left-out.xml").contains("PIN: This character"));
         type("Transfer_lineEdit_GSM_Pin1", "1234");
         QVERIFY(!save("mended.xml").contains("PIN: "));
     }
