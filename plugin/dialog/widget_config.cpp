@@ -113,9 +113,12 @@ void VLK_Widget_Config::addDocuments()
     });
     connect(documents_, &vlk::DocumentMenu::presetToSave, this, [this] {
         // What is closed was compared with the defaults or a file for another purpose.
-        if (!area_->differences()->isVisible())
+        const bool isClosed = !area_->differences()->isVisible();
+        if (isClosed)
             review_.compareWith(vlk::ConfigurationReview::Against::file);
         area_->show(vlk::ReviewBar::Differences);
+        if (isClosed)
+            area_->differences()->chooseAll(true);
         area_->differences()->saveAsPreset();
     });
     connect(documents_, &vlk::DocumentMenu::reportWanted, this, &VLK_Widget_Config::showReport);
