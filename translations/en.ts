@@ -1797,9 +1797,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
     <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
     <message id="rev_380"><translation>Saved: %1. Settings: %2 of %3</translation></message>
-    <message id="rev_381"><translation>As a whole: %1</translation></message>
-    <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
-    <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
+    <message id="rev_382"><translation>&quot;%1&quot; as a whole, %2 of %3 on: all others go off where it is applied.</translation></message>
+    <message id="rev_383"><translation>&quot;%1&quot; as a whole, %2 of %3 set.</translation></message>
     <message id="rev_430"><translation>Filled in on loading, was not there: %1</translation></message>
     <message id="rev_431"><translation>Without any edit, loading filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
     <message id="rev_432"><translation>Behind the plus: what loading filled in, changed or dropped. Nobody edited it.</translation></message>

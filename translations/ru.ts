@@ -1797,9 +1797,8 @@
     <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
     <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
     <message id="rev_380"><translation>Сохранено: %1. Параметров: %2 из %3</translation></message>
-    <message id="rev_381"><translation>Целиком: %1</translation></message>
-    <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
-    <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
+    <message id="rev_382"><translation>«%1» целиком, включено %2 из %3: остальное выключится там, где шаблон применят.</translation></message>
+    <message id="rev_383"><translation>«%1» целиком, задано %2 из %3.</translation></message>
     <message id="rev_430"><translation>Дополнено при загрузке, этого не было: %1</translation></message>
     <message id="rev_431"><translation>Без правок загрузка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
     <message id="rev_432"><translation>После плюса: что загрузка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
