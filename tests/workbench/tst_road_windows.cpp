@@ -214,15 +214,38 @@ private Q_SLOTS:
         }
     }
 
+    // With the number on the button of the window that saved it, in either window.
+    void tellsWhatASavedFileChanges()
+    {
+        for (const bool isFull : {true, false}) {
+            Bench bench;
+            QTest::keyClick(bench.window.findChild<QComboBox*>("comboBox_Window"),
+                            isFull ? Qt::Key_Up : Qt::Key_Down);
+            bench.action("action_Read")->trigger();
+            auto* port = Bench::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+            QApplication::setActiveWindow(port->window());
+            port->setFocus();
+            port->selectAll();
+            QTest::keyClicks(port, "5555");
+            const QString path = bench.root.filePath("counted.xml");
+            chooseNext(path);
+            Bench::press(isFull ? "pushButton_SaveToFile" : "pushButton_Light_SaveToFile");
+            const QString number = Bench::find<QToolButton>("toolButton_Differences")->text();
+            QVERIFY2(number.startsWith(isFull ? "1" : "1+"), qPrintable(number));
+            const QString told = "Saved: " + path + ". Differences from what was opened: " + number;
+            QTRY_VERIFY2(bench.text("label_Status").contains(told), qPrintable(bench.text("label_Status")));
+        }
+    }
+
     // What is red when a file is saved is told, each field once, as a review would.
     void tellsWhatIsRedInASavedFile()
     {
         Bench bench;
         bench.action("action_Read")->trigger();
-        QWidget* dialog = Bench::find("lineEdit_Name")->window();
-        const auto type = [dialog](const char* name, const QString& keys) {
-            auto* field = dialog->findChild<QWidget*>(name);
-            QApplication::setActiveWindow(dialog);
+        const auto* full = Bench::find("lineEdit_Name")->window()->findChild<QWidget*>("page_Full");
+        const auto type = [full](const char* name, const QString& keys) {
+            auto* field = full->findChild<QWidget*>(name);
+            QApplication::setActiveWindow(full->window());
             field->setFocus();
             QMetaObject::invokeMethod(field, "selectAll");
             QTest::keyClicks(field, keys);

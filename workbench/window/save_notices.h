@@ -52,6 +52,11 @@ private:
     QWidget* mainWindow_;
     SaveWatch watch_;
     TypingNotices typing_;
+    struct
+    {
+        QString category;
+        QString message;
+    } toldChanges_; // of the configuration that is being saved
 };
 
 } // namespace workbench
