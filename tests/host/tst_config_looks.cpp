@@ -347,7 +347,7 @@ private Q_SLOTS:
             QTableView table;
             QLineEdit wrong;
             QTabBar tabs;
-            tabs.addTab(QStringLiteral("Start"));
+            tabs.addTab(QStringLiteral("."));
             const QPalette& palette = QApplication::palette();
             QVERIFY(contrast(palette.highlight().color(), palette.base().color()) > 3);
             QVERIFY(contrast(palette.highlight().color(), palette.highlightedText().color()) > 3);
