@@ -1807,9 +1807,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_370"><translation>Made anew by quick setup when it is written: %1</translation></message>
     <message id="rev_371"><translation>The file says nothing of these sensors, and quick setup takes them for used: %1. Uncheck those that are not there.</translation></message>
     <message id="rev_380"><translation>Saved: %1. Settings: %2 of %3</translation></message>
-    <message id="rev_381"><translation>As a whole: %1</translation></message>
-    <message id="rev_382"><translation>&quot;%1&quot;, %2 of %3 on</translation></message>
-    <message id="rev_383"><translation>&quot;%1&quot;, %2 of %3 set</translation></message>
+    <message id="rev_382"><translation>&quot;%1&quot; as a whole, %2 of %3 on: all others go off where it is applied.</translation></message>
+    <message id="rev_383"><translation>&quot;%1&quot; as a whole, %2 of %3 set.</translation></message>
     <message id="rev_430"><translation>Filled in on loading, was not there: %1</translation></message>
     <message id="rev_431"><translation>Without any edit, loading filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
     <message id="rev_432"><translation>Behind the plus: what loading filled in, changed or dropped. Nobody edited it.</translation></message>
@@ -2915,9 +2914,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
-    <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
+    <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>The tracker was unplugged meanwhile, so its telemetry window was closed.</translation></message>
+    <message id="wb_saved_since_written"><translation>Saved: %1. Differences from what was written: %2</translation></message>
     <message id="wb_search_bad"><translation>Message %1 from the tracker cannot be right, so how far the search has come is not known. Cancel it, check the cable and search again.</translation></message>
     <message id="wb_settings_damaged"><translation>The settings were damaged and have been put aside; the default values hold.</translation></message>
     <message id="wb_silence_again"><translation>No answer from the tracker since %1. It is asked again every %2&#160;s; check the cable.</translation></message>

@@ -1807,9 +1807,8 @@
     <message id="rev_370"><translation>Быстрая настройка при записи сделает заново: %1</translation></message>
     <message id="rev_371"><translation>Об этих датчиках в файле ничего нет, и быстрая настройка считает их подключёнными: %1. Снимите отметки у тех, которых нет.</translation></message>
     <message id="rev_380"><translation>Сохранено: %1. Параметров: %2 из %3</translation></message>
-    <message id="rev_381"><translation>Целиком: %1</translation></message>
-    <message id="rev_382"><translation>«%1», включено %2 из %3</translation></message>
-    <message id="rev_383"><translation>«%1», задано %2 из %3</translation></message>
+    <message id="rev_382"><translation>«%1» целиком, включено %2 из %3: остальное выключится там, где шаблон применят.</translation></message>
+    <message id="rev_383"><translation>«%1» целиком, задано %2 из %3.</translation></message>
     <message id="rev_430"><translation>Дополнено при загрузке, этого не было: %1</translation></message>
     <message id="rev_431"><translation>Без правок загрузка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
     <message id="rev_432"><translation>После плюса: что загрузка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
@@ -2915,9 +2914,10 @@
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
-    <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
+    <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>
     <message id="wb_saved_part_unplugged"><translation>Трекер во время сохранения отключили, поэтому окно его телеметрии закрыто.</translation></message>
+    <message id="wb_saved_since_written"><translation>Сохранено: %1. Отличий от записанного: %2</translation></message>
     <message id="wb_search_bad"><translation>Сообщение %1 от трекера неверно, поэтому неизвестно, как идёт поиск. Отмените его, проверьте кабель и начните поиск снова.</translation></message>
     <message id="wb_settings_damaged"><translation>Настройки программы были повреждены и отложены; действуют начальные значения.</translation></message>
     <message id="wb_silence_again"><translation>Ответа от трекера нет с %1. Запрос повторяется каждые %2&#160;с; проверьте кабель.</translation></message>

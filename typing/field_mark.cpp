@@ -21,7 +21,7 @@ constexpr int kMarkGap = 3; // between the shape and the caption
 constexpr int kRatio = 2;   // of icons, which look well on any screen then
 constexpr const char* kPropertyName = "fieldMark";
 
-// The frame round an invalid field.
+// The frame round an invalid field. It covers that of the style, and so tells too which field has the focus.
 class Outline : public QWidget
 {
 public:
@@ -43,6 +43,10 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(markColor(Mark::invalid, palette()), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
+        if (!parentWidget()->hasFocus())
+            return;
+        painter.setPen(markColor(Mark::changed, palette()));
+        painter.drawRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5));
     }
 };
 
@@ -91,6 +95,11 @@ public:
         case QEvent::Hide:
         case QEvent::ZOrderChange:
             place();
+            break;
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            if (outline_)
+                outline_->update();
             break;
         case QEvent::ToolTipChange:
             if (watched == field_ && !isTelling_) {

@@ -45,6 +45,7 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
         // A text that was set is no one's typing. What was left out stays told while more is typed beside it.
         if (!line_->isModified())
             before_ = line_->text();
+        wasTyped_ = line_->isModified();
         if (!line_->isModified() || line_->text().size() < shown_.size() || beginsAnew_)
             tell({});
         beginsAnew_ = false;
@@ -122,11 +123,14 @@ void TextEntry::rejected()
     beginsAnew_ = false;
 }
 
-// Of a key that the line did not take nothing is left in it.
+// The text that stands there is taken; but where a key was left out of it, it is not the one that was meant.
 void TextEntry::leave()
 {
-    if (isKeyOnly_ && complaint().isEmpty())
+    const bool isMissed = !isKeyOnly_ || (wasTyped_ && !isBlank());
+    if (!isMissed && complaint().isEmpty())
         tell({});
+    else if (isMarked_)
+        markField(line_, MarkReason::typing, Mark::advice, news_);
 }
 
 bool TextEntry::isBlank() const
@@ -180,6 +184,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
             reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
             before_ = line_->text();
             beginsAnew_ = true;
+            wasTyped_ = wasTyped_ && isMarked_;
         }
         break;
     case QEvent::FocusOut:

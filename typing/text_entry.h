@@ -1,9 +1,10 @@
 #pragma once
 
-// Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field, a key that
-// did not fit as long as the field has the keyboard or its text is doubtful; Esc gives back the text that
-// stood there when the field was entered and closes no window, and Enter presses no button. In an input mask
-// the caret stays where the next sign is missing unless more stands behind it.
+// Typing a text into a line. Signs that do not fit, or are more than fit, are told at the field, as an error
+// while it has the keyboard and as advice afterwards, until it is typed into again, given up or gets another
+// text. A key beside which nothing was typed, or nothing stands, is forgotten when the field is left. Esc
+// gives back the text that stood there when the field was entered and closes no window, and Enter presses no
+// button. In an input mask the caret stays where the next sign is missing unless more stands behind it.
 
 #include <QObject>
 #include <QString>
@@ -59,6 +60,7 @@ private:
     QString news_;
     bool isMarked_ = false;   // for what was typed
     bool isKeyOnly_ = false;  // for no more than keys that did not fit
+    bool wasTyped_ = false;   // on this visit, or on the one that the mark is of
     bool isDoubted_ = false;  // for what stands there
     bool beginsAnew_ = false; // nothing was left out of what is typed next
     bool isPasted_ = false;   // by the key being pressed

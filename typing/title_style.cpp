@@ -47,6 +47,13 @@ void TitleStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     painter->restore();
 }
 
+void TitleStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    outlineFocus(element, *option, *painter);
+}
+
 void TitleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {
@@ -143,6 +150,14 @@ void outlineFocus(QStyle::ComplexControl control, const QStyleOption& option, QP
 {
     if (control == QStyle::CC_Slider)
         outline(option, kOutline / 2, painter);
+}
+
+// Of the tab that has the focus a style draws its own one, and asks for none.
+void outlineFocus(QStyle::ControlElement element, const QStyleOption& option, QPainter& painter)
+{
+    constexpr qreal kTabFrame = 2;
+    if (element == QStyle::CE_TabBarTabLabel)
+        outline(option, kTabFrame + kOutline / 2, painter);
 }
 
 int TitleStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

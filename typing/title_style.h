@@ -20,6 +20,8 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -36,11 +38,12 @@ QSize withRoomBesideWords(QSize size, const QSize& contents, const QStyleOption*
 // To be called by a style behind its own drawing of a part: outlines a box or a radio button on a dark
 // window.
 void outlineOnDark(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter);
-// The same, of what has the focus by keys: a button, the words of a box, a page to read, a list, a slider.
-// The style's own outline is lost on dark windows.
+// The same, of what has the focus by keys: a button, the words of a box, a page to read, a list, a slider,
+// the present tab. The style's own outline is lost on dark windows.
 void outlineFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter,
                   const QWidget* widget);
 void outlineFocus(QStyle::ComplexControl control, const QStyleOption& option, QPainter& painter);
+void outlineFocus(QStyle::ControlElement element, const QStyleOption& option, QPainter& painter);
 
 // With the indent of what is in it, where it has a layout already.
 void dressGroup(QGroupBox* group);

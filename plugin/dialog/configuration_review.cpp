@@ -85,6 +85,8 @@ void ConfigurationReview::begin(CXmlSection* root)
     against_ = Against::file;
     otherName_ = {};
     fileName_.clear();
+    path_.clear();
+    Q_EMIT begun();
     Q_EMIT compared();
     history_.begin();
 }
@@ -163,6 +165,7 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
         }
     }
     fileName_ = QFileInfo(path).fileName();
+    path_ = path;
     compareWith(std::move(before), against, {});
     return true;
 }
@@ -170,6 +173,7 @@ bool ConfigurationReview::compareWith(Against against, const QString& path)
 void ConfigurationReview::compareWith(FileState before, const EditHistory::Words& name)
 {
     fileName_.clear();
+    path_.clear();
     compareWith(std::move(before), Against::otherFile, name);
 }
 

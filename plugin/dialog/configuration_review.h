@@ -53,6 +53,8 @@ public:
     QString otherName() const { return otherName_ ? otherName_() : QString(); }
     // The name of the other file or of the preset.
     const QString& fileName() const { return fileName_; }
+    // Tells comparisons apart, whatever they find.
+    QString comparison() const { return QString::number(int(against_)) + otherName() + path_; }
 
     const review::Differences& differences() const { return differences_; }
     // In the order of a save; with the quick window on show those of the sections first that it makes anew.
@@ -126,6 +128,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    // A configuration has been opened; before compared().
+    void begun();
     // Another comparison begins, or the same one anew; before changed().
     void compared();
 
@@ -169,6 +173,7 @@ private:
     std::vector<review::PresetProblem> problems_;
     EditHistory::Words otherName_;
     QString fileName_;
+    QString path_; // of that file
     bool wasQuick_ = false;
     review::Differences edited_;      // to the file as it came
     review::Differences differences_; // to what is chosen

@@ -49,7 +49,15 @@ bool isFilledIn(const review::Difference& difference)
 DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
     : QAbstractTableModel(parent), review_(review)
 {
-    connect(&review_, &ConfigurationReview::compared, this, [this] { unchosen_.clear(); });
+    connect(&review_, &ConfigurationReview::begun, this, [this] {
+        unchosen_.clear();
+        unchosenOfOthers_.clear();
+    });
+    connect(&review_, &ConfigurationReview::compared, this, [this] {
+        unchosenOfOthers_.insert(comparison_, unchosen_);
+        comparison_ = review_.comparison();
+        unchosen_ = unchosenOfOthers_.take(comparison_);
+    });
 }
 
 DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& difference) const

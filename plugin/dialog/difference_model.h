@@ -12,6 +12,7 @@
 #include "review/difference_text.h"
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QSet>
 
 namespace vlk {
@@ -88,7 +89,9 @@ private:
     std::vector<int> shown_; // of the lines
     int problems_ = 0;       // how many of them come first, of what cannot be applied
     QSet<QString> unchosen_; // paths
-    QSet<QString> open_;     // of heads
+    QString comparison_;     // that they are of
+    QHash<QString, QSet<QString>> unchosenOfOthers_;
+    QSet<QString> open_; // of heads
 };
 
 } // namespace vlk

@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFontMetrics>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -63,16 +64,25 @@ Wholes wholesOf(const review::FileState& from, const std::vector<int>& keys)
     return wholes;
 }
 
-// In two lines, for which the bar has room; the tool tip tells what becomes of the rest.
-Notice savedPresetNotice(const QString& path, int count, int all, const Wholes& wholes)
+// In two lines, for which the bar has room: where the second one is needed, the middle of the path gives way.
+// The tool tip tells the rest.
+Notice savedPresetNotice(const QWidget& panel, const QString& path, int count, int all, const Wholes& wholes)
 {
+    constexpr int kBesideText = 80; // of the bar: its icon, its cross and the margins
     const QLocale locale;
-    Notice notice{
-        Mark::right,
-        word("rev_380").arg(QDir::toNativeSeparators(path), locale.toString(count), locale.toString(all)),
-        {}};
-    QStringList names;
+    const auto saved = [&](const QString& name) {
+        return word("rev_380").arg(name, locale.toString(count), locale.toString(all));
+    };
+    const QString name = QDir::toNativeSeparators(path);
+    if (wholes.empty())
+        return {Mark::right, saved(name), {}};
+    const QFontMetrics metrics = panel.fontMetrics();
+    const int room = panel.width() - kBesideText - metrics.horizontalAdvance(saved({}));
+    const QString shown = metrics.elidedText(name, Qt::ElideMiddle, room);
+    QStringList lines;
     QStringList told;
+    if (shown != name)
+        told << name;
     for (const auto& [key, parts] : wholes) {
         const review::FileKey& place = review::FileKeys::all()[key];
         const TableLayout& layout = review::FileKeys::all().layout(place.table);
@@ -81,14 +91,11 @@ Notice savedPresetNotice(const QString& path, int count, int all, const Wholes& 
         const auto tell = [&, &parts = parts](const char* text) {
             return word(text).arg(caption).arg(parts.count).arg(parts.all);
         };
-        names << tell(goesOff ? "rev_382" : "rev_383");
+        lines << tell(goesOff ? "rev_382" : "rev_383");
         told << (goesOff ? tell("rev_252") : tell("rev_342").arg(parts.rest));
     }
-    if (!names.isEmpty()) {
-        notice.mark = Mark::advice;
-        notice.text += QLatin1Char('\n') + word("rev_381").arg(names.join(QStringLiteral("; ")));
-        notice.more = told.join(QLatin1Char('\n'));
-    }
+    Notice notice{Mark::advice, saved(shown) + QLatin1Char('\n') + lines.join(QLatin1Char(' ')), {}};
+    notice.more = told.join(QLatin1Char('\n'));
     return notice;
 }
 
@@ -121,8 +128,8 @@ std::function<Notice()> savePreset(QWidget* parent, const review::FileState& fro
     }
     const int count = static_cast<int>(keys.size()) -
                       (personal == review::Personal::leftOut ? static_cast<int>(personals) : 0);
-    return [path, count, all, wholes = wholesOf(from, keys)] {
-        return savedPresetNotice(path, count, all, wholes);
+    return [parent, path, count, all, wholes = wholesOf(from, keys)] {
+        return savedPresetNotice(*parent, path, count, all, wholes);
     };
 }
 

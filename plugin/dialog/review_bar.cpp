@@ -340,8 +340,11 @@ void ReviewBar::changeEvent(QEvent* event)
 
 bool ReviewBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == find_ && event->type() == QEvent::FocusOut && !list_->underMouse())
-        closeHits();
+    if (watched == find_ && event->type() == QEvent::FocusOut) {
+        const bool isPress = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+        if (!isPress || !list_->underMouse())
+            closeHits();
+    }
     if (watched == find_ && event->type() == QEvent::ShortcutOverride) {
         // What has been typed is taken back first.
         const auto* key = static_cast<QKeyEvent*>(event);

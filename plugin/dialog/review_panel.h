@@ -30,6 +30,8 @@ public:
     // Asks for a preset and compares with it. False when none was chosen that could be read.
     bool choosePreset();
     void saveAsPreset();
+    // Marks all lines, or none.
+    void chooseAll(bool isChosen);
 
 Q_SIGNALS:
     // What became of a file or a copy; asked for again when the language changes.
@@ -45,7 +47,6 @@ protected:
 private:
     void showState();
     bool chooseAgainst(int index);
-    void chooseAll(bool isChosen);
     void takeOver();
     void copy();
     void saveCsv();

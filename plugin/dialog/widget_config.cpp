@@ -29,8 +29,13 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QPushButton>
 #include <QTimer>
+
+namespace {
+Q_LOGGING_CATEGORY(lcSaved, "vlk.configuration.saved")
+}
 
 VLK_Widget_Config::VLK_Widget_Config(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
@@ -114,9 +119,12 @@ void VLK_Widget_Config::addDocuments()
     });
     connect(documents_, &vlk::DocumentMenu::presetToSave, this, [this] {
         // What is closed was compared with the defaults or a file for another purpose.
-        if (!area_->differences()->isVisible())
+        const bool isClosed = !area_->differences()->isVisible();
+        if (isClosed)
             review_.compareWith(vlk::ConfigurationReview::Against::file);
         area_->show(vlk::ReviewBar::Differences);
+        if (isClosed)
+            area_->differences()->chooseAll(true);
         area_->differences()->saveAsPreset();
     });
     connect(documents_, &vlk::DocumentMenu::reportWanted, this, &VLK_Widget_Config::showReport);
@@ -317,6 +325,20 @@ void VLK_Widget_Config::fileSaved(const QString& path)
     vlk::TextEntry::settleIn(this);
     history_.keepState();
     keeper_.saved(path);
+    tellSaved(path);
+}
+
+// With the number on the bar's button; nothing was opened of a new one.
+void VLK_Widget_Config::tellSaved(const QString& path)
+{
+    if (file_.isEmpty() && !isOfTracker_ && !review_.isWritten())
+        return;
+    history_.settle();
+    QString changes = QString::number(review_.edited());
+    if (const int unedited = review_.unedited(); unedited > 0)
+        changes += QStringLiteral("+%1").arg(unedited);
+    qCWarning(lcSaved).noquote().nospace()
+        << path << ": " << changes << (review_.isWritten() ? " since written" : " since opened");
 }
 
 bool VLK_Widget_Config::saveQuickToFile(const QString& path)

@@ -82,6 +82,7 @@ private:
     void addKeeper();
     void write(const QString& path);
     void fileSaved(const QString& path);
+    void tellSaved(const QString& path);
     // That F6 goes to.
     std::vector<QWidgetList> areas() const;
     void addDocuments();

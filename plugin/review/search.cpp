@@ -199,14 +199,20 @@ int Search::score(const Entry& entry, const Query& query) const
     constexpr int keyWeight = 10;
     constexpr int perQuality = 10;
     constexpr int wholeName = 100;
+    constexpr int wholeWords = 1000; // behind which those come that have the letters inside of others
     const Values& values = *tables_[entry.hit.table];
     const bool isSwitch = review::isSwitch(values.setting(entry.hit.row));
     int sum = 0;
+    bool isBegun = true;
     for (const Word& word : query.words) {
         int best = 0;
+        Quality most = nowhere;
         const auto take = [&](const QString& text, int weight, Quality least = inside) {
-            if (const Quality found = quality(text, word.text, word.stem); found >= least)
-                best = std::max(best, weight + found * perQuality);
+            const Quality found = quality(text, word.text, word.stem);
+            if (found < least)
+                return;
+            best = std::max(best, weight + found * perQuality);
+            most = std::max(most, found);
         };
         for (int language = 0; language < languages(); ++language) {
             const Words& words = entry.words[language];
@@ -220,13 +226,14 @@ int Search::score(const Entry& entry, const Query& query) const
         if (best == 0)
             return 0;
         sum += best;
+        isBegun = isBegun && most > inside;
     }
     const bool isOneWord = query.words.size() == 1; // a caption of one word has counted as a whole
     const bool isCalledSo =
         std::ranges::any_of(std::span(entry.words).first(languages()), [&](const Words& words) {
             return (!isOneWord && words[caption] == query.text) || isOneOf(words[names], query.text);
         });
-    sum += isCalledSo ? wholeName : 0;
+    sum += (isCalledSo ? wholeName : 0) + (isBegun ? wholeWords : 0);
     // What the file does not have as things stand comes behind its like.
     constexpr int absence = 60;
     const bool isThere = !values.row(entry.hit.row).base->stored || values.isWritten(entry.hit.row);

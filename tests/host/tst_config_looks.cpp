@@ -5,6 +5,7 @@
 #include "support/distances.h"
 #include "support/letters.h"
 #include "support/scripted_host.h"
+#include "typing/field_mark.h"
 #include "window/appearance.h"
 #include "window/house_style.h"
 #include "window/languages.h"
@@ -356,14 +357,22 @@ private Q_SLOTS:
             QListWidget lines;
             lines.addItem(QStringLiteral("IN1"));
             lines.setCurrentRow(0);
+            QListWidget empty;
+            QTreeWidget none;
+            QTableView table;
+            QLineEdit wrong;
+            QTabBar tabs;
+            tabs.addTab(QStringLiteral("."));
             const QPalette& palette = QApplication::palette();
             QVERIFY(contrast(palette.highlight().color(), palette.base().color()) > 3);
             QVERIFY(contrast(palette.highlight().color(), palette.highlightedText().color()) > 3);
-            const QWidgetList widgets{&button, &box, &tool, &list, &page, &slider, &lines};
+            const QWidgetList widgets{&button, &box,   &tool, &list,  &page,  &slider,
+                                      &lines,  &empty, &none, &table, &wrong, &tabs};
             for (QWidget* widget : QWidgetList{&elsewhere} + widgets)
                 layout.addWidget(widget);
             window.show();
             QApplication::setActiveWindow(&window);
+            vlk::markField(&wrong, vlk::MarkReason::typing, vlk::Mark::invalid, QStringLiteral("no"));
             elsewhere.setFocus();
             for (QWidget* widget : widgets) {
                 const QImage without = widget->grab().toImage();

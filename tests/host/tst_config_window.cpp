@@ -427,8 +427,8 @@ private Q_SLOTS:
         QCOMPARE(after.filter(": typed_port"), port);
     }
 
-    // Of a key no longer than the field has the keyboard, of all else no longer than the configuration is
-    // open.
+    // Of a key alone no longer than the field has the keyboard, of all else no longer than the configuration
+    // is open.
     void marksOfWhatWasNotTaken()
     {
         const QString path = configuration(QStringLiteral("One"));
@@ -437,8 +437,12 @@ private Q_SLOTS:
         QVERIFY(pin->text().isEmpty());
         QApplication::setActiveWindow(pin->window());
         QApplication::clipboard()->setText("PIN");
-        for (const auto& [keys, isMarked] :
-             {std::pair("x", true), {"<Tab>", false}, {"<Paste>", true}, {"<Tab>", true}}) {
+        for (const auto& [keys, isMarked] : {std::pair("x", true),
+                                             {"<Tab>", false},
+                                             {"1x2", true},
+                                             {"<Tab>", true},
+                                             {"<All><Back><Paste>", true},
+                                             {"<Tab>", true}}) {
             type(pin, keys);
             QCOMPARE(pin->accessibleDescription().contains("typed_sign"), isMarked);
         }

@@ -53,6 +53,13 @@ private Q_SLOTS:
         QTest::keyClick(dialog_.get(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClick(find, Qt::Key_Escape);
         QCOMPARE(find->text(), QString());
+        // The list does not stay over the page, wherever the mouse was left.
+        QTest::keyClicks(find, "speed");
+        QVERIFY(list->isVisible());
+        QTest::mouseMove(list->viewport());
+        QTRY_VERIFY(list->underMouse());
+        QTest::keyClick(find, Qt::Key_Tab);
+        QVERIFY(!find->hasFocus() && !list->isVisible());
     }
 
     // The keys of the window work in the field, too.

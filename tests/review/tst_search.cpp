@@ -198,6 +198,18 @@ private Q_SLOTS:
         }
     }
 
+    // However much else speaks for it.
+    void lettersInsideOfWordsComeLast()
+    {
+        const vlk::TextsFrom texts(texts_[1]);
+        const std::vector<Hit> hits = Search(tables(), texts_[0]).find("IN1");
+        const auto isLine = [this](const Hit& hit) { return told(hit).startsWith("SENSORS/IN1/"); };
+        const auto isLogin = [this](const Hit& hit) { return told(hit) == "TRANS/AUTOAPN/login1"; };
+        const auto login = std::ranges::find_if(hits, isLogin);
+        QVERIFY(login != hits.end() && std::ranges::count_if(hits, isLine) > 10);
+        QVERIFY(std::none_of(login, hits.end(), isLine));
+    }
+
     // Lists of settings show their words alone. Of the uses of a line or a sensor each has its own ones.
     void noTwoAreCalledTheSame()
     {

@@ -279,7 +279,9 @@ private Q_SLOTS:
             .row("fits", "^\\S{0,6}$", "abc<Tab>", "oldabc", "")
             .row("too long", "^\\S{0,6}$", "abcd<Tab>", "oldabc", "typed_long 6")
             .row("blank", "^\\S{0,6}$", "a b", "oldab", "typed_sign")
-            .row("blank, and left", "^\\S{0,6}$", "a b<Tab>", "oldab", "")
+            .row("blank, and left", "^\\S{0,6}$", "a b<Tab>", "oldab", "typed_sign")
+            .row("blank alone, and left", "^\\S{0,6}$", " <Tab>", "old", "")
+            .row("blank into the empty line, and left", "^\\S{0,6}$", "<All><Back> <Tab>", "", "")
             .row("blank in too long a text, and left", "^\\S{0,6}$", "ab cd<Tab>", "oldabc", "typed_long 6")
             .row("blank, corrected", "^\\S{0,6}$", "a b<Back>c<Tab>", "oldac", "")
             .row("blank into the empty line, then a good text", "^\\S{0,6}$", "<All><Back> abc<Tab>", "abc",

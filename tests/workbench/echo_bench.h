@@ -2,6 +2,7 @@
 
 // The workbench over a plug-in that writes back whatever configuration it is given.
 
+#include "answered_dialogs.h"
 #include "opened_workbench.h"
 
 #include <QtTest>
@@ -24,22 +25,3 @@ struct Bench : OpenedWorkbench
         return OpenedWorkbench::start(VLK_ECHO_PLUGIN);
     }
 };
-
-// Closes the message box that is up after an act, or comes up within it, and gives its text.
-inline QString messageDuring(const std::function<void()>& act)
-{
-    QString text;
-    const auto close = [&text] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            text = box->text();
-            box->close();
-        }
-    };
-    QTimer inside;
-    QObject::connect(&inside, &QTimer::timeout, close);
-    inside.start(0);
-    act();
-    QCoreApplication::processEvents();
-    close();
-    return text;
-}

@@ -12,26 +12,6 @@ namespace {
 Q_LOGGING_CATEGORY(typing, "vlk.settings.typing")
 Q_LOGGING_CATEGORY(retyped, "vlk.settings.retyped")
 
-// Takes the next file dialog that comes up, notes where it begins and gives it the name; an empty one cancels
-// it.
-void chooseNext(const QString& path, QString* begins = nullptr)
-{
-    auto* timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, path, begins] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog)
-            return;
-        timer->deleteLater();
-        if (begins)
-            *begins = dialog->directory().dirName();
-        if (path.isEmpty())
-            return dialog->reject();
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    timer->start(5);
-}
-
 const QByteArray kTelemetry = "<TMI model=\"R-7106\" >\n<Page type=\"176\" ver=\"30\" format=\"1\">\n"
                               "<NumPage>1</NumPage>\n</Page>\n</TMI>\n";
 

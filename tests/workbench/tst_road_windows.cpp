@@ -1,5 +1,6 @@
 // The windows round a write, worked with keys: what there is to do first, review, progress and report.
 
+#include "answered_dialogs.h"
 #include "road_bench.h"
 #include "support/files.h"
 #include "support/full_disk.h"
@@ -222,6 +223,63 @@ private Q_SLOTS:
                      qPrintable(bench.text("label_Report")));
             Bench::press(next);
         }
+    }
+
+    // With the number on the button of the window that saved it, in either window.
+    void tellsWhatASavedFileChanges()
+    {
+        for (const bool isFull : {true, false}) {
+            Bench bench;
+            QTest::keyClick(bench.window.findChild<QComboBox*>("comboBox_Window"),
+                            isFull ? Qt::Key_Up : Qt::Key_Down);
+            bench.action("action_Read")->trigger();
+            auto* port = Bench::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
+            QApplication::setActiveWindow(port->window());
+            port->setFocus();
+            port->selectAll();
+            QTest::keyClicks(port, "5555");
+            const QString path = bench.root.filePath("counted.xml");
+            chooseNext(path);
+            Bench::press(isFull ? "pushButton_SaveToFile" : "pushButton_Light_SaveToFile");
+            const QString number = Bench::find<QToolButton>("toolButton_Differences")->text();
+            QVERIFY2(number.startsWith(isFull ? "1" : "1+"), qPrintable(number));
+            const QString told = "Saved: " + path + ". Differences from what was opened: " + number;
+            QTRY_VERIFY2(bench.text("label_Status").contains(told), qPrintable(bench.text("label_Status")));
+        }
+    }
+
+    // What is red when a file is saved is told, each field once, as a review would.
+    void tellsWhatIsRedInASavedFile()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        const auto* full = Bench::find("lineEdit_Name")->window()->findChild<QWidget*>("page_Full");
+        const auto type = [full](const char* name, const QString& keys) {
+            auto* field = full->findChild<QWidget*>(name);
+            QApplication::setActiveWindow(full->window());
+            field->setFocus();
+            QMetaObject::invokeMethod(field, "selectAll");
+            QTest::keyClicks(field, keys);
+            QTest::keyClick(field, Qt::Key_Tab);
+        };
+        const auto save = [&bench](const char* name) {
+            chooseNext(bench.root.filePath(name));
+            return messageDuring([] { Bench::press("pushButton_SaveToFile"); });
+        };
+        QCOMPARE(save("right.xml"), QString());
+        type("Transfer_lineEdit_GSM_Pin1", "124");
+        type("GPRSSrv_spinBox_Port_Main", "70000");
+        type("spinBox_RegTimer", "999999");
+        for (const char* name : {"red.xml", "again.xml"}) {
+            const QStringList lines = save(name).split('\n');
+            QVERIFY2(lines[0].contains(name), qPrintable(lines[0]));
+            for (const char* field : {"PIN: ", "Port: ", "999999"})
+                QVERIFY2(lines.filter(field).size() == 1, field);
+        }
+        type("Transfer_lineEdit_GSM_Pin1", "12x34");
+        QVERIFY(save("left-out.xml").contains("PIN: This character"));
+        type("Transfer_lineEdit_GSM_Pin1", "1234");
+        QVERIFY(!save("mended.xml").contains("PIN: "));
     }
 
     // The program was killed in the middle of a write: the next one says so, and goes on from there.

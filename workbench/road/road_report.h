@@ -3,6 +3,7 @@
 // What goes onto the write road, what is looked at before a write, and what became of it.
 
 #include "check/configuration_check.h"
+#include "road/setting_advice.h"
 #include "road/setting_change.h"
 #include "road/tracker_port.h"
 

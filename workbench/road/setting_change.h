@@ -35,17 +35,4 @@ using SettingChanges = QVector<SettingChange>;
 using Compare =
     std::function<std::optional<SettingChanges>(const QByteArray& before, const QByteArray& after)>;
 
-// What is to be said of a configuration beside its changes.
-struct SettingAdvice
-{
-    bool isError = false;
-    QString page;
-    QString group;
-    QString caption;
-    QString text;
-};
-
-// None when it cannot be looked at.
-using Advise = std::function<std::optional<QVector<SettingAdvice>>(const QByteArray& document)>;
-
 } // namespace workbench

@@ -228,20 +228,7 @@ void WriteRoad::presentCame(const QByteArray& document)
         review_.isUnchecked = !advice;
         review_.advice = advice.value_or(QVector<SettingAdvice>());
     }
-    // Of one field one sentence: an error of what it holds now says more than what was refused.
-    const auto isToldBy = [](const QString& line, const SettingAdvice& advice) {
-        QStringList place{advice.group, advice.caption};
-        place.removeAll(QString());
-        return advice.isError && !place.isEmpty() &&
-               line.startsWith(place.join(QStringLiteral(", ")) + QStringLiteral(": "));
-    };
-    for (const QString& line : review_.request.typed) {
-        if (std::ranges::none_of(review_.advice,
-                                 [&](const SettingAdvice& advice) { return isToldBy(line, advice); }))
-            review_.advice.append({.isError = true, .page = {}, .group = {}, .caption = {}, .text = line});
-    }
-    std::stable_partition(review_.advice.begin(), review_.advice.end(),
-                          [](const SettingAdvice& advice) { return advice.isError; });
+    addRefused(&review_.advice, review_.request.typed);
     review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);

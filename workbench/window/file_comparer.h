@@ -4,6 +4,7 @@
 // into another. One that cannot compare leaves the keys as they stand in the files, one that cannot bring
 // settings the document as it is.
 
+#include "road/setting_advice.h"
 #include "road/setting_change.h"
 
 #include <QTemporaryDir>

@@ -47,6 +47,13 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
     }
 }
 
+void HouseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    outlineFocus(element, *option, *painter);
+}
+
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const
 {

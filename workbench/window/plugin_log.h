@@ -18,6 +18,7 @@ class PluginLog : public QObject
 public:
     enum class Topic {
         SaveFailed,  // "PATH: REASON"
+        Saved,       // "PATH: N since opened", a configuration and what has changed in it
         SavedInPart, // "PATH: N of M records, until TIME"
         Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
         Retyped,     // "FIELD", of which that holds no longer

@@ -2,6 +2,7 @@
 
 #include "check/plugin_names.h"
 #include "typing/empty_note.h"
+#include "typing/title_style.h"
 #include "window/short_file_name.h"
 #include "window/stored_file.h"
 
@@ -10,6 +11,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
+#include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
@@ -20,7 +23,7 @@ namespace {
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kWindowRole = Qt::UserRole + 1;
 
-// Takes what room there is, and asks for three lines.
+// Takes what room there is, and asks for three lines. Without a frame it outlines the focus itself.
 class ShortList : public QListWidget
 {
 public:
@@ -31,6 +34,16 @@ public:
         return {QListWidget::minimumSizeHint().width(), fontMetrics().height() * 3};
     }
     QSize sizeHint() const override { return minimumSizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QListWidget::paintEvent(event);
+        QPainter painter(viewport());
+        QStyleOption option;
+        option.initFrom(this);
+        vlk::outlineFocus(QStyle::PE_Frame, option, painter, this);
+    }
 };
 
 class NameDelegate : public QStyledItemDelegate

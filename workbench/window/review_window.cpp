@@ -232,13 +232,8 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
     list->setWordWrap(true);
     list->setIconSize({kMarkSize, kMarkSize});
     for (const SettingAdvice& advice : review_.advice) {
-        QStringList place{advice.page, advice.group, advice.caption};
-        place.removeAll(QString());
         const Mark mark = advice.isError ? Mark::invalid : Mark::advice;
-        new QListWidgetItem(QIcon(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF())),
-                            place.isEmpty()
-                                ? advice.text
-                                : place.join(QLatin1String(", ")) + QLatin1String(": ") + advice.text,
+        new QListWidgetItem(QIcon(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF())), advice.line(),
                             list);
     }
     list->hide();

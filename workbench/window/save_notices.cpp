@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace workbench {
 
@@ -50,6 +51,11 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
+    connect(&log, &PluginLog::warned, this,
+            [this](PluginLog::Topic topic, const QString& category, const QString& message) {
+                if (topic == PluginLog::Topic::Saved)
+                    toldChanges_ = {category, message};
+            });
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == static_cast<quint32>(vlk::Message::OpenConfiguration))
             typing_.forget();
@@ -84,15 +90,26 @@ void SaveNotices::tellSavedInPart(const QString& path, const SavedPart& part)
 void SaveNotices::tellConfiguration(const QString& path)
 {
     QFile file(path);
-    const auto changes =
-        file.open(QIODevice::ReadOnly) ? session_.edited().changesIn(file.readAll()) : std::nullopt;
-    const QString typed = typing_.take();
-    const auto sentence = [shown = QDir::toNativeSeparators(path), changes, typed] {
-        const QString saved =
-            changes ? text("wb_saved_changes").arg(shown, number(*changes)) : text("wb_saved").arg(shown);
-        return typed.isEmpty() ? saved : saved + QLatin1Char('\n') + typed;
+    file.open(QIODevice::ReadOnly);
+    const QByteArray content = file.readAll();
+    // What a review before a write would show as errors.
+    QVector<SettingAdvice> advice = session_.comparer().advise(content).value_or(QVector<SettingAdvice>());
+    addRefused(&advice, typing_.lines());
+    typing_.forget();
+    QStringList errors;
+    for (const SettingAdvice& told : qAsConst(advice)) {
+        if (told.isError)
+            errors << told.line();
+    }
+    const auto sentence = [path, told = std::exchange(toldChanges_, {}), errors] {
+        QStringList lines{told.message.startsWith(path + QLatin1String(": "))
+                              ? PluginLog::words(told.category, told.message)
+                              : text("wb_saved").arg(QDir::toNativeSeparators(path))};
+        if (!errors.isEmpty())
+            lines << text("wb_typed") << errors;
+        return lines.join(QLatin1Char('\n'));
     };
-    if (typed.isEmpty())
+    if (errors.isEmpty())
         Q_EMIT saved(sentence, watch_.window());
     else
         warn(sentence);

@@ -3,7 +3,7 @@
 // Tells what became of the files that the plug-in saves: a saved one stands in the status line and among the
 // recent files, one that was not saved is told with its reason, one that holds a part of its period with how
 // much that is, one that holds damaged records with their number, and one that holds other numbers than were
-// typed with those.
+// typed, or errors, with those.
 
 #include "window/save_watch.h"
 #include "window/sentence.h"
@@ -52,6 +52,11 @@ private:
     QWidget* mainWindow_;
     SaveWatch watch_;
     TypingNotices typing_;
+    struct
+    {
+        QString category;
+        QString message;
+    } toldChanges_; // of the configuration that is being saved
 };
 
 } // namespace workbench

@@ -1,9 +1,6 @@
 #include "window/typing_notices.h"
 
-#include "window/languages.h"
-
 #include <algorithm>
-#include <utility>
 
 namespace workbench {
 
@@ -31,13 +28,6 @@ void TypingNotices::note(const QString& line)
 {
     forget(line.section(QStringLiteral(": "), 0, 0));
     lines_.append(line);
-}
-
-QString TypingNotices::take()
-{
-    if (lines_.isEmpty())
-        return {};
-    return text("wb_typed") + QLatin1Char('\n') + std::exchange(lines_, {}).join(QLatin1Char('\n'));
 }
 
 } // namespace workbench

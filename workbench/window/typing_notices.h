@@ -17,11 +17,9 @@ class TypingNotices : public QObject
 public:
     explicit TypingNotices(const PluginLog& log);
 
-    // A file is saved or written: what is to be told with it, one text for the user. Empty for most.
-    QString take();
-    // What take() would tell, a line a field.
+    // What is to be told with a file that is saved or written, a line a field. None for most.
     const QStringList& lines() const { return lines_; }
-    // Another configuration opens.
+    // Another configuration opens, or it has been told.
     void forget() { lines_.clear(); }
 
 private:

@@ -77,6 +77,12 @@ void TextAdapter::show(const QString& value)
         TextEntry::join(edit_)->giveUp();
 }
 
+// A line that is given its own text keeps what was typed into it before, which Ctrl+Z would bring back.
+void TextAdapter::forget()
+{
+    edit_->setText(edit_->text());
+}
+
 QString TextAdapter::held() const
 {
     return edit_->text();

@@ -15,6 +15,7 @@ public:
 
     void dress() override;
     void show(const QString& value) override;
+    void forget() override;
     QString held() const override;
     QStringList news() const override;
 
