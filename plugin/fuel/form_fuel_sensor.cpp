@@ -311,7 +311,7 @@ void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 {
-    vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
+    vlk::FuelRow row{vlk::typedNumber(ui_->lineEdit_Volume), vlk::typedNumber(ui_->lineEdit_Param)};
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     if (!reading_.isSteady())

@@ -62,6 +62,39 @@ private Q_SLOTS:
         QVERIFY(!map.contains(99));
     }
 
+    // With either decimal sign Escape leaves the field as it was entered, and a number that ends with one has
+    // none in the table.
+    void takesBackWhatWasTyped_data()
+    {
+        DataTable<QString, QString>({"typed", "row"})
+            .row("a point", "77.5", "77.5=0")
+            .row("a comma", "77,5", "77.5=0")
+            .row("a point at the end", "12.", "12=0")
+            .row("a comma at the end", "12,", "12=0");
+    }
+    void takesBackWhatWasTyped()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, row);
+        QApplication::setActiveWindow(window);
+        auto* volume = child<QLineEdit>("lineEdit_Volume");
+        volume->setFocus();
+        for (const char* left : {"", "3"}) {
+            volume->setText(left);
+            QTest::keyClicks(volume, typed);
+            QTest::keyClick(volume, Qt::Key_Escape);
+            QCOMPARE(volume->text(), QString(left));
+            QCOMPARE(isOn("pushButton_Add"), left[0] != '\0');
+        }
+        volume->setText({});
+        QTest::keyClicks(volume, typed);
+        QTest::keyClick(volume, Qt::Key_Return);
+        QCOMPARE(rows(), row);
+        editCell(0, 0, typed + '0', Qt::Key_Return);
+        editCell(0, 0, typed, Qt::Key_Return);
+        QCOMPARE(rows(), row);
+    }
+
     void editsCells()
     {
         dialog_->setData("title", {{10, 100}, {20, 200}, {30.5, 300}});
