@@ -2885,6 +2885,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_ended"><translation>The save was ended. No record was saved; save the period again when the tracker answers.</translation></message>
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
+    <message id="wb_740"><translation>XML holds whole litres: %1. Excel (CSV) keeps the fractions.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Settings that differ from what was read: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

@@ -2885,6 +2885,7 @@
     <message id="wb_save_ended"><translation>Сохранение прекращено. Ни одной записи не сохранено; сохраните период ещё раз, когда трекер будет отвечать.</translation></message>
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
+    <message id="wb_740"><translation>В XML только целые литры: %1. Дробные части сохранит Excel (CSV).</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от прочитанного: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>

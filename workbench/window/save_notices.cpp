@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace workbench {
 
@@ -50,6 +51,11 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
     connect(&watch_, &SaveWatch::saved, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::savedInPart, this, &SaveNotices::ended);
     connect(&watch_, &SaveWatch::failed, this, &SaveNotices::ended);
+    connect(&log, &PluginLog::warned, this,
+            [this](PluginLog::Topic topic, const QString& category, const QString& text) {
+                if (topic == PluginLog::Topic::SavedCut)
+                    cut_ = PluginLog::parts(category, text);
+            });
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == quint32(vlk::Message::OpenConfiguration))
             typing_.forget();
@@ -62,8 +68,16 @@ void SaveNotices::tellSaved(const QString& path)
     const StoredFile kind = storedFileKind(path);
     if (kind != StoredFile::Unknown && kind != StoredFile::Calibration)
         recent_.add(path, TelemetryWindow::Browser);
+    const QStringList cut = std::exchange(cut_, {});
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
+    } else if (cut.value(0) == path) {
+        Q_EMIT savedCut(
+            [shown, volumes = cut.value(1)] {
+                return sentences(
+                    {text("wb_saved").arg(shown) + QLatin1Char('.'), text("wb_740").arg(volumes)});
+            },
+            watch_.window());
     } else {
         Q_EMIT saved([shown] { return text("wb_saved").arg(shown); }, watch_.window());
     }

@@ -35,6 +35,8 @@ Q_SIGNALS:
     void asked();
     // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
+    // One that holds less than the window has.
+    void savedCut(const workbench::Sentence& sentence, QWidget* window);
     void partSaved(const QString& path, const workbench::SavedPart& part);
     // A save is over, well or not.
     void ended();
@@ -52,6 +54,7 @@ private:
     QWidget* mainWindow_;
     SaveWatch watch_;
     TypingNotices typing_;
+    QStringList cut_; // path and volumes of the file that is being saved, if it lost fractions
 };
 
 } // namespace workbench
