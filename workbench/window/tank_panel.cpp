@@ -68,6 +68,16 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     refresh();
 }
 
+int TankPanel::tank() const
+{
+    return tank_->currentIndex();
+}
+
+void TankPanel::setTank(int tank)
+{
+    tank_->setCurrentIndex(tank);
+}
+
 std::size_t TankPanel::chosen() const
 {
     return static_cast<std::size_t>(tank_->currentIndex());

@@ -440,6 +440,7 @@ void WorkbenchWindow::restoreLayout()
         resizeWithin(this, size());
     splitter_->setSizes({kLeftWidth, width() - kLeftWidth});
     splitter_->restoreState(settings_.layout(splitter_->objectName()));
+    faults_->setLayout(settings_.layout(QLatin1String(FaultsWindow::kName)));
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)
