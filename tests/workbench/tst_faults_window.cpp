@@ -2,6 +2,7 @@
 
 #include "opened_workbench.h"
 #include "window/answer_watch.h"
+#include "window/message_box.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -183,6 +184,26 @@ private Q_SLOTS:
         bench.window.hide();
         QTest::qWait(20);
         QVERIFY(!visibleFaults());
+    }
+
+    // They go with the window that they belong to: what is told while they have the keyboard does not.
+    void takeNoWarningAlong()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QWidget telemetry;
+        telemetry.show();
+        telemetry.activateWindow();
+        QTRY_VERIFY(telemetry.isActiveWindow());
+        QTest::keyClick(&telemetry, Qt::Key_F9);
+        QTRY_COMPARE(QApplication::activeWindow(), visibleFaults());
+        workbench::showWarning(QStringLiteral("Saved in part"), &bench.window);
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        QVERIFY(box);
+        QTRY_COMPARE(visibleFaults()->parentWidget(), box.data());
+        QTest::qWait(20);
+        QVERIFY(box && box->isVisible());
+        box->close();
     }
 
     // Where there is no room beside a window its buttons stay free.
