@@ -993,7 +993,7 @@
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
-    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1.</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк: %1. Их не вместит ни одна ячейка.</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
     <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
@@ -1007,7 +1007,7 @@
     <message id="cfgt6_421"><translation>Отменить вставку</translation></message>
     <message id="cfgt6_422"><translation>Показание ещё меняется: с %1 на %2. Добавьте точку, когда уровень успокоится.</translation></message>
     <message id="cfgt6_423"><translation>Добавлено, пока показание ещё менялось: с %1 на %2. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
-    <message id="cfgt6_424"><translation>№&#160;%1</translation></message>
+    <message id="cfgt6_424"><translation>Строка&#160;%1</translation></message>
     <message id="cfgt6_425"><translation>не число</translation></message>
     <message id="cfgt6_426"><translation>вне диапазона</translation></message>
     <message id="cfgt6_427"><translation>слишком много десятичных знаков</translation></message>
@@ -2123,6 +2123,8 @@
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
     <message id="tmiw_380"><translation>%1: объём %2 введён и не добавлен.</translation></message>
+    <message id="tmiw_400"><translation>Строк: %1. Объёмы: %2.</translation></message>
+    <message id="tmiw_401"><translation>Вернуть удалённые строки</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
