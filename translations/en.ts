@@ -993,7 +993,7 @@
     <message id="cfgt6_407"><translation>Discard</translation></message>
     <message id="cfgt6_408"><translation>→ takes it</translation></message>
     <message id="cfgt6_409"><translation>Points to add: %1</translation></message>
-    <message id="cfgt6_410"><translation>Lines left out, since no cell could hold them: %1.</translation></message>
+    <message id="cfgt6_410"><translation>Lines left out: %1. No cell can hold them.</translation></message>
     <message id="cfgt6_411"><translation>The clipboard holds no points for this table. Lines left out: %1.</translation></message>
     <message id="cfgt6_412"><translation>File of %1, shown at %2</translation></message>
     <message id="cfgt6_413"><translation>Save a sheet with the table and the curve as PDF</translation></message>
@@ -1007,7 +1007,7 @@
     <message id="cfgt6_421"><translation>Undo the paste</translation></message>
     <message id="cfgt6_422"><translation>The reading still changes: from %1 to %2. Add the point when the level has settled.</translation></message>
     <message id="cfgt6_423"><translation>Added while the reading still changed: from %1 to %2. Wait until the level settles, then measure again.</translation></message>
-    <message id="cfgt6_424"><translation>No.&#160;%1</translation></message>
+    <message id="cfgt6_424"><translation>Line&#160;%1</translation></message>
     <message id="cfgt6_425"><translation>not a number</translation></message>
     <message id="cfgt6_426"><translation>out of range</translation></message>
     <message id="cfgt6_427"><translation>too many decimals</translation></message>
@@ -2141,6 +2141,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="tmiw_314"><translation>there is a file where a folder should be</translation></message>
     <message id="tmiw_360"><translation>The file cannot hold that points were taken while the reading still changed (there are %1): a sheet made of it on another computer shows no mark.</translation></message>
     <message id="tmiw_380"><translation>%1: the volume %2 was typed and not added.</translation></message>
+    <message id="tmiw_400"><translation>Rows: %1. Volumes: %2.</translation></message>
+    <message id="tmiw_401"><translation>Bring the deleted rows back</translation></message>
     <message id="tmizta_001"><translation>Test mode</translation></message>
     <message id="tmizta_002"><translation>Backup</translation></message>
     <message id="tmizta_003"><translation>Main</translation></message>
@@ -2913,6 +2915,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_ended"><translation>The save was ended. No record was saved; save the period again when the tracker answers.</translation></message>
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
+    <message id="wb_740"><translation>XML holds whole litres: %1. Excel (CSV) keeps the fractions.</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

@@ -993,7 +993,7 @@
     <message id="cfgt6_407"><translation>Удалить</translation></message>
     <message id="cfgt6_408"><translation>→ взять</translation></message>
     <message id="cfgt6_409"><translation>Будет добавлено точек: %1</translation></message>
-    <message id="cfgt6_410"><translation>Пропущено строк, которые не вместит ни одна ячейка: %1.</translation></message>
+    <message id="cfgt6_410"><translation>Пропущено строк: %1. Их не вместит ни одна ячейка.</translation></message>
     <message id="cfgt6_411"><translation>В буфере обмена нет точек для этой таблицы. Пропущено строк: %1.</translation></message>
     <message id="cfgt6_412"><translation>Файл датчика %1 показан на %2</translation></message>
     <message id="cfgt6_413"><translation>Сохранить лист с таблицей и кривой в PDF</translation></message>
@@ -1007,7 +1007,7 @@
     <message id="cfgt6_421"><translation>Отменить вставку</translation></message>
     <message id="cfgt6_422"><translation>Показание ещё меняется: с %1 на %2. Добавьте точку, когда уровень успокоится.</translation></message>
     <message id="cfgt6_423"><translation>Добавлено, пока показание ещё менялось: с %1 на %2. Дождитесь, пока уровень успокоится, и измерьте снова.</translation></message>
-    <message id="cfgt6_424"><translation>№&#160;%1</translation></message>
+    <message id="cfgt6_424"><translation>Строка&#160;%1</translation></message>
     <message id="cfgt6_425"><translation>не число</translation></message>
     <message id="cfgt6_426"><translation>вне диапазона</translation></message>
     <message id="cfgt6_427"><translation>слишком много десятичных знаков</translation></message>
@@ -2141,6 +2141,8 @@
     <message id="tmiw_314"><translation>вместо папки там файл</translation></message>
     <message id="tmiw_360"><translation>В файле не хранится, что точка взята, пока показание ещё менялось (таких точек %1): на листе с другого компьютера отметок не будет.</translation></message>
     <message id="tmiw_380"><translation>%1: объём %2 введён и не добавлен.</translation></message>
+    <message id="tmiw_400"><translation>Строк: %1. Объёмы: %2.</translation></message>
+    <message id="tmiw_401"><translation>Вернуть удалённые строки</translation></message>
     <message id="tmizta_001"><translation>Режим тестирования</translation></message>
     <message id="tmizta_002"><translation>Резервный</translation></message>
     <message id="tmizta_003"><translation>Основной</translation></message>
@@ -2913,6 +2915,7 @@
     <message id="wb_save_ended"><translation>Сохранение прекращено. Ни одной записи не сохранено; сохраните период ещё раз, когда трекер будет отвечать.</translation></message>
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
+    <message id="wb_740"><translation>В XML только целые литры: %1. Дробные части сохранит Excel (CSV).</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>

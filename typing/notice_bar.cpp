@@ -295,6 +295,7 @@ void NoticeBar::refresh()
         item->widget()->deleteLater();
         delete item;
     }
+    setProperty(kCount, static_cast<int>(told_.size()));
     const Told* shown = worst();
     if (shown && onShow_ && onShow_ != shown->number)
         replaced_.start();

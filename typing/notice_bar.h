@@ -79,6 +79,8 @@ public:
     // The property with the height that a bar with a kept place has without the host's notice, which is to
     // cover it whole.
     static constexpr const char* kOwnHeight = "ownHeight";
+    // The property with how many notices the bar has.
+    static constexpr const char* kCount = "notices";
     // How many notices wait behind this bar, in another one.
     void setBehind(int count);
     void retranslate();

@@ -3,5 +3,6 @@
 namespace vlk {
 
 Q_LOGGING_CATEGORY(lcSave, "vlk.save")
+Q_LOGGING_CATEGORY(lcCut, "vlk.save.volumes")
 
 } // namespace vlk

@@ -7,5 +7,7 @@
 namespace vlk {
 
 Q_DECLARE_LOGGING_CATEGORY(lcSave)
+// Volumes that a calibration file holds without their fraction, as "PATH: VOLUMES".
+Q_DECLARE_LOGGING_CATEGORY(lcCut)
 
 } // namespace vlk

@@ -104,7 +104,7 @@ void VLK_Form_Fuel_Sensor::retranslate()
     empty_->tell(tr(emptyKey_));
     copy_->setText(tr("cfgt6_401"));
     paste_->setText(tr("cfgt6_402"));
-    takeBack_->setText(tr("cfgt6_421"));
+    takeBack_->setText(tr(beforeChange_ ? beforeChange_->back : "cfgt6_421"));
     remove_->setText(tr("cfgt6_046"));
     markReading();
     offerName(offeredName_);
@@ -251,7 +251,7 @@ void VLK_Form_Fuel_Sensor::markDoubtful()
 // A paste can be taken back until something else happens to the table.
 void VLK_Form_Fuel_Sensor::rebuildPoints()
 {
-    forgetPaste();
+    forgetChange();
     points_ = ui_->tableWidget->points();
     graph_->setPoints(points_);
     markDoubtful();
@@ -311,7 +311,7 @@ void VLK_Form_Fuel_Sensor::slot_textChanged_LineEdit_Param(const QString& text)
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 {
-    vlk::FuelRow row{ui_->lineEdit_Volume->text(), ui_->lineEdit_Param->text()};
+    vlk::FuelRow row{vlk::typedNumber(ui_->lineEdit_Volume), vlk::typedNumber(ui_->lineEdit_Param)};
     if (!vlk::isPoint(row) || vlk::isUnfit(ui_->lineEdit_Volume) || vlk::isUnfit(ui_->lineEdit_Param))
         return;
     if (!reading_.isSteady())
@@ -324,7 +324,8 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Add()
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
 {
-    if (!vlk::agrees(this, tr("cfgt6_050"), "wrd_002"))
+    const BeforeChange before{rows(), dirty_, edited_, "tmiw_401"};
+    if (!vlk::agrees(this, tr("cfgt6_050"), "wrd_002", markedText()))
         return;
     ui_->tableWidget->removeMarked();
     // Not to the button that clears all.
@@ -337,6 +338,22 @@ void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Del()
         setDirty(false);
     setEdited(anyLeft || isNameTyped_);
     rebuildPoints();
+    offerBack(before);
+}
+
+QString VLK_Form_Fuel_Sensor::markedText() const
+{
+    constexpr int kNamed = 8;
+    const vlk::FuelRows rows = this->rows();
+    QStringList volumes;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (ui_->tableWidget->isMarked(static_cast<int>(row)))
+            volumes << rows[row].volume;
+    }
+    const int count = volumes.size();
+    if (count > kNamed)
+        volumes = volumes.mid(0, kNamed) << QStringLiteral("…");
+    return tr("tmiw_400").arg(QString::number(count), volumes.join(QStringLiteral("; ")));
 }
 
 void VLK_Form_Fuel_Sensor::slot_pressed_Btn_Clear()

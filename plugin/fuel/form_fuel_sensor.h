@@ -117,10 +117,15 @@ private:
     void pasteRows();
     // True where the columns are to be read the other way round.
     bool pasteInOrder(const QString& text, vlk::FuelOrder order);
-    void takePasteBack();
+    struct BeforeChange;
+    // What was just done can be taken back.
+    void offerBack(const BeforeChange& before);
+    void takeBack();
     // The row of the cursor with those that are marked, after the button's question.
     void removeRows();
-    void forgetPaste();
+    // How many rows are marked, and their volumes.
+    QString markedText() const;
+    void forgetChange();
     // In the place of those that are there.
     void showRows(const vlk::FuelRows& rows);
     void showReading();
@@ -146,14 +151,15 @@ private:
     QAction* paste_;
     QAction* takeBack_;
     QAction* remove_;
-    // The table before the last change, if that was a paste.
-    struct BeforePaste
+    // The table before the last change, if that was a paste or a removal of rows.
+    struct BeforeChange
     {
         vlk::FuelRows rows;
         bool isDirty;
         bool isEdited;
+        const char* back; // key of what takes it back
     };
-    std::optional<BeforePaste> beforePaste_;
+    std::optional<BeforeChange> beforeChange_;
     vlk::LiveReading reading_;
     int kind_;
     QString name_;

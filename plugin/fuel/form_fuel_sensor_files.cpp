@@ -51,7 +51,7 @@ void VLK_Form_Fuel_Sensor::saveXml(CXmlSection* section)
 {
     vlk::putFuelTable(section, name_, ui_->lineEdit_Name->text(), rows());
     isNameTyped_ = false;
-    forgetPaste();
+    forgetChange();
     setDirty(false);
     setEdited(false);
 }
@@ -113,13 +113,16 @@ bool VLK_Form_Fuel_Sensor::pasteInOrder(const QString& text, vlk::FuelOrder orde
     const vlk::FuelRows there = rows();
     const auto joining = vlk::joining(pasted.rows, there);
     if (joining.rows.empty()) {
-        vlk::warn(this, tr("cfgt6_420").arg(joining.known));
+        QString told = tr("cfgt6_420").arg(joining.known);
+        if (!pasted.leftOut.empty())
+            told += QLatin1Char(' ') + PastePreview::leftOutText(pasted.leftOut, texts);
+        vlk::warn(this, told);
         return false;
     }
     PastePreview preview(joining, pasted, texts, this);
     if (const int answer = preview.exec(); answer != QDialog::Accepted)
         return answer == PastePreview::kSwapped;
-    BeforePaste before{there, dirty_, edited_};
+    const BeforeChange before{there, dirty_, edited_, "cfgt6_421"};
     if (preview.isToReplace()) {
         vlk::FuelRows kept;
         std::ranges::copy_if(there, std::back_inserter(kept), [&](const vlk::FuelRow& row) {
@@ -130,23 +133,29 @@ bool VLK_Form_Fuel_Sensor::pasteInOrder(const QString& text, vlk::FuelOrder orde
     addRows(joining.rows);
     ui_->tableWidget->showAdded();
     setDirty(true);
-    beforePaste_ = std::move(before);
-    takeBack_->setEnabled(true);
+    offerBack(before);
     return false;
 }
 
-void VLK_Form_Fuel_Sensor::takePasteBack()
+void VLK_Form_Fuel_Sensor::offerBack(const BeforeChange& before)
 {
-    if (!beforePaste_)
+    beforeChange_ = before;
+    takeBack_->setText(tr(before.back));
+    takeBack_->setEnabled(true);
+}
+
+void VLK_Form_Fuel_Sensor::takeBack()
+{
+    if (!beforeChange_)
         return;
-    const BeforePaste before = *beforePaste_;
+    const BeforeChange before = *beforeChange_;
     showRows(before.rows);
     setDirty(before.isDirty);
     setEdited(before.isEdited);
 }
 
-void VLK_Form_Fuel_Sensor::forgetPaste()
+void VLK_Form_Fuel_Sensor::forgetChange()
 {
-    beforePaste_.reset();
+    beforeChange_.reset();
     takeBack_->setEnabled(false);
 }

@@ -16,7 +16,7 @@ void VLK_Form_Fuel_Sensor::addClipboardActions()
     takeBack_->setEnabled(false);
     connect(copy_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::copyTable);
     connect(paste_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::pasteRows);
-    connect(takeBack_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::takePasteBack);
+    connect(takeBack_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::takeBack);
     remove_->setShortcut(QKeySequence::Delete);
     connect(remove_, &QAction::triggered, this, &VLK_Form_Fuel_Sensor::removeRows);
     for (QAction* action : {copy_, paste_, takeBack_, remove_}) {
@@ -63,9 +63,9 @@ bool VLK_Form_Fuel_Sensor::takesKey(const QLineEdit& number, QKeyEvent& key)
         key.ignore();
         return true;
     }
-    // As soon as a paste into the field is done, this is how it is taken back.
-    if (key.matches(QKeySequence::Undo) && number.text().isEmpty() && beforePaste_) {
-        takePasteBack();
+    // As soon as a paste into the field is done, or rows are gone, this is how that is taken back.
+    if (key.matches(QKeySequence::Undo) && number.text().isEmpty() && beforeChange_) {
+        takeBack();
         return true;
     }
     // Several lines are points, not a number.

@@ -5,6 +5,7 @@
 #include "ui_VLK_Designer_Form_TMI_Fuel_Sensors.h"
 
 #include "base/clock.h"
+#include "base/save_log.h"
 #include "fuel/calibration_sheet.h"
 #include "fuel/file_dialogs.h"
 #include "fuel/form_fuel_sensor.h"
@@ -368,6 +369,8 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Xml()
         if (form) {
             cutIn_[currentSensor()] = cutVolumes(form->rows());
             isCutClosed_[currentSensor()] = false;
+            if (cutIn_[currentSensor()] > 0)
+                qCWarning(lcCut).noquote().nospace() << path << ": " << cutVolumesInWords(form->rows());
         }
         tellOfTable();
         if (form)

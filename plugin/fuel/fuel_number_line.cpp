@@ -3,6 +3,7 @@
 #include "fuel/table/fuel_rows.h"
 #include "typing/text_entry.h"
 
+#include <QAbstractItemModel>
 #include <QCoreApplication>
 #include <QDoubleValidator>
 #include <QIntValidator>
@@ -19,12 +20,17 @@ class Lenient : public Validator
 public:
     using Validator::Validator;
 
+    // The line keeps what was typed: a text that a validator puts into it counts as set by the program, and
+    // Escape would give back that one.
     QValidator::State validate(QString& input, int& position) const override
     {
-        input = withDecimalPoint(input);
-        const QValidator::State state = Validator::validate(input, position);
+        QString number = withDecimalPoint(input);
+        const QValidator::State state = Validator::validate(number, position);
         return state == QValidator::Invalid ? QValidator::Intermediate : state;
     }
+
+    // Qt would take a comma for one between thousands and make 25 of "2,5".
+    void fixup(QString& /*input*/) const override {}
 };
 
 } // namespace
@@ -51,6 +57,21 @@ void takeNumbers(QLineEdit* line, double top, int decimals)
 bool isUnfit(const QLineEdit* line)
 {
     return !line->isReadOnly() && !line->hasAcceptableInput();
+}
+
+QString typedNumber(const QLineEdit* line)
+{
+    QString number = withDecimalPoint(line->text());
+    if (number.endsWith(QLatin1Char('.')))
+        number.chop(1);
+    return number;
+}
+
+void setToTyped(QAbstractItemModel* model, const QModelIndex& index, const QWidget* editor)
+{
+    const auto* line = qobject_cast<const QLineEdit*>(editor);
+    if (line && !isUnfit(line))
+        model->setData(index, typedNumber(line));
 }
 
 } // namespace vlk

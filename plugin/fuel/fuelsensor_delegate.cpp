@@ -19,12 +19,10 @@ QWidget* VLK_FuelSensor_Delegate::createEditor(QWidget* parent, const QStyleOpti
     return edit;
 }
 
-// A cell keeps its number where something else was typed.
 void VLK_FuelSensor_Delegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                            const QModelIndex& index) const
 {
-    if (!vlk::isUnfit(qobject_cast<QLineEdit*>(editor)))
-        QItemDelegate::setModelData(editor, model, index);
+    vlk::setToTyped(model, index, editor);
 }
 
 bool VLK_FuelSensor_Delegate::eventFilter(QObject* object, QEvent* event)

@@ -17,8 +17,7 @@ QWidget* VLK_FuelSensor_Delegate_Int::createEditor(QWidget* parent, const QStyle
 void VLK_FuelSensor_Delegate_Int::setModelData(QWidget* editor, QAbstractItemModel* model,
                                                const QModelIndex& index) const
 {
-    if (!vlk::isUnfit(qobject_cast<QLineEdit*>(editor)))
-        QItemDelegate::setModelData(editor, model, index);
+    vlk::setToTyped(model, index, editor);
 }
 
 void VLK_FuelSensor_Delegate_Int::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -65,6 +65,12 @@ QString PastePreview::reasons(const std::vector<vlk::LeftOutLine>& leftOut, cons
     return tr("cfgt6_424").arg(named(leftOut, told));
 }
 
+QString PastePreview::leftOutText(const std::vector<vlk::LeftOutLine>& leftOut,
+                                  const vlk::FuelCaptions& captions)
+{
+    return tr("cfgt6_410").arg(leftOut.size()) + QLatin1Char(' ') + reasons(leftOut, captions);
+}
+
 QString PastePreview::fallingText(const vlk::FuelPoints& points)
 {
     const auto volumes = [&points](std::size_t point) {
@@ -123,9 +129,7 @@ PastePreview::PastePreview(const vlk::JoiningRows& joining, const vlk::PastedRow
     if (const QString falling = fallingText(pointsOf(joining.rows)); !falling.isEmpty())
         addSentence(column, "label_PastedFalling", falling);
     if (!pasted.leftOut.empty())
-        addSentence(column, "label_LeftOut",
-                    tr("cfgt6_410").arg(pasted.leftOut.size()) + QLatin1Char(' ') +
-                        reasons(pasted.leftOut, captions));
+        addSentence(column, "label_LeftOut", leftOutText(pasted.leftOut, captions));
     if (joining.known > 0)
         addSentence(column, "label_Known", tr("cfgt6_417").arg(joining.known));
     if (!joining.others.empty()) {

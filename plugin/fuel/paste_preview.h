@@ -25,6 +25,10 @@ public:
     // Why lines are left out, the first ones by name.
     static QString reasons(const std::vector<vlk::LeftOutLine>& leftOut, const vlk::FuelCaptions& captions);
 
+    // How many they are, and that.
+    static QString leftOutText(const std::vector<vlk::LeftOutLine>& leftOut,
+                               const vlk::FuelCaptions& captions);
+
     // The first volumes of points that fall back, as a sentence; empty where none does.
     static QString fallingText(const vlk::FuelPoints& points);
 

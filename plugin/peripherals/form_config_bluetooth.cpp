@@ -116,7 +116,7 @@ void VLK_Form_Config_Bluetooth::setConnected(bool connected)
 // A tracker that cannot do it does not use Bluetooth, whatever a file or a reset says.
 void VLK_Form_Config_Bluetooth::applyConnection()
 {
-    ui_->frame_Bt_Btn->setEnabled(connected_);
+    setUsable(ui_->frame_Bt_Btn, connected_);
     const bool able = !connected_ || !vlkDevice || (vlkDevice->capabilityMask() & kBluetoothCapability) != 0;
     ui_->checkBox_Bt_Use->setEnabled(able);
     if (!able)
@@ -179,12 +179,22 @@ void VLK_Form_Config_Bluetooth::markBound()
         markIfBound(ui_->treeWidget_Bt_List->topLevelItem(row));
 }
 
+// With the keyboard on it, what is disabled would hand it to the first sensor, where the next key changes a
+// setting.
+void VLK_Form_Config_Bluetooth::setUsable(QWidget* part, bool usable)
+{
+    const QWidget* focus = focusWidget();
+    if (!usable && focus && (focus == part || part->isAncestorOf(focus)))
+        ui_->treeWidget_Bt_List->setFocus();
+    part->setEnabled(usable);
+}
+
 void VLK_Form_Config_Bluetooth::endSearch(bool canAdd)
 {
     ui_->progressBar_Find->hide();
     ui_->pushButton_Bt_Find->setEnabled(true);
-    ui_->pushButton_Bt_Add->setEnabled(canAdd);
-    ui_->pushButton_Bt_Cancel->setEnabled(false);
+    setUsable(ui_->pushButton_Bt_Add, canAdd);
+    setUsable(ui_->pushButton_Bt_Cancel, false);
 }
 
 // The host may answer before the request returns, so it goes out last; the same in Cancel.
@@ -192,8 +202,8 @@ void VLK_Form_Config_Bluetooth::slot_pressed_Btn_Bt_Find()
 {
     clearList();
     ui_->label_Message->clear();
-    ui_->pushButton_Bt_Find->setEnabled(false);
-    ui_->pushButton_Bt_Add->setEnabled(false);
+    setUsable(ui_->pushButton_Bt_Find, false);
+    setUsable(ui_->pushButton_Bt_Add, false);
     ui_->pushButton_Bt_Cancel->setEnabled(true);
     if (vlkConfigFull)
         vlkConfigFull->startBtSearch();
@@ -254,7 +264,7 @@ void VLK_Form_Config_Bluetooth::onDeviceFound(const vlk::BtDevice& device)
 void VLK_Form_Config_Bluetooth::slot_pressed_Btn_Bt_Cancel()
 {
     ui_->label_Message->setText(QStringLiteral("%1...").arg(tr("cfgt17_017")));
-    ui_->pushButton_Bt_Cancel->setEnabled(false);
+    setUsable(ui_->pushButton_Bt_Cancel, false);
     if (vlkConfigFull)
         vlkConfigFull->cancelBtSearch();
 }

@@ -72,6 +72,7 @@ private:
     void markIfBound(QTreeWidgetItem* item);
     void showMark(QTreeWidgetItem* item);
     void markBound();
+    void setUsable(QWidget* part, bool usable);
     void endSearch(bool canAdd);
     void offerSensors(const QPoint& where);
 

@@ -132,6 +132,26 @@ private Q_SLOTS:
         QCOMPARE(pressable(), QString("Find Add"));
     }
 
+    // A button that goes off under the keyboard leaves it at the list of what is found.
+    void keepsTheKeyboardAtTheSearch()
+    {
+        QuickAnswers host(page());
+        host.ends = false;
+        page().deviceConnected();
+        page().show();
+        QApplication::setActiveWindow(page().window());
+        for (const char* name : {"pushButton_Bt_Find", "pushButton_Bt_Cancel"}) {
+            auto* button = child<QAbstractButton>(name);
+            button->setFocus();
+            QVERIFY(button->hasFocus());
+            QTest::keyClick(button, Qt::Key_Space);
+            QVERIFY(child<QTreeWidget>("treeWidget_Bt_List")->hasFocus());
+        }
+        child<QWidget>("pushButton_Bt_Find")->setFocus();
+        page().deviceDisconnected();
+        QVERIFY(child<QTreeWidget>("treeWidget_Bt_List")->hasFocus());
+    }
+
     // Answers in any order, names of any kind, a crowd.
     void wildAnswers()
     {

@@ -326,6 +326,8 @@ private Q_SLOTS:
         button->setFocus();
         QTest::keyClick(button, Qt::Key_Return);
         QCOMPARE(table_->model()->rowCount(), before + 1);
+        // The next key closes no notice.
+        QCOMPARE(window->focusWidget(), table_);
         QCOMPARE(numbers().value(1), QString("1001"));
         QCOMPARE(text("label_Damage"), QString("tmiw_188 rec_380"));
         // Curves, track and fuel tell there too.

@@ -420,6 +420,26 @@ private Q_SLOTS:
         QVERIFY(isIdle());
     }
 
+    // Once the file is written nothing more is waited for, though it may want another name.
+    void endsWhatIsToldOfACancelledSave()
+    {
+        startSave(7, 9);
+        press("pushButton_Save_Cancel");
+        QCOMPARE(text("label_SavedInPart"), QString("tmiw_302"));
+        std::optional<QString> told;
+        ScriptedHost::whenModal([&](QWidget* dialog) {
+            told = text("label_SavedInPart");
+            dialog->close();
+        });
+        {
+            const FullDisk disk(20);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("period.xml: "));
+            send(Message::RecordByNumber, 8);
+        }
+        QCOMPARE(told, std::optional(QString()));
+        QCOMPARE(text("label_ProgressBar_Time"), QString("tmiw_182"));
+    }
+
     // A name that cannot be written is refused when it is given, and the dialog stays for another.
     void unwritableName_data()
     {

@@ -2,6 +2,7 @@
 
 #include "opened_workbench.h"
 #include "window/answer_watch.h"
+#include "window/message_box.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -98,15 +99,50 @@ private Q_SLOTS:
         visibleFaults()->resize(visibleFaults()->size() + QSize(20, 10));
         visibleFaults()->move(3, 5);
         const QRect place = visibleFaults()->geometry();
+        const auto tank = [] {
+            return visibleFaults()->findChild<QComboBox*>(QStringLiteral("comboBox_Tank"));
+        };
+        tank()->setCurrentIndex(2);
         QDialog report;
         report.setModal(true);
         report.show();
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &report);
         QCOMPARE(visibleFaults()->geometry(), place);
+        QCOMPARE(tank()->currentIndex(), 2);
         bench.window.move(600, 300);
         report.hide();
         QTRY_VERIFY(visibleFaults() && visibleFaults()->parentWidget() == &bench.window);
         QCOMPARE(visibleFaults()->geometry(), place);
+        QCOMPARE(tank()->currentIndex(), 2);
+    }
+
+    // Where the user has put them they come up again, over whatever is there, in the next run, too, unless
+    // the screen has no room there.
+    void comeUpWhereTheyWere()
+    {
+        Bench bench;
+        QVERIFY(bench.openFaults());
+        visibleFaults()->move(bench.window.pos() + QPoint(20, 20));
+        const QRect place = visibleFaults()->geometry();
+        QTest::keyClick(visibleFaults(), Qt::Key_Escape);
+        QVERIFY(!visibleFaults());
+        QTest::keyClick(&bench.window, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        QCOMPARE(visibleFaults()->geometry(), place);
+        QVERIFY(bench.window.close());
+        QVERIFY(!visibleFaults());
+        workbench::WorkbenchWindow next(bench.folder, bench.settings, bench.languages);
+        next.show();
+        next.activateWindow();
+        QTRY_VERIFY(next.isActiveWindow());
+        QTest::keyClick(&next, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        QCOMPARE(visibleFaults()->geometry(), place);
+        visibleFaults()->move(5000, -70);
+        QTest::keyClick(visibleFaults(), Qt::Key_Escape);
+        QTest::keyClick(&next, Qt::Key_F9);
+        QVERIFY(
+            QGuiApplication::primaryScreen()->availableGeometry().contains(visibleFaults()->frameGeometry()));
     }
 
     // The window that they were brought over may go while a box is open: they do not go with the box.
@@ -148,6 +184,26 @@ private Q_SLOTS:
         bench.window.hide();
         QTest::qWait(20);
         QVERIFY(!visibleFaults());
+    }
+
+    // They go with the window that they belong to: what is told while they have the keyboard does not.
+    void takeNoWarningAlong()
+    {
+        Bench bench;
+        QVERIFY(bench.start());
+        QWidget telemetry;
+        telemetry.show();
+        telemetry.activateWindow();
+        QTRY_VERIFY(telemetry.isActiveWindow());
+        QTest::keyClick(&telemetry, Qt::Key_F9);
+        QTRY_COMPARE(QApplication::activeWindow(), visibleFaults());
+        workbench::showWarning(QStringLiteral("Saved in part"), &bench.window);
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        QVERIFY(box);
+        QTRY_COMPARE(visibleFaults()->parentWidget(), box.data());
+        QTest::qWait(20);
+        QVERIFY(box && box->isVisible());
+        box->close();
     }
 
     // Where there is no room beside a window its buttons stay free.

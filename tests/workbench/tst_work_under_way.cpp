@@ -154,6 +154,40 @@ private Q_SLOTS:
         QCOMPARE(filter->text(), QStringLiteral("Event = \"Start of refuelling\""));
     }
 
+    // What a calibration file holds less than the table stands first, by its rows, with the number of all
+    // that is to be told.
+    void tellsWhatAFileHasCut()
+    {
+        Bench bench;
+        bench.prepare(Live);
+        Bench::press(Bench::telemetry(), "pushButton_FuelSensor");
+        QWidget* calibration = Bench::calibration();
+        const auto* form = calibration->findChild<QWidget*>(QStringLiteral("A3"));
+        const auto* param = form->findChild<QLineEdit*>(QStringLiteral("lineEdit_Param"));
+        auto* volume = form->findChild<QLineEdit*>(QStringLiteral("lineEdit_Volume"));
+        for (const char* litres : {"20", "40", "40,5", "60.5"}) {
+            QTRY_VERIFY(!param->text().isEmpty());
+            volume->setFocus();
+            QTest::keyClicks(volume, litres);
+            QTest::keyClick(volume, Qt::Key_Return);
+        }
+        Bench::press(calibration, "pushButton_Save_Xml");
+        QTRY_VERIFY2(bench.status().contains(QStringLiteral("40, 40.5 → 40; 60.5 → 60.")),
+                     qPrintable(bench.status()));
+        const auto* notice = calibration->findChild<QLabel*>(QStringLiteral("label_WindowNotice"));
+        QTRY_COMPARE(notice->text(), bench.status());
+        QVERIFY(bench.status().contains(bench.file()));
+        const auto* place = notice->parentWidget()->findChild<QLabel*>(QStringLiteral("label_NoticePlace"));
+        QCOMPARE(place->text(), QStringLiteral("1 of 2"));
+        // The name is to be saved, too.
+        QApplication::setActiveWindow(calibration);
+        auto* name = form->findChild<QLineEdit*>(QStringLiteral("lineEdit_Name"));
+        name->setFocus();
+        QTest::keyClicks(name, "left");
+        QTest::keyClick(name, Qt::Key_Tab);
+        QCOMPARE(place->text(), QStringLiteral("1 of 3"));
+    }
+
     // The notice moves nothing in the configuration either, where a window is not too low for it.
     void movesNoPage()
     {

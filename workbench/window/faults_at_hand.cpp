@@ -1,10 +1,10 @@
 #include "window/faults_at_hand.h"
 
 #include "window/answer_watch.h"
-#include "window/faults_window.h"
 #include "window/message_box.h"
 
 #include <QApplication>
+#include <QDataStream>
 #include <QKeyEvent>
 #include <QWindow>
 
@@ -67,7 +67,7 @@ void FaultsAtHand::leave()
 {
     if (!window_->isVisible())
         return;
-    at_ = window_->home();
+    at_ = window_->state();
     window_->hide();
     moveOn();
 }
@@ -100,7 +100,7 @@ FaultsWindow* FaultsAtHand::windowOf(QWidget* owner, bool makesWay)
     // One that changes its owner loses its place with some window managers.
     auto* window = new FaultsWindow(tracker_, owner);
     if (window_) {
-        at_ = window_->home();
+        at_ = window_->state();
         window_->hide();
         window_->deleteLater();
     }
@@ -109,7 +109,7 @@ FaultsWindow* FaultsAtHand::windowOf(QWidget* owner, bool makesWay)
     window_ = window;
     window_->setTrouble(trouble_);
     connect(window_, &QDialog::rejected, this, [this] {
-        at_ = window_->home();
+        at_ = window_->state();
         wanted_ = false;
         isInvited_ = false;
     });
@@ -126,7 +126,28 @@ void FaultsAtHand::toggle()
     isInvited_ = true;
     home_.clear();
     isAway_ = false;
-    windowOf(windowInFront(mainWindow_))->comeUp(true);
+    // Where the user has put it, it stays.
+    const bool isChosen = at_ && at_->isChosen;
+    windowOf(windowInFront(mainWindow_), !isChosen)->comeUp(true);
+}
+
+QByteArray FaultsAtHand::layout() const
+{
+    const auto state = window_ && window_->isVisible() ? window_->state() : at_;
+    QByteArray layout;
+    QDataStream stream(&layout, QIODevice::WriteOnly);
+    if (state && state->isChosen)
+        stream << state->place;
+    return layout;
+}
+
+void FaultsAtHand::setLayout(const QByteArray& layout)
+{
+    QRect place;
+    QDataStream stream(layout);
+    stream >> place;
+    if (stream.status() == QDataStream::Ok && place.isValid())
+        at_ = FaultsWindow::State{place, true, 0};
 }
 
 void FaultsAtHand::setTrouble(const QString& text)

@@ -6,14 +6,13 @@
 // window the keyboard: what it measures live pauses while it is not the active one. Uninvited it goes with
 // that window; where the user has asked for it, it stays until it is sent away.
 
+#include "window/faults_window.h"
+
 #include <QKeySequence>
 #include <QObject>
 #include <QPointer>
-#include <QRect>
 
 #include <optional>
-
-class QWidget;
 
 namespace tracker {
 class SimulatedTracker;
@@ -22,7 +21,6 @@ class SimulatedTracker;
 namespace workbench {
 
 class AnswerWatch;
-class FaultsWindow;
 
 class FaultsAtHand : public QObject
 {
@@ -37,6 +35,9 @@ public:
     void toggle();
     void setTrouble(const QString& text);
     void retranslate();
+    // Where the user has put it, for the next run; empty where it has not been moved.
+    QByteArray layout() const;
+    void setLayout(const QByteArray& layout);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -58,9 +59,9 @@ private:
     bool isAway_ = false;     // from there, over a modal window
     QPointer<QWidget> asker_; // the modal window from which the tracker was asked last
     QString trouble_;
-    bool wanted_ = true;      // the user has not closed it
-    bool isInvited_ = false;  // by the key
-    std::optional<QRect> at_; // where it was when its owner went, which may take it along
+    bool wanted_ = true;                    // the user has not closed it
+    bool isInvited_ = false;                // by the key
+    std::optional<FaultsWindow::State> at_; // as it was when its owner went, which may take it along
 };
 
 } // namespace workbench

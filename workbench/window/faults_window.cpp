@@ -29,9 +29,9 @@ constexpr int kNoteLinesOfWide = 3;
 
 FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     : QDialog(owner, Qt::Tool | Qt::WindowCloseButtonHint), panel_(new FaultsPanel(tracker)),
-      trouble_(new QLabel(this))
+      tanks_(new TankPanel(tracker)), trouble_(new QLabel(this))
 {
-    setObjectName(QStringLiteral("dialog_Faults"));
+    setObjectName(QLatin1String(kName));
     setModal(false);
     texts_.bind(this, "wb_faults_title");
     trouble_->setObjectName(QStringLiteral("label_FaultsTrouble"));
@@ -41,13 +41,12 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     kept.setRetainSizeWhenHidden(true);
     trouble_->setSizePolicy(kept);
     trouble_->hide();
-    auto* tanks = new TankPanel(tracker);
-    vlk::dressGroup(tanks);
+    vlk::dressGroup(tanks_);
     auto* content = new QWidget;
     auto* inside = new QBoxLayout(QBoxLayout::TopToBottom, content);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->addWidget(panel_);
-    inside->addWidget(tanks);
+    inside->addWidget(tanks_);
     // On a low screen the two stand beside each other.
     const auto heightOf = [this](int lines) { return lines * trouble_->fontMetrics().lineSpacing(); };
     trouble_->setFixedHeight(heightOf(kNoteLines));
@@ -55,7 +54,7 @@ FaultsWindow::FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner)
     if (within(all, screen()->availableSize()).height() < all.height()) {
         trouble_->setFixedHeight(heightOf(kNoteLinesOfWide));
         inside->setDirection(QBoxLayout::LeftToRight);
-        inside->setAlignment(tanks, Qt::AlignTop);
+        inside->setAlignment(tanks_, Qt::AlignTop);
     }
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(vlk::grid::kAroundPage);
@@ -131,16 +130,21 @@ void FaultsWindow::place()
     madeWay_ = pos();
 }
 
-QRect FaultsWindow::home() const
+FaultsWindow::State FaultsWindow::state() const
 {
-    return {wanted_ && pos() == madeWay_ ? *wanted_ : pos(), size()};
+    const bool isWhereItWasPut = pos() == madeWay_;
+    return {{wanted_ && isWhereItWasPut ? *wanted_ : pos(), size()},
+            isChosen_ || !isWhereItWasPut,
+            tanks_->tank()};
 }
 
-void FaultsWindow::follow(const QRect& home, bool makesWay)
+void FaultsWindow::follow(const State& state, bool makesWay)
 {
-    wanted_ = home.topLeft();
+    wanted_ = state.place.topLeft();
+    isChosen_ = state.isChosen;
     makesWay_ = makesWay;
-    resize(home.size());
+    resize(state.place.size());
+    tanks_->setTank(state.tank);
 }
 
 FaultsWindow::Covered FaultsWindow::covered(const QPoint& place) const

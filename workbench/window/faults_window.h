@@ -6,6 +6,7 @@
 #include "window/key_texts.h"
 
 #include <QDialog>
+#include <QRect>
 
 #include <cstddef>
 #include <optional>
@@ -20,12 +21,15 @@ class SimulatedTracker;
 namespace workbench {
 
 class FaultsPanel;
+class TankPanel;
 
 class FaultsWindow : public QDialog
 {
     Q_OBJECT
 
 public:
+    static constexpr auto kName = "dialog_Faults"; // of the object, and of its layout in the settings
+
     FaultsWindow(tracker::SimulatedTracker& tracker, QWidget* owner);
 
     // What is wrong with the tracker's answers at present; empty while all is well.
@@ -34,11 +38,17 @@ public:
     // Shows it beside the owner, or where there is no room in the corner of the screen in which it covers the
     // fewest buttons of the owner; with the keyboard, or leaving it where it is until the user clicks here.
     void comeUp(bool withKeyboard);
-    // Where the user has put it, also while it has made way for buttons.
-    QRect home() const;
-    // Where the one of another owner had its home, and as large: it comes up there, unless it would cover
-    // buttons and may make way for them.
-    void follow(const QRect& home, bool makesWay);
+    // What goes with it to another owner.
+    struct State
+    {
+        QRect place;           // also while it has made way for buttons
+        bool isChosen = false; // by the user: the place
+        int tank = 0;
+    };
+    State state() const;
+    // As the one of another owner was: it comes up there, unless it would cover buttons and may make way for
+    // them.
+    void follow(const State& state, bool makesWay);
     // Whether there is room for it beside a window.
     bool fitsBeside(const QWidget& window) const;
 
@@ -54,8 +64,10 @@ private:
     Covered covered(const QPoint& place) const;
 
     FaultsPanel* panel_;
+    TankPanel* tanks_;
     QLabel* trouble_;
     std::optional<QPoint> wanted_; // its place, where another one has stood
+    bool isChosen_ = false;        // by the user
     bool makesWay_ = true;
     QPoint madeWay_; // to here, if that would cover buttons
     KeyTexts texts_;

@@ -40,6 +40,11 @@ public:
     {
         tellResult(StatusLine::Command, sentence, true, window);
     }
+    // What is to be seen to in a window: likewise, until it is closed.
+    void tellToHeed(const Sentence& sentence, QWidget* window)
+    {
+        tellResult(StatusLine::Command, sentence, false, window);
+    }
     // What went well is not told any more.
     void forgetDone()
     {

@@ -8,15 +8,31 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace workbench {
+
+namespace {
+
+// A tool window goes with the one that it belongs to, and would take a box of its own with it.
+bool isTool(const QWidget* window)
+{
+    return window->windowType() == Qt::Tool;
+}
+
+} // namespace
 
 QWidget* windowInFront(QWidget* otherwise)
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
-    if (QWidget* active = QApplication::activeWindow())
+    QWidget* active = QApplication::activeWindow();
+    if (active && isTool(active) && active->parentWidget())
+        active = active->parentWidget()->window();
+    if (active && active->isVisible())
         return active;
-    const QVector<QWidget*> latest = ActiveWindows::instance().latest();
+    QVector<QWidget*> latest = ActiveWindows::instance().latest();
+    latest.erase(std::remove_if(latest.begin(), latest.end(), isTool), latest.end());
     return latest.isEmpty() ? otherwise : latest.front();
 }
 

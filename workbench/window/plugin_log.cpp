@@ -36,6 +36,7 @@ struct CategoryRow
 constexpr CategoryRow kCategoryRows[] = {
     {"vlk.save", PluginLog::Topic::SaveFailed, "wb_save_failed_why", kOfFile},
     {"vlk.save.part", PluginLog::Topic::SavedInPart, "wb_saved_part", kOfPeriod},
+    {"vlk.save.volumes", PluginLog::Topic::SavedCut, "wb_740", kOfFile},
     {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", kOfFile},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_330", "^(\\d+) changes are kept: $"},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept: (.+)$"},

@@ -20,6 +20,7 @@ public:
         SaveFailed,  // "PATH: REASON"
         Saved,       // "PATH: N since opened", a configuration and what has changed in it
         SavedInPart, // "PATH: N of M records, until TIME"
+        SavedCut,    // "PATH: volumes that lost their fraction"
         Typing,      // "FIELD: what became of a number that was still being typed", for the user as it stands
         Retyped,     // "FIELD", of which that holds no longer
         File,        // something of a file that was opened, to be told in words()

@@ -55,6 +55,8 @@ SaveNotices::SaveNotices(const PluginLog& log, HostSession& session, const Plugi
             [this](PluginLog::Topic topic, const QString& category, const QString& message) {
                 if (topic == PluginLog::Topic::Saved)
                     toldChanges_ = {category, message};
+                if (topic == PluginLog::Topic::SavedCut)
+                    cut_ = PluginLog::parts(category, message);
             });
     connect(&session_.link(), &PluginLink::passed, this, [this](vlk::Direction, quint32 id) {
         if (id == static_cast<quint32>(vlk::Message::OpenConfiguration))
@@ -68,8 +70,16 @@ void SaveNotices::tellSaved(const QString& path)
     const StoredFile kind = storedFileKind(path);
     if (kind != StoredFile::Unknown && kind != StoredFile::Calibration)
         recent_.add(path, TelemetryWindow::Browser);
+    const QStringList cut = std::exchange(cut_, {});
     if (kind == StoredFile::Configuration) {
         tellConfiguration(path);
+    } else if (cut.value(0) == path) {
+        Q_EMIT savedCut(
+            [shown, volumes = cut.value(1)] {
+                return sentences(
+                    {text("wb_saved").arg(shown) + QLatin1Char('.'), text("wb_740").arg(volumes)});
+            },
+            watch_.window());
     } else {
         Q_EMIT saved([shown] { return text("wb_saved").arg(shown); }, watch_.window());
     }

@@ -35,6 +35,8 @@ Q_SIGNALS:
     void asked();
     // A file was saved that the window that saved it should tell of too.
     void saved(const workbench::Sentence& sentence, QWidget* window);
+    // One that holds less than the window has.
+    void savedCut(const workbench::Sentence& sentence, QWidget* window);
     void partSaved(const QString& path, const workbench::SavedPart& part);
     // A save is over, well or not.
     void ended();
@@ -56,7 +58,8 @@ private:
     {
         QString category;
         QString message;
-    } toldChanges_; // of the configuration that is being saved
+    } toldChanges_;   // of the configuration that is being saved
+    QStringList cut_; // path and volumes of the file that is being saved, if it lost fractions
 };
 
 } // namespace workbench

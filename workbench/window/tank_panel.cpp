@@ -67,6 +67,16 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     connect(&timer_, &QTimer::timeout, this, &TankPanel::refresh);
 }
 
+int TankPanel::tank() const
+{
+    return tank_->currentIndex();
+}
+
+void TankPanel::setTank(int tank)
+{
+    tank_->setCurrentIndex(tank);
+}
+
 std::size_t TankPanel::chosen() const
 {
     return static_cast<std::size_t>(tank_->currentIndex());

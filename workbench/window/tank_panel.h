@@ -25,6 +25,10 @@ class TankPanel : public QGroupBox
 public:
     explicit TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent = nullptr);
 
+    // By its place among the tanks of the tracker.
+    int tank() const;
+    void setTank(int tank);
+
 protected:
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

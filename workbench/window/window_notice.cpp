@@ -95,6 +95,10 @@ bool WindowNotice::eventFilter(QObject* object, QEvent* event)
     case QEvent::Show:
         place();
         break;
+    case QEvent::DynamicPropertyChange:
+        if (static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == kCount)
+            place();
+        break;
     case QEvent::Hide:
         // What is minimised takes it along by itself.
         if (object == parentWidget() && !event->spontaneous())
@@ -133,7 +137,7 @@ void WindowNotice::place()
         if (bar->isVisible() || keepsPlace)
             inside = {place.topLeft(), QPoint(place.right(), inside.bottom())};
         if (bar->isVisible() && keepsPlace) {
-            ++covered;
+            covered += bar->property(kCount).toInt();
             least = std::max(least, bar->property(kOwnHeight).toInt());
         } else if (bar->isVisible())
             inside.setTop(

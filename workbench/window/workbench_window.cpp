@@ -200,6 +200,7 @@ void WorkbenchWindow::connectNotices()
     session_.setTyped([this] { return saveNotices_->typing().lines(); });
     connect(saveNotices_.get(), &SaveNotices::asked, linkNotices_.get(), &LinkNotices::forgetDone);
     connect(saveNotices_.get(), &SaveNotices::saved, linkNotices_.get(), &LinkNotices::tellDone);
+    connect(saveNotices_.get(), &SaveNotices::savedCut, linkNotices_.get(), &LinkNotices::tellToHeed);
     connect(saveNotices_.get(), &SaveNotices::ended, linkNotices_.get(), &LinkNotices::saveEnded);
     fileNotices_ = std::make_unique<FileNotices>(pluginLog_, *status_, *bar_, this);
     connect(&windows_, &PluginWindows::opened, fileNotices_.get(), [this](const QWidget* window) {
@@ -439,6 +440,7 @@ void WorkbenchWindow::restoreLayout()
         resizeWithin(this, size());
     splitter_->setSizes({kLeftWidth, width() - kLeftWidth});
     splitter_->restoreState(settings_.layout(splitter_->objectName()));
+    faults_->setLayout(settings_.layout(QLatin1String(FaultsWindow::kName)));
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event)

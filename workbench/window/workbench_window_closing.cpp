@@ -3,6 +3,7 @@
 #include "window/workbench_window.h"
 
 #include "typing/notice_bar.h"
+#include "window/faults_at_hand.h"
 #include "window/link_notices.h"
 #include "window/message_box.h"
 #include "window/save_notices.h"
@@ -28,6 +29,7 @@ void WorkbenchWindow::closeWindows()
 {
     settings_.setLayout(objectName(), saveGeometry());
     settings_.setLayout(splitter_->objectName(), splitter_->saveState());
+    settings_.setLayout(QLatin1String(FaultsWindow::kName), faults_->layout());
     session_.link().send(vlk::Message::CloseWindows);
     // One that stays would keep the program, and with it the folder of data, for nobody.
     for (QWidget* window : QApplication::topLevelWidgets()) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace vlk {
 
@@ -51,6 +52,23 @@ int cutVolumes(const FuelRows& rows)
 {
     return static_cast<int>(std::ranges::count_if(
         rows, [](const FuelRow& row) { return row.volume.toDouble() != wholeLitres(row.volume); }));
+}
+
+QString cutVolumesInWords(const FuelRows& rows)
+{
+    constexpr int kNamed = 8;
+    std::map<int, QStringList> volumes; // by what is left of them
+    for (const FuelRow& row : rows)
+        volumes[wholeLitres(row.volume)] << row.volume;
+    QStringList cut;
+    for (const auto& [whole, texts] : volumes) {
+        const auto isCut = [whole = whole](const QString& text) { return text.toDouble() != whole; };
+        if (std::ranges::any_of(texts, isCut))
+            cut << QStringLiteral("%1 → %2").arg(texts.join(QLatin1String(", "))).arg(whole);
+    }
+    if (cut.size() > kNamed)
+        cut = cut.mid(0, kNamed) << QStringLiteral("…");
+    return cut.join(QLatin1String("; "));
 }
 
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows)

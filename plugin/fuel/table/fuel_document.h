@@ -24,6 +24,10 @@ inline constexpr auto kFuelRoot = "FUEL";
 // How many volumes the document keeps without their fraction.
 int cutVolumes(const FuelRows& rows);
 
+// Which ones, with what is left of them and with those of other rows that end there too, as
+// "20.5 → 20; 40, 40.5 → 40": the first ones. Empty for none.
+QString cutVolumesInWords(const FuelRows& rows);
+
 // Puts one sensor's table into the root of a document.
 void putFuelTable(CXmlSection* root, const QString& sensor, const QString& name, const FuelRows& rows);
 

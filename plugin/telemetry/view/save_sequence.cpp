@@ -261,6 +261,7 @@ std::size_t SaveSequence::end()
     // Writing asks the host for words; whatever else it sends then is not part of this save any more.
     const bool isPart = std::exchange(saveState_, Writing) == Collecting;
     arrived_.clear();
+    Q_EMIT writing();
     const RecordBytes records = std::exchange(records_, {});
     const bool isChosen = std::exchange(fileChosen_, false);
     const auto period = std::make_shared<TelemetryContents>(periodOf(records, origin_));

@@ -80,6 +80,8 @@ public:
 
 Q_SIGNALS:
     void runningChanged(bool running);
+    // No more records are waited for; a name may be asked for once more.
+    void writing();
     // What the file now holds; before what follows, if it is a part.
     void saved(const std::shared_ptr<vlk::TelemetryContents>& period, const QString& path);
     void savedInPart(const vlk::PartOfPeriod& part);

@@ -132,7 +132,10 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(opening_, &FileOpening::cancelled, this, [this] {
         if (shown_->isBeingRead())
             shown_->setContents(std::make_shared<TelemetryContents>());
-        tellCancelled(notices_, [this] { read(); });
+        tellCancelled(notices_, [this] {
+            table_->setFocus();
+            read();
+        });
     });
     connect(exportButton_, &QPushButton::clicked, export_, &TableExport::ask);
     connect(export_, &TableExport::allKept, growing_, &GrowingRecords::setKept);
@@ -279,7 +282,11 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
 {
     tellDamage(notices_, *contents,
                {[this](int record) { shown_->setCurrent(record); },
-                [this] { opening_->start(path_, TelemetryReading::salvage); }});
+                [this] {
+                    // The bar would give the keyboard to its cross.
+                    table_->setFocus();
+                    opening_->start(path_, TelemetryReading::salvage);
+                }});
     tellPart(notices_, *contents, [this](int record) { shown_->setCurrent(record); });
     shown_->setContents(contents);
     tellStrayed(notices_, shown_->strayed(), [this](int record) { shown_->setCurrent(record); });

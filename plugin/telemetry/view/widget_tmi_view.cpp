@@ -78,6 +78,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
     connect(&save_, &vlk::SaveSequence::runningChanged, this, &VLK_Widget_Tmi_View::showSaving);
+    connect(&save_, &vlk::SaveSequence::writing, this, [this] { notices_->end(kCancelled); });
     connect(&save_, &vlk::SaveSequence::saved, this, &VLK_Widget_Tmi_View::showSaved);
     connect(&save_, &vlk::SaveSequence::savedInPart, this, &VLK_Widget_Tmi_View::showPart);
     connect(&save_, &vlk::SaveSequence::targetChosen, &times_, &vlk::ZonedTimes::remember);
