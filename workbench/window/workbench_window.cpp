@@ -29,6 +29,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScrollArea>
