@@ -87,9 +87,12 @@ std::vector<int> withNeeded(const Differences& differences, std::vector<int> key
     for (std::size_t i = 0; i < keys.size(); ++i) {
         const Held& before = differences.before().at(keys[i]);
         const Held& after = differences.after().at(keys[i]);
+        // What both sides lack, as it was taken out of an earlier state, needs no other.
+        const int held = before.isThere ? before.row : after.row;
+        if (held < 0)
+            continue;
         const int table = all[keys[i]].table;
-        for (const int row : companions(all.layout(table), before.isThere ? before.row : after.row,
-                                        before.isThere != after.isThere)) {
+        for (const int row : companions(all.layout(table), held, before.isThere != after.isThere)) {
             const int key = all.of(table, row);
             if (key >= 0 && differences.isDifferent(key) && std::ranges::find(keys, key) == keys.end())
                 keys.push_back(key);
