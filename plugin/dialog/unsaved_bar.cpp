@@ -57,6 +57,7 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
 {
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
+    end(kFailure);
     end(kFile);
     end(kReplaced);
     replaced_.clear();
@@ -266,6 +267,11 @@ void UnsavedBar::tellFailure(const QString& reason)
         tell(kFailure, [reason] {
             return Notice{Mark::invalid, words("rev_145").arg(fileErrorText(reason)), {}};
         });
+}
+
+void UnsavedBar::tellKeptAgain()
+{
+    tellNews(kFailure, [] { return Notice{Mark::right, words("rev_502"), {}}; });
 }
 
 } // namespace vlk

@@ -37,6 +37,7 @@ public:
     void tellReplaced(std::vector<int> keys);
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
+    void tellKeptAgain();
 
 Q_SIGNALS:
     // The review compares with an offer.
