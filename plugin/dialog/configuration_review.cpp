@@ -73,6 +73,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     opened_ = root ? FileState::ofDocument(*root) : now();
     asItCame_ = opened_;
     isWritten_ = false;
+    gone_.clear();
     newInFull_.reset();
     if (!root && isQuick()) {
         XmlDocument document(this->document(), QStringLiteral("DEVICE"));
@@ -128,6 +129,9 @@ void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QStr
     edited_ = Differences(asItCame_, now());
     if (against_ == Against::file)
         differences_ = edited_;
+    // The full window has them until it is on show again.
+    gone_ = leftOutKeys();
+    std::erase_if(gone_, [this](int key) { return edited_.isDifferent(key); });
     advice_.reset();
     Q_EMIT changed();
 }
@@ -280,9 +284,9 @@ QStringList ConfigurationReview::takenForUsed() const
     return captions;
 }
 
-QStringList ConfigurationReview::leftOut() const
+std::vector<int> ConfigurationReview::leftOutKeys() const
 {
-    QStringList told;
+    std::vector<int> keys;
     for (const int key : isQuick() ? deciders() : std::vector<int>()) {
         const review::FileKey& place = FileKeys::all()[key];
         const Values& full = present_.tables()[place.table];
@@ -292,6 +296,20 @@ QStringList ConfigurationReview::leftOut() const
         if (!full.isWritten(row) || full.value(row) == full.row(row).loadDefault() || isKept ||
             !isUnedited(key))
             continue;
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+QStringList ConfigurationReview::leftOut() const
+{
+    QStringList told;
+    for (const int key : leftOutKeys()) {
+        if (std::ranges::find(gone_, key) != gone_.end())
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        const Values& full = present_.tables()[place.table];
+        const int row = place.rows.front();
         const review::SettingWords words = review::wordsOf(full.layout(), row);
         QStringList parts{words.page, words.group};
         parts.removeAll(QString());
@@ -384,6 +402,8 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     const bool isOther = isQuick != wasQuick_;
     const bool isWhole = isQuick || isOther || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
+    if (!isQuick)
+        gone_.clear(); // chosen again, they would go again
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame(), state);

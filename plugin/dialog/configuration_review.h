@@ -151,6 +151,7 @@ private:
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
+    std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
 
@@ -161,6 +162,7 @@ private:
     review::FileState asItCame_;                 // the same, or what has been written since then
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
+    std::vector<int> gone_; // of leftOutKeys(), with what the quick window has written
     Values quickAsItCame_;
     review::FileState quickState_; // with that over what the full window makes of it
     QHash<QString, QString> quickStrangers_;
