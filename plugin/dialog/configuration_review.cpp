@@ -45,6 +45,16 @@ const std::vector<int>& deciders()
     return all;
 }
 
+// With its page.
+QString groupOf(const TableLayout& layout, int row)
+{
+    const review::SettingWords words = review::wordsOf(layout, row);
+    QStringList parts{words.page, words.group};
+    parts.removeAll(QString());
+    parts.removeDuplicates();
+    return parts.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
@@ -310,12 +320,24 @@ QStringList ConfigurationReview::leftOut() const
         const review::FileKey& place = FileKeys::all()[key];
         const Values& full = present_.tables()[place.table];
         const int row = place.rows.front();
-        const review::SettingWords words = review::wordsOf(full.layout(), row);
-        QStringList parts{words.page, words.group};
-        parts.removeAll(QString());
-        parts.removeDuplicates();
-        told << QStringLiteral("%1: %2").arg(parts.join(QLatin1Char(' ')), valueText(full, row));
+        told << QStringLiteral("%1: %2").arg(groupOf(full.layout(), row), valueText(full, row));
     }
+    return told;
+}
+
+QStringList ConfigurationReview::madeAnew() const
+{
+    static const QStringList anew = review::sectionsMadeAnew(layoutOf(kQuickSettings));
+    QStringList told;
+    for (const int key : isQuick() ? edited_.keys() : std::vector<int>()) {
+        const bool stays = edited_.before().at(key).isThere && edited_.after().at(key).isThere;
+        const QString section = edited_.differenceAt(key).path.section(QLatin1Char('/'), 0, 0);
+        if (!stays || !isUnedited(key) || !anew.contains(section))
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        told << groupOf(FileKeys::all().layout(place.table), place.rows.front());
+    }
+    told.removeDuplicates();
     return told;
 }
 

@@ -87,6 +87,9 @@ public:
     // What full setup has chosen and a write from the quick window, which does not show it, would remove: a
     // sensor, a device.
     QStringList leftOut() const;
+    // Where such a write would change settings of what stays and which the quick window does not show: the
+    // filter of a sensor, the name of a line.
+    QStringList madeAnew() const;
     // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
