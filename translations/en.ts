@@ -1822,6 +1822,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_354"><translation>Its temperature only</translation></message>
     <message id="rev_355"><translation>Full setup switches a level and its temperature on together</translation></message>
     <message id="rev_299"><translation>Full setup does not use it, a write from there drops it</translation></message>
+    <message id="rev_500"><translation>Unsaved changes are lost: %1 (%2). They could not be kept: %3.</translation></message>
+    <message id="rev_501"><translation>Unsaved changes are lost: %1 (new configuration). They could not be kept: %2.</translation></message>
+    <message id="rev_502"><translation>Unsaved changes are kept again.</translation></message>
+    <message id="rev_503"><translation>A write of quick setup replaces what full setup has set of: %1.</translation></message>
     <message id="rev_330"><translation>Unsaved changes: %1 (new configuration). Open a new one to bring back what was edited.</translation></message>
     <message id="rev_331"><translation>The file has this setting, but no window of this tracker shows it.</translation></message>
     <message id="tmiex_001"><translation>Navigation</translation></message>

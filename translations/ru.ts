@@ -1822,6 +1822,10 @@
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>
     <message id="rev_299"><translation>Полная настройка его не использует, запись из неё его не сохранит</translation></message>
+    <message id="rev_500"><translation>Потеряны несохранённые изменения: %1 (%2). Их не удалось держать на диске: %3.</translation></message>
+    <message id="rev_501"><translation>Потеряны несохранённые изменения: %1 (новая конфигурация). Их не удалось держать на диске: %2.</translation></message>
+    <message id="rev_502"><translation>Несохранённые изменения снова держатся на диске.</translation></message>
+    <message id="rev_503"><translation>Запись из быстрой настройки заменит то, что задано в полной: %1.</translation></message>
     <message id="rev_330"><translation>Несохранённые изменения: %1 (новая конфигурация). Откройте новую, чтобы вернуть.</translation></message>
     <message id="rev_331"><translation>Этот параметр есть в файле, но ни одно окно трекера его не показывает.</translation></message>
     <message id="tmiex_001"><translation>Навигация</translation></message>

@@ -45,6 +45,16 @@ const std::vector<int>& deciders()
     return all;
 }
 
+// With its page.
+QString groupOf(const TableLayout& layout, int row)
+{
+    const review::SettingWords words = review::wordsOf(layout, row);
+    QStringList parts{words.page, words.group};
+    parts.removeAll(QString());
+    parts.removeDuplicates();
+    return parts.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 ConfigurationReview::ConfigurationReview(EditHistory& history, std::function<bool()> isQuick, QObject* parent)
@@ -73,6 +83,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     opened_ = root ? FileState::ofDocument(*root) : now();
     asItCame_ = opened_;
     isWritten_ = false;
+    gone_.clear();
     newInFull_.reset();
     if (!root && isQuick()) {
         XmlDocument document(this->document(), QStringLiteral("DEVICE"));
@@ -128,6 +139,9 @@ void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QStr
     edited_ = Differences(asItCame_, now());
     if (against_ == Against::file)
         differences_ = edited_;
+    // The full window has them until it is on show again.
+    gone_ = leftOutKeys();
+    std::erase_if(gone_, [this](int key) { return edited_.isDifferent(key); });
     advice_.reset();
     Q_EMIT changed();
 }
@@ -280,9 +294,9 @@ QStringList ConfigurationReview::takenForUsed() const
     return captions;
 }
 
-QStringList ConfigurationReview::leftOut() const
+std::vector<int> ConfigurationReview::leftOutKeys() const
 {
-    QStringList told;
+    std::vector<int> keys;
     for (const int key : isQuick() ? deciders() : std::vector<int>()) {
         const review::FileKey& place = FileKeys::all()[key];
         const Values& full = present_.tables()[place.table];
@@ -292,12 +306,38 @@ QStringList ConfigurationReview::leftOut() const
         if (!full.isWritten(row) || full.value(row) == full.row(row).loadDefault() || isKept ||
             !isUnedited(key))
             continue;
-        const review::SettingWords words = review::wordsOf(full.layout(), row);
-        QStringList parts{words.page, words.group};
-        parts.removeAll(QString());
-        parts.removeDuplicates();
-        told << QStringLiteral("%1: %2").arg(parts.join(QLatin1Char(' ')), valueText(full, row));
+        keys.push_back(key);
     }
+    return keys;
+}
+
+QStringList ConfigurationReview::leftOut() const
+{
+    QStringList told;
+    for (const int key : leftOutKeys()) {
+        if (std::ranges::find(gone_, key) != gone_.end())
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        const Values& full = present_.tables()[place.table];
+        const int row = place.rows.front();
+        told << QStringLiteral("%1: %2").arg(groupOf(full.layout(), row), valueText(full, row));
+    }
+    return told;
+}
+
+QStringList ConfigurationReview::madeAnew() const
+{
+    static const QStringList anew = review::sectionsMadeAnew(layoutOf(kQuickSettings));
+    QStringList told;
+    for (const int key : isQuick() ? edited_.keys() : std::vector<int>()) {
+        const bool stays = edited_.before().at(key).isThere && edited_.after().at(key).isThere;
+        const QString section = edited_.differenceAt(key).path.section(QLatin1Char('/'), 0, 0);
+        if (!stays || !isUnedited(key) || !anew.contains(section))
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        told << groupOf(FileKeys::all().layout(place.table), place.rows.front());
+    }
+    told.removeDuplicates();
     return told;
 }
 
@@ -384,6 +424,8 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     const bool isOther = isQuick != wasQuick_;
     const bool isWhole = isQuick || isOther || pages.size() == int(history_.pages().size());
     wasQuick_ = isQuick;
+    if (!isQuick)
+        gone_.clear(); // chosen again, they would go again
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame(), state);

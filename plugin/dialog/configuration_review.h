@@ -87,6 +87,9 @@ public:
     // What full setup has chosen and a write from the quick window, which does not show it, would remove: a
     // sensor, a device.
     QStringList leftOut() const;
+    // Where such a write would change settings of what stays and which the quick window does not show: the
+    // filter of a sensor, the name of a line.
+    QStringList madeAnew() const;
     // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
@@ -151,6 +154,7 @@ private:
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
+    std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
 
@@ -161,6 +165,7 @@ private:
     review::FileState asItCame_;                 // the same, or what has been written since then
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
+    std::vector<int> gone_; // of leftOutKeys(), with what the quick window has written
     Values quickAsItCame_;
     review::FileState quickState_; // with that over what the full window makes of it
     QHash<QString, QString> quickStrangers_;

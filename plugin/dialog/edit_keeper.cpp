@@ -22,6 +22,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcUnsaved, "vlk.save.unsaved")
 Q_LOGGING_CATEGORY(lcKept, "vlk.unsaved.kept")
 Q_LOGGING_CATEGORY(lcFound, "vlk.unsaved.found")
+Q_LOGGING_CATEGORY(lcLost, "vlk.unsaved.lost")
 Q_LOGGING_CATEGORY(lcWritten, "vlk.unsaved.written")
 
 const QString kNew = QStringLiteral("new");
@@ -118,6 +119,7 @@ EditKeeper::EditKeeper(ConfigurationReview& review, QWidget& window) : review_(r
 void EditKeeper::begin(const QString& folder, const QString& subject, bool staysAsOpened)
 {
     due_.stop();
+    setFailure({}); // it is told anew of this one
     folder_ = folder;
     setSubject(subject);
     isInSight_ = true;
@@ -169,6 +171,10 @@ bool EditKeeper::keep()
         kept_ = now;
         if (!claim_)
             claim_.emplace(path_);
+        if (!failure_.isEmpty()) {
+            setFailure({});
+            Q_EMIT keptAgain();
+        }
     } else {
         setFailure(reason);
         return false;
@@ -193,9 +199,21 @@ bool EditKeeper::eventFilter(QObject* watched, QEvent* event)
         leave();
         isInSight_ = false;
         if (!subject_.isEmpty())
-            tellKeptEdits(folder_, tellKept() ? subject_ : QString());
+            tellKeptEdits(folder_, !tellLost() && tellKept() ? subject_ : QString());
     }
     return QObject::eventFilter(watched, event);
+}
+
+bool EditKeeper::tellLost() const
+{
+    if (failure_.isEmpty())
+        return false;
+    const QByteArray& before = kept_.isEmpty() ? beginning_[review_.isQuick()] : kept_;
+    const std::size_t count =
+        std::max<std::size_t>(review::ownKeys({subject_, {}, before, shown_}).size(), 1);
+    qCWarning(lcLost).noquote().nospace()
+        << count << " changes are lost: " << nameOfSubject(subject_) << ": " << failure_;
+    return true;
 }
 
 // The window is gone: whoever shows what is logged says it.
@@ -282,12 +300,12 @@ void EditKeeper::confirmed(const QByteArray& content)
 
 void EditKeeper::setFailure(const QString& reason)
 {
-    if (reason == failure_)
-        return;
+    const bool isOther = reason != failure_;
     failure_ = reason;
-    if (!reason.isEmpty())
+    if (isOther && !reason.isEmpty())
         qCWarning(lcUnsaved).noquote().nospace() << path_ << ": " << reason;
-    Q_EMIT failureChanged();
+    if (isOther || !reason.isEmpty())
+        Q_EMIT failed();
 }
 
 } // namespace vlk

@@ -57,7 +57,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    void failureChanged();
+    // With every edit that the disk refuses, and when it does no longer.
+    void failed();
+    // What the disk refused before is kept now.
+    void keptAgain();
     // What there is now is safe: kept, saved or written.
     void safe();
     // The tracker has what the window on show handed over: that content, and what the quick window held then.
@@ -79,6 +82,8 @@ private:
     // The tracker has that.
     void beginOpened(const QByteArray& document);
     void setFailure(const QString& reason);
+    // What the disk refused goes with the window. False when nothing does.
+    bool tellLost() const;
     // False when nothing is.
     bool tellKept() const;
 

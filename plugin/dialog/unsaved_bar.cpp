@@ -57,6 +57,7 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
 {
     for (std::size_t i = 0; i < offers_.size(); ++i)
         end(static_cast<int>(i) + 1);
+    end(kFailure);
     end(kFile);
     end(kReplaced);
     replaced_.clear();
@@ -132,8 +133,9 @@ void UnsavedBar::refresh()
         else
             end(number);
     }
-    tellSensors(kTakenForUsed, "rev_371", &ConfigurationReview::takenForUsed);
-    tellSensors(kLeftOut, "rev_435", &ConfigurationReview::leftOut);
+    using Review = ConfigurationReview;
+    tellSensors(kTakenForUsed, {{"rev_371", &Review::takenForUsed}});
+    tellSensors(kLeftOut, {{"rev_435", &Review::leftOut}, {"rev_503", &Review::madeAnew}});
     const std::size_t count = replaced().size();
     if (std::exchange(toldReplaced_, count) == count)
         return;
@@ -169,16 +171,22 @@ Notice UnsavedBar::noticeOfReplaced()
     return {Mark::advice, words("rev_760").arg(count), {take, show}};
 }
 
-void UnsavedBar::tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const)
+void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences)
 {
-    const QStringList sensors = (review_.*which)();
-    if (std::exchange(sensors_[number], sensors) == sensors)
+    const auto text = [this, all = std::move(sentences)] {
+        QStringList told;
+        for (const auto& [key, which] : all) {
+            if (const QStringList sensors = (review_.*which)(); !sensors.isEmpty())
+                told << words(key).arg(sensors.join(QStringLiteral(", ")));
+        }
+        return told.join(QLatin1Char(' '));
+    };
+    const QString now = text();
+    if (std::exchange(sensors_[number], now) == now)
         return;
-    if (sensors.isEmpty())
+    if (now.isEmpty())
         return end(number);
-    tell(number, [this, key, which] {
-        return Notice{Mark::advice, words(key).arg((review_.*which)().join(QStringLiteral(", "))), {}};
-    });
+    tell(number, [text] { return Notice{Mark::advice, text(), {}}; });
 }
 
 void UnsavedBar::tellOffer(int number)
@@ -266,6 +274,11 @@ void UnsavedBar::tellFailure(const QString& reason)
         tell(kFailure, [reason] {
             return Notice{Mark::invalid, words("rev_145").arg(fileErrorText(reason)), {}};
         });
+}
+
+void UnsavedBar::tellKeptAgain()
+{
+    tellNews(kFailure, [] { return Notice{Mark::right, words("rev_502"), {}}; });
 }
 
 } // namespace vlk

@@ -13,6 +13,7 @@
 
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace vlk {
@@ -37,6 +38,7 @@ public:
     void tellReplaced(std::vector<int> keys);
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
+    void tellKeptAgain();
 
 Q_SIGNALS:
     // The review compares with an offer.
@@ -63,8 +65,9 @@ private:
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     bool isBroughtBack(const Offer& offer) const;
     void tellDamaged();
-    // While there are some.
-    void tellSensors(int number, const char* key, QStringList (ConfigurationReview::*which)() const);
+    // A key, and what it tells of while there is some.
+    using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
+    void tellSensors(int number, std::vector<Sentence> sentences);
     // Settings that the tracker was brought back to and that stand otherwise in the window.
     std::vector<int> replaced() const;
     Notice noticeOfReplaced();
@@ -77,11 +80,11 @@ private:
     void endComparison();
 
     ConfigurationReview& review_;
-    QStringList damaged_; // what is left of changes that cannot be offered; the last one is told
-    std::map<int, QStringList> sensors_; // that a notice told last
-    std::vector<int> replaced_;          // by the tracker, and not taken over
-    std::size_t toldReplaced_ = 0;       // how many of them
-    std::vector<Offer> offers_;          // a notice has the number of its place, from 1 on
+    QStringList damaged_;            // what is left of changes that cannot be offered; the last one is told
+    std::map<int, QString> sensors_; // that a notice told last
+    std::vector<int> replaced_;      // by the tracker, and not taken over
+    std::size_t toldReplaced_ = 0;   // how many of them
+    std::vector<Offer> offers_;      // a notice has the number of its place, from 1 on
 };
 
 } // namespace vlk

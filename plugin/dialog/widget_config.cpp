@@ -163,8 +163,8 @@ void VLK_Widget_Config::addKeeper()
                     review_.setWritten(content, quick);
             });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
-    connect(&keeper_, &vlk::EditKeeper::failureChanged, this,
-            [this] { unsaved_->tellFailure(keeper_.failure()); });
+    connect(&keeper_, &vlk::EditKeeper::failed, this, [this] { unsaved_->tellFailure(keeper_.failure()); });
+    connect(&keeper_, &vlk::EditKeeper::keptAgain, unsaved_, &vlk::UnsavedBar::tellKeptAgain);
     connect(area_->differences(), &vlk::ReviewPanel::told, unsaved_, &vlk::UnsavedBar::tellFile);
     connect(unsaved_, &vlk::UnsavedBar::tookOver, this, [this] {
         // With what the tracker holds there is nothing to keep.

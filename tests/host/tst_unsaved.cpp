@@ -330,6 +330,41 @@ private Q_SLOTS:
         QCOMPARE(offer(), QString("rev_345: 2"));
     }
 
+    // It is told of every opening and of every edit behind its cross, and what goes with the window is lost.
+    void lostOnAFullDisk()
+    {
+        const auto port = [this](const QString& keys) {
+            type(child<QWidget>("page_Full")->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"), keys);
+        };
+        edit();
+        QTRY_COMPARE(files().size(), 1);
+        {
+            const FullDisk disk(100);
+            const auto change = [&](const QString& keys) {
+                port(keys);
+                QTRY_COMPARE(offer(), QString("rev_145"));
+                press("label_Unsaved_Close");
+                QVERIFY(offer() != "rev_145");
+            };
+            for (const QString older : {"", "rev_345: 2"}) {
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("\\.unsaved: File too large$"));
+                QTest::ignoreMessage(QtWarningMsg, "1 changes are lost: factory.xml: File too large");
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of .+: factory.xml$"));
+                QCOMPARE(offer(), older);
+                change("<All>6001<Tab>");
+                change("<All>6002<Tab>");
+                window->close();
+                open("file");
+            }
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("\\.unsaved: File too large$"));
+            change("<All>6003<Tab>");
+        }
+        port("<All>6004<Tab>");
+        QTRY_COMPARE(offer(), QString("rev_502"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^1 changes are kept: factory.xml$"));
+        window->close();
+    }
+
     void killed()
     {
         const int count = std::max(16, qEnvironmentVariableIntValue(kKills));

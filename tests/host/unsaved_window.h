@@ -66,9 +66,9 @@ protected:
     QString offer() const
     {
         const auto* label = child<QLabel>("label_Unsaved");
-        // What quick setup would remove is no offer.
-        return label->isVisible() && !label->text().startsWith("rev_435") ? label->text().section(" (", 0, 0)
-                                                                          : QString();
+        // What quick setup would remove or replace is no offer.
+        const bool isOffer = !label->text().startsWith("rev_435") && !label->text().startsWith("rev_503");
+        return label->isVisible() && isOffer ? label->text().section(" (", 0, 0) : QString();
     }
     QStringList files() const
     {

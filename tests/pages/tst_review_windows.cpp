@@ -313,9 +313,16 @@ private Q_SLOTS:
         QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("0+%1").arg(written));
         // Two sensors of full setup would go, and are named while it is so.
         const auto* told = child<QLabel>("label_Unsaved");
-        QVERIFY(told->isVisible() && told->text() == "rev_435");
+        QVERIFY(told->isVisible() && told->text() == "rev_435 rev_503");
         QCOMPARE(dialog_->review().leftOut().join('|'),
                  QString("cfgt17_001 cfgt17_024 1: cfgt17_018|cfgt17_001 cfgt17_024 2: cfgt17_019"));
+        // So are the sensors and lines that stay, with other settings.
+        QCOMPARE(dialog_->review().madeAnew().join('|'),
+                 QString("cfgt6_001 cfgt6_007 / cfgwl_032 1|cfgt6_001 cfgt6_007 / cfgwl_032 2|"
+                         "cfgt8_001 cfgt8_010|cfgt8_001 cfgt8_011|cfgt8_001 cfgt8_012"));
+        // They go with a write.
+        dialog_->review().setWritten(dialog_->review().document(), dialog_->review().quickValues());
+        QVERIFY(!told->isVisible() && dialog_->review().leftOut().isEmpty());
         dialog_->switchToFull();
         QVERIFY(!told->isVisible());
     }

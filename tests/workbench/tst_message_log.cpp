@@ -86,6 +86,8 @@ private Q_SLOTS:
               {"vlk.fuel", "the document holds more rows than a calibration table"},
               {"vlk.unsaved.kept", "2 changes are kept: "},
               {"vlk.unsaved.kept", "2 changes are kept: /a"},
+              {"vlk.unsaved.lost", "2 changes are lost: : 1"},
+              {"vlk.unsaved.lost", "2 changes are lost: /a: 1"},
               {"vlk.unsaved.found", "changes of 18:44: "},
               {"vlk.unsaved.found", "changes of 26.11.2026 18:44: /a"}}) {
             QString words = workbench::PluginLog::words(QLatin1String(name), QLatin1String(message));

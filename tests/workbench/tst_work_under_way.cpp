@@ -212,6 +212,19 @@ private Q_SLOTS:
             Bench::press(configuration, "label_WindowNotice_Close");
             QTRY_COMPARE(field->mapToGlobal(QPoint()), before);
         }
+        // Nor what is found, where it stands over the row of the search.
+        QFile::remove(bench.file());
+        Bench::press(configuration, "pushButton_SaveToFile");
+        QTRY_VERIFY(Bench::notice().startsWith(QLatin1String("Saved: ")));
+        const auto* notice = configuration->findChild<QWidget*>(QStringLiteral("frame_WindowNotice"));
+        QApplication::setActiveWindow(configuration);
+        auto* find = configuration->findChild<QLineEdit*>(QStringLiteral("lineEdit_Find"));
+        find->setFocus();
+        QTest::keyClicks(find, "port");
+        const auto* hits = configuration->findChild<QWidget*>(QStringLiteral("listWidget_Found"));
+        QTRY_VERIFY(hits->isVisible());
+        const QRect list(hits->mapToGlobal(QPoint()), hits->size());
+        QTRY_VERIFY(!notice->geometry().intersects(list));
     }
 
     void refusesWhatDestroys_data()

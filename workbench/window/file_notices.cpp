@@ -23,6 +23,7 @@ constexpr int kMostInBar = 2;
 
 const QString kUnsaved = QStringLiteral("vlk.unsaved.");
 const QString kFound = QStringLiteral("vlk.unsaved.found");
+const QString kLost = QStringLiteral("vlk.unsaved.lost");
 constexpr int kWaiting = 1; // number of the notice
 
 QString told(const QVector<QPair<QString, QString>>& noted, int most)
@@ -105,11 +106,12 @@ void FileNotices::forget(const QString& category, const QString& message)
 void FileNotices::tellWaiting()
 {
     if (waiting_.isEmpty())
-        bar_.end(kWaiting);
-    else
-        bar_.tell(kWaiting, [waiting = waiting_] {
-            return vlk::Notice{vlk::Mark::advice, told(waiting, kMostInBar), {}};
-        });
+        return bar_.end(kWaiting);
+    const bool isLost = std::any_of(waiting_.cbegin(), waiting_.cend(),
+                                    [](const auto& entry) { return entry.first == kLost; });
+    bar_.tell(kWaiting, [waiting = waiting_, mark = isLost ? vlk::Mark::invalid : vlk::Mark::advice] {
+        return vlk::Notice{mark, told(waiting, kMostInBar), {}};
+    });
 }
 
 void FileNotices::configurationOpened()

@@ -40,6 +40,8 @@ constexpr CategoryRow kCategoryRows[] = {
     {"vlk.save.unsaved", PluginLog::Topic::Damage, "wb_told_unsaved", kOfFile},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_330", "^(\\d+) changes are kept: $"},
     {"vlk.unsaved.kept", PluginLog::Topic::Damage, "rev_260", "^(\\d+) changes are kept: (.+)$"},
+    {"vlk.unsaved.lost", PluginLog::Topic::Damage, "rev_501", "^(\\d+) changes are lost: : (.+)$"},
+    {"vlk.unsaved.lost", PluginLog::Topic::Damage, "rev_500", "^(\\d+) changes are lost: (.+): (.+)$"},
     {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_295", "^changes of ([\\d.: ]+?): $"},
     {"vlk.unsaved.found", PluginLog::Topic::Damage, "rev_294", "^changes of ([\\d.: ]+?): (.+)$"},
     {"vlk.unsaved.written", PluginLog::Topic::Written, "wb_told_written", "^changes are written: (.*)$"},

@@ -11,6 +11,7 @@ namespace workbench {
 namespace {
 
 constexpr int kMargin = 6;
+const QString kHits = QStringLiteral("listWidget_Found"); // below the field in which one looks for them
 constexpr int kGoesOnMs = 5000; // between two keys of somebody who goes round the window
 
 // Those of the window itself.
@@ -86,8 +87,9 @@ bool WindowNotice::eventFilter(QObject* object, QEvent* event)
     const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
     if (widget && isKey)
         return takesKey(*widget, *static_cast<QKeyEvent*>(event));
-    const bool isBar = widget && widget->objectName() == QLatin1String("noticeBar");
-    if (!widget || (widget != parentWidget() && !(isBar && widget->window() == parentWidget())))
+    const bool isWatched =
+        widget && (widget->objectName() == QLatin1String("noticeBar") || widget->objectName() == kHits);
+    if (!widget || (widget != parentWidget() && !(isWatched && widget->window() == parentWidget())))
         return false;
     switch (event->type()) {
     case QEvent::Move:
@@ -147,7 +149,11 @@ void WindowNotice::place()
     resize(inside.width(), std::max(heightForWidth(inside.width()), least));
     const QWidget* typed = parentWidget()->focusWidget();
     if (typed && typed->isVisible() && typed->testAttribute(Qt::WA_InputMethodEnabled)) {
-        const QRect field(typed->mapToGlobal(QPoint()), typed->size());
+        QRect field(typed->mapToGlobal(QPoint()), typed->size());
+        // They are there only while the field has the focus.
+        const auto* hits = parentWidget()->findChild<QWidget*>(kHits);
+        if (hits && hits->isVisible())
+            field |= {hits->mapToGlobal(QPoint()), hits->size()};
         if (field.intersects({inside.topLeft(), size()}))
             inside.setTop(field.bottom() + 1 + kMargin);
     }
