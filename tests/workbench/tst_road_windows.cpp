@@ -164,7 +164,7 @@ private Q_SLOTS:
         for (const auto& [port, changes] : {std::pair("04000", 0), {"4001", 1}})
             QCOMPARE(bench.session().edited().changesIn(QByteArray(document).replace("4000", port)), changes);
         auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
-        const auto type = [box](const QString& keys) {
+        const auto type = [&box](const QString& keys) {
             QApplication::setActiveWindow(box->window());
             box->setFocus();
             box->selectAll();
@@ -198,7 +198,19 @@ private Q_SLOTS:
                                ->findChild<QListWidget*>("listWidget_Advice")
                                ->findItems("Port: ", Qt::MatchContains);
         QVERIFY(lines.size() == 1 && lines[0]->text().contains("65536, which does not exist"));
+        // So does the report, also where it was typed before the window was opened.
+        for (const char* name : {"Van 3", "Van 4"}) {
+            Bench::press("pushButton_Write");
+            QVERIFY(Bench::comes("dialog_Report"));
+            QCOMPARE(bench.text("label_Report").count("65536, which does not exist"), 1);
+            Bench::press("pushButton_Close");
+            bench.session().link().send(vlk::Message::CloseWindows);
+            bench.action("action_Read")->trigger();
+            bench.editName(QString(name) + " again");
+            QVERIFY(Bench::isReviewed());
+        }
         Bench::press("pushButton_Cancel");
+        box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
         // With what stands there already nothing is red any more.
         type(port);
         bench.editName("Van 3");

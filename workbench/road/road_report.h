@@ -125,6 +125,7 @@ struct RoadReport
     QVector<WrittenSetting> settings; // what was not taken comes first
     QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;
+    QStringList errors{}; // of what was written, a line each, and what was not taken as it was typed
     QDateTime time;
     bool isSeenLater = false; // it had ended unknown, and a read of the tracker at that time told the outcome
 

@@ -36,4 +36,14 @@ void addRefused(QVector<SettingAdvice>* advice, const QStringList& refused)
                           [](const SettingAdvice& told) { return told.isError; });
 }
 
+QStringList errorsIn(const QVector<SettingAdvice>& advice)
+{
+    QStringList errors;
+    for (const SettingAdvice& told : advice) {
+        if (told.isError)
+            errors.append(told.line());
+    }
+    return errors;
+}
+
 } // namespace workbench

@@ -31,4 +31,7 @@ using Advise = std::function<std::optional<QVector<SettingAdvice>>(const QByteAr
 // sentence: an error of what it holds now says more than what was refused.
 void addRefused(QVector<SettingAdvice>* advice, const QStringList& refused);
 
+// A line each: what a user has to look at again once it is saved or written.
+QStringList errorsIn(const QVector<SettingAdvice>& advice);
+
 } // namespace workbench

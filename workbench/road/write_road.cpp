@@ -229,7 +229,8 @@ void WriteRoad::presentCame(const QByteArray& document)
         review_.advice = advice.value_or(QVector<SettingAdvice>());
     }
     addRefused(&review_.advice, review_.request.typed);
-    review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
+    report_.errors = errorsIn(review_.advice);
+    review_.errors = static_cast<int>(report_.errors.size());
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);
     setStep(Step::review);

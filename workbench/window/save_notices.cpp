@@ -106,11 +106,7 @@ void SaveNotices::tellConfiguration(const QString& path)
     QVector<SettingAdvice> advice = session_.comparer().advise(content).value_or(QVector<SettingAdvice>());
     addRefused(&advice, typing_.lines());
     typing_.forget();
-    QStringList errors;
-    for (const SettingAdvice& told : qAsConst(advice)) {
-        if (told.isError)
-            errors << told.line();
-    }
+    const QStringList errors = errorsIn(advice);
     const auto sentence = [path, told = std::exchange(toldChanges_, {}), errors] {
         QStringList lines{told.message.startsWith(path + QLatin1String(": "))
                               ? PluginLog::words(told.category, told.message)

@@ -378,7 +378,7 @@ void WorkbenchWindow::showReport(const RoadReport& report)
         return;
     }
     // What was refused is not written with those numbers yet.
-    const QString typed = typedText(report);
+    const QString typed = errorText(report);
     if (!typed.isEmpty())
         saveNotices_->typing().forget();
     reportView_->setReport(report);

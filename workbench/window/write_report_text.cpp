@@ -178,12 +178,11 @@ bool isKept(const WriteRequest& request)
 
 } // namespace
 
-QString typedText(const RoadReport& report)
+QString errorText(const RoadReport& report)
 {
-    const QStringList& typed = report.request.typed;
-    return typed.isEmpty() || !isWritten(report)
+    return report.errors.isEmpty() || !isWritten(report)
                ? QString()
-               : text("wb_typed") + QLatin1Char('\n') + typed.join(QLatin1Char('\n'));
+               : text("wb_typed") + QLatin1Char('\n') + report.errors.join(QLatin1Char('\n'));
 }
 
 QString summary(const RoadReport& report)
@@ -197,7 +196,7 @@ QString summary(const RoadReport& report)
     if (report.earlier > 0)
         lines.append(earlierWrite(report));
     if (isWritten(report)) {
-        lines.append(typedText(report));
+        lines.append(errorText(report));
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }
