@@ -182,6 +182,10 @@ private Q_SLOTS:
             bench.editName(name);
             QVERIFY(Bench::isReviewed());
             QVERIFY2(isAdvised(), name);
+            // It is no advice on what the field holds, which the window counts.
+            QVERIFY(!Bench::find("dialog_Review")->findChild<QLabel*>("label_Advice"));
+            QCOMPARE(Bench::find<QLabel>("label_Typed")->text(), QString("Not taken as typed: 1"));
+            QCOMPARE(Bench::find<QToolButton>("toolButton_Advice")->text(), QString("0"));
             Bench::press("pushButton_Write");
             QVERIFY(Bench::comes("dialog_Report"));
             QVERIFY2(bench.text("label_Report").contains(refused), name);
@@ -227,7 +231,7 @@ private Q_SLOTS:
             QVERIFY2(isAdvised() && Bench::find("pushButton_Cancel")->hasFocus(), next);
             QVERIFY(Bench::find<QLabel>("label_Origin")
                         ->text()
-                        .contains("has to be seen: the configuration has an error."));
+                        .contains("has to be seen: a field did not take what was typed."));
             Bench::press("pushButton_Write");
             QVERIFY(Bench::comes("dialog_Report"));
             QVERIFY2(bench.text("label_Report").startsWith("Not taken") &&

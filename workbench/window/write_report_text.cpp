@@ -178,11 +178,11 @@ bool isKept(const WriteRequest& request)
 
 } // namespace
 
-QString errorText(const RoadReport& report)
+QString lookAgainText(const RoadReport& report)
 {
-    return report.errors.isEmpty() || !isWritten(report)
+    return report.toLookAt.isEmpty() || !isWritten(report)
                ? QString()
-               : text("wb_typed") + QLatin1Char('\n') + report.errors.join(QLatin1Char('\n'));
+               : text("wb_typed") + QLatin1Char('\n') + report.toLookAt.join(QLatin1Char('\n'));
 }
 
 QString summary(const RoadReport& report)
@@ -196,7 +196,7 @@ QString summary(const RoadReport& report)
     if (report.earlier > 0)
         lines.append(earlierWrite(report));
     if (isWritten(report)) {
-        lines.append(errorText(report));
+        lines.append(lookAgainText(report));
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }

@@ -11,7 +11,7 @@ namespace workbench {
 QString summary(const RoadReport& report);
 
 // The latter alone; empty for most, and where nothing was written.
-QString errorText(const RoadReport& report);
+QString lookAgainText(const RoadReport& report);
 
 // The summary and a line a setting, for a file or the clipboard, divided by tabs.
 QString plainText(const RoadReport& report);

@@ -184,7 +184,7 @@ void WriteReportView::showSummary()
     if (!any)
         return;
     const Mark mark = report_.outcome == Outcome::confirmed
-                          ? (errorText(report_).isEmpty() ? Mark::right : Mark::advice)
+                          ? (lookAgainText(report_).isEmpty() ? Mark::right : Mark::advice)
                       : report_.outcome == Outcome::cancelled ? Mark::advice
                                                               : Mark::invalid;
     symbol_->setPixmap(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF()));
@@ -200,10 +200,10 @@ void WriteReportView::tellAnew(RoadReport& report) const
             report.settings, [&path](const WrittenSetting& setting) { return setting.change.path == path; });
     };
     const FileComparer& comparer = session_.comparer();
-    if (!report.errors.isEmpty()) {
+    if (!report.toLookAt.isEmpty()) {
         if (auto advice = comparer.advise(report.request.document)) {
             addRefused(&*advice, report.request.typed);
-            report.errors = errorsIn(*advice);
+            report.toLookAt = toLookAt(*advice);
         }
     }
     // Those that came back otherwise first: of the others the one comparison tells all.
