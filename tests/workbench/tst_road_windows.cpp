@@ -130,6 +130,14 @@ private Q_SLOTS:
         QVERIFY(Bench::goes("dialog_Review"));
         QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
         QCOMPARE(bench.nameInTracker(), QString("Van 2"));
+        // What the review has announced the report tells at once.
+        bench.editName("Van 4");
+        QVERIFY(Bench::isReviewed());
+        const QString removed = Bench::find<QLabel>("label_Removed")->text().section(' ', 0, 0);
+        QVERIFY2(removed.toInt() > 0, qPrintable(removed));
+        Bench::press("pushButton_Write");
+        QVERIFY(Bench::comes("dialog_Report"));
+        QCOMPARE(bench.text("label_Report").section('\n', 1, 1), "Removed from the tracker: " + removed);
     }
 
     // Whoever wants no review gets one where there is no room to look for errors.

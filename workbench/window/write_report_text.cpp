@@ -135,6 +135,16 @@ bool isWritten(const RoadReport& report)
     return report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken;
 }
 
+// How much of it the tracker holds no longer; empty for most.
+QString removedFrom(const RoadReport& report)
+{
+    const auto removed = std::ranges::count_if(report.settings, [](const WrittenSetting& setting) {
+        return setting.change.isRemoved() && setting.isTaken;
+    });
+    return removed == 0 || !isWritten(report) ? QString()
+                                              : text("wb_782").arg(number(static_cast<int>(removed)));
+}
+
 // Where it was not what stands in a window: what it was. Empty otherwise.
 QString broughtBack(const RoadReport& report)
 {
@@ -188,6 +198,7 @@ QString lookAgainText(const RoadReport& report)
 QString summary(const RoadReport& report)
 {
     QStringList lines{firstLine(report)};
+    lines.append(removedFrom(report));
     lines.append(broughtBack(report));
     if (report.fault == Fault::interrupted)
         lines.append(text("wb_report_left_do"));
