@@ -452,9 +452,13 @@ private Q_SLOTS:
         QVERIFY(!bench.session.readConfiguration(true));
         QVERIFY(bench.isConfirmed() && !bench.mustBeSeen);
         // One of a file has not seen the tracker either.
-        const QString path = writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"/>");
+        const QString path =
+            writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"><TRANS/></DEVICE>");
         QVERIFY(!bench.session.openConfiguration(path, true));
         const RoadReport report = bench.report();
+        QVERIFY(report.settings.size() > 1);
+        QCOMPARE(workbench::summary(report).section('\n', 1, 1),
+                 QString("Removed from the tracker: %1").arg(report.settings.size()));
         QVERIFY(report.outcome == Outcome::confirmed && bench.mustBeSeen);
         QVERIFY(report.request.name == "van.xml" && !bench.session.edited().seenIn().isEmpty());
         QCOMPARE(bench.reviewed, 4);
