@@ -2879,7 +2879,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_review_after"><translation>Will be</translation></message>
     <message id="wb_review_alongside"><translation>The chosen settings need these, which come along: %1.</translation></message>
     <message id="wb_review_always"><translation>Show before every write</translation></message>
-    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, was not read from this tracker, meets something else in it than was known or brings back an earlier configuration is always shown.</translation></message>
+    <message id="wb_review_always_tip"><translation>What removes settings, holds an error or could not be checked for one, holds something else than was typed, was not read from this tracker, meets something else in it than was known or brings back an earlier configuration is always shown.</translation></message>
     <message id="wb_review_backup"><translation>Backup No.&#160;%1 of this tracker.</translation></message>
     <message id="wb_review_backup_other"><translation>Backup No.&#160;%1 of another tracker: %2.</translation></message>
     <message id="wb_review_before"><translation>In the tracker</translation></message>
@@ -2920,6 +2920,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_save_failed"><translation>The file %1 was not saved.</translation></message>
     <message id="wb_save_failed_why"><translation>The file %1 was not saved: %2.</translation></message>
     <message id="wb_740"><translation>XML holds whole litres: %1. Excel (CSV) keeps the fractions.</translation></message>
+    <message id="wb_780"><translation>a field did not take what was typed</translation></message>
+    <message id="wb_781"><translation>Not taken as typed: %1</translation></message>
+    <message id="wb_782"><translation>Removed from the tracker: %1</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

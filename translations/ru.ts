@@ -2879,7 +2879,7 @@
     <message id="wb_review_after"><translation>Станет</translation></message>
     <message id="wb_review_alongside"><translation>Отмеченным параметрам нужны и эти, они вернутся вместе с ними: %1.</translation></message>
     <message id="wb_review_always"><translation>Показывать перед каждой записью</translation></message>
-    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, прочитано не из этого трекера, ложится на изменённое с тех пор или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
+    <message id="wb_review_always_tip"><translation>То, что удаляет параметры, содержит ошибку или не проверено на ошибки, не принято таким, как набрано, прочитано не из этого трекера, ложится на изменённое с тех пор или возвращает прежнюю конфигурацию, показывается всегда.</translation></message>
     <message id="wb_review_backup"><translation>Резервная копия №&#160;%1 этого трекера.</translation></message>
     <message id="wb_review_backup_other"><translation>Резервная копия №&#160;%1 другого трекера: %2.</translation></message>
     <message id="wb_review_before"><translation>В трекере</translation></message>
@@ -2920,6 +2920,9 @@
     <message id="wb_save_failed"><translation>Файл %1 не сохранён.</translation></message>
     <message id="wb_save_failed_why"><translation>Файл %1 не сохранён: %2.</translation></message>
     <message id="wb_740"><translation>В XML только целые литры: %1. Дробные части сохранит Excel (CSV).</translation></message>
+    <message id="wb_780"><translation>поле не приняло то, что набрано</translation></message>
+    <message id="wb_781"><translation>Не принято из набранного: %1</translation></message>
+    <message id="wb_782"><translation>Удалено из трекера: %1</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>

@@ -326,7 +326,8 @@ private Q_SLOTS:
         QVERIFY(report.time.secsTo(QDateTime::currentDateTime()) < 60);
         QVERIFY(report.request.origin == request.origin && report.request.document == kPlain);
         QCOMPARE(report.request.name + report.request.file, QString("van.xml/kept.xml"));
-        QVERIFY(report.request.chosen == request.chosen && report.request.typed == request.typed);
+        QVERIFY(report.request.chosen == request.chosen && report.request.typed == request.typed &&
+                report.toLookAt == request.typed);
         QVERIFY(next().isEmpty());
         // What ended in a report is not told again.
         {
@@ -435,7 +436,7 @@ private Q_SLOTS:
         typed.typed = QStringList{"Port: 3,5"};
         bench.road.begin(typed);
         const workbench::WriteReview review = bench.review();
-        QVERIFY(review.reasons() == QVector{workbench::WriteReview::Why::hasErrors} && review.mustBeSeen());
+        QVERIFY(review.reasons() == QVector{workbench::WriteReview::Why::hasTyped} && review.mustBeSeen());
         bench.road.cancel();
         bench.reports.clear();
         bench.begin(kNew.chopped(9));

@@ -66,6 +66,15 @@ private Q_SLOTS:
         QVERIFY(Bench::find("dialog_History") && !QApplication::activeModalWidget());
         QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
         table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+        // It comes back with the two that it was chosen of.
+        auto* sides = Bench::find<QComboBox>("comboBox_Against");
+        sides->setFocus();
+        const QString now = sides->currentText();
+        for (const int key : {Qt::Key_Up, Qt::Key_Down}) {
+            QTest::keyClick(sides, Qt::Key(key));
+            QCOMPARE(Bench::find("pushButton_BringChosen")->isEnabled(), key == Qt::Key_Down);
+        }
+        QCOMPARE(sides->currentText(), now);
         // Neither a file that is not chosen after all nor a review that is given up changes what is looked
         // at.
         auto* against = Bench::find<QComboBox>("comboBox_Against");

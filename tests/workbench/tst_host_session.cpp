@@ -120,7 +120,9 @@ private Q_SLOTS:
         // They lie in the order in which they were to be written.
         QStringList names;
         const QRegularExpression moment("^\\d{4}-\\d\\d-\\d\\d \\d\\d_\\d\\d_\\d\\d(_\\d)?\\.xml$");
-        for (const RoadReport& report : reports) {
+        // The same is kept once.
+        QCOMPARE(reports.last().request.file, reports.first().request.file);
+        for (const RoadReport& report : {reports[0], reports[1]}) {
             names.append(QFileInfo(report.request.file).fileName());
             QVERIFY2(moment.match(names.last()).hasMatch(), qPrintable(names.last()));
         }
@@ -131,16 +133,20 @@ private Q_SLOTS:
             QVERIFY(!(QFile::permissions(report.request.file) & (QFile::ReadGroup | QFile::ReadOther)));
         }
         QVERIFY(reports[0].request.document != reports[1].request.document);
-        // Given up at the review it is there for the next try.
+        // Given up at the review it is there for the next try, by whichever way it came there.
         bench.session.tracker().attach();
         bench.agrees = false;
         QVERIFY(!bench.session.writeAgain(reports[0].request));
         QVERIFY(bench.report().outcome == Outcome::cancelled && QFile::exists(reports[0].request.file));
+        QString path = writeFile(QStringLiteral("vlk_R-7106_1.xml"), reports[0].request.document);
+        Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
+        QVERIFY(bench.report().outcome == Outcome::cancelled && QFile::exists(reports[0].request.file));
+        QVERIFY(!QFile::exists(path));
         bench.agrees = true;
         // Once more, and the file has done its work.
         QVERIFY(!bench.session.writeAgain(reports[0].request));
         QVERIFY(bench.isConfirmed() && !QFile::exists(reports[0].request.file));
-        QVERIFY(QFile::exists(reports[1].request.file) && !QFile::exists(reports[2].request.file));
+        QVERIFY(QFile::exists(reports[1].request.file));
         // Nothing is called kept that somebody has changed or taken away.
         for (const char* content : {"", "<DEVICE/>"}) {
             writeFile(reports[1].request.file, content);
@@ -446,9 +452,13 @@ private Q_SLOTS:
         QVERIFY(!bench.session.readConfiguration(true));
         QVERIFY(bench.isConfirmed() && !bench.mustBeSeen);
         // One of a file has not seen the tracker either.
-        const QString path = writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"/>");
+        const QString path =
+            writeFile(bench.root.filePath("van.xml"), "<DEVICE model=\"R-7106\"><TRANS/></DEVICE>");
         QVERIFY(!bench.session.openConfiguration(path, true));
         const RoadReport report = bench.report();
+        QVERIFY(report.settings.size() > 1);
+        QCOMPARE(workbench::summary(report).section('\n', 1, 1),
+                 QString("Removed from the tracker: %1").arg(report.settings.size()));
         QVERIFY(report.outcome == Outcome::confirmed && bench.mustBeSeen);
         QVERIFY(report.request.name == "van.xml" && !bench.session.edited().seenIn().isEmpty());
         QCOMPARE(bench.reviewed, 4);

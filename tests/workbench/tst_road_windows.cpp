@@ -164,7 +164,7 @@ private Q_SLOTS:
         for (const auto& [port, changes] : {std::pair("04000", 0), {"4001", 1}})
             QCOMPARE(bench.session().edited().changesIn(QByteArray(document).replace("4000", port)), changes);
         auto* box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
-        const auto type = [box](const QString& keys) {
+        const auto type = [&box](const QString& keys) {
             QApplication::setActiveWindow(box->window());
             box->setFocus();
             box->selectAll();
@@ -181,7 +181,10 @@ private Q_SLOTS:
         for (const char* name : {"Van 1", "Van 2"}) {
             bench.editName(name);
             QVERIFY(Bench::isReviewed());
-            QVERIFY2(isAdvised(), name);
+            // It is no advice on what the field holds, which the window counts.
+            QVERIFY2(isAdvised() && !Bench::find("label_Advice"), name);
+            QCOMPARE(Bench::find<QLabel>("label_Typed")->text(), QString("Not taken as typed: 1"));
+            QCOMPARE(Bench::find<QToolButton>("toolButton_Advice")->text(), QString("0"));
             Bench::press("pushButton_Write");
             QVERIFY(Bench::comes("dialog_Report"));
             QVERIFY2(bench.text("label_Report").contains(refused), name);
@@ -198,7 +201,19 @@ private Q_SLOTS:
                                ->findChild<QListWidget*>("listWidget_Advice")
                                ->findItems("Port: ", Qt::MatchContains);
         QVERIFY(lines.size() == 1 && lines[0]->text().contains("65536, which does not exist"));
+        // So does the report, also where it was typed before the window was opened.
+        for (const char* name : {"Van 3", "Van 4"}) {
+            Bench::press("pushButton_Write");
+            QVERIFY(Bench::comes("dialog_Report"));
+            QCOMPARE(bench.text("label_Report").count("65536, which does not exist"), 1);
+            Bench::press("pushButton_Close");
+            bench.session().link().send(vlk::Message::CloseWindows);
+            bench.action("action_Read")->trigger();
+            bench.editName(QString(name) + " again");
+            QVERIFY(Bench::isReviewed());
+        }
         Bench::press("pushButton_Cancel");
+        box = Bench::find("lineEdit_Name")->window()->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main");
         // With what stands there already nothing is red any more.
         type(port);
         bench.editName("Van 3");
@@ -215,7 +230,7 @@ private Q_SLOTS:
             QVERIFY2(isAdvised() && Bench::find("pushButton_Cancel")->hasFocus(), next);
             QVERIFY(Bench::find<QLabel>("label_Origin")
                         ->text()
-                        .contains("has to be seen: the configuration has an error."));
+                        .contains("has to be seen: a field did not take what was typed."));
             Bench::press("pushButton_Write");
             QVERIFY(Bench::comes("dialog_Report"));
             QVERIFY2(bench.text("label_Report").startsWith("Not taken") &&

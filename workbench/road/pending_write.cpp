@@ -35,7 +35,7 @@ auto textsOf(RoadReport& report)
 auto listsOf(RoadReport& report)
 {
     return std::array{std::pair("chosen", &report.request.chosen), std::pair("lost", &report.request.lost),
-                      std::pair("typed", &report.request.typed)};
+                      std::pair("typed", &report.request.typed), std::pair("toLookAt", &report.toLookAt)};
 }
 
 } // namespace

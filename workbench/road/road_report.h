@@ -38,6 +38,7 @@ struct WriteReview
     int added = 0;
     int removed = 0;
     int errors = 0;
+    int typed = 0; // of the advice: was not taken as it was typed
     bool isOfThisTracker = false;
     bool isUnchecked = false;   // nobody could look for errors
     bool isKnownNoMore = false; // the tracker holds something else than the user has seen last
@@ -46,6 +47,7 @@ struct WriteReview
     enum class Why {
         removes,
         hasErrors,
+        hasTyped,
         isUnchecked,
         isOfAnother,
         isKnownNoMore,
@@ -67,7 +69,8 @@ struct WriteReview
     }
     QVector<Why> reasons() const;
     bool isAlwaysAsked() const { return !reasons().isEmpty(); }
-    // It loses something, brings something unasked, is known to be wrong, or replaces what nobody has seen.
+    // It loses something, brings something unasked, is known to be wrong or other than was typed, or replaces
+    // what nobody has seen.
     bool mustBeSeen() const
     {
         const QVector<Why> all = reasons();
@@ -125,6 +128,7 @@ struct RoadReport
     QVector<WrittenSetting> settings; // what was not taken comes first
     QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;
+    QStringList toLookAt{}; // a line each: errors of what was written, and what was not taken as it was typed
     QDateTime time;
     bool isSeenLater = false; // it had ended unknown, and a read of the tracker at that time told the outcome
 
@@ -149,6 +153,7 @@ inline QVector<WriteReview::Why> WriteReview::reasons() const
     };
     add(Why::removes, removed > 0);
     add(Why::hasErrors, errors > 0);
+    add(Why::hasTyped, typed > 0);
     add(Why::isUnchecked, isUnchecked);
     add(Why::isOfAnother, !isOfThisTracker);
     add(Why::isKnownNoMore, isKnownNoMore);

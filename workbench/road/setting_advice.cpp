@@ -30,10 +30,21 @@ void addRefused(QVector<SettingAdvice>* advice, const QStringList& refused)
     for (const QString& line : refused) {
         const auto tells = [&](const SettingAdvice& told) { return isToldBy(line, told); };
         if (std::ranges::none_of(*advice, tells))
-            advice->append({.isError = true, .page = {}, .group = {}, .caption = {}, .text = line});
+            advice->append({.page = {}, .group = {}, .caption = {}, .text = line, .isTyped = true});
     }
-    std::stable_partition(advice->begin(), advice->end(),
-                          [](const SettingAdvice& told) { return told.isError; });
+    std::ranges::stable_sort(*advice, {}, [](const SettingAdvice& told) {
+        return told.isError ? 0 : told.isTyped ? 1 : 2;
+    });
+}
+
+QStringList toLookAt(const QVector<SettingAdvice>& advice)
+{
+    QStringList lines;
+    for (const SettingAdvice& told : advice) {
+        if (told.isError || told.isTyped)
+            lines.append(told.line());
+    }
+    return lines;
 }
 
 } // namespace workbench

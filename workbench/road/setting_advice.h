@@ -19,6 +19,7 @@ struct SettingAdvice
     QString group;
     QString caption;
     QString text;
+    bool isTyped = false; // was not taken as it was typed: the field holds something else, which may be right
 
     // "Data transfer, SIM card 1, PIN: …"
     QString line() const;
@@ -27,8 +28,11 @@ struct SettingAdvice
 // None when it cannot be looked at.
 using Advise = std::function<std::optional<QVector<SettingAdvice>>(const QByteArray& document)>;
 
-// What was refused while typing, a line a field, joins the errors, and these come first. Of one field one
-// sentence: an error of what it holds now says more than what was refused.
+// What was refused while typing, a line a field, comes behind the errors and before all else. Of one field
+// one sentence: an error of what it holds now says more than what was refused.
 void addRefused(QVector<SettingAdvice>* advice, const QStringList& refused);
+
+// Errors and what was refused, a line each: what a user has to look at again once it is saved or written.
+QStringList toLookAt(const QVector<SettingAdvice>& advice);
 
 } // namespace workbench

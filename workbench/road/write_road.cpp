@@ -229,7 +229,9 @@ void WriteRoad::presentCame(const QByteArray& document)
         review_.advice = advice.value_or(QVector<SettingAdvice>());
     }
     addRefused(&review_.advice, review_.request.typed);
-    review_.errors = int(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
+    report_.toLookAt = toLookAt(review_.advice);
+    review_.errors = static_cast<int>(std::ranges::count_if(review_.advice, &SettingAdvice::isError));
+    review_.typed = static_cast<int>(std::ranges::count_if(review_.advice, &SettingAdvice::isTyped));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);
     setStep(Step::review);

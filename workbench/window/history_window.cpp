@@ -32,6 +32,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -301,11 +302,12 @@ void HistoryWindow::compare()
     const std::optional<QByteArray> before = any && !why ? other(why) : std::nullopt;
     if (before)
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
-    // What was chosen stays while the same two are looked at.
-    const Sides sides{backup, other_->currentIndex() < 0 ? 0 : other_->currentData().toInt(), file_};
-    const QStringList chosen = sides == compared_ ? model_.chosen() : QStringList();
+    // What was chosen comes back with the same two.
+    const int against = other_->currentIndex() < 0 ? 0 : other_->currentData().toInt();
+    const Sides sides{backup, against, against == AFile ? file_ : QString()};
+    chosenOf(compared_) = model_.chosen();
     compared_ = sides;
-    model_.setChanges(changes.value_or(SettingChanges()), chosen);
+    model_.setChanges(changes.value_or(SettingChanges()), chosenOf(sides));
     model_.retranslate();
     columns_->fit();
     empty_->tell(backup == 0 ? text(one_->count() > 0 ? "wb_history_choose" : "wb_history_alone")
@@ -314,6 +316,12 @@ void HistoryWindow::compare()
                  : why       ? why()
                              : text("wb_history_unreadable"));
     updateButtons();
+}
+
+QStringList& HistoryWindow::chosenOf(const Sides& sides)
+{
+    const auto found = std::ranges::find(chosenOf_, sides, &std::pair<Sides, QStringList>::first);
+    return found != chosenOf_.end() ? found->second : chosenOf_.emplace_back(sides, QStringList()).second;
 }
 
 QString HistoryWindow::headOf(int column) const

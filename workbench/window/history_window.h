@@ -9,6 +9,11 @@
 #include "window/setting_change_model.h"
 
 #include <QDialog>
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 class QComboBox;
 class QPushButton;
@@ -70,6 +75,8 @@ private:
     // Of a backup; null when it can be read.
     Sentence whyUnreadable(int backup) const;
     QString headOf(int column) const;
+    // Paths of what is chosen, or was when these two were last looked at.
+    QStringList& chosenOf(const Sides& sides);
 
     HostSession& session_;
     Settings& settings_;
@@ -87,6 +94,7 @@ private:
     QPushButton* whole_ = nullptr;
     QString file_; // that was chosen to compare with
     Sides compared_;
+    std::vector<std::pair<Sides, QStringList>> chosenOf_;
 };
 
 } // namespace workbench

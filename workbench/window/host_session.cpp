@@ -233,15 +233,18 @@ void HostSession::takeWritten(const QString& path)
     request.known = edited_.known();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
-    request.file = error.isEmpty() ? unwritten_.take(path, QDateTime::currentDateTime()) : path;
+    const UnwrittenFiles::Taken taken =
+        error.isEmpty() ? unwritten_.take(path, request.document, QDateTime::currentDateTime())
+                        : UnwrittenFiles::Taken{path};
+    request.file = taken.file;
     request.lost = edited_.unknown();
     request.typed = typed_ ? typed_() : QStringList();
     // The plug-in is in the middle of its own work here; what is to be done with it comes after that.
     QMetaObject::invokeMethod(
         this,
-        [this, request, opened = opened_, error] {
+        [this, request, opened = opened_, error, wasThere = taken.wasThere] {
             if (error.isEmpty())
-                begin(request, opened);
+                begin(request, opened, wasThere);
             else
                 road_.reject(request, RoadReport::Fault::unsaved,
                              request.file + QStringLiteral(": ") + error);
@@ -249,14 +252,15 @@ void HostSession::takeWritten(const QString& path)
         Qt::QueuedConnection);
 }
 
-void HostSession::begin(const WriteRequest& request, int opened)
+void HostSession::begin(const WriteRequest& request, int opened, bool isAgain)
 {
     if (road_.begin(request)) {
         openedThen_ = opened;
-        isAgain_ = false;
+        isAgain_ = isAgain;
         return;
     }
-    QFile::remove(request.file);
+    if (!isAgain)
+        removeKept(request.file);
     Q_EMIT writeRefused();
 }
 
@@ -314,8 +318,7 @@ Sentence HostSession::writeAgain(const WriteRequest& request)
 {
     if (road_.isBusy())
         return [] { return text("wb_write_busy"); };
-    begin(request, openedThen_);
-    isAgain_ = true;
+    begin(request, openedThen_, true);
     return {};
 }
 

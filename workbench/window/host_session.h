@@ -93,7 +93,7 @@ private:
     void deliver(vlk::Message id, void* p1, void* p2);
     void followSearch(vlk::Message id, const void* p1);
     void takeWritten(const QString& path);
-    void begin(const WriteRequest& request, int opened);
+    void begin(const WriteRequest& request, int opened, bool isAgain);
     void finish(const RoadReport& report);
     void followSettled(const RoadReport& report);
     // The tracker holds it: what was kept of it for the next try has done its work.

@@ -71,6 +71,7 @@ struct WhyRow
 constexpr WhyRow kWhyRows[] = {
     {WriteReview::Why::removes, "wb_review_why_removes"},
     {WriteReview::Why::hasErrors, "wb_review_why_error"},
+    {WriteReview::Why::hasTyped, "wb_780"},
     {WriteReview::Why::isUnchecked, "wb_review_why_unchecked"},
     {WriteReview::Why::isOfAnother, "wb_review_why_other"},
     {WriteReview::Why::isKnownNoMore, "wb_review_why_known"},
@@ -186,9 +187,13 @@ void ReviewWindow::addCounts(QVBoxLayout* column)
         addCount(line, int(Mark::invalid), text("wb_review_removed").arg(number(review_.removed)),
                  "label_Removed");
     line->addStretch(1);
-    if (!review_.advice.isEmpty()) {
+    // The window that is open counts the advice on what it holds, and so does this one.
+    if (const int advice = static_cast<int>(review_.advice.size()) - review_.typed; advice > 0)
         addCount(line, int(review_.errors > 0 ? Mark::invalid : Mark::advice),
-                 text("wb_review_advice").arg(number(review_.advice.size())), "label_Advice");
+                 text("wb_review_advice").arg(number(advice)), "label_Advice");
+    if (review_.typed > 0)
+        addCount(line, int(Mark::advice), text("wb_781").arg(number(review_.typed)), "label_Typed");
+    if (!review_.advice.isEmpty()) {
         auto* show = new QPushButton(text("wb_review_show"), this);
         show->setObjectName(QStringLiteral("pushButton_Advice"));
         show->setCheckable(true);

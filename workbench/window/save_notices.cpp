@@ -106,20 +106,16 @@ void SaveNotices::tellConfiguration(const QString& path)
     QVector<SettingAdvice> advice = session_.comparer().advise(content).value_or(QVector<SettingAdvice>());
     addRefused(&advice, typing_.lines());
     typing_.forget();
-    QStringList errors;
-    for (const SettingAdvice& told : qAsConst(advice)) {
-        if (told.isError)
-            errors << told.line();
-    }
-    const auto sentence = [path, told = std::exchange(toldChanges_, {}), errors] {
+    const QStringList again = toLookAt(advice);
+    const auto sentence = [path, told = std::exchange(toldChanges_, {}), again] {
         QStringList lines{told.message.startsWith(path + QLatin1String(": "))
                               ? PluginLog::words(told.category, told.message)
                               : text("wb_saved").arg(QDir::toNativeSeparators(path))};
-        if (!errors.isEmpty())
-            lines << text("wb_typed") << errors;
+        if (!again.isEmpty())
+            lines << text("wb_typed") << again;
         return lines.join(QLatin1Char('\n'));
     };
-    if (errors.isEmpty())
+    if (again.isEmpty())
         Q_EMIT saved(sentence, watch_.window());
     else
         warn(sentence);

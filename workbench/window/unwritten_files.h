@@ -16,8 +16,13 @@ public:
     // Made with the first file.
     explicit UnwrittenFiles(const QString& folder) : folder_(folder) {}
 
-    // Where the file is from now on; where it cannot be moved, it stays where it is.
-    QString take(const QString& path, const QDateTime& now) const;
+    struct Taken
+    {
+        QString file; // where it is from now on; where it cannot be moved, it stays where it is
+        bool wasThere = false;
+    };
+    // With what is in it, which is kept once, however often it was to be written.
+    Taken take(const QString& path, const QByteArray& document, const QDateTime& now) const;
     // The tracker holds this: all files of it have done their work.
     void drop(const QByteArray& document) const;
     // Those that nobody has come back to for three months.

@@ -378,14 +378,14 @@ void WorkbenchWindow::showReport(const RoadReport& report)
         return;
     }
     // What was refused is not written with those numbers yet.
-    const QString typed = typedText(report);
-    if (!typed.isEmpty())
+    const QString again = lookAgainText(report);
+    if (!again.isEmpty())
         saveNotices_->typing().forget();
     reportView_->setReport(report);
     tabs_->setCurrentIndex(ReportTab);
-    status_->tell(StatusLine::Command, [report, typed] {
+    status_->tell(StatusLine::Command, [report, again] {
         const QString summary = workbench::summary(report).section(QLatin1Char('\n'), 0, 0);
-        return typed.isEmpty() ? summary : summary + QLatin1Char('\n') + typed;
+        return again.isEmpty() ? summary : summary + QLatin1Char('\n') + again;
     });
     road_->showReport(report);
 }

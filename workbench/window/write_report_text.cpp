@@ -135,6 +135,16 @@ bool isWritten(const RoadReport& report)
     return report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken;
 }
 
+// How much of it the tracker holds no longer; empty for most.
+QString removedFrom(const RoadReport& report)
+{
+    const auto removed = std::ranges::count_if(report.settings, [](const WrittenSetting& setting) {
+        return setting.change.isRemoved() && setting.isTaken;
+    });
+    return removed == 0 || !isWritten(report) ? QString()
+                                              : text("wb_782").arg(number(static_cast<int>(removed)));
+}
+
 // Where it was not what stands in a window: what it was. Empty otherwise.
 QString broughtBack(const RoadReport& report)
 {
@@ -178,17 +188,17 @@ bool isKept(const WriteRequest& request)
 
 } // namespace
 
-QString typedText(const RoadReport& report)
+QString lookAgainText(const RoadReport& report)
 {
-    const QStringList& typed = report.request.typed;
-    return typed.isEmpty() || !isWritten(report)
+    return report.toLookAt.isEmpty() || !isWritten(report)
                ? QString()
-               : text("wb_typed") + QLatin1Char('\n') + typed.join(QLatin1Char('\n'));
+               : text("wb_typed") + QLatin1Char('\n') + report.toLookAt.join(QLatin1Char('\n'));
 }
 
 QString summary(const RoadReport& report)
 {
     QStringList lines{firstLine(report)};
+    lines.append(removedFrom(report));
     lines.append(broughtBack(report));
     if (report.fault == Fault::interrupted)
         lines.append(text("wb_report_left_do"));
@@ -197,7 +207,7 @@ QString summary(const RoadReport& report)
     if (report.earlier > 0)
         lines.append(earlierWrite(report));
     if (isWritten(report)) {
-        lines.append(typedText(report));
+        lines.append(lookAgainText(report));
         if (!report.keptSections.isEmpty())
             lines.append(text("wb_report_kept_sections").arg(report.keptSections.join(QStringLiteral(", "))));
     }

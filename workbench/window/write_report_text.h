@@ -7,11 +7,11 @@
 namespace workbench {
 
 // The first line says whether it is written; what to do about it, what stays as it was and where the file
-// lies come behind it, and what of the typing was written otherwise.
+// lies come behind it, and which fields are to be looked at again.
 QString summary(const RoadReport& report);
 
 // The latter alone; empty for most, and where nothing was written.
-QString typedText(const RoadReport& report);
+QString lookAgainText(const RoadReport& report);
 
 // The summary and a line a setting, for a file or the clipboard, divided by tabs.
 QString plainText(const RoadReport& report);

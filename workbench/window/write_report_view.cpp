@@ -184,7 +184,7 @@ void WriteReportView::showSummary()
     if (!any)
         return;
     const Mark mark = report_.outcome == Outcome::confirmed
-                          ? (typedText(report_).isEmpty() ? Mark::right : Mark::advice)
+                          ? (lookAgainText(report_).isEmpty() ? Mark::right : Mark::advice)
                       : report_.outcome == Outcome::cancelled ? Mark::advice
                                                               : Mark::invalid;
     symbol_->setPixmap(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF()));
@@ -200,6 +200,12 @@ void WriteReportView::tellAnew(RoadReport& report) const
             report.settings, [&path](const WrittenSetting& setting) { return setting.change.path == path; });
     };
     const FileComparer& comparer = session_.comparer();
+    if (!report.toLookAt.isEmpty()) {
+        if (auto advice = comparer.advise(report.request.document)) {
+            addRefused(&*advice, report.request.typed);
+            report.toLookAt = toLookAt(*advice);
+        }
+    }
     // Those that came back otherwise first: of the others the one comparison tells all.
     for (const SettingChange& missed :
          comparer.compare(report.request.document, report.readBack).value_or(SettingChanges())) {
