@@ -2,6 +2,7 @@
 
 #include "tracker/simulated_tracker.h"
 #include "tracker/tank.h"
+#include "typing/grid.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -40,6 +41,7 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     for (QLabel* label : {shape_, litres_, reading_})
         label->setMinimumWidth(1);
     auto* kind = new QHBoxLayout;
+    kind->setSpacing(vlk::grid::kColumn);
     kind->addWidget(tank_);
     kind->addWidget(shape_, 1);
     grid->addLayout(kind, 0, 0, 1, 2);
