@@ -2954,10 +2954,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_tank_code"><translation>Sensor: %1</translation></message>
     <message id="wb_tank_cylinder"><translation>lying cylinder</translation></message>
     <message id="wb_tank_drain"><translation>Drain all</translation></message>
-    <message id="wb_tank_litres"><translation>In the tank: %1&#160;l</translation></message>
+    <message id="wb_tank_litres"><translation>In the tank: %1 of %2&#160;l</translation></message>
     <message id="wb_tank_pour"><translation>Pour %1&#160;l</translation></message>
     <message id="wb_tank_saddle"><translation>saddle</translation></message>
-    <message id="wb_tank_shape"><translation>%1, %2&#160;l</translation></message>
     <message id="wb_tank_volts"><translation>Sensor: %1&#160;mV</translation></message>
     <message id="wb_tanks"><translation>Tanks</translation></message>
     <message id="wb_telemetry"><translation>&amp;Live telemetry</translation></message>

@@ -2954,10 +2954,9 @@
     <message id="wb_tank_code"><translation>Датчик: %1</translation></message>
     <message id="wb_tank_cylinder"><translation>лежачий цилиндр</translation></message>
     <message id="wb_tank_drain"><translation>Слить всё</translation></message>
-    <message id="wb_tank_litres"><translation>В баке: %1&#160;л</translation></message>
+    <message id="wb_tank_litres"><translation>В баке: %1 из %2&#160;л</translation></message>
     <message id="wb_tank_pour"><translation>Налить %1&#160;л</translation></message>
     <message id="wb_tank_saddle"><translation>седельный</translation></message>
-    <message id="wb_tank_shape"><translation>%1, %2&#160;л</translation></message>
     <message id="wb_tank_volts"><translation>Датчик: %1&#160;мВ</translation></message>
     <message id="wb_tanks"><translation>Баки</translation></message>
     <message id="wb_telemetry"><translation>&amp;Телеметрия с трекера</translation></message>

@@ -14,6 +14,7 @@
 #include "windows/vlk_tabwidget.h"
 
 #include <QShortcut>
+#include <QStringList>
 #include <QtEndian>
 
 #include <chrono>
@@ -322,8 +323,16 @@ void VLK_Form_TMI_Fuel_Sensors::reject()
 {
     const QString question = QStringLiteral("%1!<br>%2 %3<br>%4")
                                  .arg(tr("wrd_005"), tr("tmiw_130"), tr("tmiw_131"), tr("tmiw_132"));
-    const auto mayLose = [&](const QString& hint) { return agrees(this, question, "wrd_031", hint); };
-    if ((!hasUnsaved() || mayLose(canKeep_ ? tr("cfgt6_480") : QString())) && (keepUnsaved() || mayLose({})))
+    const auto mayLose = [&](bool areKept) {
+        QStringList hint;
+        if (areKept)
+            hint << tr("cfgt6_480");
+        // What is typed alone is not kept.
+        forEachForm([&hint](const VLK_Form_Fuel_Sensor& form, int) { hint << form.notAdded(); });
+        hint.removeAll(QString());
+        return agrees(this, question, "wrd_031", hint.join(QLatin1Char('\n')));
+    };
+    if ((!hasUnsaved() || mayLose(canKeep_)) && (keepUnsaved() || mayLose(false)))
         QDialog::reject();
 }
 

@@ -144,6 +144,18 @@ private Q_SLOTS:
         QTest::keyClicks(field("A3", "lineEdit_Volume"), "5");
         QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
         QVERIFY(field("A3", "lineEdit_Volume")->text().isEmpty() && fuel_.window->isVisible());
+        // A volume that was typed and not added is named: the rows are kept, it is not.
+        for (const char* typed : {"77.5", ""}) {
+            edit("A3", typed);
+            QString hint;
+            whenOpen<QMessageBox>([&hint](QMessageBox& box) {
+                hint = box.informativeText();
+                box.reject();
+            });
+            fuel_.window->close();
+            QVERIFY(fuel_.window->isVisible());
+            QCOMPARE(hint, QString(*typed ? "cfgt6_480\ntmiw_380" : "cfgt6_480"));
+        }
         answerBox("wrd_001", kUnsaved);
         QTest::keyClick(field("A3", "lineEdit_Volume"), Qt::Key_Escape);
         QVERIFY(fuel_.window->isHidden());

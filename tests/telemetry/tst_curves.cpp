@@ -78,6 +78,7 @@ private Q_SLOTS:
     void choosesRoundMoments();
     void tellsTimes();
     void showsWhatThereIs();
+    void standsOnTheFootWithoutValue();
     void tellsStatesWithoutRoom();
     void choosesCurvesAndKeepsThem();
     void handsOver();
@@ -208,6 +209,40 @@ void TestCurves::showsWhatThereIs()
     QImage image(600, 300, QImage::Format_RGB32);
     QPainter painter(&image);
     paintCurves(painter, image.size(), model, records_->wholeTime(), {});
+}
+
+// What is 0 all the time stands where the 0 of other values does: at the foot.
+void TestCurves::standsOnTheFootWithoutValue()
+{
+    open(truckRecords(3000));
+    const auto rowOfZero = [this](const NumberColumn& litres) {
+        records_->setComputed({{"litres", "Tank", "l", litres}});
+        CurvesModel model(records_.get(), nullptr);
+        model.show({"litres"}, CurvesModel::Choice::chosen);
+        QImage image(600, 300, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        {
+            QPainter painter(&image);
+            paintCurves(painter, image.size(), model, records_->wholeTime(), {});
+        }
+        int longest = 0;
+        int row = -1;
+        for (int y = 0; y < image.height(); ++y) {
+            int coloured = 0;
+            for (int x = 0; x < image.width(); ++x)
+                coloured += image.pixelColor(x, y).saturation() > 100 ? 1 : 0;
+            if (coloured > longest) {
+                longest = coloured;
+                row = y;
+            }
+        }
+        return longest > image.width() / 2 ? row : -1;
+    };
+    NumberColumn litres(3000, 0.);
+    const int row = rowOfZero(litres);
+    litres.back() = 1;
+    QVERIFY(row > 0);
+    QCOMPARE(row, rowOfZero(litres));
 }
 
 void TestCurves::tellsStatesWithoutRoom()

@@ -3,6 +3,7 @@
 #include "fuel/table/fuel_file.h"
 #include "support/answers.h"
 #include "support/data_table.h"
+#include "support/device.h"
 #include "support/files.h"
 #include "support/records.h"
 #include "support/whole_files.h"
@@ -390,18 +391,24 @@ private Q_SLOTS:
         DataTable<QString, bool>({"typed", "told"})
             .row("by name", "Speed = 0 and fuel > 100", true)
             .row("with unit, in quotes", "\"Fuel, l\" > 100", true)
+            .row("in the other language", "Speed = 0 and топливо > 100", true)
             .row("another name", "Fueling > 100", false);
     }
     void filterOfLitres()
     {
         QFETCH(QString, typed);
-        records_->setComputed({{"litres", "Fuel", "l", {}}});
+        TestDevice device;
+        device.texts = [](const QString& language, const QString& key) {
+            return language == "ru" && key == "rec_295" ? QStringLiteral("Топливо") : key;
+        };
+        const QScopedValueRollback<Device*> present(vlkDevice, &device);
+        records_->setComputed({{"litres", "Fuel", "l", {}, "rec_295"}});
         RecordsModel model(records_.get(), nullptr);
         FilterField field(records_.get(), &model, nullptr);
         field.apply(typed);
         const QString said = field.findChild<QLabel*>("label_FilterFault")->text();
         QVERIFY(!said.isEmpty());
-        QTEST(said.contains("\"Fuel\" is computed with a calibration table"), "told");
+        QTEST(said.contains("\" is computed with a calibration table"), "told");
     }
 
     // Records that come meanwhile count, with fuel in them or without.

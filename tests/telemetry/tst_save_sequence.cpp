@@ -180,6 +180,8 @@ private Q_SLOTS:
         QVERIFY(!child<QLabel>("label_SavedInPart")->isHidden());
         startSave(7, 8);
         QCOMPARE(text("label_SavedInPart"), QString("rec_081"));
+        // The only way to its records stays: the cross of the host's notice above it may have gone by then.
+        QVERIFY(child<QWidget>("label_SavedInPart_Close")->isHidden());
         // Its records are looked at without being read again.
         QFile::remove(file_);
         press("label_SavedInPart_Action1");

@@ -1,6 +1,7 @@
 // The window of the faults: F9 over every window, and what it comes up for by itself.
 
 #include "opened_workbench.h"
+#include "support/data_table.h"
 #include "window/answer_watch.h"
 #include "window/message_box.h"
 
@@ -123,6 +124,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.openFaults());
         visibleFaults()->move(bench.window.pos() + QPoint(20, 20));
+        visibleFaults()->findChild<QComboBox*>(QStringLiteral("comboBox_Tank"))->setCurrentIndex(2);
         const QRect place = visibleFaults()->geometry();
         QTest::keyClick(visibleFaults(), Qt::Key_Escape);
         QVERIFY(!visibleFaults());
@@ -138,6 +140,7 @@ private Q_SLOTS:
         QTest::keyClick(&next, Qt::Key_F9);
         QVERIFY(visibleFaults());
         QCOMPARE(visibleFaults()->geometry(), place);
+        QCOMPARE(visibleFaults()->findChild<QComboBox*>(QStringLiteral("comboBox_Tank"))->currentIndex(), 2);
         visibleFaults()->move(5000, -70);
         QTest::keyClick(visibleFaults(), Qt::Key_Escape);
         QTest::keyClick(&next, Qt::Key_F9);
@@ -184,6 +187,34 @@ private Q_SLOTS:
         bench.window.hide();
         QTest::qWait(20);
         QVERIFY(!visibleFaults());
+    }
+
+    // The tank that was chosen is there in the next run, too, where the window itself has been left alone;
+    // what is damaged in the settings chooses none.
+    void keepTheirTank_data()
+    {
+        DataTable<int, int>({"kept", "shown"})
+            .row("a tank", 2, 2)
+            .row("none of them", 99, 0)
+            .row("less", -1, 0);
+    }
+    void keepTheirTank()
+    {
+        QFETCH(int, kept);
+        Bench bench;
+        QByteArray layout;
+        QDataStream stream(&layout, QIODevice::WriteOnly);
+        stream << QRect() << kept;
+        bench.settings.setLayout(QStringLiteral("dialog_Faults"), layout);
+        workbench::WorkbenchWindow next(bench.folder, bench.settings, bench.languages);
+        next.show();
+        next.activateWindow();
+        QTRY_VERIFY(next.isActiveWindow());
+        QTest::keyClick(&next, Qt::Key_F9);
+        QVERIFY(visibleFaults());
+        QTEST(visibleFaults()->findChild<QComboBox*>(QStringLiteral("comboBox_Tank"))->currentIndex(),
+              "shown");
+        QVERIFY(QGuiApplication::primaryScreen()->availableGeometry().contains(visibleFaults()->geometry()));
     }
 
     // They go with the window that they belong to: what is told while they have the keyboard does not.

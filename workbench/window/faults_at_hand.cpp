@@ -136,8 +136,8 @@ QByteArray FaultsAtHand::layout() const
     const auto state = window_ && window_->isVisible() ? window_->state() : at_;
     QByteArray layout;
     QDataStream stream(&layout, QIODevice::WriteOnly);
-    if (state && state->isChosen)
-        stream << state->place;
+    if (state && (state->isChosen || state->tank != 0))
+        stream << (state->isChosen ? state->place : QRect()) << state->tank;
     return layout;
 }
 
@@ -146,8 +146,11 @@ void FaultsAtHand::setLayout(const QByteArray& layout)
     QRect place;
     QDataStream stream(layout);
     stream >> place;
-    if (stream.status() == QDataStream::Ok && place.isValid())
-        at_ = FaultsWindow::State{place, true, 0};
+    if (stream.status() != QDataStream::Ok)
+        return;
+    int tank = 0;
+    stream >> tank; // 0 where an earlier version has kept none
+    at_ = FaultsWindow::State{place, place.isValid(), tank};
 }
 
 void FaultsAtHand::setTrouble(const QString& text)

@@ -140,10 +140,12 @@ FaultsWindow::State FaultsWindow::state() const
 
 void FaultsWindow::follow(const State& state, bool makesWay)
 {
-    wanted_ = state.place.topLeft();
+    if (state.place.isValid()) {
+        wanted_ = state.place.topLeft();
+        resize(state.place.size());
+    }
     isChosen_ = state.isChosen;
     makesWay_ = makesWay;
-    resize(state.place.size());
     tanks_->setTank(state.tank);
 }
 

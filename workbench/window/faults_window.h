@@ -41,7 +41,7 @@ public:
     // What goes with it to another owner.
     struct State
     {
-        QRect place;           // also while it has made way for buttons
+        QRect place;           // also while it has made way for buttons; invalid: wherever there is room
         bool isChosen = false; // by the user: the place
         int tank = 0;
     };

@@ -2,10 +2,12 @@
 
 #include "tracker/simulated_tracker.h"
 #include "tracker/tank.h"
+#include "typing/grid.h"
 
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -38,8 +40,11 @@ TankPanel::TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent)
     // The panel must not widen the window beyond small screens.
     for (QLabel* label : {shape_, litres_, reading_})
         label->setMinimumWidth(1);
-    grid->addWidget(tank_, 0, 0);
-    grid->addWidget(shape_, 0, 1);
+    auto* kind = new QHBoxLayout;
+    kind->setSpacing(vlk::grid::kColumn);
+    kind->addWidget(tank_);
+    kind->addWidget(shape_, 1);
+    grid->addLayout(kind, 0, 0, 1, 2);
     grid->addWidget(filling_, 1, 0, 1, 2);
     grid->addWidget(litres_, 2, 0, 1, 2);
     grid->addWidget(reading_, 3, 0, 1, 2);
@@ -74,7 +79,8 @@ int TankPanel::tank() const
 
 void TankPanel::setTank(int tank)
 {
-    tank_->setCurrentIndex(tank);
+    if (tank >= 0 && tank < tank_->count())
+        tank_->setCurrentIndex(tank);
 }
 
 std::size_t TankPanel::chosen() const
@@ -92,10 +98,10 @@ void TankPanel::refresh()
 {
     const tracker::Tank& tank = tracker::kTanks[chosen()];
     const double litres = tracker_.fuelIn(chosen());
-    shape_->setText(text("wb_tank_shape").arg(text(kShapes[static_cast<int>(tank.shape)])).arg(tank.litres));
+    shape_->setText(text(kShapes[static_cast<int>(tank.shape)]));
     filling_->setMaximum(qRound(tank.litres));
     filling_->setValue(qRound(litres));
-    litres_->setText(text("wb_tank_litres").arg(litres, 0, 'f', 0));
+    litres_->setText(text("wb_tank_litres").arg(litres, 0, 'f', 0).arg(tank.litres));
     reading_->setText(text(tank.analogue ? "wb_tank_volts" : "wb_tank_code")
                           .arg(tracker_.fuelReading(chosen()), 0, 'f', 0));
     for (QLabel* label : {shape_, litres_, reading_})

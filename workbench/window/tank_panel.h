@@ -25,7 +25,7 @@ class TankPanel : public QGroupBox
 public:
     explicit TankPanel(tracker::SimulatedTracker& tracker, QWidget* parent = nullptr);
 
-    // By its place among the tanks of the tracker.
+    // By its place among the tanks of the tracker; a place of none changes nothing.
     int tank() const;
     void setTank(int tank);
 

@@ -64,6 +64,9 @@ QwtScaleDiv valueDivision(const Extremes& extremes, int most)
     constexpr double farthest = 1e300;
     least = std::clamp(least, -farthest, farthest);
     greatest = std::clamp(greatest, -farthest, farthest);
+    // What is 0 all the time stands at the foot, not in the middle of values that a speed cannot have.
+    if (least == 0 && greatest == 0)
+        greatest = 1;
     QwtLinearScaleEngine engine;
     engine.setMargins(0, 0);
     double step = 0;

@@ -34,6 +34,7 @@ struct ComputedColumn
     QString title;
     QString unit;
     NumberColumn numbers;
+    const char* key = nullptr; // of the title
 };
 
 // A rise or a fall that was found, for curves and track to mark.

@@ -33,6 +33,23 @@ constexpr const char* kLanguages[] = {"ru", "en"};
 constexpr quint32 kEventCodes = 256; // that may have words
 constexpr double kHalfAnHour = 1800; // seconds
 
+TextSource textsIn(const char* language)
+{
+    return vlkDevice ? vlkDevice->textsIn(language) : TextSource();
+}
+
+// In the language on show and in the others.
+QStringList titlesOf(const ComputedColumn& column)
+{
+    QStringList titles{column.title};
+    for (const char* language : kLanguages) {
+        const TextSource source = textsIn(language);
+        if (source && column.key)
+            titles << source(column.key);
+    }
+    return titles;
+}
+
 // Enter on what is offered takes that; Down asks for what was applied before.
 class FilterLine : public QLineEdit
 {
@@ -128,7 +145,7 @@ const FilterNames& FilterField::names()
     names_.emplace();
     names_->addTexts();
     for (const char* language : kLanguages) {
-        const TextSource source = vlkDevice ? vlkDevice->textsIn(language) : TextSource();
+        const TextSource source = textsIn(language);
         if (!source)
             continue;
         const TextsFrom other(source);
@@ -255,10 +272,12 @@ QString FilterField::faultText(const QString& text)
     const QString rest = foldedForFilter(text.mid(fault.position)).remove(notInWords);
     // It is among the curves, so that somebody looks for it here.
     for (const ComputedColumn& column : shown_->computed()) {
-        const QString title = foldedForFilter(column.title);
-        const bool isWhole = rest.size() <= title.size() || !rest[title.size()].isLetterOrNumber();
-        if (rest.startsWith(title) && isWhole)
-            return tr("rec_746").arg(at, column.title);
+        for (const QString& title : titlesOf(column)) {
+            const QString folded = foldedForFilter(title);
+            const bool isWhole = rest.size() <= folded.size() || !rest[folded.size()].isLetterOrNumber();
+            if (rest.startsWith(folded) && isWhole)
+                return tr("rec_746").arg(at, title);
+        }
     }
     return tr("rec_005").arg(at, fault.expected);
 }

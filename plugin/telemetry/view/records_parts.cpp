@@ -39,8 +39,8 @@ void tellFuel(ShownRecords* shown, const FuelView& fuel, SummaryView* summary)
 {
     std::vector<ComputedColumn> litres;
     if (!fuel.litres().empty())
-        litres.push_back(
-            {QStringLiteral("litres"), translated("rec_295"), translated("abbr_026"), fuel.litres()});
+        litres.push_back({QStringLiteral("litres"), translated("rec_295"), translated("abbr_026"),
+                          fuel.litres(), "rec_295"});
     shown->setComputed(std::move(litres));
     shown->setFound(marksOf(fuel.events()));
     summary->setFuel(fuel.litres(), fuel.events());

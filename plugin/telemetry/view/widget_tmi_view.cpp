@@ -184,8 +184,11 @@ void VLK_Widget_Tmi_View::showSaved(const std::shared_ptr<TelemetryContents>& pe
         period->records.setUtcOffset(times_.offset());
         Q_EMIT recordsWanted(period, name, period == growing_);
     };
+    // The only way to the table that grows: a click that was meant for the host's notice above must not
+    // close it.
     notices_->tell(kSaved, [count = period->records.size(), show = showPeriod_] {
-        return Notice{Mark::right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}};
+        return Notice{
+            Mark::right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}, false};
     });
 }
 
