@@ -17,6 +17,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <cstring>
+
 using namespace vlk;
 
 namespace {
@@ -188,6 +190,26 @@ void TestCurves::showsWhatThereIs()
     model.show({"StateIn1.0", "Module1.7"}, CurvesModel::Choice::chosen);
     QCOMPARE(model.shownNames(), QStringList({"Module1.7", "StateIn1.0"}));
     QVERIFY(model.bands().size() > 2 && model.bands()[1].name.isEmpty()); // the stops
+    // Before it the ignition, where an input changes with its events.
+    TelemetryContents ignited;
+    ignited.records = truckRecords(3000);
+    FieldMask mask;
+    TmiPage_Zeta3::ValueBlock block{};
+    for (const auto& [index, value] : {std::pair(element("Code"), 10), std::pair(element("StateIn1"), 1)}) {
+        mask.set(kElements[index].field);
+        block[kElements[index].offset] = static_cast<std::uint8_t>(value);
+    }
+    const quint32 time = kTruckStart + 3000 * 30;
+    mask.set(kElements[element("Time")].field);
+    std::memcpy(&block[kElements[element("Time")].offset], &time, sizeof time);
+    ignited.records.add(30, mask, block);
+    ShownRecords others;
+    CurvesModel lit(&others, nullptr);
+    others.setContents(std::move(ignited));
+    QTRY_VERIFY(!others.isLeftToDo());
+    lit.show({"Module1.7", "StateIn1.0"}, CurvesModel::Choice::chosen);
+    QCOMPARE(lit.shownNames(), QStringList({"StateIn1.0", "Module1.7"}));
+    QVERIFY(lit.bands()[1].name.isEmpty());
     // Litres stand before the code.
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, 250.5)}});
     QTest::keyClick(presets, Qt::Key_Home);

@@ -5,6 +5,7 @@
 #include "telemetry/files/rare_events.h"
 #include "telemetry/files/raw_values.h"
 #include "telemetry/files/stops.h"
+#include "telemetry/files/vehicle_times.h"
 #include "telemetry/shown/absent_value.h"
 
 #include <algorithm>
@@ -78,6 +79,7 @@ void CurvesModel::restart()
 void CurvesModel::findStops()
 {
     stops_ = stopRuns(*records_);
+    ignition_ = ignitionState(records_->columns(), records_->byTime());
 }
 
 void CurvesModel::findEvents()
@@ -173,15 +175,17 @@ void CurvesModel::rebuild()
         if (state != states.end())
             addBand(*state);
     }
-    // Those that there is no room for are left out from the end: the engine last of all, before it the stops.
-    const auto engine = std::ranges::find(bands_, itemName(item("Module1.7")), &Band::name);
-    auto behindEngine = bands_.begin();
-    if (engine != bands_.end()) {
-        std::rotate(bands_.begin(), engine, engine + 1);
-        ++behindEngine;
+    // Those that there is no room for are left out from the end: last of all the ignition, or the engine
+    // where no input tells it, and before it the stops.
+    const ItemIndex engine = item("Module1.7");
+    for (const ItemIndex state : {engine, ignition_.value_or(engine)}) {
+        const auto band = std::ranges::find(bands_, itemName(state), &Band::name);
+        if (band != bands_.end())
+            std::rotate(bands_.begin(), band, band + 1);
     }
     if (stops_ && !stops_->on.empty())
-        bands_.insert(behindEngine, {QString(), translated("rec_165"), stops_});
+        bands_.insert(bands_.begin() + std::min<std::ptrdiff_t>(1, std::ssize(bands_)),
+                      {QString(), translated("rec_165"), stops_});
     makeMarks();
     // Others may have come in front of it.
     const auto chosen = std::ranges::find_if(

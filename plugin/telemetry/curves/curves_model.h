@@ -9,6 +9,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 
 namespace vlk {
 
@@ -119,6 +120,7 @@ private:
     std::vector<Band> bands_;
     std::vector<MarkRow> marks_;
     std::shared_ptr<const StateRuns> stops_;
+    std::optional<ItemIndex> ignition_; // the state that tells it
     std::vector<int> events_;
     bool isBeingMade_ = false;
     int focused_ = -1;

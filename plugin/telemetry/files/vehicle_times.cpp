@@ -20,6 +20,14 @@ bool isOfIgnition(quint32 code)
     return code == kIgnitionOn || code == kIgnitionOff;
 }
 
+std::vector<int> ignitionEvents(RecordColumns& columns, const std::vector<int>& byTime)
+{
+    std::vector<int> events;
+    std::ranges::copy_if(byTime, std::back_inserter(events),
+                         [&](int record) { return isOfIgnition(columns.codes()[record]); });
+    return events;
+}
+
 // The input that is on in every record of the ignition going on, and off in every other; -1 for none.
 int ignitionInput(RecordColumns& columns, const std::vector<int>& events)
 {
@@ -99,19 +107,23 @@ NumberColumn speeds(RecordColumns& columns)
     return speeds;
 }
 
+std::optional<ItemIndex> ignitionState(RecordColumns& columns, const std::vector<int>& byTime)
+{
+    const std::vector<int> events = ignitionEvents(columns, byTime);
+    if (events.empty())
+        return item("Module1.7");
+    const int input = ignitionInput(columns, events);
+    return input < 0 ? std::nullopt : std::optional<ItemIndex>(item("StateIn1.0") + input);
+}
+
 std::vector<Ignition> ignitions(RecordColumns& columns, const std::vector<int>& byTime)
 {
     const std::vector<quint32>& codes = columns.codes();
     std::vector<Ignition> states(codes.size(), Ignition::Unknown);
-    std::vector<int> events;
-    std::ranges::copy_if(byTime, std::back_inserter(events),
-                         [&codes](int record) { return isOfIgnition(codes[record]); });
-    const int input = events.empty() ? -1 : ignitionInput(columns, events);
-    if (input >= 0 || events.empty()) {
+    if (const std::optional<ItemIndex> state = ignitionState(columns, byTime)) {
         // Not as a column, which would stay and take eight times as much.
-        const ItemIndex state = input >= 0 ? item("StateIn1.0") + input : item("Module1.7");
-        const ItemNumbers toNumber(state, columns.userTypes());
-        const RawValues values(columns.store(), kItems[state].element);
+        const ItemNumbers toNumber(*state, columns.userTypes());
+        const RawValues values(columns.store(), kItems[*state].element);
         for (const int record : byTime) {
             if (const std::optional<std::uint64_t> raw = values.at(record))
                 states[record] = ignitionOf(toNumber(*raw));
@@ -119,7 +131,7 @@ std::vector<Ignition> ignitions(RecordColumns& columns, const std::vector<int>& 
         return states;
     }
     // Before the first event it was the other way round.
-    bool isOn = codes[events.front()] != kIgnitionOn;
+    bool isOn = codes[ignitionEvents(columns, byTime).front()] != kIgnitionOn;
     for (const int record : byTime) {
         if (isOfIgnition(codes[record]))
             isOn = codes[record] == kIgnitionOn;

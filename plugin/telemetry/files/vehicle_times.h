@@ -4,6 +4,8 @@
 
 #include "telemetry/files/record_columns.h"
 
+#include <optional>
+
 namespace vlk {
 
 // The clock of a tracker may jump; a record alone that is far in time from both records beside it, which are
@@ -21,6 +23,10 @@ inline constexpr double kMovesFrom = 3;
 NumberColumn speeds(RecordColumns& columns);
 
 enum class Ignition : std::uint8_t { Unknown, Off, On };
+
+// The state that tells it: the input that changes with the events of the ignition, without any such event the
+// engine; none where no input does.
+std::optional<ItemIndex> ignitionState(RecordColumns& columns, const std::vector<int>& byTime);
 
 // By the input that changes with the events of the ignition, or by these events alone; without them by the
 // engine, which a tracker tells by the supply voltage.
