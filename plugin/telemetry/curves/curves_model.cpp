@@ -73,12 +73,18 @@ void CurvesModel::restart()
     Q_EMIT changed();
     records_->later([this] { records_->columns().numbers(item("Speed")); });
     records_->later([this] { findStops(); });
+    records_->later([this] { records_->columns().codes(); });
+    records_->later([this] { findIgnition(); });
     records_->later([this] { findEvents(); });
 }
 
 void CurvesModel::findStops()
 {
     stops_ = stopRuns(*records_);
+}
+
+void CurvesModel::findIgnition()
+{
     ignition_ = ignitionState(records_->columns(), records_->byTime());
 }
 
@@ -107,6 +113,7 @@ void CurvesModel::grow(int first)
     runs_.clear();
     changingBits_.clear();
     findStops();
+    findIgnition();
     findEvents();
     rebuild();
 }

@@ -102,6 +102,7 @@ private:
     bool changes(const CurveColumn& state);
     void addBand(const CurveColumn& column);
     void findStops();
+    void findIgnition();
     void findEvents();
     void makeMarks();
     std::shared_ptr<CurveSeries> seriesOf(const CurveColumn& column);
