@@ -19,6 +19,16 @@ QWidget* visibleFaults()
     return nullptr;
 }
 
+// The window is brought to the front, and F9 pressed in it.
+bool callsFaults(QWidget& window)
+{
+    window.show();
+    window.activateWindow();
+    const bool isActive = QTest::qWaitForWindowActive(&window);
+    QTest::keyClick(&window, Qt::Key_F9);
+    return isActive;
+}
+
 } // namespace
 
 class FaultsWindowTest : public QObject
@@ -154,10 +164,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QWidget telemetry;
-        telemetry.show();
-        telemetry.activateWindow();
-        QTRY_VERIFY(telemetry.isActiveWindow());
-        QTest::keyClick(&telemetry, Qt::Key_F9);
+        QVERIFY(callsFaults(telemetry));
         QDialog box;
         box.setModal(true);
         box.show();
@@ -223,10 +230,7 @@ private Q_SLOTS:
         Bench bench;
         QVERIFY(bench.start());
         QWidget telemetry;
-        telemetry.show();
-        telemetry.activateWindow();
-        QTRY_VERIFY(telemetry.isActiveWindow());
-        QTest::keyClick(&telemetry, Qt::Key_F9);
+        QVERIFY(callsFaults(telemetry));
         QTRY_COMPARE(QApplication::activeWindow(), visibleFaults());
         workbench::showWarning(QStringLiteral("Saved in part"), &bench.window);
         const QPointer<QWidget> box = QApplication::activeModalWidget();
