@@ -33,7 +33,7 @@ RecordStore recordsOf(int count, const std::string& mask)
     TmiPage_Zeta3::ValueBlock block;
     for (int i = 0; i < count; ++i) {
         std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
-        qToLittleEndian(quint32(i), block.data() + kElements[element("NumPage")].offset);
+        qToLittleEndian(static_cast<quint32>(i), block.data() + kElements[element("NumPage")].offset);
         records.add(30, FieldMask::fromText(mask), block);
     }
     return records;
@@ -44,7 +44,7 @@ QString fileOf(int count, const std::string& mask)
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QString::number(count) + QLatin1String(".xml"));
     if (!QFile::exists(path))
-        saveTelemetryFile(path, TelemetryForm::xml, recordsOf(count, mask), {});
+        saveTelemetryFile(path, TelemetryForm::Xml, recordsOf(count, mask), {});
     return path;
 }
 

@@ -21,7 +21,7 @@ namespace {
 // The cells of one record, as numbers.
 struct Cell
 {
-    enum { whole, fixed, single, moment } kind;
+    enum class Kind { Whole, Fixed, Single, Moment } kind;
     int decimals;
     double number;
 };
@@ -35,15 +35,15 @@ std::vector<Cell> cellsOf(const RecordStore& records)
             const Measure& measure = kElements[i].measure;
             if (!page.has(index))
                 continue;
-            if (measure.unit == Unit::unixSeconds)
-                cells.push_back({Cell::moment, 0, page.number(index)});
-            else if (kElements[i].type == ValueType::f32)
-                cells.push_back({Cell::single, 0, page.number(index)});
+            if (measure.unit == Unit::UnixSeconds)
+                cells.push_back({Cell::Kind::Moment, 0, page.number(index)});
+            else if (kElements[i].type == ValueType::F32)
+                cells.push_back({Cell::Kind::Single, 0, page.number(index)});
             else if (measure.divisor != 1)
-                cells.push_back(
-                    {Cell::fixed, measure.unit == Unit::degree ? 7 : 3, measure.of(page.number(index))});
+                cells.push_back({Cell::Kind::Fixed, measure.unit == Unit::Degree ? 7 : 3,
+                                 measure.of(page.number(index))});
             else
-                cells.push_back({Cell::whole, 0, page.number(index)});
+                cells.push_back({Cell::Kind::Whole, 0, page.number(index)});
         }
     });
     return cells;
@@ -70,13 +70,13 @@ char* putMoment(char* to, std::int64_t seconds)
 char* put(char* to, const Cell& cell)
 {
     switch (cell.kind) {
-    case Cell::whole:
+    case Cell::Kind::Whole:
         return std::to_chars(to, to + 32, static_cast<std::int64_t>(cell.number)).ptr;
-    case Cell::fixed:
+    case Cell::Kind::Fixed:
         return std::to_chars(to, to + 32, cell.number, std::chars_format::fixed, cell.decimals).ptr;
-    case Cell::single:
+    case Cell::Kind::Single:
         return std::to_chars(to, to + 32, static_cast<float>(cell.number)).ptr;
-    case Cell::moment:
+    case Cell::Kind::Moment:
         return putMoment(to, static_cast<std::int64_t>(cell.number));
     }
     return to;
@@ -106,7 +106,7 @@ double workingSeconds(int who, Work work)
         rusage usage{};
         getrusage(who, &usage);
         const auto seconds = [](const timeval& time) {
-            return double(time.tv_sec) + 1e-6 * double(time.tv_usec);
+            return static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_usec);
         };
         return seconds(usage.ru_utime) + seconds(usage.ru_stime);
     };
@@ -121,7 +121,7 @@ public:
     explicit StoredDrive(const RecordStore& records)
     {
         QFile file(path("drive.tmi"));
-        if (!file.open(QIODevice::WriteOnly) || !exportRecords(file, records, ExportForm::tmi, {}))
+        if (!file.open(QIODevice::WriteOnly) || !exportRecords(file, records, ExportForm::Tmi, {}))
             qFatal("no file");
     }
 

@@ -139,7 +139,7 @@ void readXml(benchmark::State& state, int fields, bool inUtf8)
 // Gives the number of an element as the record has it: a double of an f32, else a long long.
 void withNumber(const TmiPage_Zeta3& page, ElementIndex index, auto print)
 {
-    if (kElements[index].type == ValueType::f32)
+    if (kElements[index].type == ValueType::F32)
         print(page.number(index));
     else
         print(static_cast<long long>(page.integer(index)));

@@ -44,7 +44,7 @@ void openMillion(benchmark::State& state)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("million.xml"));
-    saveTelemetryFile(path, TelemetryForm::xml, bench::drive(1'000'000), {});
+    saveTelemetryFile(path, TelemetryForm::Xml, bench::drive(1'000'000), {});
     malloc_trim(0);
     VLK_Widget_Tmi_Table window;
     window.show();

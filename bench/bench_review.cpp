@@ -126,7 +126,7 @@ void openFullPanel(benchmark::State& state)
         qFatal("no file to compare with");
     other.close();
     const bool isRead =
-        dialog.review().compareWith(vlk::ConfigurationReview::Against::otherFile, other.fileName());
+        dialog.review().compareWith(vlk::ConfigurationReview::Against::OtherFile, other.fileName());
     const int differences = dialog.review().differences().count();
     if (!isRead || differences < leastDifferences)
         qFatal("the panel is not full: %d differences", differences);

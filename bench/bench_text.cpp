@@ -24,7 +24,7 @@ std::vector<std::unique_ptr<TmiPage_Zeta3>> fullPages()
 bool isNumber(const Item& item)
 {
     const Shape shape = item.rule().shape;
-    return shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general;
+    return shape == Shape::Decimal || shape == Shape::Fixed || shape == Shape::General;
 }
 
 std::vector<ItemIndex> itemsThat(auto&& belong)
@@ -41,9 +41,9 @@ int print(const TmiPage_Zeta3& page, const Item& item, char (&buffer)[512])
 {
     const Rule& rule = item.rule();
     const double number = measureOf(item, rule).of(page.number(item.element));
-    if (rule.shape == Shape::fixed)
+    if (rule.shape == Shape::Fixed)
         return std::snprintf(buffer, sizeof buffer, "%.*f", rule.decimals, number);
-    if (rule.shape == Shape::general)
+    if (rule.shape == Shape::General)
         return std::snprintf(buffer, sizeof buffer, "%g", number);
     return std::snprintf(buffer, sizeof buffer, "%lld", static_cast<long long>(page.integer(item.element)));
 }

@@ -19,7 +19,7 @@ inline bool sameValue(const TmiPage_Zeta3& a, const TmiPage_Zeta3& b, ElementInd
         return true;
     const double left = a.number(index);
     const double right = b.number(index);
-    return kElements[index].type == ValueType::f32 &&
+    return kElements[index].type == ValueType::F32 &&
            (left == right || (std::isnan(left) && std::isnan(right)));
 }
 

@@ -72,11 +72,11 @@ std::optional<TypedEntry::News> DateEntry::take(const QString& typed)
 {
     const QDateTime moment = read(typed).moment;
     if (!moment.isValid())
-        return News{Mark::invalid, dateText("typed_date", typed.simplified(), *edit_)};
+        return News{Mark::Invalid, dateText("typed_date", typed.simplified(), *edit_)};
     edit_->setDateTime(moment);
     if (edit_->dateTime() == moment)
         return {};
-    return News{Mark::advice, dateText("typed_date_range", typed.simplified(), *edit_)};
+    return News{Mark::Advice, dateText("typed_date_range", typed.simplified(), *edit_)};
 }
 
 void DateEntry::restore()

@@ -41,11 +41,11 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(markColor(Mark::invalid, palette()), 2));
+        painter.setPen(QPen(markColor(Mark::Invalid, palette()), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
         if (!parentWidget()->hasFocus())
             return;
-        painter.setPen(markColor(Mark::changed, palette()));
+        painter.setPen(markColor(Mark::Changed, palette()));
         painter.drawRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5));
     }
 };
@@ -132,15 +132,15 @@ private:
     {
         std::map<MarkReason, Told> shown = reasons_;
         if (isTyping_) {
-            shown.erase(MarkReason::value);
-            shown.erase(MarkReason::advice);
+            shown.erase(MarkReason::Value);
+            shown.erase(MarkReason::Advice);
         }
         return shown;
     }
 
     Mark worst() const
     {
-        Mark worst = Mark::changed;
+        Mark worst = Mark::Changed;
         for (const auto& [reason, told] : shown())
             worst = std::max(worst, told.mark);
         return worst;
@@ -237,7 +237,7 @@ private:
         }
         setVisible(isShown);
         raise();
-        const bool isOutlined = isShown && worst() == Mark::invalid;
+        const bool isOutlined = isShown && worst() == Mark::Invalid;
         if (isOutlined && !outline_)
             outline_ = new Outline(field_);
         if (outline_) {
@@ -262,13 +262,13 @@ QColor markColor(Mark mark, const QPalette& palette)
 {
     const bool isDark = palette.color(QPalette::Window).lightness() < 128;
     switch (mark) {
-    case Mark::right:
+    case Mark::Right:
         return QColor(isDark ? 0x7fd491 : 0x1b6e33);
-    case Mark::changed:
+    case Mark::Changed:
         return QColor(isDark ? 0x7ab8f5 : 0x1f5f9e);
-    case Mark::advice:
+    case Mark::Advice:
         return QColor(isDark ? 0xffbd59 : 0x8a5300);
-    case Mark::invalid:
+    case Mark::Invalid:
         break;
     }
     return QColor(isDark ? 0xff9d94 : 0xb3261e);
@@ -276,14 +276,14 @@ QColor markColor(Mark mark, const QPalette& palette)
 
 QPalette withInvalidText(QPalette palette)
 {
-    palette.setColor(QPalette::WindowText, markColor(Mark::invalid, palette));
+    palette.setColor(QPalette::WindowText, markColor(Mark::Invalid, palette));
     return palette;
 }
 
 void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    if (mark == Mark::right) {
+    if (mark == Mark::Right) {
         painter.setPen(QPen(markColor(mark, palette), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.setBrush(Qt::NoBrush);
         painter.drawPolyline(QPolygonF({{1.2, 5.4}, {4, 8.2}, {8.8, 2}}));
@@ -292,7 +292,7 @@ void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
     painter.setPen(Qt::NoPen);
     painter.setBrush(markColor(mark, palette));
     const QColor& inside = palette.color(QPalette::Window);
-    if (mark == Mark::advice) {
+    if (mark == Mark::Advice) {
         painter.drawPolygon(QPolygonF({{5, 0}, {10, 10}, {0, 10}}));
         painter.setPen(QPen(inside, 1.4, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(QPointF(5, 3.6), QPointF(5, 6.2));
@@ -300,7 +300,7 @@ void paintMark(QPainter& painter, Mark mark, const QPalette& palette)
         return;
     }
     painter.drawEllipse(QRectF(0, 0, kMarkSize, kMarkSize));
-    if (mark == Mark::changed)
+    if (mark == Mark::Changed)
         return;
     painter.setPen(QPen(inside, 1.6, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(3.2, 3.2), QPointF(6.8, 6.8));
@@ -313,7 +313,7 @@ QPixmap markPixmap(Mark mark, const QPalette& palette, int side, qreal ratio)
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.scale(qreal(side) / kMarkSize, qreal(side) / kMarkSize);
+    painter.scale(static_cast<qreal>(side) / kMarkSize, static_cast<qreal>(side) / kMarkSize);
     paintMark(painter, mark, palette);
     return pixmap;
 }

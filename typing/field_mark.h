@@ -22,9 +22,9 @@ class QWidget;
 namespace vlk {
 
 // From the least to the worst.
-enum class Mark { right, changed, advice, invalid };
+enum class Mark { Right, Changed, Advice, Invalid };
 
-enum class MarkReason { typing, value, changed, advice };
+enum class MarkReason { Typing, Value, Changed, Advice };
 
 // An empty text takes the mark of that reason away.
 void markField(QWidget* field, MarkReason reason, Mark mark, const QString& text);

@@ -23,7 +23,7 @@ QPainterPath drawing(LineIcon icon)
             path.lineTo(point);
     };
     switch (icon) {
-    case LineIcon::back: {
+    case LineIcon::Back: {
         const QRectF circle(4, 4, 16, 16);
         path.arcMoveTo(circle, 160);
         path.arcTo(circle, 160, -320);
@@ -31,50 +31,50 @@ QPainterPath drawing(LineIcon icon)
         lines({{12, 8}, {12, 12}, {15, 14}});
         break;
     }
-    case LineIcon::begin:
+    case LineIcon::Begin:
         lines({{6, 5}, {6, 19}});
         lines({{18, 5}, {10, 12}, {18, 19}});
         break;
-    case LineIcon::end:
+    case LineIcon::End:
         lines({{18, 5}, {18, 19}});
         lines({{6, 5}, {14, 12}, {6, 19}});
         break;
-    case LineIcon::plus:
+    case LineIcon::Plus:
         lines({{12, 5}, {12, 19}});
         lines({{5, 12}, {19, 12}});
         break;
-    case LineIcon::up:
+    case LineIcon::Up:
         lines({{12, 20}, {12, 4}});
         lines({{5, 11}, {12, 4}, {19, 11}});
         break;
-    case LineIcon::down:
+    case LineIcon::Down:
         lines({{12, 4}, {12, 20}});
         lines({{5, 13}, {12, 20}, {19, 13}});
         break;
-    case LineIcon::cross:
+    case LineIcon::Cross:
         lines({{6, 6}, {18, 18}});
         lines({{18, 6}, {6, 18}});
         break;
-    case LineIcon::undo:
+    case LineIcon::Undo:
         path.moveTo(5, 9);
         path.lineTo(14, 9);
         path.cubicTo(21, 9, 21, 19, 14, 19);
         path.lineTo(10, 19);
         lines({{9, 4}, {4, 9}, {9, 14}});
         break;
-    case LineIcon::redo:
+    case LineIcon::Redo:
         path.moveTo(19, 9);
         path.lineTo(10, 9);
         path.cubicTo(3, 9, 3, 19, 10, 19);
         path.lineTo(14, 19);
         lines({{15, 4}, {20, 9}, {15, 14}});
         break;
-    case LineIcon::differences:
+    case LineIcon::Differences:
         lines({{5, 9}, {19, 9}});
         lines({{5, 15}, {19, 15}});
         lines({{15, 4}, {9, 20}});
         break;
-    case LineIcon::advice: {
+    case LineIcon::Advice: {
         const QRectF bulb(6, 3, 12, 12);
         path.arcMoveTo(bulb, -60);
         path.arcTo(bulb, -60, 300);

@@ -16,17 +16,17 @@ using IconDrawing = std::function<void(QPainter& painter, const QRect& rect, con
 QIcon drawnIcon(IconDrawing drawing, QPalette::ColorRole text);
 
 enum class LineIcon {
-    back,  // to an earlier time
-    begin, // of a row
-    end,
-    plus,
-    up,
-    down,
-    cross,
-    undo,
-    redo,
-    differences,
-    advice,
+    Back,  // to an earlier time
+    Begin, // of a row
+    End,
+    Plus,
+    Up,
+    Down,
+    Cross,
+    Undo,
+    Redo,
+    Differences,
+    Advice,
 };
 
 QIcon lineIcon(LineIcon which);

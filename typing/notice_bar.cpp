@@ -68,8 +68,8 @@ void NoticeBar::keepPlace(Place place)
 {
     if (std::exchange(kept_, place) == place)
         return;
-    const bool keeps = place != Place::none;
-    keptHeight_ = place == Place::lines ? std::max(kHeight, text_->twoLines() + 2 * kRim) : 0;
+    const bool keeps = place != Place::None;
+    keptHeight_ = place == Place::Lines ? std::max(kHeight, text_->twoLines() + 2 * kRim) : 0;
     text_->setLimited(keeps);
     QSizePolicy policy = sizePolicy();
     policy.setRetainSizeWhenHidden(keeps);
@@ -88,13 +88,13 @@ void NoticeBar::keepToTwoLines()
 // they like to have for what they need.
 bool NoticeBar::hasHeightForWidth() const
 {
-    return kept_ == Place::none && QFrame::hasHeightForWidth();
+    return kept_ == Place::None && QFrame::hasHeightForWidth();
 }
 
 void NoticeBar::claimHeight()
 {
     const bool isOnShow = isTelling();
-    const bool keepsPlace = kept_ != Place::none;
+    const bool keepsPlace = kept_ != Place::None;
     const int wanted = property(kRoomBelow).toInt();
     roomBelow_ = keepsPlace ? 0 : wanted;
     text_->setVisible(isOnShow);
@@ -110,7 +110,7 @@ void NoticeBar::claimHeight()
         const int own =
             std::max(keptHeight_, hasWidth ? std::max(kHeight, layout()->heightForWidth(width())) : 0);
         setProperty(kOwnHeight, own);
-        setFixedHeight(kept_ == Place::lines ? std::max(own, wanted - kRoomMargin) : own);
+        setFixedHeight(kept_ == Place::Lines ? std::max(own, wanted - kRoomMargin) : own);
     } else {
         setMinimumHeight(isOnShow ? kHeight + roomBelow_ : roomBelow_);
     }
@@ -178,7 +178,7 @@ void NoticeBar::closeShown()
 
 void NoticeBar::setCross()
 {
-    close_->setIcon(lineIcon(LineIcon::cross));
+    close_->setIcon(lineIcon(LineIcon::Cross));
 }
 
 void NoticeBar::changeEvent(QEvent* event)
@@ -242,7 +242,7 @@ void NoticeBar::endNews()
 void NoticeBar::tell(const std::function<QString()>& sentence)
 {
     if (sentence)
-        tell(0, [sentence] { return Notice{Mark::advice, sentence(), {}}; });
+        tell(0, [sentence] { return Notice{Mark::Advice, sentence(), {}}; });
     else
         end(0);
 }
@@ -274,7 +274,7 @@ const NoticeBar::Told* NoticeBar::worst() const
 {
     const auto found = std::ranges::min_element(told_, [this](const Told& a, const Told& b) {
         const auto rank = [](const Told& told) {
-            return std::pair(told.notice.mark == Mark::invalid, told.isNews);
+            return std::pair(told.notice.mark == Mark::Invalid, told.isNews);
         };
         if (rank(a) != rank(b))
             return rank(a) > rank(b);

@@ -62,12 +62,12 @@ public:
     bool isOnShow(int number) const;
     // Among equals the one that was told last is on show.
     void setNewestFirst() { isNewestFirst_ = true; }
-    enum class Place { none, edge, lines };
+    enum class Place { None, Edge, Lines };
     // `lines`: two lines of the window are the bar's, whether there is something to tell or not: where
     // notices come and go while the user presses buttons, nothing may move under the mouse. A longer sentence
     // is cut there. `edge`, where the window has no lines to spare: the host's notice stands over what is
     // below.
-    void keepPlace(Place place = Place::lines);
+    void keepPlace(Place place = Place::Lines);
     // Cuts longer sentences; the tool tip has them whole.
     void keepToTwoLines();
     bool isTelling() const { return worst() != nullptr; }
@@ -134,7 +134,7 @@ private:
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
-    Place kept_ = Place::none;
+    Place kept_ = Place::None;
     int keptHeight_ = 0;        // of the lines
     int roomBelow_ = 0;         // what of the height is another's
     bool isCovered_ = false;    // by the host's notice

@@ -176,7 +176,7 @@ std::optional<TypedEntry::News> NumberEntry::take(const QString& typed)
 {
     const Reading reading = read(typed);
     if (!reading.number)
-        return News{Mark::invalid, reading.complaint};
+        return News{Mark::Invalid, reading.complaint};
     const double taken = std::clamp(*reading.number, least(), most());
     if (real_)
         real_->setValue(taken);
@@ -184,10 +184,10 @@ std::optional<TypedEntry::News> NumberEntry::take(const QString& typed)
         whole_->setValue(static_cast<int>(taken));
     const double held = real_ ? real_->value() : whole_->value();
     if (spelled(held) != spelled(taken))
-        return News{Mark::advice, translated("typed_beside").arg(typed.trimmed(), spelled(held) + suffix())};
+        return News{Mark::Advice, translated("typed_beside").arg(typed.trimmed(), spelled(held) + suffix())};
     if (taken == *reading.number)
         return {};
-    return News{Mark::advice, translated("typed_range")
+    return News{Mark::Advice, translated("typed_range")
                                   .arg(typed.trimmed(), spelled(least()), spelled(most()) + suffix(),
                                        spelled(taken) + suffix())};
 }

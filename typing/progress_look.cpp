@@ -11,7 +11,7 @@ void showAsSilent(QProgressBar* bar, bool silent)
     QPalette colours;
     if (silent) {
         const QPalette& window = bar->palette();
-        colours.setColor(QPalette::Highlight, markColor(Mark::advice, window));
+        colours.setColor(QPalette::Highlight, markColor(Mark::Advice, window));
         colours.setColor(QPalette::HighlightedText, window.color(QPalette::Window));
     }
     bar->setPalette(colours);

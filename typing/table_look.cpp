@@ -199,13 +199,13 @@ void addCopy(QAbstractItemView* view)
 void dressTable(QTableView* table, TableUse use)
 {
     dressView(table, table->horizontalHeader());
-    if (use != TableUse::edit) {
+    if (use != TableUse::Edit) {
         dressCells(table);
-        new EndKeys(table, use == TableUse::read);
+        new EndKeys(table, use == TableUse::Read);
     }
-    if (use == TableUse::read)
+    if (use == TableUse::Read)
         addCopy(table);
-    table->setShowGrid(use == TableUse::edit);
+    table->setShowGrid(use == TableUse::Edit);
     table->setWordWrap(false);
     table->setTabKeyNavigation(false);
     const int height = table->fontMetrics().height() + kRowPadding;
@@ -282,7 +282,7 @@ QString tableText(const QAbstractItemView& table, CopiedRows rows)
         if (table.selectionModel()->rowIntersectsSelection(row, {}))
             chosen << row;
     }
-    for (const int row : rows == CopiedRows::all || chosen.isEmpty() ? shown : chosen)
+    for (const int row : rows == CopiedRows::All || chosen.isEmpty() ? shown : chosen)
         addLine([&](int column) {
             const QModelIndex index = model.index(row, column);
             const QVariant copied = index.data(kCopiedRole);

@@ -15,9 +15,9 @@ class QTreeView;
 namespace vlk {
 
 enum class TableUse {
-    read,
-    edit,
-    show, // as read, but what Ctrl+C takes is the window's matter, and Home and End need Ctrl
+    Read,
+    Edit,
+    Show, // as read, but what Ctrl+C takes is the window's matter, and Home and End need Ctrl
 };
 
 void dressTable(QTableView* table, TableUse use);
@@ -38,7 +38,7 @@ inline constexpr int kCopiedRole = Qt::UserRole + 0xC0;
 
 // What Ctrl+C takes where nothing is edited: cells with a tab between them, each row on a line; the heads
 // first.
-enum class CopiedRows : std::uint8_t { chosen, all };
-QString tableText(const QAbstractItemView& table, CopiedRows rows = CopiedRows::chosen);
+enum class CopiedRows : std::uint8_t { Chosen, All };
+QString tableText(const QAbstractItemView& table, CopiedRows rows = CopiedRows::Chosen);
 
 } // namespace vlk

@@ -85,14 +85,14 @@ void TextEntry::mark()
 {
     const QString complaint = this->complaint();
     if (isDoubted_ || !complaint.isEmpty())
-        markField(line_, MarkReason::value, Mark::invalid, complaint);
+        markField(line_, MarkReason::Value, Mark::Invalid, complaint);
     isDoubted_ = !complaint.isEmpty();
 }
 
 void TextEntry::tell(const QString& text)
 {
     if (isMarked_ || !text.isEmpty())
-        markField(line_, MarkReason::typing, Mark::invalid, text);
+        markField(line_, MarkReason::Typing, Mark::Invalid, text);
     isMarked_ = !text.isEmpty();
     news_ = text;
 }
@@ -130,7 +130,7 @@ void TextEntry::leave()
     if (!isMissed && complaint().isEmpty())
         tell({});
     else if (isMarked_)
-        markField(line_, MarkReason::typing, Mark::advice, news_);
+        markField(line_, MarkReason::Typing, Mark::Advice, news_);
 }
 
 bool TextEntry::isBlank() const

@@ -109,7 +109,7 @@ void outline(const QStyleOption& option, qreal inside, QPainter& painter)
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(markColor(Mark::changed, option.palette), kOutline));
+    painter.setPen(QPen(markColor(Mark::Changed, option.palette), kOutline));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(inside, inside, -inside, -inside), 2, 2);
     painter.restore();

@@ -36,7 +36,7 @@ void TypedEntry::typedOn()
 {
     setTyping(true);
     news_.clear();
-    mark(Mark::invalid, complaint(typed()));
+    mark(Mark::Invalid, complaint(typed()));
 }
 
 void TypedEntry::setTyping(bool isTyping)
@@ -49,7 +49,7 @@ void TypedEntry::setTyping(bool isTyping)
 void TypedEntry::mark(Mark mark, const QString& text)
 {
     if (isMarked_ || !text.isEmpty())
-        markField(box_, MarkReason::typing, mark, text);
+        markField(box_, MarkReason::Typing, mark, text);
     isMarked_ = !text.isEmpty();
 }
 
@@ -63,7 +63,7 @@ void TypedEntry::finish()
     restore();
     taking_ = false;
     news_ = news ? news->text : QString();
-    mark(news ? news->mark : Mark::advice, news_);
+    mark(news ? news->mark : Mark::Advice, news_);
 }
 
 void TypedEntry::giveUp()
@@ -72,7 +72,7 @@ void TypedEntry::giveUp()
         restore();
     setTyping(false);
     news_.clear();
-    mark(Mark::advice, {});
+    mark(Mark::Advice, {});
 }
 
 QString TypedEntry::takeNews()

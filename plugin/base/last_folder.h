@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-enum class FileKind { calibration, preset, otherConfiguration, report, differences, records };
+enum class FileKind { Calibration, Preset, OtherConfiguration, Report, Differences, Records };
 
 // `otherwise` where there was none yet or its folder is gone.
 QString lastFolder(FileKind kind, const QString& otherwise);

@@ -19,7 +19,7 @@ namespace vlk {
 namespace {
 
 enum class Outcome { Saved, Failed, NoRoomBeside };
-enum class Readable { asBefore, byOwner };
+enum class Readable { AsBefore, ByOwner };
 
 // The hidden name beside the file under which the new one waits for its place.
 QString nameBeside(const QFileInfo& file)
@@ -49,7 +49,7 @@ Outcome putBeside(const QFileInfo& target, const WriteContent& write, Readable r
     QSaveFile file(beside);
     const auto writeOpened = [&](QIODevice& device) {
         opened = true;
-        if (readable == Readable::byOwner)
+        if (readable == Readable::ByOwner)
             file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
         else if (target.exists())
             file.setPermissions(target.permissions());
@@ -155,7 +155,7 @@ WriteContent writing(const QByteArray& content)
 bool replaceFile(const QString& path, const WriteContent& write, QString* reason)
 {
     QString fault;
-    if (replace(path, write, Readable::asBefore, &fault))
+    if (replace(path, write, Readable::AsBefore, &fault))
         return true;
     if (reason)
         *reason = fault;
@@ -222,7 +222,7 @@ bool replaceFile(const QString& path, const QByteArray& content, QString* reason
 
 bool replacePrivateFile(const QString& path, const QByteArray& content, QString* reason)
 {
-    return replace(path, writing(content), Readable::byOwner, reason);
+    return replace(path, writing(content), Readable::ByOwner, reason);
 }
 
 } // namespace vlk

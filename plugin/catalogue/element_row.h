@@ -13,35 +13,35 @@
 namespace vlk {
 
 // How the bytes of a value are read; all are little-endian in a record.
-enum class ValueType : std::uint8_t { u8, u16, u32, u64, i8, i16, i32, i64, f32 };
+enum class ValueType : std::uint8_t { U8, U16, U32, U64, I8, I16, I32, I64, F32 };
 
 enum class Unit : std::uint8_t {
-    none,
-    percent,
-    humidity, // percent of relative humidity
-    volt,
-    millivolt,
-    milliampere,
-    hertz,
-    degree, // of an angle
-    celsius,
-    turnsPerMinute,
-    metre,
-    kilometre,
-    kilometrePerHour,
-    litre,
-    litrePerHour,
-    kilogram,
-    second,
-    hour,
-    unixSeconds, // a moment
-    decibelMilliwatt,
+    None,
+    Percent,
+    Humidity, // percent of relative humidity
+    Volt,
+    Millivolt,
+    Milliampere,
+    Hertz,
+    Degree, // of an angle
+    Celsius,
+    TurnsPerMinute,
+    Metre,
+    Kilometre,
+    KilometrePerHour,
+    Litre,
+    LitrePerHour,
+    Kilogram,
+    Second,
+    Hour,
+    UnixSeconds, // a moment
+    DecibelMilliwatt,
 };
 
 // The number of an element, multiplied by the one and divided by the other, in a unit.
 struct Measure
 {
-    Unit unit = Unit::none;
+    Unit unit = Unit::None;
     double multiplier = 1;
     double divisor = 1;
     std::optional<std::int64_t> noValue{}; // the code that means that there is no value

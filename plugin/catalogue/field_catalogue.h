@@ -37,18 +37,18 @@ constexpr ElementIndex operator+(ElementIndex first, std::integral auto steps)
 constexpr int width(ValueType type)
 {
     switch (type) {
-    case ValueType::u8:
-    case ValueType::i8:
+    case ValueType::U8:
+    case ValueType::I8:
         return 1;
-    case ValueType::u16:
-    case ValueType::i16:
+    case ValueType::U16:
+    case ValueType::I16:
         return 2;
-    case ValueType::u32:
-    case ValueType::i32:
-    case ValueType::f32:
+    case ValueType::U32:
+    case ValueType::I32:
+    case ValueType::F32:
         return 4;
-    case ValueType::u64:
-    case ValueType::i64:
+    case ValueType::U64:
+    case ValueType::I64:
         return 8;
     }
     return 0;
@@ -56,7 +56,7 @@ constexpr int width(ValueType type)
 
 constexpr bool isSigned(ValueType type)
 {
-    return type >= ValueType::i8 && type <= ValueType::i64;
+    return type >= ValueType::I8 && type <= ValueType::I64;
 }
 
 // Offsets and widths are bytes; an offset is counted in the block that holds every field.

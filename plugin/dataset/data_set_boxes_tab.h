@@ -22,15 +22,15 @@ public:
     DataSetBoxesTab(DataSetTab which, int index, const char* title, QWidget* parent = nullptr);
 
     void retranslate() override;
-    void fillMask10(QString& mask) override { fill(MaskVersion::zeta10, mask); }
-    void fillMask20(QString& mask) override { fill(MaskVersion::zeta20, mask); }
-    void fillMask30(QString& mask) override { fill(MaskVersion::zeta30, mask); }
-    void loadMask10(const QString& mask) override { load(MaskVersion::zeta10, mask); }
-    void loadMask20(const QString& mask) override { load(MaskVersion::zeta20, mask); }
-    void loadMask30(const QString& mask) override { load(MaskVersion::zeta30, mask); }
-    void enableFormat10(bool on) override { enable(MaskVersion::zeta10, on); }
-    void enableFormat20(bool on) override { enable(MaskVersion::zeta20, on); }
-    void enableFormat30(bool on) override { enable(MaskVersion::zeta30, on); }
+    void fillMask10(QString& mask) override { fill(MaskVersion::Zeta10, mask); }
+    void fillMask20(QString& mask) override { fill(MaskVersion::Zeta20, mask); }
+    void fillMask30(QString& mask) override { fill(MaskVersion::Zeta30, mask); }
+    void loadMask10(const QString& mask) override { load(MaskVersion::Zeta10, mask); }
+    void loadMask20(const QString& mask) override { load(MaskVersion::Zeta20, mask); }
+    void loadMask30(const QString& mask) override { load(MaskVersion::Zeta30, mask); }
+    void enableFormat10(bool on) override { enable(MaskVersion::Zeta10, on); }
+    void enableFormat20(bool on) override { enable(MaskVersion::Zeta20, on); }
+    void enableFormat30(bool on) override { enable(MaskVersion::Zeta30, on); }
 
 protected:
     bool event(QEvent* event) override;

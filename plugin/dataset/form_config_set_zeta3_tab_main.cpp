@@ -1,7 +1,7 @@
 #include "dataset/form_config_set_zeta3_tab_main.h"
 
 VLK_Form_Config_Set_Zeta3_Tab_Main::VLK_Form_Config_Set_Zeta3_Tab_Main(int index, QWidget* parent)
-    : DataSetBoxesTab(vlk::DataSetTab::main, index, "cfgt2f_001", parent)
+    : DataSetBoxesTab(vlk::DataSetTab::Main, index, "cfgt2f_001", parent)
 {
 }
 

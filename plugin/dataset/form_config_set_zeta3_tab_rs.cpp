@@ -23,7 +23,7 @@ QString portNames(VLK_Form_Config_Set_Zeta3_Tab_RS::Ports ports)
 } // namespace
 
 VLK_Form_Config_Set_Zeta3_Tab_RS::VLK_Form_Config_Set_Zeta3_Tab_RS(int index, Ports ports, QWidget* parent)
-    : DataSetBoxesTab(vlk::DataSetTab::rs, index, nullptr, parent), ports_(ports)
+    : DataSetBoxesTab(vlk::DataSetTab::Rs, index, nullptr, parent), ports_(ports)
 {
     findChild<QGroupBox*>(QStringLiteral("groupBox_RS232"))->setVisible(ports.rs232);
     auto* group = findChild<QGroupBox*>(QStringLiteral("groupBox_RS485"));

@@ -93,7 +93,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     }
     keepQuick(root, present_);
     presetDue_.stop();
-    against_ = Against::file;
+    against_ = Against::File;
     otherName_ = {};
     fileName_.clear();
     path_.clear();
@@ -137,7 +137,7 @@ void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QStr
     loaded.read(*file.root());
     keepQuick(file.root(), loaded, quick);
     edited_ = Differences(asItCame_, now());
-    if (against_ == Against::file)
+    if (against_ == Against::File)
         differences_ = edited_;
     // The full window has them until it is on show again.
     gone_ = leftOutKeys();
@@ -163,15 +163,15 @@ std::vector<int> ConfigurationReview::setReplaced(const QByteArray& document)
 bool ConfigurationReview::compareWith(Against against, const QString& path)
 {
     FileState before = asItCame();
-    if (against == Against::defaults) {
+    if (against == Against::Defaults) {
         before = FileState::ofDefaults(present_);
-    } else if (against == Against::otherFile || against == Against::preset) {
+    } else if (against == Against::OtherFile || against == Against::Preset) {
         QByteArray text = review::configurationText(path);
         XmlDocument document(text, QStringLiteral("DEVICE"));
         if (!document.isOpen())
             return false;
-        if (against == Against::preset || review::saysPreset(*document.root())) {
-            against = Against::preset;
+        if (against == Against::Preset || review::saysPreset(*document.root())) {
+            against = Against::Preset;
             preset_ = std::move(text);
             before = withPreset();
         } else {
@@ -188,7 +188,7 @@ void ConfigurationReview::compareWith(FileState before, const EditHistory::Words
 {
     fileName_.clear();
     path_.clear();
-    compareWith(std::move(before), Against::otherFile, name);
+    compareWith(std::move(before), Against::OtherFile, name);
 }
 
 void ConfigurationReview::compareWith(FileState before, Against against, const EditHistory::Words& name)
@@ -235,7 +235,7 @@ void ConfigurationReview::followPreset()
 
 bool ConfigurationReview::isBeyond(int key) const
 {
-    if (!isQuick() || against_ == Against::file)
+    if (!isQuick() || against_ == Against::File)
         return false;
     if (!beyond_) {
         std::vector<int> keys;
@@ -420,16 +420,16 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     for (const int page : pages)
         hold(*history_.pages()[page]);
     const bool isQuick = this->isQuick();
-    const bool isPreset = against_ == Against::preset;
+    const bool isPreset = against_ == Against::Preset;
     const bool isOther = isQuick != wasQuick_;
-    const bool isWhole = isQuick || isOther || pages.size() == int(history_.pages().size());
+    const bool isWhole = isQuick || isOther || pages.size() == static_cast<int>(history_.pages().size());
     wasQuick_ = isQuick;
     if (!isQuick)
         gone_.clear(); // chosen again, they would go again
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame(), state);
-        differences_ = against_ == Against::file ? edited_
+        differences_ = against_ == Against::File ? edited_
                        : isPreset                ? Differences(withMoved(state), state)
                                                  : Differences(differences_.before(), state);
     } else {

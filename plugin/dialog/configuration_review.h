@@ -40,7 +40,7 @@ public:
     bool isWritten() const { return isWritten_; }
 
     // A preset is compared as the configuration that it would make if it were applied now.
-    enum class Against { file, defaults, otherFile, preset };
+    enum class Against { File, Defaults, OtherFile, Preset };
     Against against() const { return against_; }
     // False when the file could not be read, and nothing changes. Another file that says that it is a preset
     // is taken for one.
@@ -54,7 +54,7 @@ public:
     // The name of the other file or of the preset.
     const QString& fileName() const { return fileName_; }
     // Tells comparisons apart, whatever they find.
-    QString comparison() const { return QString::number(int(against_)) + otherName() + path_; }
+    QString comparison() const { return QString::number(static_cast<int>(against_)) + otherName() + path_; }
 
     const review::Differences& differences() const { return differences_; }
     // In the order of a save; with the quick window on show those of the sections first that it makes anew.
@@ -169,7 +169,7 @@ private:
     Values quickAsItCame_;
     review::FileState quickState_; // with that over what the full window makes of it
     QHash<QString, QString> quickStrangers_;
-    Against against_ = Against::file;
+    Against against_ = Against::File;
     QByteArray preset_;      // its document
     std::vector<int> moved_; // keys that it moves
     // Keys that the quick window cannot take; none until they are asked for.

@@ -62,13 +62,13 @@ DifferenceModel::DifferenceModel(ConfigurationReview& review, QObject* parent)
 
 DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& difference) const
 {
-    const bool isOfFile = review_.against() == ConfigurationReview::Against::file;
+    const bool isOfFile = review_.against() == ConfigurationReview::Against::File;
     if (isOfFile && review_.isUnedited(difference) && (review_.isQuick() || isFilledIn(difference)))
-        return Kind::unedited;
+        return Kind::Unedited;
     if (difference.key >= 0 && review_.isBeyond(difference.key))
-        return Kind::beyond;
+        return Kind::Beyond;
     // Each key of another file or a preset is a choice of its own.
-    return difference.isAlong && (isOfFile || !review_.otherName().isEmpty()) ? Kind::along : Kind::own;
+    return difference.isAlong && (isOfFile || !review_.otherName().isEmpty()) ? Kind::Along : Kind::Own;
 }
 
 DifferenceModel::Line DifferenceModel::lineOf(const review::Difference& difference) const
@@ -81,7 +81,7 @@ DifferenceModel::Line DifferenceModel::lineOf(const review::Difference& differen
     const auto& [missing, surplus] = kOnOneSide[static_cast<int>(review_.against())];
     if (missing && !difference.byLoad && (difference.before.isNull() || difference.after.isNull()))
         line.text.note = text(difference.after.isNull() ? missing : surplus);
-    if (review_.against() == ConfigurationReview::Against::preset && difference.key >= 0)
+    if (review_.against() == ConfigurationReview::Against::Preset && difference.key >= 0)
         tellWhole(&line, differences.before().at(difference.key).meaning);
     return line;
 }
@@ -108,7 +108,7 @@ void DifferenceModel::refresh()
 {
     beginResetModel();
     lines_.clear();
-    if (review_.against() == ConfigurationReview::Against::preset) {
+    if (review_.against() == ConfigurationReview::Against::Preset) {
         for (const review::PresetProblem& problem : review_.problems())
             lines_.push_back(
                 {review::Difference{-1, -1, problem.path, problem.text, {}}, review::textOf(problem)});
@@ -120,9 +120,9 @@ void DifferenceModel::refresh()
     std::vector<Line> own;
     for (const review::Difference& difference : review_.listed()) {
         const Kind kind = kindOf(difference);
-        std::vector<Line>& lines = kind == Kind::unedited ? unedited
-                                   : kind == Kind::along  ? along
-                                   : kind == Kind::beyond ? beyond
+        std::vector<Line>& lines = kind == Kind::Unedited ? unedited
+                                   : kind == Kind::Along  ? along
+                                   : kind == Kind::Beyond ? beyond
                                                           : own;
         lines.push_back(lineOf(difference));
     }
@@ -191,12 +191,12 @@ QString DifferenceModel::summary() const
     int own = 0;
     int filledIn = 0;
     QStringList pages;
-    if (review_.against() != ConfigurationReview::Against::file)
+    if (review_.against() != ConfigurationReview::Against::File)
         return {};
     for (const Line& line : lines_) {
         if (line.members > 0)
             continue;
-        own += kindOf(line.difference) == Kind::own && !review_.isUnedited(line.difference) ? 1 : 0;
+        own += kindOf(line.difference) == Kind::Own && !review_.isUnedited(line.difference) ? 1 : 0;
         if (!review_.isUnedited(line.difference))
             continue;
         (line.difference.after.isNull() ? removed : set) += 1;
@@ -248,7 +248,7 @@ std::vector<int> DifferenceModel::keysOf(const QSet<QString>& unchosen) const
         known = keys.size();
         for (const Line& line : lines_) {
             const int key = line.difference.key;
-            if (key >= 0 && kindOf(line.difference) == Kind::along &&
+            if (key >= 0 && kindOf(line.difference) == Kind::Along &&
                 std::ranges::find(keys, key) == keys.end() && differences.isWith(key, keys))
                 keys.push_back(key);
         }
@@ -284,7 +284,7 @@ DifferenceModel::Copied DifferenceModel::copied() const
             continue;
         ++copied.all;
         const Kind kind = kindOf(line.difference);
-        const bool hasChoice = line.difference.key >= 0 && (kind == Kind::own || kind == Kind::along);
+        const bool hasChoice = line.difference.key >= 0 && (kind == Kind::Own || kind == Kind::Along);
         if (hasChoice && std::ranges::find(chosen, line.difference.key) == chosen.end())
             continue;
         ++copied.lines;
@@ -315,7 +315,7 @@ QVariant DifferenceModel::data(const QModelIndex& index, int role) const
                cell(line.text, review::placeText(line.text), column);
     }
     if (role == Qt::DecorationRole && index.column() == Page && index.row() < problems_)
-        return markIcon(Mark::advice, QGuiApplication::palette());
+        return markIcon(Mark::Advice, QGuiApplication::palette());
     if (role == Qt::CheckStateRole && index.column() == Page && hasCheckMark(line))
         return isChosen(line) ? Qt::Checked : Qt::Unchecked;
     return {};
@@ -364,7 +364,7 @@ QVariant DifferenceModel::headerData(int section, Qt::Orientation orientation, i
         const QString side = text(sides[static_cast<int>(review_.against())]);
         return role == Qt::DisplayRole ? file : QStringLiteral("%1: %2").arg(side, file);
     }
-    if (section == Before && review_.against() == ConfigurationReview::Against::file && review_.isWritten())
+    if (section == Before && review_.against() == ConfigurationReview::Against::File && review_.isWritten())
         return text("rev_256");
     return text(section == Before ? sides[static_cast<int>(review_.against())] : titles[section]);
 }

@@ -69,7 +69,7 @@ private:
         int head = -1;   // the line that it stands behind
         int members = 0; // of a head
     };
-    enum class Kind { own, unedited, along, beyond };
+    enum class Kind { Own, Unedited, Along, Beyond };
 
     Kind kindOf(const review::Difference& difference) const;
     Line lineOf(const review::Difference& difference) const;

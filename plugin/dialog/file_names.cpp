@@ -84,7 +84,7 @@ QString saveAsAsked(const QString& path, const QByteArray& content, bool isPriva
 Notice savedNotice(const QString& path)
 {
     const QString text = QCoreApplication::translate("vlk", "rev_218");
-    return {Mark::right, text.arg(QDir::toNativeSeparators(path)), {}};
+    return {Mark::Right, text.arg(QDir::toNativeSeparators(path)), {}};
 }
 
 } // namespace vlk

@@ -137,27 +137,27 @@ void VLK_Form_Config_Light::slot_testConnected(const QString& /*peerIp*/, const 
 
 void VLK_Form_Config_Light::slot_pressed_BtnWndHelp_Psw()
 {
-    showHelp(vlk::QuickHelp::passwords);
+    showHelp(vlk::QuickHelp::Passwords);
 }
 
 void VLK_Form_Config_Light::slot_pressed_BtnWndHelp_GPRS()
 {
-    showHelp(vlk::QuickHelp::accessPoint);
+    showHelp(vlk::QuickHelp::AccessPoint);
 }
 
 void VLK_Form_Config_Light::slot_pressed_BtnWndHelp_Server()
 {
-    showHelp(vlk::QuickHelp::server);
+    showHelp(vlk::QuickHelp::Server);
 }
 
 void VLK_Form_Config_Light::slot_pressed_BtnWndHelp_Track()
 {
-    showHelp(vlk::QuickHelp::track);
+    showHelp(vlk::QuickHelp::Track);
 }
 
 void VLK_Form_Config_Light::slot_pressed_BtnWndHelp_Sensors()
 {
-    showHelp(vlk::QuickHelp::sensors);
+    showHelp(vlk::QuickHelp::Sensors);
 }
 
 void VLK_Form_Config_Light::hideEvent(QHideEvent* event)

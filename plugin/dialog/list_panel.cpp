@@ -42,7 +42,7 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
     table_->installEventFilter(this);
     table_->viewport()->installEventFilter(this);
     close_->setAutoRaise(true);
-    close_->setIcon(lineIcon(LineIcon::cross));
+    close_->setIcon(lineIcon(LineIcon::Cross));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(vlk::grid::kRow);
@@ -66,7 +66,7 @@ ListPanel::ListPanel(const char* name, QWidget* parent)
 void ListPanel::setModel(QAbstractItemModel& model)
 {
     table_->setModel(&model);
-    dressTable(table_, TableUse::read);
+    dressTable(table_, TableUse::Read);
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->horizontalHeader()->setResizeContentsPrecision(kRowsForWidths);
     empty_ = new EmptyNote(table_);

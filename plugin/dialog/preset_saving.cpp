@@ -48,7 +48,7 @@ std::optional<review::Personal> askPersonal(QWidget* parent, int others)
     box.exec();
     if (box.clickedButton() != save)
         return {};
-    return include->isChecked() ? review::Personal::included : review::Personal::leftOut;
+    return include->isChecked() ? review::Personal::Included : review::Personal::LeftOut;
 }
 
 // Settings that a preset sets as a whole.
@@ -75,7 +75,7 @@ Notice savedPresetNotice(const QWidget& panel, const QString& path, int count, i
     };
     const QString name = QDir::toNativeSeparators(path);
     if (wholes.empty())
-        return {Mark::right, saved(name), {}};
+        return {Mark::Right, saved(name), {}};
     const QFontMetrics metrics = panel.fontMetrics();
     const int room = panel.width() - kBesideText - metrics.horizontalAdvance(saved({}));
     const QString shown = metrics.elidedText(name, Qt::ElideMiddle, room);
@@ -94,7 +94,7 @@ Notice savedPresetNotice(const QWidget& panel, const QString& path, int count, i
         lines << tell(goesOff ? "rev_382" : "rev_383");
         told << (goesOff ? tell("rev_252") : tell("rev_342").arg(parts.rest));
     }
-    Notice notice{Mark::advice, saved(shown) + QLatin1Char('\n') + lines.join(QLatin1Char(' ')), {}};
+    Notice notice{Mark::Advice, saved(shown) + QLatin1Char('\n') + lines.join(QLatin1Char(' ')), {}};
     notice.more = told.join(QLatin1Char('\n'));
     return notice;
 }
@@ -109,25 +109,25 @@ std::function<Notice()> savePreset(QWidget* parent, const review::FileState& fro
         warn(parent, word("rev_226"));
         return {};
     }
-    std::optional personal = review::Personal::leftOut;
+    std::optional personal = review::Personal::LeftOut;
     const auto personals = std::ranges::count_if(keys, review::isPersonal);
     if (personals > 0)
         personal = askPersonal(parent, static_cast<int>(keys.size() - personals));
     if (!personal)
         return {};
     const QString path = askPathToSave(
-        parent, {FileKind::preset, word("rev_199"), word("rev_204"), word("rev_205"), QStringLiteral("xml")});
+        parent, {FileKind::Preset, word("rev_199"), word("rev_204"), word("rev_205"), QStringLiteral("xml")});
     if (path.isEmpty())
         return {};
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     review::writePreset(*document.root(), from, keys, *personal);
-    const QString failure = saveAsAsked(path, document.text(), personal == review::Personal::included);
+    const QString failure = saveAsAsked(path, document.text(), personal == review::Personal::Included);
     if (!failure.isEmpty()) {
         warn(parent, failure);
         return {};
     }
     const int count = static_cast<int>(keys.size()) -
-                      (personal == review::Personal::leftOut ? static_cast<int>(personals) : 0);
+                      (personal == review::Personal::LeftOut ? static_cast<int>(personals) : 0);
     return [parent, path, count, all, wholes = wholesOf(from, keys)] {
         return savedPresetNotice(*parent, path, count, all, wholes);
     };

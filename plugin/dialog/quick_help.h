@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-enum class QuickHelp { passwords, accessPoint, server, track, sensors };
+enum class QuickHelp { Passwords, AccessPoint, Server, Track, Sensors };
 
 // Title and HTML in the present language.
 QString quickHelpTitle(QuickHelp help);

@@ -161,15 +161,15 @@ void ReportDialog::refresh()
     const review::Differences sinceOpened = review_.sinceOpened();
     const int contents = contents_->currentIndex();
     const review::ReportChoice choice{contents != All, onePage_->isChecked(),
-                                      secrets_->isChecked() ? review::Secrets::shown
-                                                            : review::Secrets::masked};
+                                      secrets_->isChecked() ? review::Secrets::Shown
+                                                            : review::Secrets::Masked};
     html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
                                            review_.advice(), about_(), choice));
     preview_->setHtml(html_);
     const int pages = onePage_->isChecked() ? leastPages(html_) : 1;
     if (pages > 1)
         bar_->tell(kTooLong, [pages] {
-            return Notice{Mark::advice, QCoreApplication::translate("vlk", "rev_346").arg(pages), {}};
+            return Notice{Mark::Advice, QCoreApplication::translate("vlk", "rev_346").arg(pages), {}};
         });
     else
         bar_->end(kTooLong);
@@ -190,7 +190,7 @@ void ReportDialog::save(const char* kind, const QString& suffix,
                                       QStringLiteral("_"));
     const QString name = QStringLiteral("%1 %2").arg(tr("rev_217"), object).trimmed();
     const QString path =
-        askPathToSave(this, {FileKind::report, tr(kind), name,
+        askPathToSave(this, {FileKind::Report, tr(kind), name,
                              suffix.toUpper() + QStringLiteral(" (*.%1)").arg(suffix), suffix});
     if (path.isEmpty())
         return;
@@ -198,7 +198,7 @@ void ReportDialog::save(const char* kind, const QString& suffix,
     if (failure.isEmpty())
         bar_->tellNews(kSaved, [path] { return savedNotice(path); });
     else
-        bar_->tell(kSaved, {Mark::invalid, failure, {}});
+        bar_->tell(kSaved, {Mark::Invalid, failure, {}});
 }
 
 } // namespace vlk

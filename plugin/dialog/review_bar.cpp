@@ -107,8 +107,8 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
     row->setSpacing(vlk::grid::kColumn);
     for (QWidget* widget : QWidgetList{undo_, redo_, find_, changedOnly_, differences_, advice_})
         row->addWidget(widget);
-    undo_->setIcon(lineIcon(LineIcon::undo));
-    redo_->setIcon(lineIcon(LineIcon::redo));
+    undo_->setIcon(lineIcon(LineIcon::Undo));
+    redo_->setIcon(lineIcon(LineIcon::Redo));
     for (QToolButton* button : {undo_, redo_})
         button->setAutoRaise(true);
     for (QToolButton* button : {differences_, advice_}) {
@@ -136,7 +136,7 @@ ReviewBar::ReviewBar(ConfigurationReview& review, SettingPlaces& places, QWidget
             [this](bool on) { Q_EMIT panelRequested(on ? Differences : None); });
     connect(advice_, &QToolButton::toggled, this,
             [this](bool on) { Q_EMIT panelRequested(on ? Advice : None); });
-    setMark(advice_, LineIcon::advice, kNoMark);
+    setMark(advice_, LineIcon::Advice, kNoMark);
     connect(&review_, &ConfigurationReview::changed, this, &ReviewBar::showState);
     connect(new QShortcut(QKeySequence::Find, parent), &QShortcut::activated, this, &ReviewBar::focusFind);
     for (const auto& [button, keys] : {std::pair(undo_, kUndoKeys), std::pair(redo_, kRedoKeys)}) {
@@ -182,9 +182,9 @@ void ReviewBar::showState()
     differences_->setText(number);
     // What nobody has asked for; of quick setup, which always does something, once a write is near.
     const bool isWarned = review_.isQuick() ? unedited > 0 && count > 0 : review_.isLossy();
-    setMark(differences_, LineIcon::differences,
-            isWarned    ? static_cast<int>(Mark::advice)
-            : count > 0 ? static_cast<int>(Mark::changed)
+    setMark(differences_, LineIcon::Differences,
+            isWarned    ? static_cast<int>(Mark::Advice)
+            : count > 0 ? static_cast<int>(Mark::Changed)
                         : kNoMark);
     const QString told =
         tr(review_.isWritten() ? "rev_257" : "rev_126").arg(QKeySequence(kDifferencesKey).toString());
@@ -224,7 +224,7 @@ void ReviewBar::setPanel(Panel panel)
 void ReviewBar::setAdvice(int count, std::optional<Mark> worst)
 {
     advice_->setText(QLocale().toString(count));
-    setMark(advice_, LineIcon::advice, worst ? static_cast<int>(*worst) : kNoMark);
+    setMark(advice_, LineIcon::Advice, worst ? static_cast<int>(*worst) : kNoMark);
     advice_->setToolTip(tr("rev_135").arg(QKeySequence(kAdviceKey).toString()));
     advice_->setAccessibleName(QStringLiteral("%1: %2").arg(tr("rev_131")).arg(count));
 }
@@ -331,7 +331,7 @@ void ReviewBar::changeEvent(QEvent* event)
     if (event->type() != QEvent::PaletteChange)
         return;
     for (const auto& [button, icon] :
-         {std::pair(differences_, LineIcon::differences), std::pair(advice_, LineIcon::advice)}) {
+         {std::pair(differences_, LineIcon::Differences), std::pair(advice_, LineIcon::Advice)}) {
         const QVariant mark = button->property(kMarkProperty);
         button->setProperty(kMarkProperty, {});
         setMark(button, icon, mark.isValid() ? mark.toInt() : kNoMark);

@@ -108,8 +108,8 @@ void ReviewPanel::showState()
 {
     const int against = static_cast<int>(review_.against());
     const QString other = review_.otherName();
-    against_->setItemText(static_cast<int>(Against::file), tr(review_.isWritten() ? "rev_255" : kSides[0]));
-    against_->setItemText(static_cast<int>(Against::otherFile), other.isEmpty() ? tr("rev_111") : other);
+    against_->setItemText(static_cast<int>(Against::File), tr(review_.isWritten() ? "rev_255" : kSides[0]));
+    against_->setItemText(static_cast<int>(Against::OtherFile), other.isEmpty() ? tr("rev_111") : other);
     against_->setCurrentIndex(against);
     against_->setToolTip(review_.fileName());
     QStringList sides;
@@ -159,7 +159,7 @@ void ReviewPanel::fitTable()
 
 bool ReviewPanel::choosePreset()
 {
-    return chooseAgainst(static_cast<int>(Against::preset));
+    return chooseAgainst(static_cast<int>(Against::Preset));
 }
 
 bool ReviewPanel::chooseAgainst(int index)
@@ -167,9 +167,9 @@ bool ReviewPanel::chooseAgainst(int index)
     const auto against = static_cast<Against>(index);
     QString path;
     bool isRead = true;
-    if (against == Against::otherFile || against == Against::preset) {
+    if (against == Against::OtherFile || against == Against::Preset) {
         path =
-            askPathToOpen(this, against == Against::preset ? FileKind::preset : FileKind::otherConfiguration,
+            askPathToOpen(this, against == Against::Preset ? FileKind::Preset : FileKind::OtherConfiguration,
                           tr(kQuestions[index]), tr(kFilters[index]));
         isRead = !path.isEmpty();
     }
@@ -215,7 +215,7 @@ void ReviewPanel::takeOver()
         std::ranges::count_if(chosen, [this](int key) { return review_.differences().isDifferent(key); });
     if (review_.isQuick() && left > 0) {
         Q_EMIT told([left] {
-            return Notice{Mark::advice, QCoreApplication::translate("vlk", "rev_284").arg(left), {}};
+            return Notice{Mark::Advice, QCoreApplication::translate("vlk", "rev_284").arg(left), {}};
         });
     }
 }
@@ -234,20 +234,20 @@ void ReviewPanel::copy()
     Q_EMIT told([lines = copied.lines, all = copied.all] {
         const QLocale locale;
         const QString text = QCoreApplication::translate("vlk", "rev_344");
-        return Notice{Mark::right, text.arg(locale.toString(lines), locale.toString(all)), {}};
+        return Notice{Mark::Right, text.arg(locale.toString(lines), locale.toString(all)), {}};
     });
 }
 
 void ReviewPanel::saveCsv()
 {
-    const QString path = askPathToSave(this, {FileKind::differences, tr("rev_115"), tr("rev_108"),
+    const QString path = askPathToSave(this, {FileKind::Differences, tr("rev_115"), tr("rev_108"),
                                               QStringLiteral("CSV (*.csv)"), QStringLiteral("csv")});
     if (path.isEmpty())
         return;
     // With a mark of the encoding, by which spreadsheets know it.
     const QString failure = saveAsAsked(path, "\xEF\xBB\xBF" + model_.csv().toUtf8(), false);
     Q_EMIT told([path, failure] {
-        return failure.isEmpty() ? savedNotice(path) : Notice{Mark::invalid, failure, {}};
+        return failure.isEmpty() ? savedNotice(path) : Notice{Mark::Invalid, failure, {}};
     });
 }
 

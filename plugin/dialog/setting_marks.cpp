@@ -34,11 +34,11 @@ QObject* clickedOf(QWidget* widget)
 std::optional<Mark> markOf(review::Severity severity)
 {
     switch (severity) {
-    case review::Severity::error:
-        return Mark::invalid;
-    case review::Severity::warning:
-        return Mark::advice;
-    case review::Severity::hint:
+    case review::Severity::Error:
+        return Mark::Invalid;
+    case review::Severity::Warning:
+        return Mark::Advice;
+    case review::Severity::Hint:
         break;
     }
     return {};
@@ -219,7 +219,7 @@ void SettingMarks::markCell(const PageSettings& settings, QTreeWidget* tree, con
     std::optional<Mark> worst;
     QStringList texts;
     if (told.isChanged) {
-        worst = Mark::changed;
+        worst = Mark::Changed;
         texts << changeText(review_, settings, spot.first, spot.second);
     }
     if (!told.advice.isEmpty()) {
@@ -236,7 +236,7 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
     auto* tree = qobject_cast<QTreeWidget*>(widget);
     QStringList changes;
     QStringList advice;
-    Mark severity = Mark::advice;
+    Mark severity = Mark::Advice;
     for (const Spot& spot : page.spots.value(clickedOf(widget))) {
         const auto told = page.told.find(spot);
         const bool isTold = told != page.told.end() && page.marked.at(spot) == widget;
@@ -256,8 +256,8 @@ void SettingMarks::mark(const PageSettings& settings, QWidget* widget)
     }
     if (tree)
         return;
-    markField(widget, MarkReason::changed, Mark::changed, changes.join(QLatin1Char('\n')));
-    markField(widget, MarkReason::advice, severity, advice.join(QLatin1Char('\n')));
+    markField(widget, MarkReason::Changed, Mark::Changed, changes.join(QLatin1Char('\n')));
+    markField(widget, MarkReason::Advice, severity, advice.join(QLatin1Char('\n')));
 }
 
 void SettingMarks::markTabs()
@@ -283,7 +283,7 @@ void SettingMarks::markTabs()
                                                    [this](int key) { return review_.isOwn(key); });
         if (changed > 0) {
             told << withColon("rev_161", QLocale().toString(static_cast<int>(changed)));
-            worst = worst ? worst : Mark::changed;
+            worst = worst ? worst : Mark::Changed;
         }
         if (advice > 0)
             told << withColon("rev_131", QLocale().toString(advice));

@@ -80,7 +80,7 @@ int shownRowOf(const Values& values, const QString& path)
     if (review::canBeShown(values.setting(holder)))
         return holder;
     for (const Sets& rule : values.table().all<Sets>()) {
-        if (rule.moment == Moment::always && rule.path.row == holder && rule.when.row >= 0 &&
+        if (rule.moment == Moment::Always && rule.path.row == holder && rule.when.row >= 0 &&
             review::canBeShown(values.setting(rule.when.row)))
             return rule.when.row;
     }

@@ -88,7 +88,7 @@ void UnsavedBar::tellDamaged()
     if (damaged_.isEmpty())
         return end(kDamaged);
     tell(kDamaged, [path = QDir::toNativeSeparators(QDir::cleanPath(damaged_.last()))] {
-        return Notice{Mark::invalid, words("rev_350").arg(path), {}};
+        return Notice{Mark::Invalid, words("rev_350").arg(path), {}};
     });
 }
 
@@ -164,11 +164,11 @@ Notice UnsavedBar::noticeOfReplaced()
                                   Q_EMIT tookOver();
                               }};
     const Notice::Action show{words("rev_141"), [this] {
-                                  review_.compareWith(ConfigurationReview::Against::file);
+                                  review_.compareWith(ConfigurationReview::Against::File);
                                   Q_EMIT shown();
                               }};
     const QString count = QLocale().toString(static_cast<int>(replaced().size()));
-    return {Mark::advice, words("rev_760").arg(count), {take, show}};
+    return {Mark::Advice, words("rev_760").arg(count), {take, show}};
 }
 
 void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences)
@@ -186,7 +186,7 @@ void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences)
         return;
     if (now.isEmpty())
         return end(number);
-    tell(number, [text] { return Notice{Mark::advice, text(), {}}; });
+    tell(number, [text] { return Notice{Mark::Advice, text(), {}}; });
 }
 
 void UnsavedBar::tellOffer(int number)
@@ -208,8 +208,8 @@ Notice UnsavedBar::noticeOf(int number)
     const Notice::Action drop{words("rev_143"), [this, number] { discard(number, true); }};
     const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
     if (offer.isDiscarded)
-        return {Mark::advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
-    return {Mark::advice, text, // What gives them back stays where it is.
+        return {Mark::Advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
+    return {Mark::Advice, text, // What gives them back stays where it is.
             offer.isShown ? std::vector{drop, bring} : std::vector{show, bring}};
 }
 
@@ -242,7 +242,7 @@ void UnsavedBar::discard(int number, bool isDiscarded)
 void UnsavedBar::endComparison()
 {
     if (!review_.otherName().isEmpty())
-        review_.compareWith(ConfigurationReview::Against::file);
+        review_.compareWith(ConfigurationReview::Against::File);
 }
 
 void UnsavedBar::drop()
@@ -255,7 +255,7 @@ void UnsavedBar::drop()
 
 void UnsavedBar::tellFile(const std::function<Notice()>& notice)
 {
-    if (notice().mark == Mark::right)
+    if (notice().mark == Mark::Right)
         tellNews(kFile, notice);
     else
         tell(kFile, notice);
@@ -272,13 +272,13 @@ void UnsavedBar::tellFailure(const QString& reason)
         end(kFailure);
     else
         tell(kFailure, [reason] {
-            return Notice{Mark::invalid, words("rev_145").arg(fileErrorText(reason)), {}};
+            return Notice{Mark::Invalid, words("rev_145").arg(fileErrorText(reason)), {}};
         });
 }
 
 void UnsavedBar::tellKeptAgain()
 {
-    tellNews(kFailure, [] { return Notice{Mark::right, words("rev_502"), {}}; });
+    tellNews(kFailure, [] { return Notice{Mark::Right, words("rev_502"), {}}; });
 }
 
 } // namespace vlk

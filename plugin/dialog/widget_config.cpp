@@ -121,7 +121,7 @@ void VLK_Widget_Config::addDocuments()
         // What is closed was compared with the defaults or a file for another purpose.
         const bool isClosed = !area_->differences()->isVisible();
         if (isClosed)
-            review_.compareWith(vlk::ConfigurationReview::Against::file);
+            review_.compareWith(vlk::ConfigurationReview::Against::File);
         area_->show(vlk::ReviewBar::Differences);
         if (isClosed)
             area_->differences()->chooseAll(true);
@@ -132,7 +132,7 @@ void VLK_Widget_Config::addDocuments()
 
 bool VLK_Widget_Config::showPreset(const QString& path)
 {
-    if (!isVisible() || !review_.compareWith(vlk::ConfigurationReview::Against::preset, path))
+    if (!isVisible() || !review_.compareWith(vlk::ConfigurationReview::Against::Preset, path))
         return false;
     area_->show(vlk::ReviewBar::Differences);
     return true;
@@ -180,7 +180,7 @@ void VLK_Widget_Config::resizeEvent(QResizeEvent* event)
 {
     constexpr int kRoomy = 560;
     using Place = vlk::NoticeBar::Place;
-    unsaved_->keepPlace(height() >= kRoomy ? Place::lines : Place::edge);
+    unsaved_->keepPlace(height() >= kRoomy ? Place::Lines : Place::Edge);
     QDialog::resizeEvent(event);
 }
 

@@ -62,7 +62,7 @@ void writeElement(const TableLayout::Element& element, const std::vector<int>& r
     CXmlSectionPtr parent;
     for (int depth = 0; depth + 1 < element.path.size(); ++depth)
         parent = (parent ? *parent : section).child(element.path[depth]);
-    const bool keepsOthers = element.group->save == ElementSave::keepsOthers;
+    const bool keepsOthers = element.group->save == ElementSave::KeepsOthers;
     const CXmlSectionPtr saved =
         (parent ? *parent : section)
             .child(element.path.last(), keepsOthers || element.nested ? CXmlNode::Element : CXmlNode::Empty);
@@ -70,7 +70,7 @@ void writeElement(const TableLayout::Element& element, const std::vector<int>& r
         saved->clear();
     for (const int row : rows) {
         const TableLayout::Row& place = values.row(row);
-        const QString* before = place.base->onSave == OnSave::document ? saved->find(place.key) : nullptr;
+        const QString* before = place.base->onSave == OnSave::Document ? saved->find(place.key) : nullptr;
         saved->setString(place.key, values.written(row, before ? *before : values.value(row)));
     }
     saved->commit();
@@ -109,7 +109,7 @@ void writeTo(CXmlSection& root, const Values& values)
                 rows.push_back(row);
         }
         if (element.stored && values.isPresent(*element.group) &&
-            (!rows.empty() || element.group->save != ElementSave::anewIfAny))
+            (!rows.empty() || element.group->save != ElementSave::AnewIfAny))
             writeElement(element, rows, values, section);
     }
 }

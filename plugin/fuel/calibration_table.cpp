@@ -36,7 +36,7 @@ QFont fittingFont(const QFont& font, const vlk::FuelCaptions& captions)
 
 CalibrationTable::CalibrationTable(QWidget* parent) : QTableWidget(0, ColumnCount, parent)
 {
-    dressTable(this, TableUse::edit);
+    dressTable(this, TableUse::Edit);
     horizontalHeader()->setMinimumSectionSize(0);
     // Aligned like the cells.
     horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);

@@ -23,7 +23,7 @@ void paintCellMark(QPainter& painter, const QStyleOptionViewItem& option, const 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(option.rect.topLeft() + QPoint(1, 1));
-    paintMark(painter, Mark::advice, option.palette);
+    paintMark(painter, Mark::Advice, option.palette);
     painter.restore();
 }
 

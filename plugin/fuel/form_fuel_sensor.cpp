@@ -171,7 +171,7 @@ void VLK_Form_Fuel_Sensor::showReading()
 
 void VLK_Form_Fuel_Sensor::markReading()
 {
-    vlk::markField(ui_->lineEdit_Param, vlk::MarkReason::value, vlk::Mark::advice,
+    vlk::markField(ui_->lineEdit_Param, vlk::MarkReason::Value, vlk::Mark::Advice,
                    reading_.isSteady() ? QString() : tr("cfgt6_422").arg(reading_.before(), reading_.text()));
 }
 

@@ -22,7 +22,7 @@
 
 bool VLK_Form_Fuel_Sensor::keep(const QString& path, const QString& vehicle, const QDateTime& time) const
 {
-    const auto unsaved = dirty_ ? vlk::Unsaved::added : edited_ ? vlk::Unsaved::changed : vlk::Unsaved::cut;
+    const auto unsaved = dirty_ ? vlk::Unsaved::Added : edited_ ? vlk::Unsaved::Changed : vlk::Unsaved::Cut;
     return vlk::keepTable(path, name_, vehicle, {ui_->lineEdit_Name->text(), offeredName_}, rows(), time,
                           unsaved);
 }

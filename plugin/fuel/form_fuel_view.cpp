@@ -21,7 +21,7 @@ const QString kName = QStringLiteral("D1");
 VLK_Form_Fuel_View::VLK_Form_Fuel_View(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint),
       ui_(std::make_unique<Ui::VLK_Designer_Form_Fuel_View>()),
-      form_(new VLK_Form_Fuel_Sensor(kKind, kName, vlk::lineIcon(vlk::LineIcon::plus), this)), kind_(kKind),
+      form_(new VLK_Form_Fuel_Sensor(kKind, kName, vlk::lineIcon(vlk::LineIcon::Plus), this)), kind_(kKind),
       name_(kName)
 {
     ui_->setupUi(this);

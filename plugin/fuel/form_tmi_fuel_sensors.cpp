@@ -98,7 +98,7 @@ VLK_Form_TMI_Fuel_Sensors::~VLK_Form_TMI_Fuel_Sensors() = default;
 
 void VLK_Form_TMI_Fuel_Sensors::buildTabs()
 {
-    const QIcon icon = lineIcon(LineIcon::plus);
+    const QIcon icon = lineIcon(LineIcon::Plus);
     for (int i = 0; i < kFuelSensorCount; ++i) {
         if (!kFuelSensors[i].fitted)
             continue;
@@ -282,7 +282,7 @@ void VLK_Form_TMI_Fuel_Sensors::slot_NeedSaved(bool on)
 
 void VLK_Form_TMI_Fuel_Sensors::markTabs()
 {
-    const QIcon mark = tabMark(Mark::changed, palette());
+    const QIcon mark = tabMark(Mark::Changed, palette());
     const QIcon none = tabMark({}, palette());
     const auto show = [&](QTabWidget* tabs, int index, bool isMarked) {
         tabs->setIconSize({kMarkSize, kMarkSize});

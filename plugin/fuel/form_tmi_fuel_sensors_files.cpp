@@ -28,18 +28,18 @@ using namespace vlk;
 
 namespace {
 
-// Numbers in the bar; offers have those from kOffers on. That a table is edited can wait until all are
+// Numbers in the bar; offers have those from OffersNotice on. That a table is edited can wait until all are
 // answered.
 enum NoticeNumber {
-    kNoLink,
-    kFileOfOther,
-    kCut,
-    kFlaw,
-    kShownAt,
-    kNotInFile,
-    kNotAdded,
-    kOffers,
-    kEdited = std::numeric_limits<int>::max()
+    NoLinkNotice,
+    FileOfOtherNotice,
+    CutNotice,
+    FlawNotice,
+    ShownAtNotice,
+    NotInFileNotice,
+    NotAddedNotice,
+    OffersNotice,
+    EditedNotice = std::numeric_limits<int>::max()
 };
 
 constexpr int kQuoted = 40; // characters of a cell, in the bar
@@ -67,7 +67,7 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
         endNews();
     }
     if (!form) {
-        for (const auto number : {kFileOfOther, kCut, kFlaw, kEdited})
+        for (const auto number : {FileOfOtherNotice, CutNotice, FlawNotice, EditedNotice})
             bar_->end(number);
         return;
     }
@@ -82,21 +82,21 @@ void VLK_Form_TMI_Fuel_Sensors::tellOfTable()
             bar_->end(number);
     };
     const auto& otherFile = otherFile_[sensor];
-    tell(kFileOfOther, otherFile != nullptr, {Mark::advice, otherFile ? otherFile() : QString(), {}});
-    tell(kCut, cutIn_[sensor] > 0 && !isCutClosed_[sensor],
-         {Mark::advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
-    tell(kFlaw, flaw.row >= 0,
-         {Mark::invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
-    tell(kEdited, form->isEdited(), {Mark::changed, tr("cfgt6_404"), {save}});
+    tell(FileOfOtherNotice, otherFile != nullptr, {Mark::Advice, otherFile ? otherFile() : QString(), {}});
+    tell(CutNotice, cutIn_[sensor] > 0 && !isCutClosed_[sensor],
+         {Mark::Advice, tr("tmiw_264").arg(cutIn_[sensor]), {saveAll}});
+    tell(FlawNotice, flaw.row >= 0,
+         {Mark::Invalid, tr("tmiw_265").arg(QString::number(flaw.row + 1), flaw.text.left(kQuoted)), {}});
+    tell(EditedNotice, form->isEdited(), {Mark::Changed, tr("cfgt6_404"), {save}});
     openSave();
 }
 
 void VLK_Form_TMI_Fuel_Sensors::tellNoLink(bool isLost)
 {
     if (isLost)
-        bar_->tell(kNoLink, [] { return Notice{Mark::advice, tr("tmiw_292"), {}}; });
+        bar_->tell(NoLinkNotice, [] { return Notice{Mark::Advice, tr("tmiw_292"), {}}; });
     else
-        bar_->end(kNoLink);
+        bar_->end(NoLinkNotice);
     openSave();
 }
 
@@ -105,7 +105,7 @@ void VLK_Form_TMI_Fuel_Sensors::openSave()
     VLK_Form_Fuel_Sensor* form = currentForm();
     if (!form)
         return;
-    const bool isInBar = form->isEdited() && bar_->isOnShow(kEdited);
+    const bool isInBar = form->isEdited() && bar_->isOnShow(EditedNotice);
     const bool mayPress = form->isDirty() || (form->isEdited() && !isInBar);
     // A key that is pressed once more must not get to the button that comes next.
     if (!mayPress && focusWidget() == ui_->pushButton_Save_Xml)
@@ -117,8 +117,8 @@ void VLK_Form_TMI_Fuel_Sensors::openSave()
 
 void VLK_Form_TMI_Fuel_Sensors::endNews()
 {
-    bar_->end(kShownAt);
-    bar_->end(kNotInFile);
+    bar_->end(ShownAtNotice);
+    bar_->end(NotInFileNotice);
 }
 
 void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
@@ -126,9 +126,9 @@ void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
     const int sensor = currentSensor();
     if (sensor < 0)
         return;
-    if (number == kFileOfOther)
+    if (number == FileOfOtherNotice)
         otherFile_[sensor] = nullptr;
-    else if (number == kCut)
+    else if (number == CutNotice)
         isCutClosed_[sensor] = true; // the table is as unsaved as before
     openSave();
 }
@@ -136,7 +136,7 @@ void VLK_Form_TMI_Fuel_Sensors::forgetNotice(int number)
 void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
 {
     for (; offers_ > 0; --offers_)
-        bar_->end(kOffers + offers_ - 1);
+        bar_->end(OffersNotice + offers_ - 1);
     for (const KeptTable& table : kept_.offered(telemetryFolder())) {
         const QString time = table.time.toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
         const Notice::Action back{tr("cfgt6_406"), [this, table] { bringBack(table); }};
@@ -145,8 +145,8 @@ void VLK_Form_TMI_Fuel_Sensors::offerKeptTables()
                                              QFile::remove(path);
                                          offerKeptTables();
                                      }};
-        bar_->tell(kOffers + offers_++,
-                   {Mark::changed,
+        bar_->tell(OffersNotice + offers_++,
+                   {Mark::Changed,
                     tr("cfgt6_405").arg(table.sensor, table.vehicle, time, QString::number(table.points)),
                     {back, discard}});
     }
@@ -171,10 +171,10 @@ void VLK_Form_TMI_Fuel_Sensors::bringBack(const KeptTable& table)
     if (!load(*form, [&] { return form->loadXml(document.root()); }))
         return;
     // As unsaved as it was.
-    if (table.unsaved == Unsaved::cut)
+    if (table.unsaved == Unsaved::Cut)
         cutIn_[currentSensor()] = cutVolumes(form->rows());
-    form->setDirty(table.unsaved == Unsaved::added);
-    form->setEdited(table.unsaved != Unsaved::cut);
+    form->setDirty(table.unsaved == Unsaved::Added);
+    form->setEdited(table.unsaved != Unsaved::Cut);
     kept_.show(*form, table.path, std::make_unique<FileClaim>(table.path));
     offerKeptTables();
 }
@@ -187,9 +187,9 @@ bool VLK_Form_TMI_Fuel_Sensors::load(const VLK_Form_Fuel_Sensor& form, Read read
     if (!read())
         return false;
     // A file empties the field.
-    bar_->end(kNotAdded);
+    bar_->end(NotAddedNotice);
     if (!notAdded.isEmpty())
-        bar_->tellNews(kNotAdded, [notAdded] { return Notice{Mark::advice, notAdded, {}}; });
+        bar_->tellNews(NotAddedNotice, [notAdded] { return Notice{Mark::Advice, notAdded, {}}; });
     cutIn_[currentSensor()] = 0;
     // What was edited is kept and offered; what is saved or given up is kept no longer.
     staysKept ? kept_.release(form) : kept_.end(form);
@@ -344,8 +344,8 @@ void VLK_Form_TMI_Fuel_Sensors::showLoaded(const VLK_Form_Fuel_Sensor* before, c
     tellOfTable();
     offerKeptTables();
     if (form != before && !otherFile)
-        bar_->tellNews(kShownAt, [type, form] {
-            return Notice{Mark::right, tr("cfgt6_412").arg(type, form->name()), {}};
+        bar_->tellNews(ShownAtNotice, [type, form] {
+            return Notice{Mark::Right, tr("cfgt6_412").arg(type, form->name()), {}};
         });
 }
 
@@ -400,10 +400,10 @@ void VLK_Form_TMI_Fuel_Sensors::slot_pressed_Btn_Save_Excel()
 
 void VLK_Form_TMI_Fuel_Sensors::tellNotInFile(const QString& path, const FuelRows& rows)
 {
-    bar_->end(kNotInFile);
+    bar_->end(NotInFileNotice);
     if (const int unsteady = rememberUnsteady(telemetryFolder(), path, rows))
-        bar_->tellNews(kNotInFile, [unsteady] {
-            return Notice{Mark::advice, tr("tmiw_360").arg(unsteady), {}};
+        bar_->tellNews(NotInFileNotice, [unsteady] {
+            return Notice{Mark::Advice, tr("tmiw_360").arg(unsteady), {}};
         });
 }
 

@@ -111,7 +111,7 @@ PastePreview::PastePreview(const vlk::JoiningRows& joining, const vlk::PastedRow
     for (int column = 0; column < table->columnCount(); ++column)
         table->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    vlk::dressTable(table, vlk::TableUse::read);
+    vlk::dressTable(table, vlk::TableUse::Read);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     for (int row = 0; row < count; ++row) {

@@ -192,9 +192,9 @@ void VLK_Device_R7106::openConfiguration(const vlk::OpenRequest& request)
 void VLK_Device_R7106::confirmWrite(const vlk::WriteConfirmation& told)
 {
     confirmsWrites_ = true;
-    if (told.step == vlk::WriteConfirmation::held && told.content && configDialog_)
+    if (told.step == vlk::WriteConfirmation::Held && told.content && configDialog_)
         configDialog_->trackerHolds(*told.content);
-    if (told.step != vlk::WriteConfirmation::confirmed)
+    if (told.step != vlk::WriteConfirmation::Confirmed)
         return;
     if (configDialog_)
         configDialog_->confirmWritten(told.content ? *told.content : QByteArray());
@@ -258,7 +258,7 @@ VLK_Widget_Tmi_View* VLK_Device_R7106::ensureTelemetryView()
         connect(telemetryView_, &VLK_Widget_Tmi_View::recordsWanted, this,
                 [this](const auto& records, const QString& name, bool grows) {
                     using Growth = VLK_Widget_Tmi_Table::Growth;
-                    showIn(recordsWindow(), records, name, grows ? Growth::live : Growth::none);
+                    showIn(recordsWindow(), records, name, grows ? Growth::Live : Growth::None);
                 });
         connect(telemetryView_, &VLK_Widget_Tmi_View::recordShown, this,
                 [this](const QByteArray& record, quint32 number) {

@@ -17,7 +17,7 @@ const QString* orNull(const QString& text)
 FileRemark told(const review::FileRemark& remark)
 {
     FileRemark told;
-    told.kind = remark.kind == review::FileRemark::Kind::advice ? FileRemark::advice : FileRemark::finding;
+    told.kind = remark.kind == review::FileRemark::Kind::Advice ? FileRemark::Advice : FileRemark::Finding;
     told.severity = static_cast<std::uint32_t>(remark.severity);
     told.path = &remark.path;
     told.paths = &remark.paths;
@@ -30,20 +30,20 @@ FileRemark told(const review::FileRemark& remark)
 
 review::Secrets secretsOf(const auto& asked)
 {
-    return asked.showSecrets == 1 ? review::Secrets::shown : review::Secrets::masked;
+    return asked.showSecrets == 1 ? review::Secrets::Shown : review::Secrets::Masked;
 }
 
 FileComparison::Outcome outcomeOf(review::Comparison comparison)
 {
     switch (comparison) {
-    case review::Comparison::beforeUnreadable:
-        return FileComparison::beforeUnreadable;
-    case review::Comparison::afterUnreadable:
-        return FileComparison::afterUnreadable;
-    case review::Comparison::done:
+    case review::Comparison::BeforeUnreadable:
+        return FileComparison::BeforeUnreadable;
+    case review::Comparison::AfterUnreadable:
+        return FileComparison::AfterUnreadable;
+    case review::Comparison::Done:
         break;
     }
-    return FileComparison::done;
+    return FileComparison::Done;
 }
 
 } // namespace
@@ -87,7 +87,7 @@ void checkFile(FileCheck& asked)
             ++asked.remarks;
             asked.take(asked.context, &row);
         });
-    asked.outcome = isRead ? FileCheck::done : FileCheck::unreadable;
+    asked.outcome = isRead ? FileCheck::Done : FileCheck::Unreadable;
 }
 
 void reportFile(FileReport& asked)
@@ -100,14 +100,14 @@ void reportFile(FileReport& asked)
     const review::FileReportText report =
         review::reportOfFile(*asked.file, asked.before ? *asked.before : QString(), about, choice);
     switch (report.outcome) {
-    case review::Comparison::afterUnreadable:
-        asked.outcome = FileReport::fileUnreadable;
+    case review::Comparison::AfterUnreadable:
+        asked.outcome = FileReport::FileUnreadable;
         break;
-    case review::Comparison::beforeUnreadable:
-        asked.outcome = FileReport::beforeUnreadable;
+    case review::Comparison::BeforeUnreadable:
+        asked.outcome = FileReport::BeforeUnreadable;
         break;
-    case review::Comparison::done:
-        asked.outcome = FileReport::done;
+    case review::Comparison::Done:
+        asked.outcome = FileReport::Done;
         *asked.html = report.html;
         break;
     }
@@ -119,7 +119,7 @@ void bringSettings(BroughtSettings& asked)
         return;
     const auto content = review::withSettings(review::configurationText(*asked.file),
                                               review::configurationText(*asked.from), *asked.paths);
-    asked.outcome = content ? BroughtSettings::done : BroughtSettings::refused;
+    asked.outcome = content ? BroughtSettings::Done : BroughtSettings::Refused;
     if (content)
         *asked.content = *content;
 }

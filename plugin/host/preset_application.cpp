@@ -67,28 +67,28 @@ QString write(const QString& target, const QString& source, const QByteArray& te
 
 PresetApplication::Outcome applyToFile(PresetApplication& asked, XmlDocument& preset)
 {
-    const auto secrets = asked.showSecrets == 1 ? review::Secrets::shown : review::Secrets::masked;
+    const auto secrets = asked.showSecrets == 1 ? review::Secrets::Shown : review::Secrets::Masked;
     const QString device = QStringLiteral("DEVICE");
     const QByteArray text = review::configurationText(*asked.file);
     XmlDocument before(text, device);
     if (!before.isOpen())
-        return PresetApplication::fileUnreadable;
+        return PresetApplication::FileUnreadable;
     const review::EditedFile edited = review::withPreset(text, *preset.root());
     for (const review::PresetProblem& problem : edited.problems)
         tellMisfit(asked, problem, secrets);
     if (asked.misfits > 0 && asked.leaveOutMisfits != 1)
-        return PresetApplication::refused;
+        return PresetApplication::Refused;
     XmlDocument after(edited.text, device);
     tellChanges(asked, before, after, secrets);
     const bool isThere =
         asked.target && edited.text == text &&
         QFileInfo(*asked.target).canonicalFilePath() == QFileInfo(*asked.file).canonicalFilePath();
     if (!asked.target || isThere)
-        return PresetApplication::done;
+        return PresetApplication::Done;
     const QString reason = write(*asked.target, *asked.file, edited.text);
     if (asked.reason)
         *asked.reason = reason;
-    return reason.isEmpty() ? PresetApplication::done : PresetApplication::notWritten;
+    return reason.isEmpty() ? PresetApplication::Done : PresetApplication::NotWritten;
 }
 
 } // namespace
@@ -100,12 +100,12 @@ void applyPreset(PresetApplication& asked, VLK_Widget_Config* open)
     asked.changes = asked.misfits = 0;
     XmlDocument preset(review::configurationText(*asked.preset), QStringLiteral("DEVICE"));
     if (!preset.isOpen())
-        asked.outcome = PresetApplication::presetUnreadable;
+        asked.outcome = PresetApplication::PresetUnreadable;
     else if (asked.file)
         asked.outcome = applyToFile(asked, preset);
     else
-        asked.outcome = open && open->showPreset(*asked.preset) ? PresetApplication::shown
-                                                                : PresetApplication::nothingOpen;
+        asked.outcome = open && open->showPreset(*asked.preset) ? PresetApplication::Shown
+                                                                : PresetApplication::NothingOpen;
 }
 
 } // namespace vlk

@@ -229,10 +229,10 @@ struct FileDifference
 // The plug-in calls `take` with each difference, during the message; the texts are valid during the call.
 struct FileComparison
 {
-    enum Outcome : std::uint32_t { none, done, beforeUnreadable, afterUnreadable };
+    enum Outcome : std::uint32_t { None, Done, BeforeUnreadable, AfterUnreadable };
 
     std::uint32_t size = sizeof(FileComparison);
-    std::uint32_t outcome = none;    // filled
+    std::uint32_t outcome = None;    // filled
     std::uint32_t differences = 0;   // filled: how many there were
     std::uint32_t showSecrets = 0;   // 1: passwords are told, else dots
     const QString* before = nullptr; // path; null: what the keys of the other file would read as if missing
@@ -248,10 +248,10 @@ struct FileComparison
 // configuration of it is open.
 struct WriteConfirmation
 {
-    enum Step : std::uint32_t { willConfirm, confirmed, held };
+    enum Step : std::uint32_t { WillConfirm, Confirmed, Held };
 
     std::uint32_t size = sizeof(WriteConfirmation);
-    std::uint32_t step = willConfirm;
+    std::uint32_t step = WillConfirm;
     // What the file of WriteConfiguration held; null: that of the last one. A host that refuses some of them
     // says it, since otherwise one that was refused behind the one in work would count as written.
     const QByteArray* content = nullptr;
@@ -260,13 +260,13 @@ struct WriteConfirmation
 // CheckFile: what a load and a save would not leave of a configuration file as it stands, and advice on it.
 struct FileRemark
 {
-    enum Kind : std::uint32_t { finding, advice };
+    enum Kind : std::uint32_t { Finding, Advice };
     // A hint is worth a look or waits for the user, a warning loses something, an error cannot work.
-    enum Severity : std::uint32_t { hint, warning, error };
+    enum Severity : std::uint32_t { Hint, Warning, Error };
 
     std::uint32_t size = sizeof(FileRemark);
-    std::uint32_t kind = finding;
-    std::uint32_t severity = warning;
+    std::uint32_t kind = Finding;
+    std::uint32_t severity = Warning;
     const QString* path = nullptr;      // where to mend it
     const QStringList* paths = nullptr; // of all settings that take part
     // Where the setting stands, in the present language; null for what is no setting.
@@ -279,10 +279,10 @@ struct FileRemark
 // As with CompareFiles the plug-in calls `take` during the message.
 struct FileCheck
 {
-    enum Outcome : std::uint32_t { none, done, unreadable };
+    enum Outcome : std::uint32_t { None, Done, Unreadable };
 
     std::uint32_t size = sizeof(FileCheck);
-    std::uint32_t outcome = none;  // filled
+    std::uint32_t outcome = None;  // filled
     std::uint32_t remarks = 0;     // filled: how many there were
     std::uint32_t showSecrets = 0; // 1: passwords are told, else dots
     const QString* file = nullptr; // path
@@ -293,10 +293,10 @@ struct FileCheck
 // ReportFile: what a configuration file holds as a document for people, in the present language.
 struct FileReport
 {
-    enum Outcome : std::uint32_t { none, done, fileUnreadable, beforeUnreadable };
+    enum Outcome : std::uint32_t { None, Done, FileUnreadable, BeforeUnreadable };
 
     std::uint32_t size = sizeof(FileReport);
-    std::uint32_t outcome = none;    // filled
+    std::uint32_t outcome = None;    // filled
     std::uint32_t changesAlone = 0;  // 1: what differs from `before`, else all settings
     std::uint32_t onePage = 0;       // 1: in short, all settings being those that do not have their defaults
     std::uint32_t showSecrets = 0;   // 1: passwords are told, else dots
@@ -310,10 +310,10 @@ struct FileReport
 // everything else that it holds stays, unknown keys and their order too.
 struct PresetMisfit // a key of the preset that does not fit
 {
-    enum Reason : std::uint32_t { unknownKey, doubled, badValue, noPlace };
+    enum Reason : std::uint32_t { UnknownKey, Doubled, BadValue, NoPlace };
 
     std::uint32_t size = sizeof(PresetMisfit);
-    std::uint32_t reason = unknownKey;
+    std::uint32_t reason = UnknownKey;
     const QString* path = nullptr; // "TRACK/POINTS[2]/angle" in the second element of that name
     const QString* page = nullptr; // as of FileDifference
     const QString* group = nullptr;
@@ -327,18 +327,18 @@ struct PresetMisfit // a key of the preset that does not fit
 struct PresetApplication
 {
     enum Outcome : std::uint32_t {
-        none,
-        done,             // all that fits, or the dry run
-        presetUnreadable, // or the preset is no document
-        fileUnreadable,
-        refused,    // something does not fit
-        notWritten, // `reason` says why
-        shown,      // of the open configuration
-        nothingOpen
+        None,
+        Done,             // all that fits, or the dry run
+        PresetUnreadable, // or the preset is no document
+        FileUnreadable,
+        Refused,    // something does not fit
+        NotWritten, // `reason` says why
+        Shown,      // of the open configuration
+        NothingOpen
     };
 
     std::uint32_t size = sizeof(PresetApplication);
-    std::uint32_t outcome = none;      // filled
+    std::uint32_t outcome = None;      // filled
     std::uint32_t changes = 0;         // filled: how many there are
     std::uint32_t misfits = 0;         // filled
     std::uint32_t leaveOutMisfits = 0; // 1: the rest is applied, else nothing with one that does not fit
@@ -370,13 +370,13 @@ struct OfferedTexts
 struct BroughtSettings
 {
     enum Outcome : std::uint32_t {
-        none,
-        done,
-        refused // one of the files cannot be read, or has no place for a setting
+        None,
+        Done,
+        Refused // one of the files cannot be read, or has no place for a setting
     };
 
     std::uint32_t size = sizeof(BroughtSettings);
-    std::uint32_t outcome = none;       // filled
+    std::uint32_t outcome = None;       // filled
     const QString* file = nullptr;      // path; it stays as it is
     const QString* from = nullptr;      // path
     const QStringList* paths = nullptr; // of the settings; those that nobody knows are passed over

@@ -18,8 +18,8 @@ VLK_Form_List_Oper_Roaming::VLK_Form_List_Oper_Roaming(QWidget* parent)
 {
     ui_->setupUi(this);
     setModal(true);
-    ui_->pushButton_Up->setIcon(vlk::lineIcon(vlk::LineIcon::up));
-    ui_->pushButton_Down->setIcon(vlk::lineIcon(vlk::LineIcon::down));
+    ui_->pushButton_Up->setIcon(vlk::lineIcon(vlk::LineIcon::Up));
+    ui_->pushButton_Down->setIcon(vlk::lineIcon(vlk::LineIcon::Down));
     vlk::makeOperatorRows(ui_->treeWidget_List, vlk::kRoamingRows);
     ui_->treeWidget_List->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     connect(ui_->treeWidget_List, &QTreeWidget::itemDoubleClicked, this,

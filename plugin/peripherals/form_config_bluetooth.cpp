@@ -23,7 +23,7 @@ constexpr uchar kFailed = '2';
 constexpr uchar kStopped = '3';
 
 // What the page is bound to, in the order of its list.
-enum Kind { none, sensors, headset };
+enum Kind { None, Sensors, Headset };
 constexpr const char* kKinds[] = {"wrd_002", "cfgt17_003", "cfgt17_002"};
 
 template <int size>
@@ -82,7 +82,7 @@ void VLK_Form_Config_Bluetooth::retranslate()
         ui_->comboBox_Bt_Device->clear();
         for (const char* text : kKinds)
             ui_->comboBox_Bt_Device->addItem(tr(text));
-        ui_->comboBox_Bt_Device->setCurrentIndex(kind < 0 ? sensors : kind);
+        ui_->comboBox_Bt_Device->setCurrentIndex(kind < 0 ? Sensors : kind);
     }
     settings_.retranslate();
     sensors_->retranslate();
@@ -94,8 +94,8 @@ void VLK_Form_Config_Bluetooth::setDefaults()
     settings_.setDefaults();
     sensors_->clearTests();
     clearList();
-    ui_->comboBox_Bt_Device->setCurrentIndex(sensors);
-    slot_currentIndexChanged_BtDevice(tr(kKinds[sensors]));
+    ui_->comboBox_Bt_Device->setCurrentIndex(Sensors);
+    slot_currentIndexChanged_BtDevice(tr(kKinds[Sensors]));
     endSearch(false);
     ui_->label_Message->clear();
     applyConnection();
@@ -160,7 +160,7 @@ void VLK_Form_Config_Bluetooth::showMark(QTreeWidgetItem* item)
     item->setIcon(
         0, item->toolTip(0).isEmpty()
                ? QIcon()
-               : QIcon(vlk::markPixmap(vlk::Mark::right, palette(), vlk::kMarkSize, devicePixelRatioF())));
+               : QIcon(vlk::markPixmap(vlk::Mark::Right, palette(), vlk::kMarkSize, devicePixelRatioF())));
 }
 
 // The mark has colours of its own.
@@ -306,8 +306,8 @@ void VLK_Form_Config_Bluetooth::offerSensors(const QPoint& where)
 
 void VLK_Form_Config_Bluetooth::slot_currentIndexChanged_BtDevice(const QString& text)
 {
-    const bool isHeadset = text == tr(kKinds[headset]);
-    sensors_->setVisible(text == tr(kKinds[sensors]));
+    const bool isHeadset = text == tr(kKinds[Headset]);
+    sensors_->setVisible(text == tr(kKinds[Sensors]));
     // An input mask leaves its colons in an empty edit.
     const QString mac = ui_->lineEdit_Bt_MacAdr->text();
     if (isHeadset) {

@@ -107,11 +107,11 @@ void VLK_Form_Config_Bluetooth_Device_Type::connectNumbers(BleSensorForm* form)
     else if (auto* input = qobject_cast<VLK_Form_Config_Ble_DevType_AIN*>(form))
         connect(input, &VLK_Form_Config_Ble_DevType_AIN::signal_ChangeIdx_Dev_Int_AIN, this,
                 &This::slot_ChangeIdx_Dev_Int_AIN);
-    else if (form->type().index.list == vlk::BluetoothList::fuel)
+    else if (form->type().index.list == vlk::BluetoothList::Fuel)
         connect(form, &BleSensorForm::indexChanged, this, [this, form](int give, int take) {
             slot_ChangeIdx_Dev_FS(form->indexText(give), form->indexText(take));
         });
-    else if (form->type().index.list == vlk::BluetoothList::temperature)
+    else if (form->type().index.list == vlk::BluetoothList::Temperature)
         connect(form, &BleSensorForm::indexChanged, this, &This::signal_ChangeIdxTS_Int);
 }
 
@@ -242,7 +242,7 @@ QString VLK_Form_Config_Bluetooth_Device_Type::keyToDisplay(const QString& key) 
         return known;
     const QString name = universal_->keyToDisplay(key);
     return name.isEmpty() ? name
-                          : QStringLiteral("%1, %2").arg(params_->paramCode(userParamType::universal), name);
+                          : QStringLiteral("%1, %2").arg(params_->paramCode(userParamType::Universal), name);
 }
 
 QString VLK_Form_Config_Bluetooth_Device_Type::displayToKey(const QString& text) const

@@ -28,7 +28,7 @@ RsRowsForm::RsRowsForm(const char* owner, const char* title, QWidget* parent)
     lines_->setVerticalSpacing(vlk::grid::kRow);
     lines_->setColumnStretch(2, 1);
     group_->setObjectName(QStringLiteral("groupBox"));
-    RowLines lines(lines_, RowLines::Look::simple);
+    RowLines lines(lines_, RowLines::Look::Simple);
     for (const Setting* setting : rowsOfForm(kRsSettings, owner))
         lines.add(*setting);
     types_ = group_->findChild<QComboBox*>(QLatin1String(kTypes));

@@ -29,35 +29,35 @@ bool isMet(const BoundCondition& bound, const QString& value, Numbers numbers, c
         return value.toDouble() < (condition.other ? facts.value(bound.other).toDouble() : condition.number);
     };
     switch (condition.test) {
-    case Test::nothing:
+    case Test::Nothing:
         return true;
-    case Test::on:
+    case Test::On:
         return !isZero(value);
-    case Test::off:
+    case Test::Off:
         return isZero(value);
-    case Test::oneOf:
+    case Test::OneOf:
         return isListed(condition.text, value);
-    case Test::noneOf:
+    case Test::NoneOf:
         return !isListed(condition.text, value);
-    case Test::numbered:
+    case Test::Numbered:
         return value.toInt() == numbers.inner;
-    case Test::same:
+    case Test::Same:
         return value.trimmed().compare(facts.value(bound.other).trimmed(), Qt::CaseInsensitive) == 0;
-    case Test::like:
+    case Test::Like:
         return bound.pattern.match(value).hasMatch();
-    case Test::unlike:
+    case Test::Unlike:
         return !bound.pattern.match(value).hasMatch();
-    case Test::below:
+    case Test::Below:
         return isBelow();
-    case Test::notBelow:
+    case Test::NotBelow:
         return !isBelow();
-    case Test::digitOn:
+    case Test::DigitOn:
         return digitAt(value, static_cast<std::size_t>(bound.position)) != 0;
-    case Test::lacks:
+    case Test::Lacks:
         return !facts.isTicked(bound.position) || !facts.isKnown(bound.position);
-    case Test::recordAbove:
+    case Test::RecordAbove:
         return facts.recordBytes() > condition.number;
-    case Test::unread:
+    case Test::Unread:
         return isListed(condition.text, facts.unread(numberedName(condition.path, numbers)));
     }
     return false;
@@ -68,7 +68,7 @@ bool isMet(const BoundCondition& bound, Numbers numbers, const Facts& facts)
     const auto isMetAt = [&](Place place) { return isMet(bound, facts.value(place), numbers, facts); };
     if (bound.places.empty())
         return isMetAt({});
-    return bound.condition->over == Condition::Over::some ? std::ranges::any_of(bound.places, isMetAt)
+    return bound.condition->over == Condition::Over::Some ? std::ranges::any_of(bound.places, isMetAt)
                                                           : std::ranges::all_of(bound.places, isMetAt);
 }
 
@@ -103,31 +103,31 @@ QString told(const Argument& argument, Numbers numbers, const Facts& facts)
 {
     const QString path = argument.path ? numberedName(argument.path, numbers) : QString();
     switch (argument.kind) {
-    case Argument::Kind::nothing:
+    case Argument::Kind::Nothing:
         break;
-    case Argument::Kind::outerNumber:
+    case Argument::Kind::OuterNumber:
         return QString::number(numbers.outer);
-    case Argument::Kind::innerNumber:
+    case Argument::Kind::InnerNumber:
         return QString::number(numbers.inner);
-    case Argument::Kind::value: {
+    case Argument::Kind::Value: {
         const Place place = placeOf(path);
         return inSentence(valueText(facts.table(place), place.row), facts.table(place).setting(place.row));
     }
-    case Argument::Kind::caption: {
+    case Argument::Kind::Caption: {
         const Place place = placeOf(path);
         return captionText(facts.table(place).setting(place.row));
     }
-    case Argument::Kind::title: {
+    case Argument::Kind::Title: {
         const Place place = placeOf(path);
         return headingText(facts.table(place).setting(place.row)).section(QStringLiteral(" / "), -1);
     }
-    case Argument::Kind::field:
+    case Argument::Kind::Field:
         return facts.boxText(positionOf(argument.position, numbers));
-    case Argument::Kind::unread:
+    case Argument::Kind::Unread:
         return quickText(path, facts.unread(path));
-    case Argument::Kind::recordBytes:
+    case Argument::Kind::RecordBytes:
         return QString::number(facts.recordBytes());
-    case Argument::Kind::mostBytes:
+    case Argument::Kind::MostBytes:
         return QString::number(kMostRecordBytes);
     }
     return {};
@@ -165,7 +165,7 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
     const Rule& rule = *bound.rule;
     Finding finding{.rule = rule.id, .severity = rule.severity, .text = rule.text};
     for (const Argument& argument : rule.arguments) {
-        if (argument.kind != Argument::Kind::nothing)
+        if (argument.kind != Argument::Kind::Nothing)
             finding.arguments << told(argument, bound.numbers, facts);
     }
     for (const char* path : rule.names) {
@@ -173,7 +173,7 @@ Finding findingOf(const BoundRule& bound, const Facts& facts)
             finding.paths << numberedName(path, bound.numbers);
     }
     for (const BoundCondition& condition : bound.all) {
-        if (condition.condition->test == Condition::Test::digitOn)
+        if (condition.condition->test == Condition::Test::DigitOn)
             finding.parts.emplace_back(numberedName(condition.condition->path, bound.numbers),
                                        condition.position);
     }

@@ -18,7 +18,7 @@ class Configuration;
 namespace vlk::review {
 
 // A hint is worth a look or waits for the user, a warning loses something, an error cannot work.
-enum class Severity : std::uint8_t { hint, warning, error };
+enum class Severity : std::uint8_t { Hint, Warning, Error };
 
 struct Mend
 {
@@ -29,7 +29,7 @@ struct Mend
 struct Finding
 {
     const char* rule = "";
-    Severity severity = Severity::hint;
+    Severity severity = Severity::Hint;
     const char* text = "";   // translation key
     QStringList arguments{}; // of the text, in the language of the moment
     QStringList paths{};     // of the settings that it names; the first one is where to go

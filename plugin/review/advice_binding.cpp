@@ -15,18 +15,18 @@ std::vector<BoundCondition> bound(std::span<const Condition> conditions, Numbers
     using Test = Condition::Test;
     std::vector<BoundCondition> all;
     for (const Condition& condition : conditions) {
-        if (condition.test == Test::nothing)
+        if (condition.test == Test::Nothing)
             break;
         BoundCondition& made = all.emplace_back();
         made.condition = &condition;
         made.position = condition.position ? positionOf(condition.position, numbers) : -1;
-        if (condition.test == Test::like || condition.test == Test::unlike)
+        if (condition.test == Test::Like || condition.test == Test::Unlike)
             made.pattern.setPattern(QString::fromLatin1(condition.text));
         if (condition.other)
             made.other = placeOf(numberedName(condition.other, numbers));
-        if (!condition.path || condition.test == Test::unread)
+        if (!condition.path || condition.test == Test::Unread)
             continue;
-        if (condition.over == Condition::Over::one)
+        if (condition.over == Condition::Over::One)
             made.places = {placeOf(numberedName(condition.path, numbers))};
         for (std::uint8_t number = 1; number <= condition.count; ++number)
             made.places.push_back(placeOf(numberedName(condition.path, {numbers.outer, number})));

@@ -71,14 +71,14 @@ constexpr bool arePathsOf(const Rule& rule)
 {
     const auto known = [&](const char* path) { return isKnownTo(path, rule.outer, rule.inner); };
     const auto isOfCondition = [&](const Condition& condition) {
-        const bool isOne = condition.over == Condition::Over::one;
-        return condition.test == Condition::Test::unread ||
+        const bool isOne = condition.over == Condition::Over::One;
+        return condition.test == Condition::Test::Unread ||
                (isKnownTo(condition.path, rule.outer, isOne ? rule.inner : condition.count) &&
                 known(condition.other));
     };
     // What no setting reads is no path of one.
     const auto isOfArgument = [&](const Argument& argument) {
-        return argument.kind == Argument::Kind::unread || known(argument.path);
+        return argument.kind == Argument::Kind::Unread || known(argument.path);
     };
     const auto isOfMending = [&](const Mending& mending) { return known(mending.path); };
     return std::ranges::all_of(rule.all, isOfCondition) && std::ranges::all_of(rule.any, isOfCondition) &&

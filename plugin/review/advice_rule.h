@@ -3,7 +3,7 @@
 // A rule of advice as a row: when it speaks, how grave that is, what it says, which settings it names, and
 // what would mend it.
 //
-//     rule("server_port", Severity::error, "adv_003")
+//     rule("server_port", Severity::Error, "adv_003")
 //         .each(3)
 //         .when(isOn("TRANS/SRV%1/use"), isNot("TRANS/SRV%1/addr", kNoAddress), is("TRANS/SRV%1/port", "0"))
 //         .naming("TRANS/SRV%1/port")
@@ -32,110 +32,110 @@ constexpr int at(int /*number*/)
 struct Condition
 {
     enum class Test : std::uint8_t {
-        nothing, // no condition
-        on,      // neither empty nor 0
-        off,
-        oneOf,
-        noneOf,
-        numbered, // the value is the last number of the rule
-        same,     // as the value at `other`, whatever its case
-        like,     // fits the pattern
-        unlike,
-        below, // as numbers: the value at `other`, or `number`
-        notBelow,
-        digitOn,
-        lacks,       // the record does not hold the field
-        recordAbove, // bytes of the record
-        unread       // the file holds one of the codes where no setting reads it
+        Nothing, // no condition
+        On,      // neither empty nor 0
+        Off,
+        OneOf,
+        NoneOf,
+        Numbered, // the value is the last number of the rule
+        Same,     // as the value at `other`, whatever its case
+        Like,     // fits the pattern
+        Unlike,
+        Below, // as numbers: the value at `other`, or `number`
+        NotBelow,
+        DigitOn,
+        Lacks,       // the record does not hold the field
+        RecordAbove, // bytes of the record
+        Unread       // the file holds one of the codes where no setting reads it
     };
     // Over numbers that take the place of %2.
-    enum class Over : std::uint8_t { one, every, some };
+    enum class Over : std::uint8_t { One, Every, Some };
 
-    Test test = Test::nothing;
+    Test test = Test::Nothing;
     const char* path = nullptr;
     const char* other = nullptr;
     const char* text = ""; // codes "NU|NS+", or a pattern
     double number = 0;
     Position position = nullptr;
-    Over over = Over::one;
+    Over over = Over::One;
     std::uint8_t count = 0;
 };
 
 constexpr Condition is(const char* path, const char* codes)
 {
-    return {.test = Condition::Test::oneOf, .path = path, .text = codes};
+    return {.test = Condition::Test::OneOf, .path = path, .text = codes};
 }
 constexpr Condition isNot(const char* path, const char* codes)
 {
-    return {.test = Condition::Test::noneOf, .path = path, .text = codes};
+    return {.test = Condition::Test::NoneOf, .path = path, .text = codes};
 }
 constexpr Condition isOn(const char* path)
 {
-    return {.test = Condition::Test::on, .path = path};
+    return {.test = Condition::Test::On, .path = path};
 }
 constexpr Condition isOff(const char* path)
 {
-    return {.test = Condition::Test::off, .path = path};
+    return {.test = Condition::Test::Off, .path = path};
 }
 constexpr Condition isNumbered(const char* path)
 {
-    return {.test = Condition::Test::numbered, .path = path};
+    return {.test = Condition::Test::Numbered, .path = path};
 }
 constexpr Condition same(const char* path, const char* other)
 {
-    return {.test = Condition::Test::same, .path = path, .other = other};
+    return {.test = Condition::Test::Same, .path = path, .other = other};
 }
 constexpr Condition like(const char* path, const char* pattern)
 {
-    return {.test = Condition::Test::like, .path = path, .text = pattern};
+    return {.test = Condition::Test::Like, .path = path, .text = pattern};
 }
 constexpr Condition unlike(const char* path, const char* pattern)
 {
-    return {.test = Condition::Test::unlike, .path = path, .text = pattern};
+    return {.test = Condition::Test::Unlike, .path = path, .text = pattern};
 }
 constexpr Condition below(const char* path, const char* other)
 {
-    return {.test = Condition::Test::below, .path = path, .other = other};
+    return {.test = Condition::Test::Below, .path = path, .other = other};
 }
 constexpr Condition below(const char* path, double number)
 {
-    return {.test = Condition::Test::below, .path = path, .number = number};
+    return {.test = Condition::Test::Below, .path = path, .number = number};
 }
 constexpr Condition notBelow(const char* path, const char* other)
 {
-    return {.test = Condition::Test::notBelow, .path = path, .other = other};
+    return {.test = Condition::Test::NotBelow, .path = path, .other = other};
 }
 constexpr Condition notBelow(const char* path, double number)
 {
-    return {.test = Condition::Test::notBelow, .path = path, .number = number};
+    return {.test = Condition::Test::NotBelow, .path = path, .number = number};
 }
 constexpr Condition digitOn(const char* path, Position position)
 {
-    return {.test = Condition::Test::digitOn, .path = path, .position = position};
+    return {.test = Condition::Test::DigitOn, .path = path, .position = position};
 }
 constexpr Condition lacks(Position field)
 {
-    return {.test = Condition::Test::lacks, .position = field};
+    return {.test = Condition::Test::Lacks, .position = field};
 }
 constexpr Condition recordAbove(int bytes)
 {
-    return {.test = Condition::Test::recordAbove, .number = static_cast<double>(bytes)};
+    return {.test = Condition::Test::RecordAbove, .number = static_cast<double>(bytes)};
 }
 constexpr Condition isUnread(const char* path, const char* codes)
 {
-    return {.test = Condition::Test::unread, .path = path, .text = codes};
+    return {.test = Condition::Test::Unread, .path = path, .text = codes};
 }
 
 // A condition on the numbers from 1 to `count`, which take the place of %2 in its path.
 constexpr Condition every(std::uint8_t count, Condition condition)
 {
-    condition.over = Condition::Over::every;
+    condition.over = Condition::Over::Every;
     condition.count = count;
     return condition;
 }
 constexpr Condition some(std::uint8_t count, Condition condition)
 {
-    condition.over = Condition::Over::some;
+    condition.over = Condition::Over::Some;
     condition.count = count;
     return condition;
 }
@@ -144,58 +144,58 @@ constexpr Condition some(std::uint8_t count, Condition condition)
 struct Argument
 {
     enum class Kind : std::uint8_t {
-        nothing,
-        outerNumber,
-        innerNumber,
-        value, // with its unit
-        caption,
-        title,  // that it stands under: "Backup 1"
-        field,  // the box of the data set that the record lacks
-        unread, // as the quick window calls it
-        recordBytes,
-        mostBytes
+        Nothing,
+        OuterNumber,
+        InnerNumber,
+        Value, // with its unit
+        Caption,
+        Title,  // that it stands under: "Backup 1"
+        Field,  // the box of the data set that the record lacks
+        Unread, // as the quick window calls it
+        RecordBytes,
+        MostBytes
     };
 
-    Kind kind = Kind::nothing;
+    Kind kind = Kind::Nothing;
     const char* path = nullptr;
     Position position = nullptr;
 };
 
 constexpr Argument outerNumber()
 {
-    return {Argument::Kind::outerNumber};
+    return {Argument::Kind::OuterNumber};
 }
 constexpr Argument innerNumber()
 {
-    return {Argument::Kind::innerNumber};
+    return {Argument::Kind::InnerNumber};
 }
 constexpr Argument valueOf(const char* path)
 {
-    return {Argument::Kind::value, path};
+    return {Argument::Kind::Value, path};
 }
 constexpr Argument captionOf(const char* path)
 {
-    return {Argument::Kind::caption, path};
+    return {Argument::Kind::Caption, path};
 }
 constexpr Argument titleOf(const char* path)
 {
-    return {Argument::Kind::title, path};
+    return {Argument::Kind::Title, path};
 }
 constexpr Argument boxOf(Position field)
 {
-    return {Argument::Kind::field, nullptr, field};
+    return {Argument::Kind::Field, nullptr, field};
 }
 constexpr Argument unreadAt(const char* path)
 {
-    return {Argument::Kind::unread, path};
+    return {Argument::Kind::Unread, path};
 }
 constexpr Argument recordBytes()
 {
-    return {Argument::Kind::recordBytes};
+    return {Argument::Kind::RecordBytes};
 }
 constexpr Argument mostBytes()
 {
-    return {Argument::Kind::mostBytes};
+    return {Argument::Kind::MostBytes};
 }
 
 // A setting to be edited, and the value that it gets.
@@ -208,7 +208,7 @@ struct Mending
 struct Rule
 {
     const char* id = "";
-    Severity severity = Severity::hint;
+    Severity severity = Severity::Hint;
     const char* text = "";
     std::uint8_t outer = 0; // numbers of the family; 0: the rule is one
     std::uint8_t inner = 0;

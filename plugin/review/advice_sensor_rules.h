@@ -24,30 +24,30 @@ inline constexpr Condition kFuelOnLine = is(kOwner, "FLDS");
 inline constexpr Condition kCountersOnLine = is(kOwner, "PCNT");
 
 inline constexpr auto kRsRules =
-    rulesOf(rule("fuel_field", warning, "adv_018")
+    rulesOf(rule("fuel_field", Warning, "adv_018")
                 .each(kRsFuelSensors)
                 .when(kFuelOnLine, isOn("RS485/FS%1/use"), lacks(levelField))
                 .naming(kMaskPath, "RS485/FS%1/use")
                 .telling(outerNumber(), boxOf(levelField))
                 .ticking(levelField),
-            rule("fuel_addresses", error, "adv_019")
+            rule("fuel_addresses", Error, "adv_019")
                 .eachPair(kRsFuelSensors)
                 .when(kFuelOnLine, isOn("RS485/FS%1/use"), isOn("RS485/FS%2/use"),
                       same("RS485/FS%1/address", "RS485/FS%2/address"))
                 .naming("RS485/FS%2/address", "RS485/FS%1/address")
                 .telling(outerNumber(), innerNumber(), valueOf("RS485/FS%1/address")),
-            rule("fuel_none", warning, "adv_020")
+            rule("fuel_none", Warning, "adv_020")
                 .when(kFuelOnLine, every(kRsFuelSensors, isOff("RS485/FS%2/use")))
                 .naming("RS485/FS1/use", kOwner),
-            rule("counters_none", warning, "adv_021")
+            rule("counters_none", Warning, "adv_021")
                 .when(kCountersOnLine, every(kRsCounters, isOff("RS485/PCNT/id%2")))
                 .naming("RS485/PCNT/id1", kOwner),
-            rule("counter_addresses", error, "adv_022")
+            rule("counter_addresses", Error, "adv_022")
                 .eachPair(kRsCounters)
                 .when(kCountersOnLine, isOn("RS485/PCNT/id%1"), same("RS485/PCNT/id%1", "RS485/PCNT/id%2"))
                 .naming("RS485/PCNT/id%2", "RS485/PCNT/id%1")
                 .telling(outerNumber(), innerNumber(), valueOf("RS485/PCNT/id%1")),
-            rule("display_silent", hint, "adv_023")
+            rule("display_silent", Hint, "adv_023")
                 .when(is(kOwner, "DDU"), isOff("RS485/DV01/Use"))
                 .naming("RS485/DV01/Use")
                 .mending("RS485/DV01/Use", "1"));
@@ -59,7 +59,7 @@ inline constexpr const char* kWholeAddress = "^(?:[0-9A-Fa-f]{2}:){5}[0-9A-Fa-f]
 constexpr Rule sentAs(const char* id, std::uint8_t numbers, const char* type, const char* index,
                       Position tick, auto... lacking)
 {
-    return rule(id, warning, "adv_025")
+    return rule(id, Warning, "adv_025")
         .each(kBluetoothSensors, numbers)
         .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", type), isNumbered(index), lacking...)
         .naming(kMaskPath, index)
@@ -102,7 +102,7 @@ constexpr auto nameless()
 {
     using Sensors = NamedSensors<i>;
     std::array<Rule, Sensors::kAny> rules;
-    std::ranges::fill(rules, rule("bluetooth_name", hint, "adv_030")
+    std::ranges::fill(rules, rule("bluetooth_name", Hint, "adv_030")
                                  .each(kBluetoothSensors)
                                  .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", Sensors::kType.code),
                                        is(Sensors::kModel.data(), Sensors::kCodes.data()),
@@ -124,31 +124,31 @@ inline constexpr auto kBluetoothRules = rulesOf(
            lacks(preciseField), lacks(temperatureField)),
     sentAs("bluetooth_combined_field", kTemperatures, "7", "BLUETOOTH/US%1 TS%1/idx", temperatureField,
            lacks(preciseField), lacks(temperatureField)),
-    rule("fuel_numbers", error, "adv_024")
+    rule("fuel_numbers", Error, "adv_024")
         .each(kBluetoothSensors, kRsFuelSensors)
         .when(kBluetoothOn, is("BLUETOOTH/SENS%1/type", "1"), isNumbered("BLUETOOTH/FS%1/idx"), kFuelOnLine,
               isOn("RS485/FS%2/use"))
         .naming("BLUETOOTH/FS%1/idx", "RS485/FS%2/use")
         .telling(outerNumber(), innerNumber())
         .freeing("BLUETOOTH/FS%1/idx", "RS485/FS%2/use"),
-    rule("bluetooth_address", error, "adv_026")
+    rule("bluetooth_address", Error, "adv_026")
         .each(kBluetoothSensors)
         .when(kBluetoothOn, isOn("BLUETOOTH/SENS%1/type"), unlike("BLUETOOTH/SENS%1/macaddr", kWholeAddress))
         .naming("BLUETOOTH/SENS%1/macaddr")
         .telling(outerNumber()),
-    rule("bluetooth_addresses", error, "adv_027")
+    rule("bluetooth_addresses", Error, "adv_027")
         .eachPair(kBluetoothSensors)
         .when(kBluetoothOn, isOn("BLUETOOTH/SENS%1/type"), isOn("BLUETOOTH/SENS%2/type"),
               same("BLUETOOTH/SENS%1/macaddr", "BLUETOOTH/SENS%2/macaddr"),
               like("BLUETOOTH/SENS%1/macaddr", kWholeAddress))
         .naming("BLUETOOTH/SENS%2/macaddr", "BLUETOOTH/SENS%1/macaddr")
         .telling(outerNumber(), innerNumber(), valueOf("BLUETOOTH/SENS%1/macaddr")),
-    rule("bluetooth_type", warning, "adv_028")
+    rule("bluetooth_type", Warning, "adv_028")
         .each(kBluetoothSensors)
         .when(kBluetoothOn, isOff("BLUETOOTH/SENS%1/type"), isNot("BLUETOOTH/SENS%1/macaddr", "|:::::"))
         .naming("BLUETOOTH/SENS%1/type", "BLUETOOTH/SENS%1/macaddr")
         .telling(outerNumber()),
-    rule("bluetooth_off", warning, "adv_029")
+    rule("bluetooth_off", Warning, "adv_029")
         .when(isOff("BLUETOOTH/GLOBAL/use"), some(kBluetoothSensors, isOn("BLUETOOTH/SENS%2/type")))
         .naming("BLUETOOTH/GLOBAL/use")
         .mending("BLUETOOTH/GLOBAL/use", "1"),

@@ -38,33 +38,33 @@ bool isSameNumber(const Number& row, const QString& text, const QString& other)
 // Why a row takes the text for `value`, which is another one: one function a kind.
 Change why(const Group&, const Reading&, const QString&)
 {
-    return Change::otherForm;
+    return Change::OtherForm;
 }
 
 // A window always writes the same there, whatever it reads.
 Change why(const Constant&, const Reading&, const QString&)
 {
-    return Change::notOffered;
+    return Change::NotOffered;
 }
 
 Change why(const Link&, const Reading&, const QString&)
 {
-    return Change::otherForm;
+    return Change::OtherForm;
 }
 
 Change why(const Flag&, const Reading& reading, const QString& value)
 {
     if (!isWholeNumber(reading.text))
-        return Change::notANumber;
-    return leadingInt(reading.text) == leadingInt(value) ? Change::otherForm : Change::looseForm;
+        return Change::NotANumber;
+    return leadingInt(reading.text) == leadingInt(value) ? Change::OtherForm : Change::LooseForm;
 }
 
 Change why(const Number& row, const Reading& reading, const QString& value)
 {
     if (!isNumber(row, reading.text))
-        return Change::notANumber;
+        return Change::NotANumber;
     if (isSameNumber(row, reading.text, value))
-        return Change::otherForm;
+        return Change::OtherForm;
     constexpr double most = std::numeric_limits<double>::max();
     const Limits none{.least = -most, .most = most};
     // Digits that the widget has no place for, or more than those.
@@ -73,15 +73,15 @@ Change why(const Number& row, const Reading& reading, const QString& value)
     const bool isOff = row.zeroIsOff && value == QLatin1String("0");
     return isOff || std::abs(lost) >= place ||
                    normalised(row, {reading.text, reading.before, none, reading.source}) != value
-               ? Change::outOfRange
-               : Change::rounded;
+               ? Change::OutOfRange
+               : Change::Rounded;
 }
 
 // A line with a mask takes its signs from the mask, and drops what has no place in it.
 Change why(const Text& row, const Reading& reading, const QString& value)
 {
     if (!row.mask)
-        return Change::tooLong;
+        return Change::TooLong;
     const auto filled = [](const QString& text) {
         QString places;
         std::ranges::copy_if(text, std::back_inserter(places),
@@ -89,9 +89,9 @@ Change why(const Text& row, const Reading& reading, const QString& value)
         return places;
     };
     if (filled(value) == filled(reading.text))
-        return Change::otherForm;
+        return Change::OtherForm;
     const bool isFull = value.size() == QLatin1String(row.mask).size();
-    return isFull && filled(reading.text).startsWith(filled(value)) ? Change::tooLong : Change::unknownCode;
+    return isFull && filled(reading.text).startsWith(filled(value)) ? Change::TooLong : Change::UnknownCode;
 }
 
 // Whether a text is a digit of 0 to `top(position)` a position.
@@ -108,37 +108,37 @@ Change why(const Choice& row, const Reading& reading, const QString&)
 {
     const Code* code = codeOf(row, reading.text);
     if (!code)
-        return Change::unknownCode;
+        return Change::UnknownCode;
     if (!offersCode(*code, reading.limits))
-        return Change::notOffered;
+        return Change::NotOffered;
     const bool isTyped =
         code->pattern ? isOfDigits(reading.text, QLatin1String(code->pattern).size(), [](int) { return 1; })
                       : !row.numeric || isWholeNumber(reading.text);
-    return isTyped ? Change::otherForm : Change::looseForm;
+    return isTyped ? Change::OtherForm : Change::LooseForm;
 }
 
 Change why(const Period& row, const Reading& reading, const QString& value)
 {
     if (!isWholeNumber(reading.text))
-        return Change::notANumber;
+        return Change::NotANumber;
     const qint64 held = leadingLong(value);
     if (held == leadingLong(reading.text))
-        return Change::otherForm;
+        return Change::OtherForm;
     const int read = leadingInt(reading.text);
-    if (row.wrap > 0 && reading.source == Source::file && (read < 0 || read >= row.wrap))
-        return Change::wrapped;
-    return std::abs(held - read) < row.parts.back().seconds ? Change::rounded : Change::outOfRange;
+    if (row.wrap > 0 && reading.source == Source::File && (read < 0 || read >= row.wrap))
+        return Change::Wrapped;
+    return std::abs(held - read) < row.parts.back().seconds ? Change::Rounded : Change::OutOfRange;
 }
 
 Change why(const Digits& row, const Reading& reading, const QString& value)
 {
     for (std::size_t i = 0; i < row.positions.size(); ++i) {
         if (row.positions[i].widget && digitAt(reading.text, i) > 0 && digitAt(value, i) == 0)
-            return Change::notOffered;
+            return Change::NotOffered;
     }
     const auto top = [&](int i) { return row.positions[static_cast<std::size_t>(i)].top; };
-    return isOfDigits(reading.text, static_cast<int>(row.positions.size()), top) ? Change::otherForm
-                                                                                 : Change::looseForm;
+    return isOfDigits(reading.text, static_cast<int>(row.positions.size()), top) ? Change::OtherForm
+                                                                                 : Change::LooseForm;
 }
 
 // Whether a position of a mask is switched on with another one of its field.
@@ -153,15 +153,15 @@ bool isSwitchedAlong(const Mask& row, int position)
 Change why(const Mask& row, const Reading& reading, const QString& value)
 {
     if (reading.text.size() > row.length)
-        return Change::tooLong;
-    Change change = Change::looseForm;
+        return Change::TooLong;
+    Change change = Change::LooseForm;
     for (int i = 0; i < row.length; ++i) {
         const bool isOn = digitAt(value, i) != 0;
         if ((digitAt(reading.text, i) != 0) == isOn)
             continue;
         if (!isOn || !isSwitchedAlong(row, i))
-            return Change::notOffered;
-        change = Change::completed;
+            return Change::NotOffered;
+        change = Change::Completed;
     }
     return change;
 }
@@ -173,7 +173,7 @@ Taken takenAs(const Setting& setting, const Reading& reading)
     QString value = setting.is<Constant>() ? loadDefault(setting) : normalise(setting, reading);
     const Change change =
         value == reading.text
-            ? Change::none
+            ? Change::None
             : std::visit([&](const auto& row) { return why(row, reading, value); }, setting.kind);
     return {std::move(value), change};
 }

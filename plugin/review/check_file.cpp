@@ -45,8 +45,8 @@ public:
     {
         for (const QString& path : std::as_const(paths_))
             lookAt(path);
-        lookAtRoot("model", modelText(), Severity::warning, "rev_024");
-        lookAtRoot("version", fileVersionText(), Severity::hint, "rev_025");
+        lookAtRoot("model", modelText(), Severity::Warning, "rev_024");
+        lookAtRoot("version", fileVersionText(), Severity::Hint, "rev_025");
         addAdvice();
         return std::move(remarks_);
     }
@@ -95,7 +95,7 @@ private:
     // switches on a half.
     bool isOfQuickSetup(const Difference& difference)
     {
-        const bool isItsOwn = difference.key < 0 || difference.change == Change::completed;
+        const bool isItsOwn = difference.key < 0 || difference.change == Change::Completed;
         const int row = isItsOwn ? layoutOf(kQuickSettings).rowAt(difference.path) : -1;
         if (row < 0)
             return false;
@@ -134,7 +134,7 @@ private:
         if (theirs.isEmpty() || theirs == ours)
             return;
         const QString path = QStringLiteral("DEVICE/") + name;
-        remarks_.push_back({.kind = FileRemark::Kind::advice,
+        remarks_.push_back({.kind = FileRemark::Kind::Advice,
                             .severity = severity,
                             .path = path,
                             .paths = {path},
@@ -144,7 +144,7 @@ private:
     void addAdvice()
     {
         for (const Finding& finding : advise(loaded_, differences_.before().unread())) {
-            FileRemark remark{.kind = FileRemark::Kind::advice,
+            FileRemark remark{.kind = FileRemark::Kind::Advice,
                               .severity = finding.severity,
                               .path =
                                   finding.mends.empty() ? finding.paths.value(0) : finding.mends.front().path,

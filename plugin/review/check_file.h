@@ -14,10 +14,10 @@ namespace vlk::review {
 
 struct FileRemark
 {
-    enum class Kind : std::uint8_t { finding, advice };
+    enum class Kind : std::uint8_t { Finding, Advice };
 
-    Kind kind = Kind::finding;
-    Severity severity = Severity::warning;
+    Kind kind = Kind::Finding;
+    Severity severity = Severity::Warning;
     QString path;        // where to mend it
     QStringList paths{}; // of all settings that take part
     // Where the setting stands, in the present language; null for what is no setting.
@@ -29,7 +29,7 @@ struct FileRemark
 
 // `root` is the element DEVICE. Findings in the order of the document, each unknown or doubled key one, or
 // its section one; then advice in the order of the rules.
-std::vector<FileRemark> checkDocument(CXmlSection& root, Secrets secrets = Secrets::masked);
+std::vector<FileRemark> checkDocument(CXmlSection& root, Secrets secrets = Secrets::Masked);
 
 // False where the file is no configuration.
 bool checkFile(const QString& path, Secrets secrets, const std::function<void(const FileRemark&)>& take);

@@ -22,10 +22,10 @@ QByteArray configurationText(const QString& path)
 ComparedFiles comparedFiles(const QString& before, const QString& after)
 {
     const QString device = QStringLiteral("DEVICE");
-    ComparedFiles files{Comparison::done, Configuration(allSettings())};
+    ComparedFiles files{Comparison::Done, Configuration(allSettings())};
     XmlDocument right(configurationText(after), device);
     if (!right.isOpen()) {
-        files.outcome = Comparison::afterUnreadable;
+        files.outcome = Comparison::AfterUnreadable;
         return files;
     }
     files.after.read(*right.root());
@@ -37,7 +37,7 @@ ComparedFiles comparedFiles(const QString& before, const QString& after)
     if (left.isOpen())
         files.differences = {FileState::ofDocument(*left.root()), FileState::ofDocument(*right.root())};
     else
-        files.outcome = Comparison::beforeUnreadable;
+        files.outcome = Comparison::BeforeUnreadable;
     return files;
 }
 

@@ -12,7 +12,7 @@ namespace vlk::review {
 // made where there is none.
 QByteArray configurationText(const QString& path);
 
-enum class Comparison { done, beforeUnreadable, afterUnreadable };
+enum class Comparison { Done, BeforeUnreadable, AfterUnreadable };
 
 struct ComparedFiles
 {

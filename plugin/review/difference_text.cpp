@@ -32,30 +32,30 @@ const char* noteKey(const Difference& difference)
     if (!difference.byLoad)
         return nullptr;
     switch (difference.change) {
-    case Change::notANumber:
+    case Change::NotANumber:
         return "rev_006";
-    case Change::outOfRange:
+    case Change::OutOfRange:
         return "rev_007";
-    case Change::wrapped:
+    case Change::Wrapped:
         return "rev_008";
-    case Change::rounded:
+    case Change::Rounded:
         return "rev_009";
-    case Change::tooLong:
+    case Change::TooLong:
         return "rev_010";
-    case Change::unknownCode:
+    case Change::UnknownCode:
         return "rev_011";
-    case Change::notOffered:
+    case Change::NotOffered:
         return "rev_012";
-    case Change::byRule:
+    case Change::ByRule:
         return "rev_013";
-    case Change::notCarried:
+    case Change::NotCarried:
         return "rev_021";
-    case Change::completed:
+    case Change::Completed:
         return "rev_355";
-    case Change::none:
-    case Change::missing:
-    case Change::otherForm:
-    case Change::looseForm:
+    case Change::None:
+    case Change::Missing:
+    case Change::OtherForm:
+    case Change::LooseForm:
         break;
     }
     return nullptr;
@@ -179,7 +179,7 @@ DifferenceText textOf(const Differences& differences, const Difference& differen
     const Held& after = differences.after().at(difference.key);
     text.beforeText = textBeside(setting, before, {after}, unit);
     text.afterText = textBeside(setting, after, {before}, unit);
-    if (values.row(difference.row).base->secret && secrets == Secrets::masked)
+    if (values.row(difference.row).base->secret && secrets == Secrets::Masked)
         mask(&text);
     text.note = translated(noteKey(difference));
     return text;
@@ -211,7 +211,7 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
         const bool isChoice = row >= 0 && quick.rows[row].setting->is<Choice>();
         *told = isChoice ? valueText(*quick.rows[row].setting, *value, nullptr) : withoutEmptyAddress(*value);
     }
-    if (keys.looksSecret(difference.path) && secrets == Secrets::masked)
+    if (keys.looksSecret(difference.path) && secrets == Secrets::Masked)
         mask(&text);
     text.note = translated(noteKey(difference));
     return text;

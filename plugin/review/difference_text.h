@@ -7,7 +7,7 @@
 
 namespace vlk::review {
 
-enum class Secrets { masked, shown };
+enum class Secrets { Masked, Shown };
 
 struct DifferenceText : SettingWords
 {
@@ -22,9 +22,9 @@ struct DifferenceText : SettingWords
 
 // `values`: those of the difference's table, which know the units of now.
 DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
-                      Secrets secrets = Secrets::masked);
+                      Secrets secrets = Secrets::Masked);
 // The text of a difference whose key is -1.
-DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::masked);
+DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::Masked);
 
 // What a side holds, beside what others do: of a setting of many parts those that differ from any of them.
 QString textBeside(const Setting& setting, const Held& held, const std::vector<Held>& others,

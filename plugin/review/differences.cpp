@@ -22,7 +22,7 @@ QString there(const QString& text)
 int sizeOf(const auto& lists)
 {
     const auto add = [](std::size_t sum, const auto& list) { return sum + list.size(); };
-    return static_cast<int>(std::accumulate(lists.begin(), lists.end(), std::size_t(0), add));
+    return static_cast<int>(std::accumulate(lists.begin(), lists.end(), std::size_t{0}, add));
 }
 
 std::vector<int> concatenated(const std::vector<std::vector<int>>& lists)
@@ -162,7 +162,7 @@ Difference Differences::differenceAt(int key) const
             before.isThere ? there(before.text) : QString(),
             after.isThere ? there(after.text) : QString(),
             byLoad,
-            byLoad && before.isSaved ? before.change : Change::none,
+            byLoad && before.isSaved ? before.change : Change::None,
             isAlong(key)};
 }
 

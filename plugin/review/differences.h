@@ -20,7 +20,7 @@ struct Difference
     QString after;
     // Differences::isByLoad(). `change` says why; none where the load has no place for the key.
     bool byLoad = false;
-    Change change = Change::none;
+    Change change = Change::None;
     bool isAlong = false; // Differences::isAlong()
 };
 

@@ -33,7 +33,7 @@ void switchOn(Configuration* configuration, int key, const QString& value)
     Values after = values;
     after.edit(row, value);
     for (const Sets& rule : values.table().all<Sets>()) {
-        const bool isSwitch = rule.moment == Moment::afterRead && !values.row(rule.path.row).base->stored;
+        const bool isSwitch = rule.moment == Moment::AfterRead && !values.row(rule.path.row).base->stored;
         if (isSwitch && rule.when.row == row && after.holds(rule.when))
             values.edit(rule.path.row, QString::fromLatin1(rule.to));
     }
@@ -45,7 +45,7 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
 {
     const int row = rowOf(*configuration, key);
     if (row < 0) {
-        *problem = {What::noPlace, edit.path, edit.value};
+        *problem = {What::NoPlace, edit.path, edit.value};
         return std::nullopt;
     }
     Values& values = configuration->tables()[FileKeys::all()[key].table];
@@ -54,13 +54,13 @@ std::optional<QString> edit(Configuration* configuration, int key, const KeyEdit
     const Limits limits = values.limits(holder);
     Taken taken = takenAs(setting, {edit.value, values.value(holder), limits});
     // A long period is lost by the next load alone, which advice tells.
-    if (taken.change == Change::wrapped)
-        taken = takenAs(setting, {edit.value, values.value(holder), limits, Source::edit});
+    if (taken.change == Change::Wrapped)
+        taken = takenAs(setting, {edit.value, values.value(holder), limits, Source::Edit});
     const Change change = isWhole(taken.change) && !isSettable(setting, edit.value, taken.change)
-                              ? Change::unknownCode
+                              ? Change::UnknownCode
                               : taken.change;
     if (!isWhole(change)) {
-        *problem = {What::badValue, edit.path, edit.value, change, &setting, limits};
+        *problem = {What::BadValue, edit.path, edit.value, change, &setting, limits};
         return std::nullopt;
     }
     values.edit(row, taken.value);
@@ -115,7 +115,7 @@ EditedFile edited(const QByteArray& text, const Target& target, std::vector<Pres
     const QByteArray changed = brought(text, target);
     if (changed.isNull()) {
         for (const int key : target.keys)
-            problems.push_back({What::noPlace, FileKeys::all()[key].path, {}});
+            problems.push_back({What::NoPlace, FileKeys::all()[key].path, {}});
     }
     return {true, changed.isNull() ? text : changed, std::move(problems)};
 }
@@ -136,7 +136,7 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
         if (const int key = FileKeys::all().at(asked.path); key >= 0)
             open.emplace_back(asked, key);
         else
-            problems.push_back({What::unknownKey, asked.path, asked.value});
+            problems.push_back({What::UnknownKey, asked.path, asked.value});
     }
     for (const auto& [asked, key] : open)
         switchOn(&target.configuration, key, asked.value);
@@ -160,7 +160,7 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
         const int row = rowOf(target.configuration, target.keys[i]);
         const Values& values = target.configuration.tables()[FileKeys::all()[target.keys[i]].table];
         if (row < 0 || values.written(row) != done[i].second)
-            problems.push_back({What::badValue, done[i].first.path, done[i].first.value, Change::byRule});
+            problems.push_back({What::BadValue, done[i].first.path, done[i].first.value, Change::ByRule});
     }
     if (!problems.empty())
         return {true, text, std::move(problems)};
@@ -174,7 +174,7 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
         const Values& values = loaded.tables()[place.table];
         const int holder = values.holder(place.rows.front());
         if (isDoubted(loaded, target.keys[i]))
-            problems.push_back({What::badValue, done[i].first.path, done[i].first.value, Change::unknownCode,
+            problems.push_back({What::BadValue, done[i].first.path, done[i].first.value, Change::UnknownCode,
                                 &values.setting(holder), values.limits(holder)});
     }
     return problems.empty() ? result : EditedFile{true, text, std::move(problems)};

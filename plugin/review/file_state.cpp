@@ -23,7 +23,7 @@ const QString& plainDefault(int table, int row)
     return own[row];
 }
 
-Taken takenAs(const Values& values, int row, const QString& text, Source source = Source::file)
+Taken takenAs(const Values& values, int row, const QString& text, Source source = Source::File)
 {
     const int holder = values.holder(row);
     return takenAs(values.setting(holder), {text, values.value(holder), values.limits(holder), source});
@@ -42,7 +42,7 @@ QStringList sectionsMadeAnew(const TableLayout& layout)
 {
     QStringList sections;
     for (const TableLayout::Element& element : layout.elements) {
-        if (element.path.size() == 1 && element.group->save != ElementSave::keepsOthers)
+        if (element.path.size() == 1 && element.group->save != ElementSave::KeepsOthers)
             sections << element.path.first();
     }
     return sections;
@@ -61,7 +61,7 @@ FileState FileState::ofConfiguration(const Configuration& configuration)
 FileState FileState::ofDefaults(const Configuration& configuration)
 {
     FileState state;
-    state.kind_ = Kind::defaults;
+    state.kind_ = Kind::Defaults;
     for (const Values& values : configuration.tables())
         state.take(values);
     return state;
@@ -86,11 +86,11 @@ FileState FileState::ofDocument(CXmlSection& root, const Configuration& loaded, 
                                 QStringList* paths)
 {
     FileState state = saved;
-    state.kind_ = Kind::document;
+    state.kind_ = Kind::Document;
     for (Held& held : state.held_) {
         held.isThere = false;
         held.text = held.meaning = QString();
-        held.change = held.isSaved ? Change::missing : Change::none;
+        held.change = held.isSaved ? Change::Missing : Change::None;
     }
     eachKey(root, [&](const QString& path, const QString& text) {
         paths->append(path);
@@ -119,14 +119,14 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     const Values& values = loaded.tables()[FileKeys::all()[key].table];
     Taken taken = takenAs(values, held.row, text);
     if (isWhole(taken.change) && sectionText(text) != text)
-        taken.change = Change::notCarried;
+        taken.change = Change::NotCarried;
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);
-    held.isOfEdit = !held.isWhole && takenAs(values, held.row, text, Source::edit).value == text;
+    held.isOfEdit = !held.isWhole && takenAs(values, held.row, text, Source::Edit).value == text;
     held.meaning = held.isWhole ? taken.value : text;
     const bool isRuled = held.isWhole && held.isSaved && held.saved != held.meaning;
-    held.change = isRuled ? Change::byRule : taken.change;
+    held.change = isRuled ? Change::ByRule : taken.change;
 }
 
 void FileState::take(const Values& values)
@@ -174,7 +174,7 @@ void FileState::lay(const Values& quick)
             continue;
         }
         const Held& held = held_[key];
-        const bool keepsText = place.base->onSave == OnSave::document && held.isThere;
+        const bool keepsText = place.base->onSave == OnSave::Document && held.isThere;
         hold(key, held.row < 0 ? FileKeys::all()[key].rows.front() : held.row,
              keepsText ? quick.written(row, held.text) : quick.written(row));
     }

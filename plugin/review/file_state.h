@@ -24,7 +24,7 @@ struct Held
     // What a save writes after a load, if it writes the key, and why that is not what stands here.
     bool isSaved = false;
     QString saved;
-    Change change = Change::none;
+    Change change = Change::None;
     int row = -1; // the setting that holds it; of a document's key that a load passes over, the first one
 
     bool operator==(const Held& other) const { return isThere == other.isThere && meaning == other.meaning; }
@@ -61,8 +61,8 @@ public:
     const std::vector<Stranger>& strangers() const { return strangers_; }
     // Their texts by path.
     QHash<QString, QString> unread() const;
-    bool isDocument() const { return kind_ == Kind::document; }
-    bool isDefaults() const { return kind_ == Kind::defaults; }
+    bool isDocument() const { return kind_ == Kind::Document; }
+    bool isDefaults() const { return kind_ == Kind::Defaults; }
 
     // Takes the values of one of the tables of a configuration after an edit.
     void take(const Values& values);
@@ -72,14 +72,14 @@ public:
     void lay(const Values& quick);
 
 private:
-    enum class Kind { configuration, document, defaults };
+    enum class Kind { Configuration, Document, Defaults };
 
     void hold(int key, int row, const QString& text);
     void takeText(int key, const QString& text, const Configuration& loaded);
 
     std::vector<Held> held_; // by key
     std::vector<Stranger> strangers_;
-    Kind kind_ = Kind::configuration;
+    Kind kind_ = Kind::Configuration;
 };
 
 } // namespace vlk::review

@@ -46,10 +46,10 @@ public:
     KeyPlace run()
     {
         int depth = 0;
-        for (Token token = scanner_.next(); token != Token::none; token = scanner_.next()) {
+        for (Token token = scanner_.next(); token != Token::None; token = scanner_.next()) {
             // Children of the deepest element that was found stand at this depth.
             const int inside = place_.known + 1;
-            if (token == Token::start) {
+            if (token == Token::Start) {
                 if (depth == inside)
                     lookAtChild();
                 if (place_.isClosed)

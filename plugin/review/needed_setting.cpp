@@ -23,7 +23,7 @@ bool isNamed(std::string_view names, std::string_view name)
 bool shows(const Enable& rule, const Setting& setting)
 {
     const Shown* shown = setting.shown();
-    return rule.effect == Enable::Effect::shown && !rule.targets.areParts && shown && shown->widget &&
+    return rule.effect == Enable::Effect::Shown && !rule.targets.areParts && shown && shown->widget &&
            rule.numbers.outer == shown->numbers.outer && rule.numbers.inner == shown->numbers.inner &&
            rule.targets.form() == shown->widget.form() && isNamed(rule.targets.tail, shown->widget.tail);
 }

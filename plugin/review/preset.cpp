@@ -28,26 +28,26 @@ const char* noteKey(const PresetProblem& problem)
 {
     using What = PresetProblem::What;
     switch (problem.what) {
-    case What::unknownKey:
+    case What::UnknownKey:
         return "rev_184";
-    case What::doubled:
+    case What::Doubled:
         return "rev_185";
-    case What::noPlace:
+    case What::NoPlace:
         return "rev_186";
-    case What::badValue:
+    case What::BadValue:
         break;
     }
     switch (problem.change) {
-    case Change::notANumber:
+    case Change::NotANumber:
         return "rev_187";
-    case Change::outOfRange:
-    case Change::wrapped:
+    case Change::OutOfRange:
+    case Change::Wrapped:
         return "rev_188";
-    case Change::rounded:
+    case Change::Rounded:
         return "rev_189";
-    case Change::tooLong:
+    case Change::TooLong:
         return "rev_190";
-    case Change::byRule:
+    case Change::ByRule:
         return problem.cause < 0 ? "rev_286" : "rev_285";
     default:
         return "rev_191";
@@ -63,9 +63,9 @@ Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
         const int key = FileKeys::all().at(path);
         if (key < 0)
             problems->push_back(
-                {path.contains(QLatin1Char('[')) ? What::doubled : What::unknownKey, path, text});
+                {path.contains(QLatin1Char('[')) ? What::Doubled : What::UnknownKey, path, text});
         else if (seen.contains(key))
-            problems->push_back({What::doubled, path, text});
+            problems->push_back({What::Doubled, path, text});
         else
             texts.emplace_back(key, sectionText(text));
         seen.insert(key);
@@ -78,7 +78,7 @@ void addCause(PresetProblem* problem, int key, const Configuration& tried)
     const std::vector<int>& rows = FileKeys::all()[key].rows;
     const Values& values = tried.tables()[FileKeys::all()[key].table];
     for (const Sets& rule : values.table().all<Sets>()) {
-        if (rule.moment == Moment::edit || rule.when.row < 0 || !values.holds(rule.when) ||
+        if (rule.moment == Moment::Edit || rule.when.row < 0 || !values.holds(rule.when) ||
             std::ranges::find(rows, rule.path.row) == rows.end())
             continue;
         problem->cause = rule.when.row;
@@ -91,7 +91,7 @@ void addCause(PresetProblem* problem, int key, const Configuration& tried)
 void tellCause(const PresetProblem& problem, DifferenceText* text)
 {
     const int key = FileKeys::all().at(problem.path);
-    if (key < 0 || problem.change != Change::byRule)
+    if (key < 0 || problem.change != Change::ByRule)
         return;
     const TableLayout& layout = FileKeys::all().layout(FileKeys::all()[key].table);
     const TableLayout::Row& row = layout.rows[FileKeys::all()[key].rows.front()];
@@ -123,7 +123,7 @@ void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys
     root.setString(kCreator, kPresetCreator);
     root.commit();
     for (const int key : keys) {
-        if (from.at(key).isThere && (personal == Personal::included || !isPersonal(key)))
+        if (from.at(key).isThere && (personal == Personal::Included || !isPersonal(key)))
             setKey(root, key, from.at(key).text);
     }
 }
@@ -191,15 +191,15 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
         const int holder = values.holder(held.row < 0 ? place.rows.front() : held.row);
         const Setting& setting = values.setting(holder);
         // A long period is lost by the next load alone, which advice tells.
-        const bool isLong = held.isOfEdit && held.change == Change::wrapped;
+        const bool isLong = held.isOfEdit && held.change == Change::Wrapped;
         const bool isLost = !held.isSaved || (!isLong && held.saved != held.meaning);
         const bool isUnfit = isLost || !isSettable(setting, entry.second, held.change) ||
                              isDoubted(applied.result, entry.first);
         if (isUnfit)
-            applied.problems.push_back({!held.isSaved && held.isWhole ? What::noPlace : What::badValue,
-                                        place.path, entry.second, isLost ? held.change : Change::unknownCode,
+            applied.problems.push_back({!held.isSaved && held.isWhole ? What::NoPlace : What::BadValue,
+                                        place.path, entry.second, isLost ? held.change : Change::UnknownCode,
                                         &setting, values.limits(holder)});
-        if (isUnfit && held.change == Change::byRule)
+        if (isUnfit && held.change == Change::ByRule)
             addCause(&applied.problems.back(), entry.first, applied.result);
         return isUnfit;
     };

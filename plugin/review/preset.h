@@ -13,11 +13,11 @@ namespace vlk::review {
 
 // What belongs to one tracker or vehicle: secrets, the name of the object, its number on servers, and the
 // addresses of its wireless sensors.
-enum class Personal { leftOut, included };
+enum class Personal { LeftOut, Included };
 
 // Writes the keys as `from` has them into an empty document.
 void writePreset(CXmlSection& root, const FileState& from, std::vector<int> keys,
-                 Personal personal = Personal::leftOut);
+                 Personal personal = Personal::LeftOut);
 
 bool isPersonal(int key);
 
@@ -40,16 +40,16 @@ bool saysConfiguration(const CXmlSection& root);
 struct PresetProblem
 {
     enum class What {
-        unknownKey,
-        doubled,
-        badValue, // a load would make something else of it, or a window not take it: `change`
-        noPlace,  // neither the configuration nor the preset has what it belongs to
+        UnknownKey,
+        Doubled,
+        BadValue, // a load would make something else of it, or a window not take it: `change`
+        NoPlace,  // neither the configuration nor the preset has what it belongs to
     };
 
     What what;
     QString path;
     QString text;
-    Change change = Change::none;
+    Change change = Change::None;
     // The setting that has the bad value, and what it can be.
     const Setting* setting = nullptr;
     Limits limits{};
@@ -59,7 +59,7 @@ struct PresetProblem
 };
 
 // In words: what the preset holds stands before, why it is left out is the note.
-DifferenceText textOf(const PresetProblem& problem, Secrets secrets = Secrets::masked);
+DifferenceText textOf(const PresetProblem& problem, Secrets secrets = Secrets::Masked);
 
 struct AppliedPreset
 {

@@ -235,7 +235,7 @@ Lines settingsOf(const Configuration& configuration, const Report& report)
             if (!isTold(values, row, report.keys, static_cast<int>(table)))
                 continue;
             const QString text =
-                report.secrets == Secrets::shown
+                report.secrets == Secrets::Shown
                     ? valueText(values.setting(values.holder(row)), values.written(row), values.unitKey(row))
                     : valueText(values, row, values.written(row));
             lines.push_back({wordsOf(values.layout(), row),

@@ -17,7 +17,7 @@ struct Report
     QStringList about;                      // lines below the title: which tracker, when
     QStringList advice;                     // sentences
     std::optional<std::vector<int>> keys{}; // told alone
-    Secrets secrets = Secrets::masked;
+    Secrets secrets = Secrets::Masked;
     // Told alone, with what was there before: those that a person would count.
     const Differences* changes = nullptr;
     bool isOnePage = false; // in two columns
@@ -34,7 +34,7 @@ struct ReportChoice
     bool isChangesAlone = false;
     // Without the changes: what is not at its default value.
     bool isOnePage = false;
-    Secrets secrets = Secrets::masked;
+    Secrets secrets = Secrets::Masked;
 };
 
 // The report as it is handed out: the object's name, `about`, the date, and the advice that stands. `changes`

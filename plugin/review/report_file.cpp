@@ -11,12 +11,12 @@ FileReportText reportOfFile(const QString& path, const QString& before, const QS
                             const ReportChoice& choice)
 {
     const ComparedFiles files = comparedFiles(before, path);
-    if (files.outcome != Comparison::done)
+    if (files.outcome != Comparison::Done)
         return {files.outcome, {}};
     XmlDocument document(configurationText(path), QStringLiteral("DEVICE"));
     const QStringList lines = QStringList(translated("rev_223").arg(QFileInfo(path).fileName())) + about;
     return {
-        Comparison::done,
+        Comparison::Done,
         toHtml(files.after, reportOf(files.after, files.differences,
                                      advise(files.after, FileState::ofDocument(*document.root()).unread()),
                                      lines, choice))};

@@ -54,29 +54,29 @@ QString wordStem(const QString& word)
 }
 
 // How well a text answers a word.
-enum Quality { nowhere, inside, begun, first, whole };
+enum Quality { Nowhere, Inside, Begun, First, Whole };
 
 // A word is begun by its stem too. A short one is not looked for inside of others.
 Quality quality(const QString& text, const QString& word, int stem)
 {
     constexpr int shortWord = 2;
-    Quality best = nowhere;
+    Quality best = Nowhere;
     for (int at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1)) {
         if (at == 0)
-            return text.size() == word.size() ? whole : first;
+            return text.size() == word.size() ? Whole : First;
         if (!text[at - 1].isLetterOrNumber())
-            return begun;
+            return Begun;
         if (word.size() > shortWord)
-            best = inside;
+            best = Inside;
     }
-    if (best != nowhere || stem == word.size())
+    if (best != Nowhere || stem == word.size())
         return best;
     const QStringRef start = word.leftRef(stem);
     for (int at = text.indexOf(start); at >= 0; at = text.indexOf(start, at + 1)) {
         if (at == 0 || !text[at - 1].isLetterOrNumber())
-            return at == 0 ? first : begun;
+            return at == 0 ? First : Begun;
     }
-    return nowhere;
+    return Nowhere;
 }
 
 // What else the setting could be.
@@ -153,11 +153,11 @@ void Search::add(int table, int row, int part)
             told.group += QLatin1Char(' ') + told.caption;
             told.caption = partCaption(setting, part);
         }
-        words[caption] = folded(told.caption);
-        words[group] = folded(told.group);
-        words[page] = folded(told.page);
-        words[choices] = folded(choiceTexts(setting));
-        words[names] = folded(otherNames(named));
+        words[Caption] = folded(told.caption);
+        words[Group] = folded(told.group);
+        words[Page] = folded(told.page);
+        words[Choices] = folded(choiceTexts(setting));
+        words[Names] = folded(otherNames(named));
     }
     entries_.push_back(std::move(entry));
 }
@@ -170,7 +170,7 @@ void Search::tell(Entry& entry, int language) const
                          : entry.hit.part >= 0
                              ? partText(setting, entry.hit.part, entry.held)
                              : valueText(setting, entry.held, values.unitKey(entry.hit.row));
-    entry.words[language][value] = folded(text);
+    entry.words[language][Value] = folded(text);
 }
 
 // Tells the value anew where it has changed.
@@ -194,7 +194,7 @@ void Search::refresh(Entry& entry) const
 // the field that is looked for by the same word comes first.
 int Search::score(const Entry& entry, const Query& query) const
 {
-    constexpr std::array<int, fieldCount> weights = {50, 45, 25, 20, 50, 5};
+    constexpr std::array<int, FieldCount> weights = {50, 45, 25, 20, 50, 5};
     constexpr int switchCaption = 25;
     constexpr int keyWeight = 10;
     constexpr int perQuality = 10;
@@ -206,8 +206,8 @@ int Search::score(const Entry& entry, const Query& query) const
     bool isBegun = true;
     for (const Word& word : query.words) {
         int best = 0;
-        Quality most = nowhere;
-        const auto take = [&](const QString& text, int weight, Quality least = inside) {
+        Quality most = Nowhere;
+        const auto take = [&](const QString& text, int weight, Quality least = Inside) {
             const Quality found = quality(text, word.text, word.stem);
             if (found < least)
                 return;
@@ -216,22 +216,22 @@ int Search::score(const Entry& entry, const Query& query) const
         };
         for (int language = 0; language < languages(); ++language) {
             const Words& words = entry.words[language];
-            take(words[caption], isSwitch ? switchCaption : weights[caption]);
+            take(words[Caption], isSwitch ? switchCaption : weights[Caption]);
             if (isSwitch)
-                take(words[caption], weights[caption], whole);
-            for (int field = caption + 1; field < fieldCount; ++field)
-                take(words[field], isSwitch && field == group ? switchCaption : weights[field]);
+                take(words[Caption], weights[Caption], Whole);
+            for (int field = Caption + 1; field < FieldCount; ++field)
+                take(words[field], isSwitch && field == Group ? switchCaption : weights[field]);
         }
         take(entry.key, keyWeight);
         if (best == 0)
             return 0;
         sum += best;
-        isBegun = isBegun && most > inside;
+        isBegun = isBegun && most > Inside;
     }
     const bool isOneWord = query.words.size() == 1; // a caption of one word has counted as a whole
     const bool isCalledSo =
         std::ranges::any_of(std::span(entry.words).first(languages()), [&](const Words& words) {
-            return (!isOneWord && words[caption] == query.text) || isOneOf(words[names], query.text);
+            return (!isOneWord && words[Caption] == query.text) || isOneOf(words[Names], query.text);
         });
     sum += (isCalledSo ? wholeName : 0) + (isBegun ? wholeWords : 0);
     // What the file does not have as things stand comes behind its like.

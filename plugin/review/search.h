@@ -34,8 +34,8 @@ public:
     std::vector<Hit> find(const QString& query);
 
 private:
-    enum Field { caption, group, page, choices, names, value, fieldCount };
-    using Words = std::array<QString, fieldCount>; // folded
+    enum Field { Caption, Group, Page, Choices, Names, Value, FieldCount };
+    using Words = std::array<QString, FieldCount>; // folded
 
     struct Word
     {

@@ -63,7 +63,7 @@ bool isSettable(const Setting& setting, const QString& text, Change change)
     const Number* number = setting.number();
     const auto* line = setting.as<Text>();
     // What a file would not bring back is none either.
-    return change != Change::looseForm && isOneLine(text) && sectionText(text) == text &&
+    return change != Change::LooseForm && isOneLine(text) && sectionText(text) == text &&
            decodeValue(text) == text && (!line || isProper(*line, text)) &&
            (!number || !number->isPort || leadingLong(text) <= kHighestPort);
 }

@@ -35,7 +35,7 @@ std::vector<int> tiedTo(const TableLayout& layout, int row)
             std::ranges::copy_if(tied, std::back_inserter(rows), [](int one) { return one >= 0; });
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
-        if (rule.moment != Moment::edit && rule.moment != Moment::save)
+        if (rule.moment != Moment::Edit && rule.moment != Moment::Save)
             tie({rule.path.row, rule.when.row, rule.when.other, rule.also[0].row, rule.also[1].row});
     }
     for (const Distance& rule : layout.table->all<Distance>())

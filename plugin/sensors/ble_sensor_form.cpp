@@ -36,9 +36,9 @@ QString BleSensorForm::indexText(int index) const
 bool BleSensorForm::needsName() const
 {
     switch (type_.naming) {
-    case BluetoothSensorType::Naming::always:
+    case BluetoothSensorType::Naming::Always:
         return true;
-    case BluetoothSensorType::Naming::never:
+    case BluetoothSensorType::Naming::Never:
         return false;
     default:
         return type_.vendors[vendor()].needsName;
@@ -109,7 +109,7 @@ void BleSensorForm::makeWidgets()
     std::stable_partition(rows.begin(), rows.end(), [this](const Setting* setting) {
         return std::string_view(setting->shown()->widget.tail) == type_.vendorWidget;
     });
-    RowLines lines(grid, RowLines::Look::paired);
+    RowLines lines(grid, RowLines::Look::Paired);
     for (const Setting* setting : rows)
         lines.add(*setting);
     grid->setRowStretch(grid->rowCount(), 1);

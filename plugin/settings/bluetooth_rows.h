@@ -39,7 +39,7 @@ template <std::size_t i>
 struct Names
 {
     static constexpr const BluetoothSensorType& kType = kBluetoothSensorTypes[i];
-    static constexpr bool kHasIndex = kType.index.list != BluetoothList::none;
+    static constexpr bool kHasIndex = kType.index.list != BluetoothList::None;
 
     static constexpr Path kTypePath{kType.section, "type"};
     static constexpr PathOf<Choice> kIndexPath{kType.index.elsewhere ? kType.index.elsewhere : kType.section,
@@ -102,7 +102,7 @@ constexpr Choice indexRow()
     return choice("idx", Type::kIndices, "1")
         .byNumber()
         .unknownIs("1")
-        .ifUnoffered(Unoffered::keepsValue)
+        .ifUnoffered(Unoffered::KeepsValue)
         .in({Type::kType.section, Type::kType.index.widget})
         .caption(Type::kType.index.caption);
 }
@@ -119,7 +119,7 @@ constexpr auto rowsOfType(Path owner)
         const Choice vendor = choice("type", Type::kVendors, "0")
                                   .byNumber()
                                   .unknownIs("0")
-                                  .ifUnoffered(Unoffered::keepsValue)
+                                  .ifUnoffered(Unoffered::KeepsValue)
                                   .in({Type::kType.section, Type::kType.vendorWidget})
                                   .caption(Type::kType.vendorCaption);
         constexpr auto more = [] {
@@ -135,7 +135,7 @@ constexpr auto rowsOfType(Path owner)
         } else {
             const Group beside = group("TS%1")
                                      .named(Type::kType.index.elsewhere)
-                                     .atSave(ElementSave::anewIfAny)
+                                     .atSave(ElementSave::AnewIfAny)
                                      .onlyWhen(chosen);
             constexpr auto constants = [] {
                 std::array<Setting, Type::kType.index.withType> rows{};
@@ -200,7 +200,7 @@ constexpr auto sensorRows(std::index_sequence<types...>)
     // clang-format off
     return rowsOf(
         group("SENS%1"), universal::kSensor,
-        choice("type", kTypeCodes, "0").byNumber().unknownIs("0").ifUnoffered(Unoffered::keepsValue)
+        choice("type", kTypeCodes, "0").byNumber().unknownIs("0").ifUnoffered(Unoffered::KeepsValue)
                                                      .in("comboBox_Type_Sens_%1")     .caption("cfgt17_025"),  // Sensor type
         kForm,
         shared::bluetoothAddress(text("macaddr", "")).in("lineEdit_Bt_MacAdr_Sens_%1").caption("cfgt17_007"),  // MAC address

@@ -47,11 +47,11 @@ constexpr auto exclusivesOfType()
 {
     using Type = Names<i>;
     constexpr BluetoothList list = Type::kType.index.list;
-    if constexpr (list == BluetoothList::fuel || list == BluetoothList::temperature)
+    if constexpr (list == BluetoothList::Fuel || list == BluetoothList::Temperature)
         return std::array{ExclusiveChoice{.path = Type::kIndexPath,
                                           .when = when("SENS%1/form", Type::kType.code),
                                           .also = Type::kIndexed,
-                                          .list = list == BluetoothList::fuel ? "fuel" : "temperature",
+                                          .list = list == BluetoothList::Fuel ? "fuel" : "temperature",
                                           .holder = "SENS%1"}};
     else
         return std::array<ExclusiveChoice, 0>{};

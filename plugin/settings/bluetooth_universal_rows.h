@@ -147,7 +147,7 @@ constexpr auto valueRows(When chosen)
             choice("prm", kElementKinds, "").resetTo("1b").unknownIs("").noItemIs("").in("U%1/comboBox_Parameters_Dimension_%2").caption("cfgt17_033"),  // Data type
             choice("be", kByteOrders, "0").byNumber().unknownIs("0").in("U%1/comboBox_Parameters_ByteOrder_%2") .caption("cfgt17_067"),   // Byte order
             choice("stor", kTargets, "0") .byNumber().unknownIs("0").in("U%1/comboBox_Parameters_SensorType_%2").caption("cfgt17_040"),   // Send as
-            choice("idx", kNumbers, "1").byNumber().offering("").noItemIs("0").ifUnoffered(Unoffered::keepsValue).resetTo("0")
+            choice("idx", kNumbers, "1").byNumber().offering("").noItemIs("0").ifUnoffered(Unoffered::KeepsValue).resetTo("0")
                                                                     .in("U%1/comboBox_Parameters_Index_%2")     .caption("cfgt17_068"),   // Number
             integer("mux", 1)             .range(0, 65535)          .in("U%1/spinBox_Parameters_Multiplier_%2") .caption("cfgt17_069"),   // Multiplier
             integer("div", 1)             .range(1, 65535)          .in("U%1/spinBox_Parameters_Divider_%2")    .caption("cfgt17_070"),   // Divisor

@@ -13,21 +13,21 @@
 
 namespace vlk {
 
-enum class DataSetTab : std::uint8_t { main, navi, rs, accel, more };
+enum class DataSetTab : std::uint8_t { Main, Navi, Rs, Accel, More };
 
 // The parts of the mask, each with its own protocol version.
-enum class MaskVersion : std::uint8_t { zeta10, zeta20, zeta30 };
+enum class MaskVersion : std::uint8_t { Zeta10, Zeta20, Zeta30 };
 
 constexpr MaskVersion versionOf(int position)
 {
-    return position < kZeta10Count         ? MaskVersion::zeta10
-           : position < kEarlierFieldCount ? MaskVersion::zeta20
-                                           : MaskVersion::zeta30;
+    return position < kZeta10Count         ? MaskVersion::Zeta10
+           : position < kEarlierFieldCount ? MaskVersion::Zeta20
+                                           : MaskVersion::Zeta30;
 }
 
 struct DataSetBox
 {
-    DataSetTab tab = DataSetTab::main;
+    DataSetTab tab = DataSetTab::Main;
     const char* group = ""; // object name of the group that it stands in
     bool shown = true;
     MaskField field;
@@ -159,35 +159,35 @@ constexpr DataSetBox tyres()
 
 // clang-format off
 inline constexpr DataSetGroup kDataSetGroups[] = {
-    {"groupBox_Main",          "cfgt2f_002", 0, 0, 3, DataSetTab::main},        // Tracker
-    {"groupBox_Imp",           "cfgt2f_016", 0, 1, 1, DataSetTab::main},        // Pulse-counting input
-    {"groupBox_Temp",          "cfgt2f_021", 1, 1, 1, DataSetTab::main},        // Temperature sensors
-    {"groupBox_Ain",           "cfgt2f_024", 2, 1, 1, DataSetTab::main},        // Analogue inputs
-    {"groupBox_Frequency",     "cfgt2f_017", 3, 0, 1, DataSetTab::main},        // Frequency input
-    {"groupBox_Motochas",      "cfgt2f_018", 3, 1, 1, DataSetTab::main},        // Engine hours
-    {"groupBox_Navi",          "cfgt2f_027", 0, 0, 3, DataSetTab::navi},        // Position and motion
-    {"groupBox_Accuracy",      "cfgt2f_038", 0, 1, 1, DataSetTab::navi},        // Satellites and accuracy
-    {"groupBox_LBS",           "cfgt2f_055", 1, 1, 1, DataSetTab::navi},        // Position without satellites
-    {"groupBox_Geozone",       "cfgt2f_048", 2, 1, 1, DataSetTab::navi},        // Geofences
-    {"groupBox_MNavi",         "cfgt2f_041", 3, 0, 1, DataSetTab::navi},        // High-precision receiver
-    {"groupBox_RS232",         "cfgt2f_054", 0, 0, 1, DataSetTab::rs},          // RS-232 level sensor
-    {"groupBox_RS485",         nullptr,      1, 0, 1, DataSetTab::rs,   true},
-    {"groupBox_Accel",         "cfgt2f_082", 0, 0, 1, DataSetTab::accel},       // Accelerometer
-    {"groupBox_EcoDrive",      "cfgt2f_083", 1, 0, 1, DataSetTab::accel},       // Driving style
-    {"groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, DataSetTab::more, true},  // High-precision temperature and humidity sensors
-    {"groupBox_Passager",      "cfgt2f_132", 1, 0, 1, DataSetTab::more},        // Passenger counters
-    {"groupBox_Camera",        "cfgt2f_134", 2, 0, 1, DataSetTab::more},        // Camera
-    {"groupBox_VAccelAxels",   "cfgt2f_135", 3, 0, 1, DataSetTab::more},        // External tilt sensor
-    {"groupBox_Disp",          "cfgt2f_136", 4, 0, 1, DataSetTab::more},        // Driver display
-    {"groupBox_Ainf",          "cfgt2f_139", 5, 0, 1, DataSetTab::more},        // Announcer
-    {"groupBox_Tires",         "cfgt2f_127", 6, 0, 1, DataSetTab::more},        // Tyre pressure
+    {"groupBox_Main",          "cfgt2f_002", 0, 0, 3, DataSetTab::Main},        // Tracker
+    {"groupBox_Imp",           "cfgt2f_016", 0, 1, 1, DataSetTab::Main},        // Pulse-counting input
+    {"groupBox_Temp",          "cfgt2f_021", 1, 1, 1, DataSetTab::Main},        // Temperature sensors
+    {"groupBox_Ain",           "cfgt2f_024", 2, 1, 1, DataSetTab::Main},        // Analogue inputs
+    {"groupBox_Frequency",     "cfgt2f_017", 3, 0, 1, DataSetTab::Main},        // Frequency input
+    {"groupBox_Motochas",      "cfgt2f_018", 3, 1, 1, DataSetTab::Main},        // Engine hours
+    {"groupBox_Navi",          "cfgt2f_027", 0, 0, 3, DataSetTab::Navi},        // Position and motion
+    {"groupBox_Accuracy",      "cfgt2f_038", 0, 1, 1, DataSetTab::Navi},        // Satellites and accuracy
+    {"groupBox_LBS",           "cfgt2f_055", 1, 1, 1, DataSetTab::Navi},        // Position without satellites
+    {"groupBox_Geozone",       "cfgt2f_048", 2, 1, 1, DataSetTab::Navi},        // Geofences
+    {"groupBox_MNavi",         "cfgt2f_041", 3, 0, 1, DataSetTab::Navi},        // High-precision receiver
+    {"groupBox_RS232",         "cfgt2f_054", 0, 0, 1, DataSetTab::Rs},          // RS-232 level sensor
+    {"groupBox_RS485",         nullptr,      1, 0, 1, DataSetTab::Rs,   true},
+    {"groupBox_Accel",         "cfgt2f_082", 0, 0, 1, DataSetTab::Accel},       // Accelerometer
+    {"groupBox_EcoDrive",      "cfgt2f_083", 1, 0, 1, DataSetTab::Accel},       // Driving style
+    {"groupBox_HighPrecision", "cfgt2f_125", 0, 0, 1, DataSetTab::More, true},  // High-precision temperature and humidity sensors
+    {"groupBox_Passager",      "cfgt2f_132", 1, 0, 1, DataSetTab::More},        // Passenger counters
+    {"groupBox_Camera",        "cfgt2f_134", 2, 0, 1, DataSetTab::More},        // Camera
+    {"groupBox_VAccelAxels",   "cfgt2f_135", 3, 0, 1, DataSetTab::More},        // External tilt sensor
+    {"groupBox_Disp",          "cfgt2f_136", 4, 0, 1, DataSetTab::More},        // Driver display
+    {"groupBox_Ainf",          "cfgt2f_139", 5, 0, 1, DataSetTab::More},        // Announcer
+    {"groupBox_Tires",         "cfgt2f_127", 6, 0, 1, DataSetTab::More},        // Tyre pressure
 };
 
 inline constexpr auto kDataSetBoxes = [] {
     using namespace data_set;
     using enum DataSetTab;
     return joined(
-        in(main, "groupBox_Main",
+        in(Main, "groupBox_Main",
             alwaysOn("checkBox_NumPage",     field("NumPage"),      "cfgt2f_003"),
             alwaysOn("checkBox_Code",        field("Code"),         "cfgt2f_004"),
             alwaysOn("checkBox_Time",        field("Time"),         "cfgt2f_005"),
@@ -205,24 +205,24 @@ inline constexpr auto kDataSetBoxes = [] {
             boxes<1>("checkBox_StateIn_%1",  3, field("StateIn3"),  "cfgt2f_014", "%1 %2"),
             box("checkBox_Power",            field("Power"),        "cfgt2f_015").hidden(),
             box("checkBox_Reserv",           field("Reserv"),       "cfgt2f_156")),  // Backup battery voltage
-        hidden(main, "groupBox_Imp",
+        hidden(Main, "groupBox_Imp",
             boxes<2>("checkBox_StateIn_Imp_%1", 1, field("StateIn_Imp1"), "cfgt2f_016", "%1 %2"),
             boxes<6>("checkBox_StateIn_Imp_%1", 3, field("StateIn_Imp3"), "cfgt2f_016", "%1 %2")),
-        in(main, "groupBox_Ain",
+        in(Main, "groupBox_Ain",
             boxes<2>("checkBox_StateU_Ain_%1", 1, field("StateU_Ain1"), "cfgt2f_023", "%1 AIN%2"),
             boxes<1>("checkBox_StateU_Ain_%1", 3, field("StateU_Ain3"), "cfgt2f_023", "%1 AIN%2", 3),
             boxes<5>("checkBox_StateU_Ain_%1", 4, field("StateU_Ain4"), "cfgt2f_023", "%1 AIN%2")),
-        hidden(main, "groupBox_Frequency",
+        hidden(Main, "groupBox_Frequency",
             boxes<2>("checkBox_Frequency_%1", 1, field("Frequency1"), "cfgt2f_017", "%1 %2"),
             boxes<6>("checkBox_Frequency_%1", 3, field("Frequency3"), "cfgt2f_017", "%1 %2")),
-        hidden(main, "groupBox_Motochas",
+        hidden(Main, "groupBox_Motochas",
             box("checkBox_Motochas",   field("Motochas"),        "cfgt2f_018"),
             box("checkBox_Motochas_2", field("MotochasLoadOff"), "cfgt2f_019"),
             box("checkBox_Motochas_3", field("MotochasLoadOn"),  "cfgt2f_020")),
-        in(main, "groupBox_Temp",
+        in(Main, "groupBox_Temp",
             boxes<8>("checkBox_Temp_%1", 1, field("Temp1"), "cfgt2f_022", "%1 T%2", 4)),
 
-        in(navi, "groupBox_Navi",
+        in(Navi, "groupBox_Navi",
             box("checkBox_StateNGauge", field("StateNGauge"),                    "cfgt2f_028"), // Receiver state and satellites
             box("checkBox_LastTime",    field("LastTime"),                       "cfgt2f_029"),
             box("checkBox_Coord",       {field("Latitude"), field("Longitude")}, "cfgt2f_030"),
@@ -233,60 +233,60 @@ inline constexpr auto kDataSetBoxes = [] {
             box("checkBox_Way",         field("Way"),                            "cfgt2f_035"), // Last path segment
             box("checkBox_AllSeconds",  field("AllSeconds"),                     "cfgt2f_036"), // Segment interval
             box("checkBox_SecondsLast", field("SecondsLast"),                    "cfgt2f_037")), // Segment travel time
-        in(navi, "groupBox_Accuracy",
+        in(Navi, "groupBox_Accuracy",
             box("checkBox_MNaviInfo",  field("NaviInfoGlonass"), "cfgt2f_039"),      // Satellites by system
             box("checkBox_MNaviError", field("NaviHDop"),        "cfgt2f_040")),     // HDOP and PDOP
-        hidden(navi, "groupBox_MNavi",
+        hidden(Navi, "groupBox_MNavi",
             box("checkBox_MNaviState",  field("NaviState"),    "cfgt2f_042"),        // High-precision receiver state
             box("checkBox_MNaviCoord",  field("NaviLatitude"), "cfgt2f_043"),
             box("checkBox_MNaviAlt",    field("NaviAltitude"), "cfgt2f_044"),
             box("checkBox_MNaviCourse", field("NaviCourse"),   "cfgt2f_045"),
             box("checkBox_MNaviSpeed",  field("NaviSpeed"),    "cfgt2f_046")),
-        in(navi, "groupBox_LBS",
+        in(Navi, "groupBox_LBS",
             box("checkBox_LBS", field("LbsCellID"), "cfgt2f_047")),
-        hidden(navi, "groupBox_Geozone",
+        hidden(Navi, "groupBox_Geozone",
             box("checkBox_Geozone", field("GeozoneInfo"), "cfgt2f_048")),
 
-        hidden(rs, "groupBox_RS232",
+        hidden(Rs, "groupBox_RS232",
             box("checkBox_RS232_Level", field("LevelRS232"), "cfgt2f_054")),
-        in(rs, "groupBox_RS485",
+        in(Rs, "groupBox_RS485",
             orAt(boxes<6>("checkBox_RS485_Level_%1", 1, field("LevelRS485_1"), "cfgt2f_052", "%1 %2", 6),
                  field("TempRS485_1")),
             boxes<10>("checkBox_RS485_Level_%1",     7, field("LevelRS485_7"), "cfgt2f_052", "%1 %2"),
             boxes<16>("checkBox_RS485_Frequency_%1", 1, field("RS485Freq1"),   "cfgt2f_053", "%1 %2", 6)),
 
-        in(accel, "groupBox_Accel",
+        in(Accel, "groupBox_Accel",
             box("checkBox_AccelDelta",  field("AccelDelta"),     "cfgt2f_084"),      // Time increment
             box("checkBox_AccelLinear", field("AccelLinearX"),   "cfgt2f_085").hidden(),
             box("checkBox_AccelModule", field("AccelModule"),    "cfgt2f_086"),      // Time above the acceleration threshold
             box("checkBox_Accel_1",     field("VAccelState"),    "cfgt2f_087"),      // Sensors SH1 to SH4
             box("checkBox_Accel_2",     field("VAccelVertical"), "cfgt2f_088").hidden(), // Tilt from the vertical
             box("checkBox_Accel_3",     field("VAccelLineTang"), "cfgt2f_089").hidden()), // Pitch and roll
-        hidden(accel, "groupBox_EcoDrive",
+        hidden(Accel, "groupBox_EcoDrive",
             box("checkBox_Accel_Drive_1", field("AccelAngularPlus"), "cfgt2f_090"),  // Largest acceleration, braking and sideways
             box("checkBox_Accel_Drive_2", field("EcoDrvAccelMax"),   "cfgt2f_091"),  // Largest vertical acceleration
             box("checkBox_Accel_Drive_3", field("EcoDrvSpeedMax"),   "cfgt2f_092"),  // Largest speed
             box("checkBox_Accel_Drive_4", field("EcoDrvSpeedState"), "cfgt2f_093"),  // Speed thresholds
             box("checkBox_Accel_Drive_5", field("EcoDrvAccel1"),     "cfgt2f_094")), // Acceleration thresholds
 
-        hidden(more, "groupBox_Passager",
+        hidden(More, "groupBox_Passager",
             boxes<8>("checkBox_PassDoor_%1", 1, field("Passager_1"), "cfgt2f_133", "%1 %2")),
-        hidden(more, "groupBox_Camera",
+        hidden(More, "groupBox_Camera",
             box("checkBox_CameraState", field("CameraState"), "cfgt2f_134")),
-        hidden(more, "groupBox_VAccelAxels",
+        hidden(More, "groupBox_VAccelAxels",
             box("checkBox_VAccelAxels", field("VAccelAxelsX"), "cfgt2f_135")),
-        hidden(more, "groupBox_Disp",
+        hidden(More, "groupBox_Disp",
             box("checkBox_DispCur",       field("DispCur"),       "cfgt2f_137"),     // Driver state
             box("checkBox_DispLastIndex", field("DispLastIndex"), "cfgt2f_138")),
-        hidden(more, "groupBox_Ainf",
+        hidden(More, "groupBox_Ainf",
             box("checkBox_AinfState",     field("AinfState"),     "cfgt2f_140"),     // Announcer state
             box("checkBox_AinfGeozoneID", field("AinfGeozoneID"), "cfgt2f_141"),
             box("checkBox_AinfStopID",    field("AinfStopID"),    "cfgt2f_142"),
             box("checkBox_AinfRouteID",   field("AinfRouteID"),   "cfgt2f_143")),
-        in(more, "groupBox_HighPrecision",
+        in(More, "groupBox_HighPrecision",
             boxes<4>("checkBox_HighPrecision_Temp_%1",     1, field("HPrecisionTemp1"),     "cfgt2f_126", "%1 %2", 4),
             boxes<4>("checkBox_HighPrecision_Humidity_%1", 1, field("HPrecisionHumidity1"), "cfgt2f_131", "%1 %2", 4)),
-        hidden(more, "groupBox_Tires",
+        hidden(More, "groupBox_Tires",
             tyres()));
 }();
 // clang-format on

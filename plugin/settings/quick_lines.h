@@ -87,7 +87,7 @@ inline constexpr auto kLineRows = rowsOf(
         const Line& line = kLines[number - 1];
         return rowsOf(
             group("SENSORS/IN%1"),
-            choice("use", kUses, "NU")        .offering(line.uses).notStored().ifMissing(Missing::keepsValue).in("comboBox_NormState_In_%1").caption(line.caption),
+            choice("use", kUses, "NU")        .offering(line.uses).notStored().ifMissing(Missing::KeepsValue).in("comboBox_NormState_In_%1").caption(line.caption),
             choice("ign", kNoOrYes, "0")      .byNumber().unknownIs("0").notStored(),
             choice("normState", kStates, "NU").unknownIs("").noItemIs(""),
             constant("name", line.name),

@@ -51,40 +51,40 @@ constexpr Heading kPasswords{"cfgt4_091"};                  // Access and supply
 
 // clang-format off
 constexpr auto kRows = rowsOf(
-    group("PROTOCOL").atSave(ElementSave::keepsOthers),
+    group("PROTOCOL").atSave(ElementSave::KeepsOthers),
     constant("page", "PROTOCOL"),
 
-    group("PROTOCOL/ZETA").atSave(ElementSave::keepsOthers),
-    text("mask", kFirstMask.data()).atSave(OnSave::document).ifMissing(Missing::keepsValue),
+    group("PROTOCOL/ZETA").atSave(ElementSave::KeepsOthers),
+    text("mask", kFirstMask.data()).atSave(OnSave::Document).ifMissing(Missing::KeepsValue),
 
-    group("TRANS").atSave(ElementSave::keepsOthers),
+    group("TRANS").atSave(ElementSave::KeepsOthers),
     constant("page", "TRANS"),
 
-    group("TRANS/AP1").atSave(ElementSave::keepsOthers), kAccessPoint,
+    group("TRANS/AP1").atSave(ElementSave::KeepsOthers), kAccessPoint,
     shared::kAccessPoint,
     flag("untouched", 0).resetTo(1).notStored(),
 
-    group("TRANS/SRV1").atSave(ElementSave::keepsOthers), kServer,
+    group("TRANS/SRV1").atSave(ElementSave::KeepsOthers), kServer,
     shared::host(text("addr", shared::kNoServer))             .in("GPRSSrv_lineEdit_IP_DNS_Main").caption("cfgt1_026"),  // Address (IP or name)
     integer("port", 4000).range(0, 65536).port().resetTo(5000).in("GPRSSrv_spinBox_Port_Main")   .caption("cfgt1_027"),  // Port
     choice("format", kProtocols, "VLKB_ZETA").offering("VLKB_ZETA").unknownIs("VLKB_ZETA").noItemIs("")
                                                               .in("Transfer_comboBox_Protocol_Format_Main").caption("cfgt1_028"),  // Protocol
 
-    group("TRANS/ROAMSIM1").atSave(ElementSave::keepsOthers), kRoaming,
+    group("TRANS/ROAMSIM1").atSave(ElementSave::KeepsOthers), kRoaming,
     shared::kRoamingMode,
 
-    group("TRANS/ROAM").atSave(ElementSave::keepsOthers),
+    group("TRANS/ROAM").atSave(ElementSave::KeepsOthers),
     shared::kRoamingPeriod,
 
-    group("TRANS/QSP").atSave(ElementSave::keepsOthers), kServer,
+    group("TRANS/QSP").atSave(ElementSave::KeepsOthers), kServer,
     shared::kObjectId,
-    shared::apnRows(group("TRANS/AUTOAPN").atSave(ElementSave::keepsOthers)),
+    shared::apnRows(group("TRANS/AUTOAPN").atSave(ElementSave::KeepsOthers)),
 
-    group("TRACK").atSave(ElementSave::keepsOthers),
+    group("TRACK").atSave(ElementSave::KeepsOthers),
     constant("page", "TRACK"),
 
-    group("TRACK/POINTS").atSave(ElementSave::keepsOthers), kTrack,
-    choice("preset", kTrackPresets, "optimal").notStored().ifMissing(Missing::keepsValue),
+    group("TRACK/POINTS").atSave(ElementSave::KeepsOthers), kTrack,
+    choice("preset", kTrackPresets, "optimal").notStored().ifMissing(Missing::KeepsValue),
     kTrackPoints,
     shared::kPointsOnTheWay,
     shared::kUseDistance                      .with(&Flag::load, 0).resetTo(1),
@@ -92,13 +92,13 @@ constexpr auto kRows = rowsOf(
     shared::kMoveTimer                        .range(0, 999),
     shared::kStopTimer,
 
-    group("SYSTEM").atSave(ElementSave::keepsOthers),
+    group("SYSTEM").atSave(ElementSave::KeepsOthers),
     constant("page", "SYSTEM"),
 
-    group("SYSTEM/PASS").atSave(ElementSave::keepsOthers), kPasswords,
+    group("SYSTEM/PASS").atSave(ElementSave::KeepsOthers), kPasswords,
     shared::kPasswords,
 
-    group("SYSTEM/PWRSENS").atSave(ElementSave::keepsOthers),
+    group("SYSTEM/PWRSENS").atSave(ElementSave::KeepsOthers),
     shared::kSupplyLine,
 
     quick::kLineRows, quick::kRsRows, quick::kBluetoothRows);

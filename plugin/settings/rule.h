@@ -15,11 +15,11 @@ namespace vlk {
 
 // When a rule sets another setting.
 enum class Moment : std::uint8_t {
-    edit,       // an edit that makes `when` hold
-    editOrRead, // and a read, as soon as it has read the path of `when`
-    afterRead,  // a read that is through
-    always,     // all of these and a reset: the file cannot hold another value
-    save        // a save writes it, the value stays; of several rules each is laid over those before it
+    Edit,       // an edit that makes `when` hold
+    EditOrRead, // and a read, as soon as it has read the path of `when`
+    AfterRead,  // a read that is through
+    Always,     // all of these and a reset: the file cannot hold another value
+    Save        // a save writes it, the value stays; of several rules each is laid over those before it
 };
 
 struct Sets
@@ -55,11 +55,11 @@ constexpr Sets setsAt(When when, Path path, const char* to)
     return {moment, when, path, to};
 }
 // NOLINTBEGIN(readability-identifier-naming): functions under names of their own
-inline constexpr auto onEdit = setsAt<Moment::edit>;
-inline constexpr auto onEditOrRead = setsAt<Moment::editOrRead>;
-inline constexpr auto afterRead = setsAt<Moment::afterRead>;
-inline constexpr auto always = setsAt<Moment::always>;
-inline constexpr auto onSave = setsAt<Moment::save>;
+inline constexpr auto onEdit = setsAt<Moment::Edit>;
+inline constexpr auto onEditOrRead = setsAt<Moment::EditOrRead>;
+inline constexpr auto afterRead = setsAt<Moment::AfterRead>;
+inline constexpr auto always = setsAt<Moment::Always>;
+inline constexpr auto onSave = setsAt<Moment::Save>;
 // NOLINTEND(readability-identifier-naming)
 
 // Two values of which the second is at least `gap` (in units of the widget), plus the value at `gapFrom`,
@@ -182,12 +182,12 @@ constexpr Targets parts(auto... names)
 // Widgets that are enabled, or on show with their labels, while the conditions hold: all of them, or `any`.
 struct Enable
 {
-    enum class Effect : std::uint8_t { enabled, shown };
+    enum class Effect : std::uint8_t { Enabled, Shown };
 
     Targets targets;
     std::array<When, 4> when{};
     bool any = false;
-    Effect effect = Effect::enabled;
+    Effect effect = Effect::Enabled;
     Numbers numbers{};
 
     constexpr void eachPath(auto visit) { visit(when); }
@@ -195,7 +195,7 @@ struct Enable
     constexpr Enable showing() const
     {
         Enable changed = *this;
-        changed.effect = Effect::shown;
+        changed.effect = Effect::Shown;
         return changed;
     }
 };

@@ -24,7 +24,7 @@ QString resetValue(const Setting& setting)
     return std::visit(
         [&](const auto& row) {
             if constexpr (requires { row.reset; }) {
-                if (row.onReset == OnReset::own)
+                if (row.onReset == OnReset::Own)
                     return fileText(row, row.reset);
             }
             return loadDefault(setting);

@@ -54,7 +54,7 @@ void addStored(TableLayout& layout)
     // What lives in the window alone is not in the file: beside values that are, it starts anew, and links
     // and rules fill it; an element of its own is left as it stands.
     for (const TableLayout::Row& row : layout.rows) {
-        if (!row.base->stored && row.base->missing == Missing::loadDefault &&
+        if (!row.base->stored && row.base->missing == Missing::LoadDefault &&
             layout.elements[row.group].stored)
             layout.anew.push_back(row.target);
     }
@@ -74,12 +74,12 @@ void addRules(TableLayout& layout)
         }
     };
     for (const Sets& rule : layout.table->all<Sets>()) {
-        if (rule.moment == Moment::edit || rule.moment == Moment::editOrRead)
+        if (rule.moment == Moment::Edit || rule.moment == Moment::EditOrRead)
             add(&Row::sets, &rule, rule.when.row);
-        else if (rule.moment == Moment::save)
+        else if (rule.moment == Moment::Save)
             add(&Row::saves, &rule, rule.path.row);
         else
-            (rule.moment == Moment::always ? layout.always : layout.afterRead).push_back(&rule);
+            (rule.moment == Moment::Always ? layout.always : layout.afterRead).push_back(&rule);
     }
     for (const RangeWhen& rule : layout.table->all<RangeWhen>()) {
         add(&Row::ranges, &rule, rule.path.row);

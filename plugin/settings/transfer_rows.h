@@ -135,7 +135,7 @@ inline constexpr auto kRows = rowsOf(
     period("blockTimer", 300, kBlock)             .wrapping(kDay)                                            .caption("cfgt1_044"),  // Pause after a failure
     flag("coercCnct", 0)                          .in("Srv_Operation_checkBox_Periodic_Connect_CoercionCnct").caption("cfgt1_041"),  // Even without new data
     // Older trackers kept seconds under this name: any number but 0 means on.
-    flag("noCur", 30)                             .atReset(OnReset::keepsValue).in("checkBox_NoCur")         .caption("cfgt1_045"),  // Do not send current data
+    flag("noCur", 30)                             .atReset(OnReset::KeepsValue).in("checkBox_NoCur")         .caption("cfgt1_045"),  // Do not send current data
     integer("grpTimer", 0).range(1, 300).resetTo(30).offAtZero("checkBox_GrpTimer").switchedOnTo(30).unit("abbr_003")
                                                   .in("spinBox_GrpTimer")                                    .caption("cfgt1_046"),  // Group data over
 

@@ -125,9 +125,9 @@ void Values::reset()
         const Setting& setting = this->setting(row);
         if (setting.is<Link>())
             continue;
-        const bool isKept = setting.base().onReset == OnReset::keepsValue;
+        const bool isKept = setting.base().onReset == OnReset::KeepsValue;
         const QString text = isKept ? values_[row] : resetValue(setting);
-        values_[row] = normalised(row, text, ownLimits(row), Source::edit);
+        values_[row] = normalised(row, text, ownLimits(row), Source::Edit);
     }
     for (const ExclusiveChoice& sharer : table().all<ExclusiveChoice>())
         keepShared(sharer, -1, {}, nullptr);
@@ -151,7 +151,7 @@ void Values::beginRead()
 void Values::takeKey(int row, const std::optional<QString>& text, bool hasElement)
 {
     const TableLayout::Row& place = layout_->rows[row];
-    if (!text && place.base->missing == Missing::keepsValue)
+    if (!text && place.base->missing == Missing::KeepsValue)
         return;
     const auto* link = place.setting->as<Link>();
     const QString read = text ? *text

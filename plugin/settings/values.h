@@ -83,7 +83,7 @@ private:
     // What others hold.
     QStringList takenFrom(const ExclusiveChoice& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
-                       Source source = Source::file) const;
+                       Source source = Source::File) const;
 
     // Whether that is another value.
     bool put(int row, const QString& value, Changes* changed);

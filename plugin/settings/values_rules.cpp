@@ -37,7 +37,7 @@ std::vector<int> Values::edit(int row, const QString& text)
 void Values::change(int row, const QString& text, Changes* changed)
 {
     const TableLayout::Row& place = layout_->rows[row];
-    const QString value = normalised(row, text, limits(row), Source::edit);
+    const QString value = normalised(row, text, limits(row), Source::Edit);
     if ((value == values_[row] && place.presets.empty()) || std::ranges::count(editing_, row) > 0)
         return;
     editing_.push_back(row);
@@ -57,7 +57,7 @@ void Values::change(int row, const QString& text, Changes* changed)
 void Values::setBy(int row, bool isRead, const QString& before, Changes* changed)
 {
     for (const Sets* rule : layout_->rows[row].sets) {
-        if ((isRead && rule->moment != Moment::editOrRead) || !holdsToo(*rule))
+        if ((isRead && rule->moment != Moment::EditOrRead) || !holdsToo(*rule))
             continue;
         const QString now = std::exchange(values_[row], before);
         const bool heldBefore = rule->isOnset && holds(rule->when);

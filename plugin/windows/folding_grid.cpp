@@ -174,7 +174,7 @@ QHash<QLayoutItem*, FoldingGrid::Place> FoldingGrid::foldedPlaces() const
         last = std::max(last, places_[item].row);
     for (int row = 0; row <= last;) {
         int end = row + 1;
-        while (order_ == Order::columns && end <= last && !isWhole(row) && !isWhole(end))
+        while (order_ == Order::Columns && end <= last && !isWhole(row) && !isWhole(end))
             ++end;
         for (const int pair : {0, 1}) {
             for (int one = row; one < end; ++one)

@@ -15,7 +15,7 @@ namespace vlk {
 class FoldingGrid
 {
 public:
-    enum class Order { rows, columns };
+    enum class Order { Rows, Columns };
     // What one pair of columns needs: the captions, the fields beside them, and what stands across both.
     struct Needs
     {

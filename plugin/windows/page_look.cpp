@@ -199,7 +199,7 @@ void PageLook::findGrids()
     for (QGridLayout* grid : page_->findChildren<QGridLayout*>()) {
         if (!grids_.count(grid) && FoldingGrid::isOne(grid)) {
             const bool byColumns = grid->parentWidget()->property("byColumns").toBool();
-            const auto order = byColumns ? FoldingGrid::Order::columns : FoldingGrid::Order::rows;
+            const auto order = byColumns ? FoldingGrid::Order::Columns : FoldingGrid::Order::Rows;
             grids_.emplace(grid, FoldingGrid(grid, order));
             grid->setHorizontalSpacing(grid::kColumn);
             grid->setVerticalSpacing(grid::kRow);

@@ -91,7 +91,7 @@ int PageStyle::listWidth(const QStyleOptionComboBox& option)
 QIcon PageStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
 {
     return which == SP_MessageBoxWarning
-               ? markPixmap(Mark::advice, widget ? widget->palette() : QApplication::palette(),
+               ? markPixmap(Mark::Advice, widget ? widget->palette() : QApplication::palette(),
                             pixelMetric(PM_MessageBoxIconSize, option, widget),
                             widget ? widget->devicePixelRatioF() : 1)
                : TitleStyle::standardIcon(which, option, widget);

@@ -33,13 +33,13 @@ XmlScanner::Token XmlScanner::next()
         at_ = text_.indexOf(QLatin1Char('<'), at_);
         if (at_ < 0 || at_ + 1 >= text_.size()) {
             at_ = text_.size();
-            return Token::none;
+            return Token::None;
         }
         const QChar sign = text_[at_ + 1];
         if (sign != QLatin1Char('!') && sign != QLatin1Char('?'))
             break;
         if (!skipMarkup())
-            return Token::none;
+            return Token::None;
     }
     tag_.begin = at_++;
     const bool isEnd = text_[at_] == QLatin1Char('/');
@@ -47,7 +47,7 @@ XmlScanner::Token XmlScanner::next()
     name_ = scanName();
     scanAttributes();
     tag_.end = at_;
-    return isEnd ? Token::end : Token::start;
+    return isEnd ? Token::End : Token::Start;
 }
 
 bool XmlScanner::skipTo(QLatin1String end)
@@ -135,8 +135,8 @@ bool isOfBearableSize(const QString& text)
         return true;
     XmlScanner scanner(text);
     int elements = 0;
-    for (auto token = scanner.next(); token != XmlScanner::Token::none; token = scanner.next()) {
-        if (token == XmlScanner::Token::start)
+    for (auto token = scanner.next(); token != XmlScanner::Token::None; token = scanner.next()) {
+        if (token == XmlScanner::Token::Start)
             ++elements;
         if (elements > mostElements || static_cast<int>(scanner.attributes().size()) > mostAttributes)
             return false;

@@ -26,7 +26,7 @@ struct TextSpan
 class XmlScanner
 {
 public:
-    enum class Token { start, end, none };
+    enum class Token { Start, End, None };
     struct Attribute
     {
         TextSpan name;

@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(shown.join(' '),
                  QString("0 FS4 HD2 IS1 LS4 PR2 SL1 ST4 UB1 WT4 0 0 0 AS2 AS2 AS2 AS2 UP0 CE0 0 AG2 "
                          "AG2 AG2 HS2 0"));
-        QCOMPARE(params_.paramName(userParamType::link, 3), QString("cfgt5_354 3"));
+        QCOMPARE(params_.paramName(userParamType::Link, 3), QString("cfgt5_354 3"));
         QCOMPARE(params_.paramName(static_cast<userParamType>(9), 3), QString("3"));
     }
 

@@ -20,7 +20,7 @@ inline QByteArray liveRecord()
     const auto put = [&record](int at, quint16 value) { qToLittleEndian(value, record.data() + at); };
     put(19, 12340);
     for (int i = 0; i < 6; ++i)
-        put(25 + 3 * i, quint16(1001 + i));
+        put(25 + 3 * i, static_cast<quint16>(1001 + i));
     return record;
 }
 

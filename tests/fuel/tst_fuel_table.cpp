@@ -85,9 +85,9 @@ private Q_SLOTS:
         QCOMPARE(readFuelCsv("h\n" + QByteArray("1;2\n").repeated(int(kMaxFuelRows)))->size(), kMaxFuelRows);
         // Of a long line the beginning counts, and the next line is the next row.
         const auto cut = readFuelCsv("h\n12;" + QByteArray(1'000'000, '7') + "\n3;4");
-        QCOMPARE(cut->size(), std::size_t(2));
+        QCOMPARE(cut->size(), std::size_t{2});
         QCOMPARE(cut->front().volume.size(), kMaxFuelLine - 3);
-        QCOMPARE(readFuelCsv(QByteArray(100'000, 'h'))->size(), std::size_t(0));
+        QCOMPARE(readFuelCsv(QByteArray(100'000, 'h'))->size(), std::size_t{0});
     }
 
     void clipboard_data()
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QFETCH(int, blank);
         FuelPoints all;
         for (int i = 0; i < points; ++i)
-            all.push_back({float(i), float(i) + 0.5F});
+            all.push_back({static_cast<float>(i), static_cast<float>(i) + 0.5F});
         const QString html = reportOf("A1", {}, all);
         QCOMPARE(html.count("<th bgcolor=\"#DCDCDC\" align=\"center\">"), pairs * 2);
         const QString table = html.section("border=1", 1).section("</table>", 0, 0);
@@ -315,7 +315,7 @@ private Q_SLOTS:
         for (const auto& [sensor, seconds, rows] :
              {std::tuple("old", 0, 4), {"none", 10, 0}, {"few", 9, 1}, {"many", 9, 3}})
             keepTable(newKeptPath(folder.path(), sensor, {}, time), sensor, {}, {},
-                      FuelRows(std::size_t(rows)), time.addSecs(seconds), vlk::Unsaved::added);
+                      FuelRows(static_cast<std::size_t>(rows)), time.addSecs(seconds), vlk::Unsaved::Added);
         QStringList order;
         for (const KeptTable& table : keptTables(folder.path()))
             order << table.sensor;

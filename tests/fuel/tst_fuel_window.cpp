@@ -74,7 +74,7 @@ private Q_SLOTS:
     void marksWhatRepeats()
     {
         for (int litres = 1; litres < 30; ++litres)
-            add("A3", QString::number(litres), quint16(litres * 100));
+            add("A3", QString::number(litres), static_cast<quint16>(litres * 100));
         add("A3", "3", 450);
         add("A3", "2.5", 200);
         const auto* shown = table("A3");

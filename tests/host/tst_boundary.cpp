@@ -29,13 +29,15 @@ private Q_SLOTS:
         std::array<uchar, sizeof(vlk::LibraryInfo) + 1> buffer;
         buffer.fill(0xee);
         host_.libraryInfo(reinterpret_cast<vlk::LibraryInfo*>(buffer.data()));
-        QCOMPARE(buffer.back(), uchar(0xee));
+        QCOMPARE(buffer.back(), uchar{0xee});
 
         const QByteArray record(reinterpret_cast<const char*>(buffer.data()), sizeof(vlk::LibraryInfo));
         QVERIFY(record.left(4) != QByteArray(4, '\0'));
         QCOMPARE(record.mid(4, 255), QByteArray("R-7106").leftJustified(255, '\0'));
         QCOMPARE(record.mid(259, 255), QByteArray("Aster R-7106").leftJustified(255, '\0'));
-        const auto word = [](int value) { return QByteArray(1, char(value)) + QByteArray(3, '\0'); };
+        const auto word = [](int value) {
+            return QByteArray(1, static_cast<char>(value)) + QByteArray(3, '\0');
+        };
         QCOMPARE(record.mid(514), word(3) + word(3) + word(0) + word(2) + word(0) + word(1));
 
         host_.start();
@@ -106,8 +108,8 @@ private Q_SLOTS:
             numbers << static_cast<std::uint32_t>(info.number);
             names << info.name;
         }
-        QCOMPARE(numbers.size(), int(std::size(vlk::kMessages)));
-        QCOMPARE(names.size(), int(std::size(vlk::kMessages)));
+        QCOMPARE(numbers.size(), static_cast<int>(std::size(vlk::kMessages)));
+        QCOMPARE(names.size(), static_cast<int>(std::size(vlk::kMessages)));
     }
 
     // The record says how long it is; a word that does not lie in it whole stays as it was.
@@ -249,9 +251,9 @@ private Q_SLOTS:
             host_.send(Message::BringSettings, &asked);
             return asked.outcome;
         };
-        QCOMPARE(bring({.from = &from}), quint32(vlk::BroughtSettings::done));
+        QCOMPARE(bring({.from = &from}), static_cast<quint32>(vlk::BroughtSettings::Done));
         QVERIFY(content.contains("owner1=\"TPMS\"") && content.contains("holdTime=\"20\""));
-        QCOMPARE(bring({.from = &paths.first()}), quint32(vlk::BroughtSettings::refused));
+        QCOMPARE(bring({.from = &paths.first()}), static_cast<quint32>(vlk::BroughtSettings::Refused));
         QCOMPARE(bring({.from = nullptr}) + bring({.size = 8, .from = &from}), 0U);
         host_.send(Message::BringSettings);
     }
@@ -306,10 +308,10 @@ private Q_SLOTS:
         vlk::PresetApplication open;
         open.preset = &good;
         host_.send(Message::ApplyPreset, &open);
-        QCOMPARE(open.outcome, quint32(vlk::PresetApplication::nothingOpen));
+        QCOMPARE(open.outcome, static_cast<quint32>(vlk::PresetApplication::NothingOpen));
         host_.open(file);
         host_.send(Message::ApplyPreset, &open);
-        QCOMPARE(open.outcome, quint32(vlk::PresetApplication::shown));
+        QCOMPARE(open.outcome, static_cast<quint32>(vlk::PresetApplication::Shown));
         host_.send(Message::ApplyPreset);
     }
 

@@ -372,7 +372,7 @@ private Q_SLOTS:
                 layout.addWidget(widget);
             window.show();
             QApplication::setActiveWindow(&window);
-            vlk::markField(&wrong, vlk::MarkReason::typing, vlk::Mark::invalid, QStringLiteral("no"));
+            vlk::markField(&wrong, vlk::MarkReason::Typing, vlk::Mark::Invalid, QStringLiteral("no"));
             elsewhere.setFocus();
             for (QWidget* widget : widgets) {
                 const QImage without = widget->grab().toImage();

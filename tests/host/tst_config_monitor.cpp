@@ -226,8 +226,8 @@ private Q_SLOTS:
     // By the timeout, by a request of the other page, or by its monitor.
     void endsOnTheTabOfTheOtherKind_data()
     {
-        const int lines = int(Tab::InputLines);
-        const int accel = int(Tab::Accel);
+        const int lines = static_cast<int>(Tab::InputLines);
+        const int accel = static_cast<int>(Tab::Accel);
         DataTable<int, int, Action, QVector<Message>>({"from", "to", "act", "requests"})
             .row("to accel, timeout", lines, accel, [this] { monitor_->timeout(); }, {})
             .row("to lines, timeout", accel, lines, [this] { monitor_->timeout(); }, {})

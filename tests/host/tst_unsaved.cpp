@@ -389,7 +389,7 @@ private Q_SLOTS:
                     edited.process.kill();
                 return edited.process.state() == QProcess::NotRunning;
             };
-            QTRY_VERIFY_WITH_TIMEOUT(int(std::ranges::count_if(all, kill)) == 8, 60000);
+            QTRY_VERIFY_WITH_TIMEOUT(static_cast<int>(std::ranges::count_if(all, kill)) == 8, 60000);
             for (Edited& edited : all) {
                 QVERIFY(edited.process.exitStatus() == QProcess::CrashExit);
                 // The last sign of life is the moment of its death.

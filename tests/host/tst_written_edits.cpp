@@ -79,7 +79,7 @@ private Q_SLOTS:
 
         told.size = sizeof told;
         host_.send(Message::ConfirmWrite, &told);
-        told.step = vlk::WriteConfirmation::confirmed;
+        told.step = vlk::WriteConfirmation::Confirmed;
         type(child<QLineEdit>("lineEdit_Name"), "<All>again");
         const QByteArray first = written();
         QCOMPARE(files().size(), 1);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         open(source, full);
         edit(full);
         vlk::WriteConfirmation told;
-        told.step = vlk::WriteConfirmation::confirmed;
+        told.step = vlk::WriteConfirmation::Confirmed;
         const QByteArray content = written(full);
         told.content = &content;
         const QString kept = files().value(0);

@@ -188,13 +188,13 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(told(0), QString("adv_191"));
         QVERIFY(told(2).startsWith("rev_160") && told(2).endsWith("adv_191"));
-        QVERIFY(shows(vlk::Mark::advice, 0) && shows(vlk::Mark::advice, 2) && !shows(vlk::Mark::changed, 0));
+        QVERIFY(shows(vlk::Mark::Advice, 0) && shows(vlk::Mark::Advice, 2) && !shows(vlk::Mark::Changed, 0));
         tree->topLevelItem(2)->setText(1, "12a");
         QCoreApplication::processEvents();
         QVERIFY(told(0).isEmpty() && told(2).endsWith("adv_190"));
         tree->topLevelItem(2)->setText(1, "25088");
         QCoreApplication::processEvents();
-        QVERIFY(shows(vlk::Mark::changed, 2));
+        QVERIFY(shows(vlk::Mark::Changed, 2));
         tree->window()->close();
     }
 
@@ -231,7 +231,7 @@ private Q_SLOTS:
         type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "5555");
         const QPalette before = QApplication::palette();
         QApplication::setPalette(QPalette(QColor(0x35, 0x37, 0x3a)));
-        const QColor colour = vlk::markColor(vlk::Mark::changed, QApplication::palette());
+        const QColor colour = vlk::markColor(vlk::Mark::Changed, QApplication::palette());
         // On the button it is in the lower corner of a drawing.
         const auto* button = child<QToolButton>("toolButton_Differences");
         const QSize whole = button->iconSize();

@@ -171,7 +171,7 @@ private Q_SLOTS:
             for (int row = 0; row < table.count(); ++row)
                 QVERIFY2(table.isWritten(row) == after.tables()[i].isWritten(row) &&
                              (!table.isWritten(row) || table.written(row) == after.tables()[i].written(row) ||
-                              table.row(row).base->onReset == vlk::OnReset::keepsValue),
+                              table.row(row).base->onReset == vlk::OnReset::KeepsValue),
                          qPrintable(table.row(row).filePath));
         }
         forEachPage([](auto& page) { compareWidgets(page); });
@@ -211,7 +211,7 @@ private:
                 if (widgets.size() != 1 || rules[target] != 1)
                     continue;
                 const QWidget* widget = widgets[0];
-                const bool on = rule.effect == vlk::Enable::Effect::shown
+                const bool on = rule.effect == vlk::Enable::Effect::Shown
                                     ? !widget->isHidden()
                                     : widget->isEnabledTo(widget->parentWidget());
                 QVERIFY2(on == binder.values().holds(rule), qPrintable(target));

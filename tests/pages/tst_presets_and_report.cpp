@@ -156,7 +156,7 @@ private Q_SLOTS:
             {"others", "other.xml", against(2)},
             {"presets", "a.xml", against(3)}};
         for (const bool again : {false, true}) {
-            dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+            dialog_->review().compareWith(vlk::ConfigurationReview::Against::File);
             for (const auto& [kind, name, ask] : rows) {
                 chooseNext(folder_.filePath(QString("%1/%2").arg(kind, again ? "b " + QString(name) : name)));
                 ask();
@@ -203,7 +203,7 @@ private Q_SLOTS:
             return notes;
         };
         child<QToolButton>("toolButton_Differences")->click();
-        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, path));
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, path));
         QVERIFY(notes().contains("rev_280") && !notes().contains("rev_005"));
         // What stays out of reach stands behind lines that cannot be chosen; the
         // rest is done without a word.
@@ -324,7 +324,7 @@ private Q_SLOTS:
             QTest::keyClick(box, Qt::Key_Return);
         };
         // Nothing has been changed that a preset could hold.
-        dialog_->review().compareWith(vlk::ConfigurationReview::Against::file);
+        dialog_->review().compareWith(vlk::ConfigurationReview::Against::File);
         answerNext<QMessageBox>(tell);
         child<QPushButton>("pushButton_Document")->menu()->actions().at(1)->trigger();
         QCoreApplication::processEvents();

@@ -121,7 +121,8 @@ private Q_SLOTS:
         QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
         const auto* model = child<QTableView>("tableView_Differences")->model();
         const auto unmarked = [model] {
-            return model->match(model->index(0, 0), Qt::CheckStateRole, int(Qt::Unchecked), -1).size();
+            return model->match(model->index(0, 0), Qt::CheckStateRole, static_cast<int>(Qt::Unchecked), -1)
+                .size();
         };
         QTest::keyClick(child<QTableView>("tableView_Differences"), Qt::Key_Space);
         QCOMPARE(unmarked(), 1);
@@ -145,7 +146,7 @@ private Q_SLOTS:
         open({});
         QTest::keyClick(dialog_.get(), Qt::Key_D, Qt::ControlModifier);
         const auto* table = child<QTableView>("tableView_Differences");
-        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile,
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile,
                                               VLK_SOURCE "/fuzz/corpus/settings/factory.xml"));
         QVERIFY(table->model()->rowCount() > 10);
         QTRY_COMPARE(table->horizontalHeader()->length(), table->viewport()->width());
@@ -265,7 +266,7 @@ private Q_SLOTS:
         QVERIFY(saved() != before);
         history().undo();
         QCOMPARE(saved(), before);
-        QVERIFY(!dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, "no such file"));
+        QVERIFY(!dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, "no such file"));
     }
 
     // A new configuration waits for its server and the format of its record, which a button sets.
@@ -419,7 +420,7 @@ private Q_SLOTS:
         }
         // What is told above the bar comes before it, the cross last.
         auto* notices = dialog_->findChild<vlk::UnsavedBar*>();
-        notices->tell(9, {vlk::Mark::advice, "told", {{"one", [] {}}, {"two", [] {}}}});
+        notices->tell(9, {vlk::Mark::Advice, "told", {{"one", [] {}}, {"two", [] {}}}});
         QTest::keyClick(dialog_.get(), Qt::Key_F6);
         for (const char* name :
              {"label_Unsaved_Action1", "label_Unsaved_Action2", "label_Unsaved_Close", "toolButton_Undo"}) {
@@ -476,7 +477,7 @@ private Q_SLOTS:
         QVERIFY(!advice.isEmpty());
 
         open(good);
-        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::otherFile, factory));
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, factory));
         QCOMPARE(toldPaths({"diff", factory, good}, {}), shown());
         QCOMPARE(shown().size(), 2);
     }

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(rulesOf(vlk::review::advise(factory_)), QStringList());
         QCOMPARE(rulesOf(vlk::review::advise(new_)), QStringList({"server_empty", "record_format"}));
         for (const vlk::review::Finding& finding : vlk::review::advise(new_))
-            QCOMPARE(finding.severity, vlk::review::Severity::hint);
+            QCOMPARE(finding.severity, vlk::review::Severity::Hint);
     }
 
     void speaks_data()
@@ -160,7 +160,7 @@ private Q_SLOTS:
                 QVERIFY2(!text.isEmpty(), rule.id);
                 for (std::size_t i = 0; i < rule.arguments.size(); ++i) {
                     const bool isGiven =
-                        rule.arguments[i].kind != vlk::review::advice::Argument::Kind::nothing;
+                        rule.arguments[i].kind != vlk::review::advice::Argument::Kind::Nothing;
                     QVERIFY2(text.contains('%' + QString::number(i + 1)) == isGiven, rule.id);
                 }
             }

@@ -21,7 +21,7 @@ QStringList told(const QByteArray& file)
     vlk::XmlDocument document(file, "DEVICE");
     QStringList lines;
     for (const FileRemark& remark : vlk::review::checkDocument(*document.root())) {
-        const bool isAdvice = remark.kind == FileRemark::Kind::advice;
+        const bool isAdvice = remark.kind == FileRemark::Kind::Advice;
         lines << QString(isAdvice ? "advice " : "") + remark.path + (remark.page.isNull() ? "" : " named") +
                      (isAdvice ? QString() : ": " + remark.text);
     }
@@ -52,7 +52,7 @@ private Q_SLOTS:
     {
         vlk::XmlDocument document(QByteArray("<DEVICE/>"), "DEVICE");
         for (const FileRemark& remark : vlk::review::checkDocument(*document.root()))
-            QCOMPARE(remark.severity, vlk::review::Severity::hint);
+            QCOMPARE(remark.severity, vlk::review::Severity::Hint);
     }
 
     void tells_data()

@@ -53,7 +53,7 @@ QString told(const Differences& differences)
     const auto side = [](const QString& text) { return text.isNull() ? QString("-") : text; };
     QStringList lines;
     for (const vlk::review::Difference& difference : differences.all()) {
-        const QString change = difference.change == vlk::Change::none
+        const QString change = difference.change == vlk::Change::None
                                    ? QString()
                                    : ' ' + QString::number(static_cast<int>(difference.change));
         lines << difference.path + ": " + side(difference.before) + " > " + side(difference.after) +
@@ -97,15 +97,15 @@ private Q_SLOTS:
             .row("another spelling", "pingTimer=\"90\"", "pingTimer=\"0090\"", "")
             .row("trailing zeros", "maxHDOP=\"2.5\"", "maxHDOP=\"2.50\"", "")
             .row("limited", "pingTimer=\"90\"", "pingTimer=\"9000\"",
-                 "TRANS/RULES/pingTimer: 9000 > 3600" + load(Change::outOfRange))
+                 "TRANS/RULES/pingTimer: 9000 > 3600" + load(Change::OutOfRange))
             .row("wrapped", "cnctTimer=\"3600\" useCmd", "cnctTimer=\"90060\" useCmd",
-                 "TRANS/RULES/cnctTimer: 90060 > 3660" + load(Change::wrapped))
+                 "TRANS/RULES/cnctTimer: 90060 > 3660" + load(Change::Wrapped))
             .row("no number", "pingTimer=\"90\"", "pingTimer=\"often\"",
-                 "TRANS/RULES/pingTimer: often > 15" + load(Change::notANumber))
-            .row("missing", "pingTimer=\"90\"", "", "TRANS/RULES/pingTimer: - > 90" + load(Change::missing))
+                 "TRANS/RULES/pingTimer: often > 15" + load(Change::NotANumber))
+            .row("missing", "pingTimer=\"90\"", "", "TRANS/RULES/pingTimer: - > 90" + load(Change::Missing))
             .row("unknown code", "protocol=\"ZETA\" transProto=\"TCP\" objID=\"710601\"",
                  "protocol=\"X\" transProto=\"TCP\" objID=\"710601\"",
-                 "TRANS/SRV1/protocol: X > ZETA" + load(Change::unknownCode))
+                 "TRANS/SRV1/protocol: X > ZETA" + load(Change::UnknownCode))
             .row("unknown key", "<SIMPRIOR ", "<SIMPRIOR colour=\"2\" ",
                  "TRANS/SIMPRIOR/colour: 2 > - (load)")
             .row("doubled", "<SIMPRIOR ", "<SIMPRIOR regTimer=\"90\"/><SIMPRIOR ",
@@ -172,7 +172,7 @@ private Q_SLOTS:
     void addressWithoutADigit()
     {
         const auto text = textOf({.path = "BLUETOOTH/CHANNEL1/macaddr", .before = "1:::::", .after = ":::::"},
-                                 vlk::review::Secrets::masked);
+                                 vlk::review::Secrets::Masked);
         QCOMPARE(text.beforeText, QString("1:::::"));
         QCOMPARE(text.afterText, QString(""));
         QCOMPARE(text.after, QString(":::::"));
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QString masked, shown;
         for (std::size_t i = 0; i < differences.all().size(); ++i) {
             masked += line(differences, configuration, i);
-            shown += line(differences, configuration, i, vlk::review::Secrets::shown);
+            shown += line(differences, configuration, i, vlk::review::Secrets::Shown);
         }
         for (const char* secret : {"eins", "zwei", "drei", "mts|"}) {
             QVERIFY2(!masked.contains(secret), secret);
@@ -369,7 +369,7 @@ private:
         return [translator](const char* key) { return translator->translate(nullptr, key); };
     }
     static QString line(const Differences& differences, const vlk::Configuration& configuration, int place,
-                        vlk::review::Secrets secrets = vlk::review::Secrets::masked)
+                        vlk::review::Secrets secrets = vlk::review::Secrets::Masked)
     {
         const vlk::review::Difference difference = differences.all().at(place);
         const int table = difference.key < 0 ? 0 : vlk::review::FileKeys::all()[difference.key].table;

@@ -197,7 +197,7 @@ private Q_SLOTS:
         const EditedFile edited =
             withPreset("<DEVICE><X/><TRACK><POINTS angle='5'/></TRACK></DEVICE>", *preset.root());
         QCOMPARE(edited.text, QByteArray("<DEVICE><X/><TRACK><POINTS angle='7'/></TRACK></DEVICE>"));
-        QCOMPARE(edited.problems.size(), std::size_t(1));
+        QCOMPARE(edited.problems.size(), std::size_t{1});
     }
 
 private:

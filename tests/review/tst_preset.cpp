@@ -46,7 +46,7 @@ private Q_SLOTS:
             keys.push_back(FileKeys::all().at(path));
         vlk::XmlDocument document(QString(), "DEVICE");
         writePreset(*document.root(), FileState::ofConfiguration(configuration), keys,
-                    personal ? vlk::review::Personal::included : vlk::review::Personal::leftOut);
+                    personal ? vlk::review::Personal::Included : vlk::review::Personal::LeftOut);
         QByteArray text = document.text().replace("\t", "").replace("\r", "").replace("\n", "");
         QVERIFY(text.endsWith("<DEVICE creator=\"preset\">" + sections + "</DEVICE>"));
         vlk::XmlDocument again(document.text(), "DEVICE");

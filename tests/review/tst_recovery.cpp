@@ -27,7 +27,7 @@ private Q_SLOTS:
         const auto at = [](int place) {
             return [place](QByteArray file) {
                 const int byte = place < 0 ? file.size() + place : place;
-                file[byte] = char(file[byte] ^ 0x20);
+                file[byte] = static_cast<char>(file[byte] ^ 0x20);
                 return file;
             };
         };
@@ -85,13 +85,13 @@ private Q_SLOTS:
         QVERIFY(vlk::review::keptUnsaved(folder.path(), "file b").empty());
         {
             const vlk::FileClaim byOtherProgram(path);
-            QCOMPARE(vlk::review::keptUnsaved(folder.path(), "file a").size(), std::size_t(1));
+            QCOMPARE(vlk::review::keptUnsaved(folder.path(), "file a").size(), std::size_t{1});
         }
         later.moment = later.moment.addSecs(60);
         QString reason;
         QVERIFY(keepUnsaved(path, later, &reason));
         const auto kept = vlk::review::keptUnsaved(folder.path(), "file a");
-        QCOMPARE(kept.size(), std::size_t(2));
+        QCOMPARE(kept.size(), std::size_t{2});
         QCOMPARE(kept[0].unsaved.moment, later.moment);
         QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther),
                  QFile::Permissions());

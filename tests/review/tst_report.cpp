@@ -77,7 +77,7 @@ private Q_SLOTS:
     void chosenKeysAndSecretsOnDemand()
     {
         const Report report{
-            "", {}, {}, {{FileKeys::all().at("TRANS/AP1/pass")}}, vlk::review::Secrets::shown};
+            "", {}, {}, {{FileKeys::all().at("TRANS/AP1/pass")}}, vlk::review::Secrets::Shown};
         const QString html = toHtml(configuration_, report);
         QCOMPARE(html.count("<tr>"), 2); // and the operator that it belongs to
         QVERIFY(html.contains("<h2>cfgt1_001</h2>\n<h3>cfgt1_024</h3>"));

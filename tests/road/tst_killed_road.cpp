@@ -96,11 +96,11 @@ int walkTheRoad(const QString& folder)
         const QByteArray name = tracker.vehicleName() == "one" ? "two" : "one";
         const int at = document.indexOf("name=\"", document.indexOf("<OBJECT")) + 6;
         document.replace(at, document.indexOf('"', at) - at, name);
-        road.begin({WriteRequest::Origin::tracker, document, {}, tracker.text2(), {}, {}, {}});
+        road.begin({WriteRequest::Origin::Tracker, document, {}, tracker.text2(), {}, {}, {}});
     };
     QObject::connect(&road, &workbench::WriteRoad::reviewReady, &road, &workbench::WriteRoad::approve);
     QObject::connect(&road, &workbench::WriteRoad::ended, &road, [&](const RoadReport& report) {
-        std::puts(report.outcome == RoadReport::Outcome::confirmed ? "confirmed" : "other");
+        std::puts(report.outcome == RoadReport::Outcome::Confirmed ? "confirmed" : "other");
         std::fflush(stdout);
         QMetaObject::invokeMethod(&road, begin, Qt::QueuedConnection);
     });

@@ -58,13 +58,13 @@ public:
     void read(Copy copy) override
     {
         const bool isBack = written;
-        answer(isBack ? Step::readingBack : Step::reading, [this, copy](Wrong wrong) {
+        answer(isBack ? Step::ReadingBack : Step::Reading, [this, copy](Wrong wrong) {
             if (wrong == Wrong::Unplugged || number.isEmpty()) {
                 number.clear();
-                Q_EMIT readEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+                Q_EMIT readEnded({PortAnswer::Outcome::Unplugged, {}, {}, {}});
             } else {
-                const QByteArray document = copy == Copy::previous ? kPlain : held;
-                Q_EMIT readEnded({PortAnswer::Outcome::done,
+                const QByteArray document = copy == Copy::Previous ? kPlain : held;
+                Q_EMIT readEnded({PortAnswer::Outcome::Done,
                                   wrong == Wrong::Garbage ? document.left(document.size() / 2) : document,
                                   {},
                                   {}});
@@ -74,11 +74,11 @@ public:
     void write(const QByteArray& document) override
     {
         written = true;
-        answer(Step::writing, [this, document](Wrong wrong) {
+        answer(Step::Writing, [this, document](Wrong wrong) {
             Q_EMIT sent(10, document.size());
             if (wrong == Wrong::Unplugged) {
                 number.clear();
-                Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+                Q_EMIT writeEnded({PortAnswer::Outcome::Unplugged, {}, {}, {}});
                 return;
             }
             if (isSlow)
@@ -86,7 +86,7 @@ public:
             Q_EMIT sent(document.size(), document.size());
             Q_EMIT taken();
             if (wrong == Wrong::Refused) {
-                Q_EMIT writeEnded({PortAnswer::Outcome::refused, {}, "wb_refused_memory", "full"});
+                Q_EMIT writeEnded({PortAnswer::Outcome::Refused, {}, "wb_refused_memory", "full"});
                 return;
             }
             if (wrong == Wrong::PowerLoss)
@@ -95,7 +95,7 @@ public:
                 held = wrong == Wrong::TakesHalf ? kHalf : document;
             if (wrong != Wrong::LostAnswer)
                 Q_EMIT writeEnded(
-                    {wrong == Wrong::PowerLoss ? PortAnswer::Outcome::unplugged : PortAnswer::Outcome::done,
+                    {wrong == Wrong::PowerLoss ? PortAnswer::Outcome::Unplugged : PortAnswer::Outcome::Done,
                      {},
                      {},
                      {}});
@@ -105,7 +105,7 @@ public:
 
     QString number = "860000000071060";
     QByteArray held = kOld;
-    Step at = Step::review; // where it goes wrong
+    Step at = Step::Review; // where it goes wrong
     Wrong wrong = Wrong::Nothing;
     bool written = false;
     bool isSlow = false; // only the first block comes
@@ -130,7 +130,7 @@ struct Bench
                          [this](const RoadReport& r) { reports.append(r); });
     }
 
-    bool begin(const QByteArray& document = kNew, WriteRequest::Origin origin = WriteRequest::Origin::tracker)
+    bool begin(const QByteArray& document = kNew, WriteRequest::Origin origin = WriteRequest::Origin::Tracker)
     {
         return road.begin({origin, document, {}, port.number, {}, {}, {}});
     }
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QVERIFY(bench.port.held == kOld && bench.backups.all().isEmpty());
         bench.road.approve();
         const RoadReport report = bench.report();
-        QVERIFY(report.outcome == Outcome::confirmed && report.missed() == 0);
+        QVERIFY(report.outcome == Outcome::Confirmed && report.missed() == 0);
         QCOMPARE(report.settings.size(), 3);
         QCOMPARE(bench.backups.document(report.backup), kOld);
         QVERIFY(!bench.road.isBusy());
@@ -196,28 +196,28 @@ private Q_SLOTS:
     {
         using Table = DataTable<Step, Wrong, Outcome, Fault, bool>;
         Table({"at", "wrong", "outcome", "fault", "holdsNew"})
-            .row("read, silence", Step::reading, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
-            .row("read, garbage", Step::reading, Wrong::Garbage, Outcome::notWritten, Fault::badAnswer, false)
-            .row("read, unplugged", Step::reading, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
+            .row("read, silence", Step::Reading, Wrong::Silence, Outcome::NotWritten, Fault::Silent, false)
+            .row("read, garbage", Step::Reading, Wrong::Garbage, Outcome::NotWritten, Fault::BadAnswer, false)
+            .row("read, unplugged", Step::Reading, Wrong::Unplugged, Outcome::NotWritten, Fault::Unplugged,
                  false)
-            .row("review, gone", Step::review, Wrong::Gone, Outcome::notWritten, Fault::reattached, false)
-            .row("review, detached", Step::review, Wrong::Unplugged, Outcome::notWritten, Fault::detached,
+            .row("review, gone", Step::Review, Wrong::Gone, Outcome::NotWritten, Fault::Reattached, false)
+            .row("review, detached", Step::Review, Wrong::Unplugged, Outcome::NotWritten, Fault::Detached,
                  false)
-            .row("review, other", Step::review, Wrong::OtherTracker, Outcome::notWritten, Fault::otherTracker,
+            .row("review, other", Step::Review, Wrong::OtherTracker, Outcome::NotWritten, Fault::OtherTracker,
                  false)
-            .row("write, silence", Step::writing, Wrong::Silence, Outcome::notWritten, Fault::silent, false)
-            .row("write, unplugged", Step::writing, Wrong::Unplugged, Outcome::notWritten, Fault::unplugged,
+            .row("write, silence", Step::Writing, Wrong::Silence, Outcome::NotWritten, Fault::Silent, false)
+            .row("write, unplugged", Step::Writing, Wrong::Unplugged, Outcome::NotWritten, Fault::Unplugged,
                  false)
-            .row("write, refused", Step::writing, Wrong::Refused, Outcome::notWritten, Fault::refused, false)
-            .row("write, power loss", Step::writing, Wrong::PowerLoss, Outcome::unknown, Fault::unplugged,
+            .row("write, refused", Step::Writing, Wrong::Refused, Outcome::NotWritten, Fault::Refused, false)
+            .row("write, power loss", Step::Writing, Wrong::PowerLoss, Outcome::Unknown, Fault::Unplugged,
                  false)
-            .row("write, answer lost", Step::writing, Wrong::LostAnswer, Outcome::confirmed, Fault::none,
+            .row("write, answer lost", Step::Writing, Wrong::LostAnswer, Outcome::Confirmed, Fault::None,
                  true)
-            .row("write, taken by half", Step::writing, Wrong::TakesHalf, Outcome::notTaken, Fault::none,
+            .row("write, taken by half", Step::Writing, Wrong::TakesHalf, Outcome::NotTaken, Fault::None,
                  false)
-            .row("back, silence", Step::readingBack, Wrong::Silence, Outcome::unknown, Fault::silent, true)
-            .row("back, garbage", Step::readingBack, Wrong::Garbage, Outcome::unknown, Fault::badAnswer, true)
-            .row("back, unplugged", Step::readingBack, Wrong::Unplugged, Outcome::unknown, Fault::unplugged,
+            .row("back, silence", Step::ReadingBack, Wrong::Silence, Outcome::Unknown, Fault::Silent, true)
+            .row("back, garbage", Step::ReadingBack, Wrong::Garbage, Outcome::Unknown, Fault::BadAnswer, true)
+            .row("back, unplugged", Step::ReadingBack, Wrong::Unplugged, Outcome::Unknown, Fault::Unplugged,
                  true);
     }
     void everyFault()
@@ -232,25 +232,25 @@ private Q_SLOTS:
         bench.port.wrong = wrong;
         QSignalSpy silent(&bench.road, &workbench::WriteRoad::silent);
         QVERIFY(bench.begin());
-        if (at != Step::reading) {
+        if (at != Step::Reading) {
             QCOMPARE(bench.review().changes.size(), 3);
             if (wrong == Wrong::OtherTracker)
                 bench.port.number = "860000000071078";
-            if (wrong == Wrong::Unplugged && at == Step::review)
+            if (wrong == Wrong::Unplugged && at == Step::Review)
                 bench.port.number.clear();
             if (wrong == Wrong::Gone)
                 Q_EMIT bench.port.gone();
             bench.road.approve();
         }
         RoadReport report = bench.report();
-        QCOMPARE(int(report.outcome), int(outcome));
-        QCOMPARE(int(report.fault), int(fault));
+        QCOMPARE(static_cast<int>(report.outcome), static_cast<int>(outcome));
+        QCOMPARE(static_cast<int>(report.fault), static_cast<int>(fault));
         QCOMPARE(bench.port.held == kNew, holdsNew);
         QCOMPARE(silent.isEmpty(), wrong != Wrong::Silence && wrong != Wrong::LostAnswer);
         // Nothing is sent without a backup of what was there.
         QCOMPARE(report.backup > 0, bench.port.written);
         QVERIFY(report.backup == 0 || bench.backups.document(report.backup) == kOld);
-        if (outcome == Outcome::notTaken) {
+        if (outcome == Outcome::NotTaken) {
             QCOMPARE(report.missed(), 1);
             QCOMPARE(report.settings.first().change.path, QString("A/S/y"));
             QVERIFY(report.settings.first().change.after.isNull() && report.settings.first().readBack == "2");
@@ -260,12 +260,12 @@ private Q_SLOTS:
         bench.port.number = "860000000071060";
         bench.port.written = false;
         QVERIFY(bench.road.begin(report.request));
-        const bool isThere = outcome == Outcome::unknown && holdsNew;
+        const bool isThere = outcome == Outcome::Unknown && holdsNew;
         if (!isThere)
             bench.review();
         bench.road.approve();
         report = bench.report();
-        QVERIFY(report.outcome == Outcome::confirmed && bench.port.held == kNew);
+        QVERIFY(report.outcome == Outcome::Confirmed && bench.port.held == kNew);
         QCOMPARE(bench.port.written, !isThere);
         QVERIFY(!isThere || (report.isSeenLater && report.settings.size() == 3));
     }
@@ -278,32 +278,32 @@ private Q_SLOTS:
             bench.port.number = "860000000071060";
             std::tie(bench.port.at, bench.port.wrong, bench.port.written) = std::tuple(at, wrong, false);
             bench.begin();
-            if (at != Step::reading) {
+            if (at != Step::Reading) {
                 bench.review();
                 bench.road.approve();
             }
             return bench.report();
         };
-        const RoadReport lost = write(Step::readingBack, Wrong::Unplugged);
-        QVERIFY(lost.outcome == Outcome::unknown && lost.toBringBack() == 1 && lost.earlier == 0);
-        const RoadReport again = write(Step::reading, Wrong::Unplugged);
-        QVERIFY(again.outcome == Outcome::notWritten && again.toBringBack() == 1);
+        const RoadReport lost = write(Step::ReadingBack, Wrong::Unplugged);
+        QVERIFY(lost.outcome == Outcome::Unknown && lost.toBringBack() == 1 && lost.earlier == 0);
+        const RoadReport again = write(Step::Reading, Wrong::Unplugged);
+        QVERIFY(again.outcome == Outcome::NotWritten && again.toBringBack() == 1);
         bench.port.number = lost.tracker.number;
-        bench.port.at = Step::review;
+        bench.port.at = Step::Review;
         bench.begin();
-        QVERIFY(bench.report().outcome == Outcome::confirmed);
-        QCOMPARE(write(Step::reading, Wrong::Unplugged).earlier, 0);
+        QVERIFY(bench.report().outcome == Outcome::Confirmed);
+        QCOMPARE(write(Step::Reading, Wrong::Unplugged).earlier, 0);
         // It holds what it held before: nothing was taken.
         bench.port.held = kOld;
-        QVERIFY(write(Step::writing, Wrong::PowerLoss).toBringBack() == 2);
-        QCOMPARE(write(Step::writing, Wrong::Unplugged).earlier, 0);
+        QVERIFY(write(Step::Writing, Wrong::PowerLoss).toBringBack() == 2);
+        QCOMPARE(write(Step::Writing, Wrong::Unplugged).earlier, 0);
     }
 
     // The next run of the program tells of it, once.
     void tellsOfTheWriteThatNobodySawTheEndOf()
     {
         const QTemporaryDir root;
-        WriteRequest request{WriteRequest::Origin::file, kPlain, "van.xml", {}, "/kept.xml", {"A/S/x"}, {}};
+        WriteRequest request{WriteRequest::Origin::File, kPlain, "van.xml", {}, "/kept.xml", {"A/S/x"}, {}};
         request.typed = QStringList{QString("Поле: 3,5")};
         {
             Bench bench(root.path());
@@ -320,7 +320,7 @@ private Q_SLOTS:
         const QVector<RoadReport> told = next();
         QCOMPARE(told.size(), 1);
         const RoadReport& report = told.first();
-        QVERIFY(report.outcome == Outcome::unknown && report.fault == Fault::interrupted);
+        QVERIFY(report.outcome == Outcome::Unknown && report.fault == Fault::Interrupted);
         QCOMPARE(report.tracker.number + report.tracker.name, QString("860000000071060Van"));
         QCOMPARE(report.toBringBack(), 1);
         QVERIFY(report.time.secsTo(QDateTime::currentDateTime()) < 60);
@@ -335,7 +335,7 @@ private Q_SLOTS:
             bench.begin();
             bench.review();
             bench.road.approve();
-            QVERIFY(bench.report().outcome == Outcome::confirmed);
+            QVERIFY(bench.report().outcome == Outcome::Confirmed);
         }
         QVERIFY(next().isEmpty());
         for (const char* content : {"", "{", "{\"number\": 5}"}) {
@@ -352,15 +352,15 @@ private Q_SLOTS:
         const QByteArray merged =
             QByteArray(kNew).replace("</DEVICE>", QByteArray("<B page=\"B\"><S k=\"7\"/></B></DEVICE>"));
         Table({"held", "isSame", "hasBackup", "outcome", "missed", "backup"})
-            .row("what was sent", kNew, true, true, Outcome::confirmed, 0, 1)
-            .row("beside what was not sent", merged, true, true, Outcome::confirmed, 0, 1)
-            .row("what it held before", kOld, true, true, Outcome::notWritten, 3, 0)
-            .row("half of it", kHalf, true, true, Outcome::notTaken, 1, 1)
-            .row("something else", kPlain, true, true, Outcome::notTaken, 3, 1)
-            .row("what was sent, without a backup", kNew, true, false, Outcome::confirmed, 0, 0)
-            .row("what nobody can tell from something else", kOld, true, false, Outcome::notTaken, 3, 1)
-            .row("another tracker", kNew, false, true, Outcome::unknown, 0, 1)
-            .row("nothing", "<DEVICE", true, true, Outcome::unknown, 0, 1);
+            .row("what was sent", kNew, true, true, Outcome::Confirmed, 0, 1)
+            .row("beside what was not sent", merged, true, true, Outcome::Confirmed, 0, 1)
+            .row("what it held before", kOld, true, true, Outcome::NotWritten, 3, 0)
+            .row("half of it", kHalf, true, true, Outcome::NotTaken, 1, 1)
+            .row("something else", kPlain, true, true, Outcome::NotTaken, 3, 1)
+            .row("what was sent, without a backup", kNew, true, false, Outcome::Confirmed, 0, 0)
+            .row("what nobody can tell from something else", kOld, true, false, Outcome::NotTaken, 3, 1)
+            .row("another tracker", kNew, false, true, Outcome::Unknown, 0, 1)
+            .row("nothing", "<DEVICE", true, true, Outcome::Unknown, 0, 1);
     }
     void settlesWhatALaterReadShows()
     {
@@ -385,10 +385,10 @@ private Q_SLOTS:
             bench.port.number = "860000000071078";
         QSignalSpy settled(&bench.road, &workbench::WriteRoad::settled);
         bench.road.tellRead(held);
-        QCOMPARE(settled.size(), outcome == Outcome::unknown ? 0 : 1);
+        QCOMPARE(settled.size(), outcome == Outcome::Unknown ? 0 : 1);
         if (!settled.isEmpty())
             report = settled.first().first().value<RoadReport>();
-        QCOMPARE(int(report.outcome), int(outcome));
+        QCOMPARE(static_cast<int>(report.outcome), static_cast<int>(outcome));
         QTEST(report.missed(), "missed");
         QTEST(report.toBringBack(), "backup");
         // Told once.
@@ -401,21 +401,21 @@ private Q_SLOTS:
         Bench bench;
         bench.begin();
         bench.review();
-        QVERIFY(bench.road.cancel() && bench.report().outcome == Outcome::cancelled);
+        QVERIFY(bench.road.cancel() && bench.report().outcome == Outcome::Cancelled);
         bench.port.isSlow = true;
         bench.begin();
         bench.review();
         bench.road.approve();
         QSignalSpy progress(&bench.road, &workbench::WriteRoad::progressed);
         QVERIFY(progress.wait() && bench.road.cancel() && bench.port.held == kOld && bench.port.dropped > 0);
-        QVERIFY(bench.report().outcome == Outcome::cancelled);
+        QVERIFY(bench.report().outcome == Outcome::Cancelled);
         bench.port.isSlow = false;
         bench.port.written = false;
         bench.begin();
         bench.review();
         connect(&bench.road, &workbench::WriteRoad::taken, this, [&] { QVERIFY(!bench.road.cancel()); });
         bench.road.approve();
-        QVERIFY(bench.report().outcome == Outcome::confirmed);
+        QVERIFY(bench.report().outcome == Outcome::Confirmed);
     }
 
     // What may be skipped: it loses nothing and comes from this tracker.
@@ -424,23 +424,23 @@ private Q_SLOTS:
         Bench bench;
         bench.begin(kPlain);
         QVERIFY(!bench.review().mustBeSeen() && bench.road.cancel());
-        bench.road.begin({WriteRequest::Origin::file, kPlain, "van.xml", {}, {}, {}, {}});
+        bench.road.begin({WriteRequest::Origin::File, kPlain, "van.xml", {}, {}, {}, {}});
         QVERIFY(bench.review().mustBeSeen() && bench.road.cancel());
-        bench.road.begin({WriteRequest::Origin::previous, {}, {}, {}, {}, {}, {}});
+        bench.road.begin({WriteRequest::Origin::Previous, {}, {}, {}, {}, {}, {}});
         const workbench::WriteReview previous = bench.review();
         QVERIFY(previous.changes.size() == 1 && previous.request.document == kPlain &&
                 !previous.mustBeSeen() && previous.isAlwaysAsked());
         bench.road.cancel();
         // Something stands in a field that is not what is written.
-        WriteRequest typed{WriteRequest::Origin::tracker, kPlain, {}, bench.port.number, {}, {}, {}};
+        WriteRequest typed{WriteRequest::Origin::Tracker, kPlain, {}, bench.port.number, {}, {}, {}};
         typed.typed = QStringList{"Port: 3,5"};
         bench.road.begin(typed);
         const workbench::WriteReview review = bench.review();
-        QVERIFY(review.reasons() == QVector{workbench::WriteReview::Why::hasTyped} && review.mustBeSeen());
+        QVERIFY(review.reasons() == QVector{workbench::WriteReview::Why::HasTyped} && review.mustBeSeen());
         bench.road.cancel();
         bench.reports.clear();
         bench.begin(kNew.chopped(9));
-        QVERIFY(bench.report().fault == Fault::badRequest);
+        QVERIFY(bench.report().fault == Fault::BadRequest);
     }
 
     void sendsNothingWithoutABackup()
@@ -453,7 +453,7 @@ private Q_SLOTS:
             bench.road.approve();
         }
         const RoadReport report = bench.report();
-        QVERIFY(report.fault == Fault::noBackup && !report.detail.isEmpty() && !bench.port.written);
+        QVERIFY(report.fault == Fault::NoBackup && !report.detail.isEmpty() && !bench.port.written);
         QVERIFY(bench.backups.all().isEmpty());
     }
 

@@ -86,10 +86,10 @@ struct Forgotten : ShownOf<Forgotten>
 #if CASE == 11 || CASE == 12
 // Advice with a path that no setting has: of one number that is too many, or at all.
 constexpr std::array kAdvice{
-    review::advice::rule("rule", review::Severity::hint, "key")
+    review::advice::rule("rule", review::Severity::Hint, "key")
         .each(CASE == 11 ? 4 : 3)
         .naming("TRANS/SRV%1/use"),
-    review::advice::rule("rule", review::Severity::hint, "key")
+    review::advice::rule("rule", review::Severity::Hint, "key")
         .when(review::advice::below("TRACK/POINTS/dist",
                                     CASE == 12 ? "TRACK/POINTS/none" : "TRACK/POINTS/angle"))};
 static_assert(review::advice::kArePathsKnown<kAdvice>);

@@ -208,7 +208,7 @@ private:
             values_.layout().elements[values_.row(index).group].group->present && reset != "absent";
         const bool written = hidden || values_.isWritten(index);
         if (key.reset == "-")
-            check("reset", row.base().onReset == vlk::OnReset::keepsValue ? "-" : "resets", "-");
+            check("reset", row.base().onReset == vlk::OnReset::KeepsValue ? "-" : "resets", "-");
         else if (!isFree(reset))
             check("reset", written ? values_.written(index) : "absent", plain(reset));
         if (!key.values.isEmpty())
@@ -279,8 +279,9 @@ private:
             return parts.join(", ");
         }
         if (const auto* digits = row.as<vlk::Digits>()) {
-            const auto boxes = std::ranges::count_if(
-                digits->positions, [](const vlk::Position& position) { return bool(position.widget); });
+            const auto boxes = std::ranges::count_if(digits->positions, [](const vlk::Position& position) {
+                return static_cast<bool>(position.widget);
+            });
             return QString("%1 of %2").arg(boxes).arg(digits->positions.size());
         }
         if (const auto* mask = row.as<vlk::Mask>())

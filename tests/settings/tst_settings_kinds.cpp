@@ -62,8 +62,8 @@ constexpr auto kRows = rowsOf(
     link("shared", "A/shared", 7), integer("own", 3), group("W"), integer("alone", 3).notStored(), group("B"),
     hexadecimal("byte", 255).range(0, 255), text("address", "").masked("HH:HH"),
     integer("row", 0).range(1, 4).offAtZero("other box").onUnlessZero(), integer("fresh", 0),
-    choice("kept", kUses, "NU").unknownIs("NB+").ifUnoffered(Unoffered::keepsValue),
-    choice("kind", kNumbers, "0"), group("EMPTY").atSave(ElementSave::anewIfAny),
+    choice("kept", kUses, "NU").unknownIs("NB+").ifUnoffered(Unoffered::KeepsValue),
+    choice("kind", kNumbers, "0"), group("EMPTY").atSave(ElementSave::AnewIfAny),
     integer("some", 1).onlyWhen(when("B/kind", "9")),
     group("C").named("second C").onlyWhen(when("B/kind", "7")), integer("alone", 1), repeat<3>([](int) {
         return rowsOf(group("SOLE%1"), flag("on", 0), choice("list", kNumbers, "0").byNumber(),
@@ -73,7 +73,7 @@ constexpr auto kRows = rowsOf(
                           .noItemIs("-")
                           .resetTo("-")
                           .offering("")
-                          .ifUnoffered(Unoffered::keepsValue));
+                          .ifUnoffered(Unoffered::KeepsValue));
     }),
     repeat<2>([](int number) { return rowsOf(group("R%1"), integer("n%1", number)); }));
 constexpr auto kSets =
@@ -164,10 +164,10 @@ static_assert(IsShown<Mask> && !IsShown<Group> && !IsShown<Link> && !IsShown<Con
 
 // Over two sections, of which a save empties the second.
 constexpr auto kWideRows =
-    rowsOf(group("P").atSave(ElementSave::keepsOthers),
-           text("mask", "0000").atSave(OnSave::document).ifMissing(Missing::keepsValue), group("Q"),
+    rowsOf(group("P").atSave(ElementSave::KeepsOthers),
+           text("mask", "0000").atSave(OnSave::Document).ifMissing(Missing::KeepsValue), group("Q"),
            constant("page", "Q"), flag("any", 0).notStored(), flag("one", 0).notStored(),
-           choice("use", kNumbers, "0").offering("0|1").notStored().ifMissing(Missing::keepsValue),
+           choice("use", kNumbers, "0").offering("0|1").notStored().ifMissing(Missing::KeepsValue),
            integer("owner", 1), group("Q/C"), text("state", "a"), integer("ign", 0).notStored(),
            group("Q/C/I"), link("ign", "Q/C/ign", 1).ifNoElement(0),
            group("Q/E").onlyWhen(when("Q/any"), when("Q/one")).readWhen(when("Q/owner", "1")),
@@ -195,66 +195,66 @@ private Q_SLOTS:
     void reading_data()
     {
         DataTable<QString, QString, QString, Change> table({"key", "text", "value", "change"});
-        table.row("constant", "A/mode", "7", "1", Change::notOffered);
-        table.row("flag", "A/flag", "5", "1", Change::looseForm);
-        table.row("flag, no number", "A/flag", "yes", "0", Change::notANumber);
-        table.row("flag of another value", "A/line", "1", "0", Change::looseForm);
-        table.row("flag of its value", "A/line", "3", "3", Change::none);
-        table.row("leading zeros", "A/whole", "007", "7", Change::otherForm);
-        table.row("number", "A/whole", "91", "90", Change::outOfRange);
-        table.row("number with a tail", "A/whole", "12abc", "12", Change::notANumber);
-        table.row("no number", "A/whole", "abc", "1", Change::notANumber);
-        table.row("nothing", "A/whole", "", "1", Change::notANumber);
-        table.row("seconds as minutes", "A/minutes", "3605", "3600", Change::rounded);
-        table.row("off", "A/offOr", "0", "0", Change::none);
-        table.row("off, spelled otherwise", "A/offOr", "00", "0", Change::otherForm);
-        table.row("less than off", "A/offOr", "-4", "0", Change::outOfRange);
-        table.row("on", "A/offOr", "301", "300", Change::outOfRange);
-        table.row("real", "A/real", "12.34", "12.3", Change::rounded);
-        table.row("trailing zeros", "A/real", "12.30", "12.3", Change::otherForm);
-        table.row("real, no number", "A/real", "nan", "0.1", Change::notANumber);
-        table.row("real with a tail", "A/real", "2.5abc", "2.5", Change::notANumber);
-        table.row("real in single precision", "A/real", "1.05", "1.0", Change::rounded);
-        table.row("volts", "A/volts", "2010", "2010", Change::none);
-        table.row("volts between steps", "A/volts", "2014", "2010", Change::rounded);
-        table.row("text", "A/text", "123456", "12345", Change::tooLong);
-        table.row("offered", "A/use", "AIN", "AIN", Change::none);
-        table.row("known, not offered", "A/use", "PLS", "N/A", Change::notOffered);
-        table.row("unknown", "A/use", "NX+", "NU", Change::unknownCode);
-        table.row("older spelling", "A/use", "OLD", "AIN", Change::otherForm);
-        table.row("by number", "A/number", "03", "3", Change::otherForm);
-        table.row("leaves it as it stands", "A/number", "2", "1", Change::unknownCode);
-        table.row("unknown is no item", "A/chosen", "2", "9", Change::unknownCode);
-        table.row("pattern", "A/satellites", "01001", "01000", Change::otherForm);
-        table.row("no pattern", "A/satellites", "00000", "11000", Change::unknownCode);
-        table.row("period", "A/period", "3725", "3720", Change::rounded);
-        table.row("period, leading zeros", "A/period", "03720", "3720", Change::otherForm);
-        table.row("period beyond its boxes", "A/period", "999999999", "258360", Change::outOfRange);
-        table.row("period beyond a day", "A/wrapped", "90060", "3660", Change::wrapped);
-        table.row("least period", "A/least", "60", "300", Change::outOfRange);
-        table.row("digits", "A/digits", "9x", "100", Change::looseForm);
-        table.row("digits of lists", "A/lists", "231", "201", Change::looseForm);
-        table.row("digit that a list lacks", "A/lists", "301", "001", Change::notOffered);
-        table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::notOffered);
-        table.row("half of a field", "A/fields", "10010001", "10010101", Change::completed);
-        table.row("fields beyond the text", "A/fields", "0", "10000000", Change::notOffered);
-        table.row("item that a list lacks", "A/fields", "10010110", "10010101", Change::notOffered);
-        table.row("mask that is too long", "A/fields", "111101011", "11110101", Change::tooLong);
-        table.row("blank", "A/blank", "", "", Change::none);
-        table.row("bound by another", "A/safe", "1", "0", Change::none);
-        table.row("links are read elsewhere", "A/speed", "1", "1", Change::none);
-        table.row("hexadecimal", "B/byte", "0F", "0F", Change::none);
-        table.row("hexadecimal, short", "B/byte", "f", "0F", Change::otherForm);
-        table.row("hexadecimal, too much", "B/byte", "100", "FF", Change::outOfRange);
-        table.row("not hexadecimal", "B/byte", "xy", "00", Change::notANumber);
-        table.row("empty mask", "B/address", "", ":", Change::otherForm);
-        table.row("mask, filled", "B/address", "0a:Bc", "0a:Bc", Change::none);
-        table.row("mask, without its signs", "B/address", "0aBc", "0a:Bc", Change::otherForm);
-        table.row("mask, partly", "B/address", "x1:b y7:", "1:b7", Change::unknownCode);
-        table.row("any number but 0 is on", "B/row", "-4", "1", Change::outOfRange);
-        table.row("0 is off", "B/row", "0", "0", Change::none);
-        table.row("not offered, stays", "B/kept", "PLS", "NU", Change::notOffered);
-        table.row("unknown, does not", "B/kept", "NX+", "NB+", Change::unknownCode);
+        table.row("constant", "A/mode", "7", "1", Change::NotOffered);
+        table.row("flag", "A/flag", "5", "1", Change::LooseForm);
+        table.row("flag, no number", "A/flag", "yes", "0", Change::NotANumber);
+        table.row("flag of another value", "A/line", "1", "0", Change::LooseForm);
+        table.row("flag of its value", "A/line", "3", "3", Change::None);
+        table.row("leading zeros", "A/whole", "007", "7", Change::OtherForm);
+        table.row("number", "A/whole", "91", "90", Change::OutOfRange);
+        table.row("number with a tail", "A/whole", "12abc", "12", Change::NotANumber);
+        table.row("no number", "A/whole", "abc", "1", Change::NotANumber);
+        table.row("nothing", "A/whole", "", "1", Change::NotANumber);
+        table.row("seconds as minutes", "A/minutes", "3605", "3600", Change::Rounded);
+        table.row("off", "A/offOr", "0", "0", Change::None);
+        table.row("off, spelled otherwise", "A/offOr", "00", "0", Change::OtherForm);
+        table.row("less than off", "A/offOr", "-4", "0", Change::OutOfRange);
+        table.row("on", "A/offOr", "301", "300", Change::OutOfRange);
+        table.row("real", "A/real", "12.34", "12.3", Change::Rounded);
+        table.row("trailing zeros", "A/real", "12.30", "12.3", Change::OtherForm);
+        table.row("real, no number", "A/real", "nan", "0.1", Change::NotANumber);
+        table.row("real with a tail", "A/real", "2.5abc", "2.5", Change::NotANumber);
+        table.row("real in single precision", "A/real", "1.05", "1.0", Change::Rounded);
+        table.row("volts", "A/volts", "2010", "2010", Change::None);
+        table.row("volts between steps", "A/volts", "2014", "2010", Change::Rounded);
+        table.row("text", "A/text", "123456", "12345", Change::TooLong);
+        table.row("offered", "A/use", "AIN", "AIN", Change::None);
+        table.row("known, not offered", "A/use", "PLS", "N/A", Change::NotOffered);
+        table.row("unknown", "A/use", "NX+", "NU", Change::UnknownCode);
+        table.row("older spelling", "A/use", "OLD", "AIN", Change::OtherForm);
+        table.row("by number", "A/number", "03", "3", Change::OtherForm);
+        table.row("leaves it as it stands", "A/number", "2", "1", Change::UnknownCode);
+        table.row("unknown is no item", "A/chosen", "2", "9", Change::UnknownCode);
+        table.row("pattern", "A/satellites", "01001", "01000", Change::OtherForm);
+        table.row("no pattern", "A/satellites", "00000", "11000", Change::UnknownCode);
+        table.row("period", "A/period", "3725", "3720", Change::Rounded);
+        table.row("period, leading zeros", "A/period", "03720", "3720", Change::OtherForm);
+        table.row("period beyond its boxes", "A/period", "999999999", "258360", Change::OutOfRange);
+        table.row("period beyond a day", "A/wrapped", "90060", "3660", Change::Wrapped);
+        table.row("least period", "A/least", "60", "300", Change::OutOfRange);
+        table.row("digits", "A/digits", "9x", "100", Change::LooseForm);
+        table.row("digits of lists", "A/lists", "231", "201", Change::LooseForm);
+        table.row("digit that a list lacks", "A/lists", "301", "001", Change::NotOffered);
+        table.row("fields of a mask", "A/fields", "01001101", "11110101", Change::NotOffered);
+        table.row("half of a field", "A/fields", "10010001", "10010101", Change::Completed);
+        table.row("fields beyond the text", "A/fields", "0", "10000000", Change::NotOffered);
+        table.row("item that a list lacks", "A/fields", "10010110", "10010101", Change::NotOffered);
+        table.row("mask that is too long", "A/fields", "111101011", "11110101", Change::TooLong);
+        table.row("blank", "A/blank", "", "", Change::None);
+        table.row("bound by another", "A/safe", "1", "0", Change::None);
+        table.row("links are read elsewhere", "A/speed", "1", "1", Change::None);
+        table.row("hexadecimal", "B/byte", "0F", "0F", Change::None);
+        table.row("hexadecimal, short", "B/byte", "f", "0F", Change::OtherForm);
+        table.row("hexadecimal, too much", "B/byte", "100", "FF", Change::OutOfRange);
+        table.row("not hexadecimal", "B/byte", "xy", "00", Change::NotANumber);
+        table.row("empty mask", "B/address", "", ":", Change::OtherForm);
+        table.row("mask, filled", "B/address", "0a:Bc", "0a:Bc", Change::None);
+        table.row("mask, without its signs", "B/address", "0aBc", "0a:Bc", Change::OtherForm);
+        table.row("mask, partly", "B/address", "x1:b y7:", "1:b7", Change::UnknownCode);
+        table.row("any number but 0 is on", "B/row", "-4", "1", Change::OutOfRange);
+        table.row("0 is off", "B/row", "0", "0", Change::None);
+        table.row("not offered, stays", "B/kept", "PLS", "NU", Change::NotOffered);
+        table.row("unknown, does not", "B/kept", "NX+", "NB+", Change::UnknownCode);
     }
     void reading()
     {

@@ -68,7 +68,7 @@ inline TmiPage_Zeta3::ValueBlock plausibleBlock(std::mt19937& random)
     std::ranges::generate(block, [&] { return static_cast<std::uint8_t>(random()); });
     for (const Element& element : kElements) {
         const float plausible = static_cast<float>(random() % 100000) / 100;
-        if (element.type == ValueType::f32)
+        if (element.type == ValueType::F32)
             qToLittleEndian(std::bit_cast<quint32>(plausible), block.data() + element.offset);
     }
     return block;

@@ -48,7 +48,7 @@ protected:
         QVERIFY(!ScriptedHost::window("VLK_Widget_Tmi_View"));
         std::uint8_t answer = 7;
         host.send(Message::PrepareTelemetry, &answer);
-        QCOMPARE(int(answer), 0);
+        QCOMPARE(static_cast<int>(answer), 0);
         QVERIFY(ScriptedHost::window("VLK_Widget_Tmi_View")->isHidden());
     }
 

@@ -16,13 +16,13 @@ inline TelemetryPages drive()
 {
     TelemetryPages pages;
     for (int i = 0; i < 40; ++i)
-        pages.push_back(recordOf({{"NumPage", quint64(1000 + i)},
-                                  {"Code", quint64(i == 7 || i == 30 ? 35 : 2)},
-                                  {"Time", quint64(1738400400 + 60 * i)},
-                                  {"Power", quint64(12000 + 100 * i)},
-                                  {"StateIn1", quint64(i % 2)},
+        pages.push_back(recordOf({{"NumPage", static_cast<quint64>(1000 + i)},
+                                  {"Code", static_cast<quint64>(i == 7 || i == 30 ? 35 : 2)},
+                                  {"Time", static_cast<quint64>(1738400400 + 60 * i)},
+                                  {"Power", static_cast<quint64>(12000 + 100 * i)},
+                                  {"StateIn1", static_cast<quint64>(i % 2)},
                                   {"Latitude", 33900000},
-                                  {"Longitude", quint32(-300001)},
+                                  {"Longitude", static_cast<quint32>(-300001)},
                                   {"Temp1", 128}}));
     return pages;
 }
@@ -56,7 +56,7 @@ protected:
         origin.titles.temperatures[0] = "Cabin";
         origin.titles.userTypes[0] = "s";
         const QString path = folder_.filePath("telemetry.xml");
-        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, storeOf(pages), origin));
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::Xml, storeOf(pages), origin));
         open(path);
         window = ScriptedHost::window("VLK_Widget_Tmi_Table");
         if (firstSize_.isEmpty())

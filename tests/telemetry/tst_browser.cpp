@@ -24,7 +24,7 @@ TelemetryPages numbered(const QVector<int>& numbers, quint64 code = 0)
 {
     TelemetryPages pages;
     for (const int number : numbers)
-        pages.push_back(recordOf({{"NumPage", quint64(number)}, {"Code", code}}));
+        pages.push_back(recordOf({{"NumPage", static_cast<quint64>(number)}, {"Code", code}}));
     return pages;
 }
 
@@ -255,10 +255,10 @@ private Q_SLOTS:
     {
         const TelemetryPages pages = numbered({11111, 11112, 11113}, 3);
         const QByteArray xml = readFile(write(pages));
-        QByteArray binary = readFile(write(pages, TelemetryForm::binary));
+        QByteArray binary = readFile(write(pages, TelemetryForm::Binary));
         const QByteArray wholeBinary = binary;
         binary[128 + 42 + 2] = 9; // the second record's type
-        QByteArray joined = readFile(write(numbered({11111, 11112, 11113, 11114}, 3), TelemetryForm::binary));
+        QByteArray joined = readFile(write(numbered({11111, 11112, 11113, 11114}, 3), TelemetryForm::Binary));
         joined.remove(128 + 42 + 40, 42); // one of two halves
         const QStringList all{"11111", "11112", "11113"};
         DataTable<QByteArray, QStringList, QString>({"content", "numbers", "bar"})
@@ -349,7 +349,7 @@ private Q_SLOTS:
     }
 
 private:
-    QString write(const TelemetryPages& pages, TelemetryForm form = TelemetryForm::xml)
+    QString write(const TelemetryPages& pages, TelemetryForm form = TelemetryForm::Xml)
     {
         TelemetryOrigin origin;
         origin.titles.inputs[0] = "Door";

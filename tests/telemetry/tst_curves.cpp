@@ -127,7 +127,8 @@ void TestCurves::losesNoExtreme()
     for (int step = 0; step < 40; ++step) {
         const bool isSilent = step % 4 == 1;
         for (unsigned more = random() % 300; more > 0; --more)
-            numbers.push_back(isSilent || random() % 20 == 0 ? kNone : double(random() % 100'000));
+            numbers.push_back(isSilent || random() % 20 == 0 ? kNone
+                                                             : static_cast<double>(random() % 100'000));
         pyramid.grow(numbers);
         const std::size_t last = random() % (numbers.size() + 1);
         const std::size_t first = random() % (last + 1);
@@ -187,7 +188,7 @@ void TestCurves::showsWhatThereIs()
     QVERIFY(legend->accessibleDescription().isEmpty());
     // The engine first, which is the last to lose its room.
     CurvesModel model(records_.get(), nullptr);
-    model.show({"StateIn1.0", "Module1.7"}, CurvesModel::Choice::chosen);
+    model.show({"StateIn1.0", "Module1.7"}, CurvesModel::Choice::Chosen);
     QCOMPARE(model.shownNames(), QStringList({"Module1.7", "StateIn1.0"}));
     QVERIFY(model.bands().size() > 2 && model.bands()[1].name.isEmpty()); // the stops
     // Before it the ignition, where an input changes with its events.
@@ -207,7 +208,7 @@ void TestCurves::showsWhatThereIs()
     CurvesModel lit(&others, nullptr);
     others.setContents(std::move(ignited));
     QTRY_VERIFY(!others.isLeftToDo());
-    lit.show({"Module1.7", "StateIn1.0"}, CurvesModel::Choice::chosen);
+    lit.show({"Module1.7", "StateIn1.0"}, CurvesModel::Choice::Chosen);
     QCOMPARE(lit.shownNames(), QStringList({"StateIn1.0", "Module1.7"}));
     QVERIFY(lit.bands()[1].name.isEmpty());
     // Litres stand before the code.
@@ -223,9 +224,9 @@ void TestCurves::showsWhatThereIs()
     QCOMPARE(line(), told);
     // Without a value in any record they are shown to who chose them alone.
     records_->setComputed({{"litres", "Tank", "l", NumberColumn(3000, kNone)}});
-    model.show({"*", "Speed"}, CurvesModel::Choice::offered);
+    model.show({"*", "Speed"}, CurvesModel::Choice::Offered);
     QCOMPARE(model.shownNames(), QStringList("Speed"));
-    model.show({"*"}, CurvesModel::Choice::chosen);
+    model.show({"*"}, CurvesModel::Choice::Chosen);
     QCOMPARE(model.shownNames(), QStringList("litres"));
     QVERIFY(model.extremesAt(0, records_->wholeTime()).isEmpty());
     QImage image(600, 300, QImage::Format_RGB32);
@@ -240,7 +241,7 @@ void TestCurves::standsOnTheFootWithoutValue()
     const auto rowOfZero = [this](const NumberColumn& litres) {
         records_->setComputed({{"litres", "Tank", "l", litres}});
         CurvesModel model(records_.get(), nullptr);
-        model.show({"litres"}, CurvesModel::Choice::chosen);
+        model.show({"litres"}, CurvesModel::Choice::Chosen);
         QImage image(600, 300, QImage::Format_RGB32);
         image.fill(Qt::white);
         {
@@ -423,7 +424,7 @@ void TestCurves::printsAsItShows()
     printer.setOutputFileName(path);
     QPainter painter(&printer);
     CurvesModel model(records_.get(), nullptr);
-    model.show({QStringLiteral("Speed")}, CurvesModel::Choice::chosen);
+    model.show({QStringLiteral("Speed")}, CurvesModel::Choice::Chosen);
     paintCurves(painter, {1200, 600}, model, records_->wholeTime(), {});
     painter.end();
     const QByteArray pdf = readFile(path);

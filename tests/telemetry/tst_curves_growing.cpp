@@ -68,7 +68,7 @@ void TestCurvesGrowing::leavesOutDamagedTimes()
         store.add(30, parts.mask, parts.block);
     }
     open(std::move(store));
-    QCOMPARE(records_->wholeTime(), (TimeSpan{double(kTruckStart), kTruckStart + 1560.0}));
+    QCOMPARE(records_->wholeTime(), (TimeSpan{static_cast<double>(kTruckStart), kTruckStart + 1560.0}));
     records_->setCurrent(50);
     QCOMPARE(records_->inSight(), records_->wholeTime());
     key(Qt::Key_Left);
@@ -86,8 +86,9 @@ void TestCurvesGrowing::leavesTurnsToOthers()
     const auto* const place = track.findChild<QLabel*>(QStringLiteral("label_TrackPlace"));
     const auto* const figures = summary.findChild<QTableView*>(QStringLiteral("tableView_Summary"));
     const auto made = [&] {
-        return int(!legend->accessibleDescription().isEmpty()) +
-               int(place->text().contains(QLatin1Char(','))) + int(figures->model()->rowCount() > 0);
+        return static_cast<int>(!legend->accessibleDescription().isEmpty()) +
+               static_cast<int>(place->text().contains(QLatin1Char(','))) +
+               static_cast<int>(figures->model()->rowCount() > 0);
     };
     const RecordStore many = truckRecords(ShownRecords::kMostAtOnce + 1);
     const RecordStore few = truckRecords(3000);
@@ -116,10 +117,10 @@ void TestCurvesGrowing::leavesTurnsToOthers()
     later->records = few;
     records_->prepare(later);
     open(many);
-    QCOMPARE(records_->byTime().size(), std::size_t(many.size()));
+    QCOMPARE(records_->byTime().size(), static_cast<std::size_t>(many.size()));
     records_->prepare(later);
     records_->setContents(later);
-    QCOMPARE(records_->byTime().size(), std::size_t(few.size()));
+    QCOMPARE(records_->byTime().size(), static_cast<std::size_t>(few.size()));
     QCOMPARE(made(), 3);
 
     // What lasts longer than a moment tells how far it is, to its end or until others are opened.

@@ -130,12 +130,12 @@ void TestCurvesMoves::staysInSightByMouse()
         QToolTip::hideText();
         QTRY_VERIFY(!QToolTip::isVisible());
     }
-    records_->setInSight({double(kTruckStart), kTruckStart + 60.0});
+    records_->setInSight({static_cast<double>(kTruckStart), kTruckStart + 60.0});
     hover(canvas());
     QVERIFY(!QToolTip::isVisible());
     // Be it short: records are missing in it.
     const QByteArray later = RecordParts{{"NumPage", 100'005}, {"Time", kTruckStart + 61 + gap}}.bytes();
-    records_->append(bytesAt(later.constData(), later.size()), ShownRecords::Current::stays);
+    records_->append(bytesAt(later.constData(), later.size()), ShownRecords::Current::Stays);
     records_->setInSight({kTruckStart + 60.0 + gap, kTruckStart + 61.0 + gap});
     hover(canvas());
     QCOMPARE(QToolTip::text(), QStringLiteral("rec_450 rec_600"));

@@ -146,12 +146,12 @@ private Q_SLOTS:
         const TelemetryContents contents = readBack(readTelemetryXml, file);
         QVector<int> damages;
         for (const FileDamage& damage : contents.damages)
-            damages << damage.kind << int(damage.offset) << int(damage.bytes);
+            damages << damage.kind << static_cast<int>(damage.offset) << static_cast<int>(damage.bytes);
         QTEST(damages, "damages");
         QTEST(contents.records.size(), "pages");
         QTEST(contents.lastIsCut, "lastIsCut");
         const TelemetryContents salvaged =
-            readBack(readWhole<TelemetryXmlReader, TelemetryReading>, file, TelemetryReading::salvage);
+            readBack(readWhole<TelemetryXmlReader, TelemetryReading>, file, TelemetryReading::Salvage);
         QTEST(numbers(salvaged.records), "salvaged");
         QCOMPARE(contents.mayHideMore, damages.value(0) == FileDamage::SharedLine);
         QVERIFY(contents.mayHideMore || contents.hidden >= salvaged.records.size() - contents.records.size());

@@ -58,7 +58,7 @@ RecordStore track(const QString& points)
 QString segmentsOf(ExportForm form, const QByteArray& file)
 {
     QStringList segments;
-    if (form == ExportForm::geojson) {
+    if (form == ExportForm::Geojson) {
         const QJsonArray features = QJsonDocument::fromJson(file)["features"].toArray();
         for (const QJsonValue& feature : features) {
             const QJsonObject geometry = feature["geometry"].toObject();
@@ -135,18 +135,18 @@ private Q_SLOTS:
         options.columns = {findElement(element.toStdString()).value()};
         options.origin.titles.userTypes[0] = QStringLiteral("s");
         options.origin.titles.userTypes[31] = QStringLiteral("f");
-        const QStringList lines = QString(exported(ExportForm::tsv, store, options)).split('\n');
+        const QStringList lines = QString(exported(ExportForm::Tsv, store, options)).split('\n');
         QCOMPARE(lines[0], heading);
         QTEST(lines[1], "cell");
         options.raw = true;
-        QTEST(QString(exported(ExportForm::tsv, store, options)).split('\n')[1], "rawCell");
+        QTEST(QString(exported(ExportForm::Tsv, store, options)).split('\n')[1], "rawCell");
         options.raw = false;
         options.decimalComma = true;
-        const QString comma = QString(exported(ExportForm::csv, store, options)).split("\r\n")[1];
+        const QString comma = QString(exported(ExportForm::Csv, store, options)).split("\r\n")[1];
         QCOMPARE(comma, QString(lines[1]).replace('.', ',').replace('\t', ';'));
         options.raw = true;
         const QJsonObject line =
-            QJsonDocument::fromJson(exported(ExportForm::ndjson, store, options)).object();
+            QJsonDocument::fromJson(exported(ExportForm::Ndjson, store, options)).object();
         QFETCH(QString, rawCell);
         if (rawCell == "nan")
             QCOMPARE(line[element].toString(), rawCell);
@@ -163,18 +163,18 @@ private Q_SLOTS:
             const QByteArray bytes = record.bytes();
             store.add(bytesAt(bytes.constData(), bytes.size()));
         }
-        QVERIFY(exported(ExportForm::csv, store).contains("\r\n,"));
+        QVERIFY(exported(ExportForm::Csv, store).contains("\r\n,"));
         for (const bool isRaw : {false, true}) {
             ExportOptions options;
             options.raw = isRaw;
-            QVERIFY(exported(ExportForm::ndjson, store, options).contains("{\"number\":null,"));
+            QVERIFY(exported(ExportForm::Ndjson, store, options).contains("{\"number\":null,"));
         }
         // Read again it is not there either.
-        for (const ExportForm form : {ExportForm::xml, ExportForm::tmi}) {
+        for (const ExportForm form : {ExportForm::Xml, ExportForm::Tmi}) {
             QByteArray file = exported(form, store);
             QBuffer device(&file);
             device.open(QIODevice::ReadOnly);
-            const RecordStore read = form == ExportForm::xml ? readTelemetryXml(device).records
+            const RecordStore read = form == ExportForm::Xml ? readTelemetryXml(device).records
                                                              : readTelemetryBinary(device).records;
             QCOMPARE(read.size(), 2);
             QVERIFY(!read.layout(1).has(element("NumPage")) && read.layout(0).has(element("NumPage")));
@@ -191,7 +191,7 @@ private Q_SLOTS:
         store.add(bytesAt(packet.constData(), packet.size()));
         ExportOptions options;
         options.origin.trackerId = QStringLiteral("truck\t1");
-        const QByteArrayList csv = exported(ExportForm::csv, store, options).split('\n');
+        const QByteArrayList csv = exported(ExportForm::Csv, store, options).split('\n');
         QCOMPARE(csv[0], QByteArray("NumPage,Code,Time,State,StateNGauge,LastTime,\"Latitude, abbr_016\","
                                     "\"Longitude, abbr_016\",\"Altitude, abbr_022\",\"Speed, abbr_024\","
                                     "\"Course, abbr_016\",\"Run, abbr_023\",\"Power, abbr_011\",StateOut1,"
@@ -202,12 +202,12 @@ private Q_SLOTS:
                             "{\"\"type\"\":2,\"\"size\"\":16,\"\"value\"\":\"\"A\\\"\"\\u0009\"\"}]\"\r"));
         options.archive = true;
         options.raw = true;
-        const QByteArrayList tsv = exported(ExportForm::tsv, store, options).split('\n');
+        const QByteArrayList tsv = exported(ExportForm::Tsv, store, options).split('\n');
         QCOMPARE(tsv[0].count('\t'), kElementCount + 1);
         QVERIFY(tsv[1].startsWith("truck\\t1\t7\t0\t1700000000\t\\N\t"));
         QVERIFY(tsv[1].endsWith("\t\\N"));
         QVERIFY(tsv[2].endsWith("\"value\":\"A\\\\\"\\\\u0009\"}]"));
-        const QByteArrayList raw = exported(ExportForm::ndjson, store, options).split('\n');
+        const QByteArrayList raw = exported(ExportForm::Ndjson, store, options).split('\n');
         QCOMPARE(raw[0],
                  QByteArray("{\"number\":7,\"NumPage\":7,\"Code\":0,\"Time\":1700000000,\"Power\":1}"));
         const QJsonObject line = QJsonDocument::fromJson(raw[1]).object();
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QCOMPARE(line["Motochas"].toInt(), 3600);
         options.raw = false;
         const QJsonObject texts =
-            QJsonDocument::fromJson(exported(ExportForm::ndjson, store, options).split('\n')[1]).object();
+            QJsonDocument::fromJson(exported(ExportForm::Ndjson, store, options).split('\n')[1]).object();
         QCOMPARE(texts["Course"].toString(), QString("270"));
         QCOMPARE(texts["State.5"].toString(), QString("wrd_002"));
         QCOMPARE(texts["Dynamic"].toArray()[0].toString(), QString("tmizta_361: 123 (0x00000000007B)"));
@@ -244,9 +244,9 @@ private Q_SLOTS:
         const RecordStore store = track(points);
         ExportOptions options;
         options.title = QString::fromUtf8("]]><&\"'\x01\\Ж");
-        QTEST(segmentsOf(ExportForm::gpx, exported(ExportForm::gpx, store, options)), "segments");
-        QTEST(segmentsOf(ExportForm::kml, exported(ExportForm::kml, store, options)), "segments");
-        QTEST(segmentsOf(ExportForm::geojson, exported(ExportForm::geojson, store, options)), "inGeoJson");
+        QTEST(segmentsOf(ExportForm::Gpx, exported(ExportForm::Gpx, store, options)), "segments");
+        QTEST(segmentsOf(ExportForm::Kml, exported(ExportForm::Kml, store, options)), "segments");
+        QTEST(segmentsOf(ExportForm::Geojson, exported(ExportForm::Geojson, store, options)), "inGeoJson");
     }
 
     // By a program that is not ours.
@@ -258,7 +258,7 @@ private Q_SLOTS:
         for (int i = 0; i < 6000; ++i)
             points += QStringLiteral("%1%2 55.%3 37.5").arg(i ? ", " : "").arg(10 * i).arg(100000 + i);
         const QTemporaryDir folder;
-        for (const auto& [form, name] : {std::pair(ExportForm::gpx, "gpx"), {ExportForm::kml, "kml"}}) {
+        for (const auto& [form, name] : {std::pair(ExportForm::Gpx, "gpx"), {ExportForm::Kml, "kml"}}) {
             QFile file(folder.filePath(name));
             QVERIFY(file.open(QIODevice::WriteOnly));
             QVERIFY(exportRecords(file, track(points), form, {}));

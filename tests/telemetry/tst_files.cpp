@@ -103,7 +103,7 @@ private Q_SLOTS:
         // The way back: the entry of an unknown type has no line, the rest is there.
         const TelemetryContents contents = readBack(readTelemetryXml, head + pages);
         const TelemetryPages wanted = samplePages();
-        QCOMPARE(contents.records.size(), int(wanted.size()));
+        QCOMPARE(contents.records.size(), static_cast<int>(wanted.size()));
         QCOMPARE(contents.records.at(0)->raw(element("NaviHDop")), quint64{12});
         QCOMPARE(contents.records.at(0)->valueBlock(), wanted[0]->valueBlock());
         QCOMPARE(contents.records.at(1)->extra().countedBytes(), quint16{93});
@@ -361,10 +361,10 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("records.xml"));
-        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, storeOf(samplePages()), sampleOrigin()));
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::Xml, storeOf(samplePages()), sampleOrigin()));
         std::mt19937 random(3);
         const TelemetryPages many = randomPages(random, 100);
-        for (const TelemetryForm form : {TelemetryForm::xml, TelemetryForm::csv, TelemetryForm::binary}) {
+        for (const TelemetryForm form : {TelemetryForm::Xml, TelemetryForm::Csv, TelemetryForm::Binary}) {
             // In the first write, between two, and in the last one.
             for (const rlim_t room : {rlim_t{1000}, rlim_t{30'000}}) {
                 QTest::ignoreMessage(QtWarningMsg,

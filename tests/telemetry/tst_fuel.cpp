@@ -73,13 +73,13 @@ std::vector<Told> standing(const std::vector<double>& litres, quint32 from = 0, 
     std::vector<Told> records;
     records.reserve(litres.size());
     for (const double each : litres)
-        records.push_back({from + step * quint32(records.size()), each});
+        records.push_back({from + step * static_cast<quint32>(records.size()), each});
     return records;
 }
 
 std::vector<double> times(int count, double litres)
 {
-    return std::vector<double>(std::size_t(count), litres);
+    return std::vector<double>(static_cast<std::size_t>(count), litres);
 }
 
 template <class Item>
@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(found ? static_cast<int>(*found) : -1, fault);
         if (found)
             return;
-        QCOMPARE(std::get<Calibration>(read).rows.size(), std::size_t(2));
+        QCOMPARE(std::get<Calibration>(read).rows.size(), std::size_t{2});
         QCOMPARE(FuelCurve(std::get<Calibration>(read).rows, LevelKind::Code).litres(99), 9.5);
     }
 
@@ -251,7 +251,7 @@ private Q_SLOTS:
         parked.resize(20);
         parked.push_back({1200, 300, 0, kIgnitionOff, false});
         for (const auto& [second, litres] : {std::pair(1440U, 300), {1740U, 300}, {1980U, 320}})
-            parked.push_back({second, double(litres), 0, 5, false});
+            parked.push_back({second, static_cast<double>(litres), 0, 5, false});
         parked.push_back({2280, 345, 0, kIgnitionOn});
         for (quint32 i = 1; i < 30; ++i)
             parked.push_back({2280 + i * 60, 345});
@@ -296,8 +296,8 @@ private Q_SLOTS:
                         .arg(event.time - kStart)
                         .arg(event.until - kStart);
             QCOMPARE(event.latitude, 60.0);
-            QCOMPARE(columns.times()[std::size_t(event.record)], event.time);
-            QCOMPARE(columns.times()[std::size_t(event.last)], event.until);
+            QCOMPARE(columns.times()[static_cast<std::size_t>(event.record)], event.time);
+            QCOMPARE(columns.times()[static_cast<std::size_t>(event.last)], event.until);
         }
         QCOMPARE(told.join(' '), found);
     }
@@ -330,10 +330,10 @@ private Q_SLOTS:
         QCOMPARE(sum.greatestSpeed, 60.0);
         QCOMPARE(sum.missing, 0.0);
         QCOMPARE(sum.withoutFix, 0.0);
-        QCOMPARE(journey.days(0).size(), std::size_t(1));
+        QCOMPARE(journey.days(0).size(), std::size_t{1});
         const std::vector<JourneySummary> days =
             journey.days(3 * 3600); // midnight is 33 minutes behind the start
-        QCOMPARE(days.size(), std::size_t(2));
+        QCOMPARE(days.size(), std::size_t{2});
         QCOMPARE(days[0].records + days[1].records, sum.records);
         QCOMPARE(days[0].records, 34);
         QCOMPARE(journey.summary(0, 1).records, 0);
@@ -374,7 +374,7 @@ private Q_SLOTS:
         QTEST(told(sum), "told");
         QVERIFY(std::abs(sum.fuelUsed()) < 0.5);
         const std::vector<JourneySummary> days = journey.days(3 * 3600);
-        QCOMPARE(days.size(), std::size_t(2));
+        QCOMPARE(days.size(), std::size_t{2});
         QCOMPARE(told(days[0]), QString("300-250 1:50"));
         QCOMPARE(told(days[1]), QString("250-250 0:0"));
     }
@@ -382,7 +382,7 @@ private Q_SLOTS:
     // What no record tells is no 0.
     void journeyOfNothing_data()
     {
-        const auto speed = [](float kmh) { return quint64(std::bit_cast<quint32>(kmh)); };
+        const auto speed = [](float kmh) { return static_cast<quint64>(std::bit_cast<quint32>(kmh)); };
         const quint64 none = speed(std::numeric_limits<float>::quiet_NaN());
         DataTable<RecordParts, QString>({"told", "known"})
             .row("nothing", {}, "")
@@ -450,13 +450,13 @@ private Q_SLOTS:
         QFETCH(QVector<int>, seconds);
         RecordStore store;
         for (int i = 0; i < numbers.size(); ++i) {
-            const RecordParts parts{{"NumPage", quint64(numbers[i])},
-                                    {"Time", quint64(kStart + seconds.value(i, 60 * i))}};
+            const RecordParts parts{{"NumPage", static_cast<quint64>(numbers[i])},
+                                    {"Time", static_cast<quint64>(kStart + seconds.value(i, 60 * i))}};
             store.add(30, parts.mask, parts.block);
         }
         RecordColumns columns(store);
-        QTEST(int(columns.missingUpTo().back()), "missing");
-        QTEST(int(Journey(columns, {}, {}).summary(0, 4e9).missing), "missing");
+        QTEST(static_cast<int>(columns.missingUpTo().back()), "missing");
+        QTEST(static_cast<int>(Journey(columns, {}, {}).summary(0, 4e9).missing), "missing");
     }
 
     // A straight line over records that are missing is no way, one over a time without records is the least.
@@ -467,7 +467,7 @@ private Q_SLOTS:
                 storeOf({{0, 9, 60}, {60, 9, 60, 2, true, 30.01}, {9000, 9, 60, 2, true, 31, missing}});
             RecordColumns columns(store);
             const JourneySummary sum = Journey(columns, {}, {}).summary(0, 4e9);
-            QCOMPARE(sum.missing, double(missing));
+            QCOMPARE(sum.missing, static_cast<double>(missing));
             QVERIFY(std::isnan(sum.metres) || (sum.metres < 600) == (missing > 0));
         }
     }

@@ -107,7 +107,7 @@ private Q_SLOTS:
         QSignalSpy changed(view_.get(), &FuelView::fuelChanged);
         choose(good_);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(view_->litres().size(), std::size_t(40));
+        QCOMPARE(view_->litres().size(), std::size_t{40});
         const auto copied = [this] {
             QTest::mouseClick(view_->findChild<QPushButton*>("pushButton_CopyFuel"), Qt::LeftButton);
             return QApplication::clipboard()->text();
@@ -160,7 +160,7 @@ private Q_SLOTS:
             const QModelIndexList chosen = table()->selectionModel()->selectedRows();
             QVERIFY(chosen.size() == 1 && chosen.front().row() == line);
         }
-        QCOMPARE(int(view_->litres().size()), 60);
+        QCOMPARE(static_cast<int>(view_->litres().size()), 60);
     }
 
     void saysWhatIsWrongWithATable_data()
@@ -264,7 +264,7 @@ private Q_SLOTS:
     {
         const QString path = folder_.filePath("damaged.xml");
         const TelemetryContents whole = drained();
-        QVERIFY(saveTelemetryFile(path, TelemetryForm::xml, whole.records, whole.origin));
+        QVERIFY(saveTelemetryFile(path, TelemetryForm::Xml, whole.records, whole.origin));
         QByteArray content = readFile(path);
         for (int damaged = 0, at = 0; damaged < 3; ++damaged) {
             at = content.indexOf("2510<", at);

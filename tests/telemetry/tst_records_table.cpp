@@ -43,7 +43,7 @@ private Q_SLOTS:
                                {"Temp1", 128},
                                {"User1Byte_1", 251},
                                {"Latitude", 33900000},
-                               {"Longitude", quint32(-300001)}}),
+                               {"Longitude", static_cast<quint32>(-300001)}}),
                      packetOf(navigationOf(9, 0), kSecondHead.mid(2), cardEntry("card"))));
         // Number and time first; the file's name of a sensor, and the unit, in the head. No record has a
         // value of Temp1.
@@ -123,8 +123,8 @@ private Q_SLOTS:
         QFETCH(std::function<void()>, change);
         TelemetryPages pages;
         for (int i = 0; i < 3000; ++i)
-            pages.push_back(recordOf({{"NumPage", quint64(i)},
-                                      {"Time", quint64(1738400400 + 60 * i)},
+            pages.push_back(recordOf({{"NumPage", static_cast<quint64>(i)},
+                                      {"Time", static_cast<quint64>(1738400400 + 60 * i)},
                                       {"Power", 12000},
                                       {"Latitude", 33900000}}));
         show(pages);
@@ -182,7 +182,8 @@ private Q_SLOTS:
     {
         TelemetryPages pages;
         for (int i = 0; i < 3000; ++i)
-            pages.push_back(recordOf({{"NumPage", quint64(i)}, {"Temp1", quint64(i == 2001 ? 20 : 128)}}));
+            pages.push_back(recordOf({{"NumPage", static_cast<quint64>(i)},
+                                      {"Temp1", static_cast<quint64>(i == 2001 ? 20 : 128)}}));
         show(pages);
         QTRY_VERIFY(isShown("T1"));
     }

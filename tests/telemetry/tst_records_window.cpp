@@ -149,14 +149,14 @@ private Q_SLOTS:
         // the whole, the rows on show, two chosen rows; lines or points in the file, or what is told
         using Row = DataTable<int, ExportForm, QString, int, bool, QString>;
         Row({"what", "form", "typed", "count", "isDiskFull", "told"})
-            .row("whole, CSV", 2, ExportForm::csv, "a.csv", 41, false, "rec_096")
-            .row("on show, TSV", 0, ExportForm::tsv, "a.tsv", 6, false, "rec_096")
-            .row("chosen, as lines", 1, ExportForm::ndjson, "a", 2, false, "rec_096")
-            .row("track", 2, ExportForm::gpx, "a.gpx", 40, false, "rec_096")
-            .row("another form's ending", 2, ExportForm::csv, "a.GPX", 40, false, "rec_096. rec_470")
-            .row("an ending of none", 2, ExportForm::csv, "a.txt", 41, false, "rec_096. rec_510")
-            .row("a date in the name", 2, ExportForm::gpx, "Рейс 22.11.2026", 40, false, "rec_096")
-            .row("full disk", 2, ExportForm::xml, "a.xml", 0, true, "tmiw_275");
+            .row("whole, CSV", 2, ExportForm::Csv, "a.csv", 41, false, "rec_096")
+            .row("on show, TSV", 0, ExportForm::Tsv, "a.tsv", 6, false, "rec_096")
+            .row("chosen, as lines", 1, ExportForm::Ndjson, "a", 2, false, "rec_096")
+            .row("track", 2, ExportForm::Gpx, "a.gpx", 40, false, "rec_096")
+            .row("another form's ending", 2, ExportForm::Csv, "a.GPX", 40, false, "rec_096. rec_470")
+            .row("an ending of none", 2, ExportForm::Csv, "a.txt", 41, false, "rec_096. rec_510")
+            .row("a date in the name", 2, ExportForm::Gpx, "Рейс 22.11.2026", 40, false, "rec_096")
+            .row("full disk", 2, ExportForm::Xml, "a.xml", 0, true, "tmiw_275");
     }
     void exporting()
     {
@@ -224,16 +224,16 @@ private Q_SLOTS:
     {
         show(drive());
         QVERIFY(QDir(folder_.path()).mkpath("office"));
-        exportTo(ExportForm::gpx, folder_.filePath("office/a.gpx"));
+        exportTo(ExportForm::Gpx, folder_.filePath("office/a.gpx"));
         QString begins;
-        exportTo(ExportForm::gpx, folder_.filePath("b.gpx"), &begins);
+        exportTo(ExportForm::Gpx, folder_.filePath("b.gpx"), &begins);
         QCOMPARE(begins, folder_.filePath("office"));
         QCOMPARE(text("label_Damage"), QString("rec_096"));
         // What a track has no place for is told.
         TelemetryPages pages = drive();
         pages.push_back(recordOf({{"NumPage", 1040}, {"Time", 1738402800}}));
         show(pages);
-        exportTo(ExportForm::gpx, folder_.filePath("c.gpx"));
+        exportTo(ExportForm::Gpx, folder_.filePath("c.gpx"));
         QCOMPARE(text("label_Damage"), QString("rec_096. rec_651"));
     }
 
@@ -283,7 +283,7 @@ private Q_SLOTS:
         QCOMPARE(text("label_Damage"), QString());
 
         // Esc that comes late for what took a while closes nothing.
-        exportTo(ExportForm::xml, folder_.filePath("late.xml"));
+        exportTo(ExportForm::Xml, folder_.filePath("late.xml"));
         QTRY_VERIFY(bar->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!bar->isVisible(), 60'000);
         QTest::keyClick(table_, Qt::Key_Escape);
@@ -291,7 +291,7 @@ private Q_SLOTS:
 
         // An export does not go on unseen.
         const QString out = folder_.filePath("all.xml");
-        exportTo(ExportForm::xml, out);
+        exportTo(ExportForm::Xml, out);
         for (const bool ends : {false, true}) {
             QTRY_VERIFY(bar->isVisible());
             ScriptedHost::whenModal([ends](QWidget* box) {
@@ -374,7 +374,7 @@ private Q_SLOTS:
         QTest::keyClick(table_, Qt::Key_C, Qt::ControlModifier);
         QVERIFY(QApplication::clipboard()->text().split('\n').value(1).trimmed().isEmpty());
         const QString csv = folder_.filePath("damaged.csv");
-        exportTo(ExportForm::csv, csv);
+        exportTo(ExportForm::Csv, csv);
         QVERIFY2(text("label_Damage").endsWith("rec_461"), qPrintable(text("label_Damage")));
         QCOMPARE(readFile(csv).count('\n'), 40); // the head and 39 records
         for (const char* typed : {"NumPage < 1003", "not NumPage > 1002"}) {
@@ -415,7 +415,7 @@ private Q_SLOTS:
                 return splitter->orientation() == orientation && splitter->isAncestorOf(table_);
             });
             const QList<int> sizes = (*places)->sizes();
-            return std::pair(*places, double(sizes.front()) / (sizes.front() + sizes.back()));
+            return std::pair(*places, static_cast<double>(sizes.front()) / (sizes.front() + sizes.back()));
         };
         const auto open = [&] {
             show(drive());

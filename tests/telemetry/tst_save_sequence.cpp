@@ -409,7 +409,7 @@ private Q_SLOTS:
             send(Message::RecordByNumber, 8);
         }
         qInstallMessageHandler(usual);
-        QTEST(int(told.size()), "failures");
+        QTEST(static_cast<int>(told.size()), "failures");
         QVERIFY2(told[0].startsWith(file_ + ": ") && told[0].size() > file_.size() + 5, qPrintable(told[0]));
         QCOMPARE(readFile(file_), before);
         QVERIFY(QDir(folder.path()).entryList({"period.*.*"}).isEmpty());

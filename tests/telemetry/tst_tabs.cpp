@@ -174,7 +174,9 @@ private Q_SLOTS:
     {
         QFETCH(int, module);
         QFETCH(int, level);
-        show(module < 0 ? Record() : Record{{"Module1", quint64(module)}, {"GSM", quint64(level)}});
+        show(module < 0
+                 ? Record()
+                 : Record{{"Module1", static_cast<quint64>(module)}, {"GSM", static_cast<quint64>(level)}});
         QString cards;
         for (const char* name : {"radioButton_Sim_1", "radioButton_Sim_2"}) {
             cards += child<QRadioButton>(name)->isChecked() ? '1' : '0';
@@ -236,7 +238,7 @@ private Q_SLOTS:
             press(button);
             const auto sent = host.takeSent(message);
             QCOMPARE(sent.size(), 1);
-            QCOMPARE(int(sent[0].value), number);
+            QCOMPARE(static_cast<int>(sent[0].value), number);
         }
     }
 
@@ -375,7 +377,7 @@ private Q_SLOTS:
     // A sensor without a value and what the record lacks have a dash, which is drawn and is no text.
     void absentValues()
     {
-        show(Record{{"Temp1", 128}, {"Latitude", 33900000}, {"Longitude", quint32(-300001)}});
+        show(Record{{"Temp1", 128}, {"Latitude", 33900000}, {"Longitude", static_cast<quint32>(-300001)}});
         const std::pair<const char*, QString> values[] = {
             {"label_TS_Value_1", "No value"},
             {"label_TS_Value_2", "Not in the record"},

@@ -38,7 +38,7 @@ private Q_SLOTS:
             box("comboBox_Quest")->setCurrentIndex(i);
             dialog_.press("pushButton_Quest");
             QCOMPARE(host.sent.last().number, Message::TachographQuestion);
-            QCOMPARE(int(host.sent.last().value), questions[i]);
+            QCOMPARE(static_cast<int>(host.sent.last().value), questions[i]);
         }
         dialog_.child<QDateTimeEdit>("dateTimeEdit_File")
             ->setDateTime(QDateTime::fromSecsSinceEpoch(0x12345678));

@@ -144,7 +144,7 @@ ItemIndex find(const QString& name)
 
 quint64 rawOf(const QString& value, ValueType type)
 {
-    if (type == ValueType::f32)
+    if (type == ValueType::F32)
         return std::bit_cast<quint32>(value.toFloat());
     return value.startsWith(QLatin1Char('-')) ? static_cast<quint64>(value.toLongLong())
                                               : value.toULongLong(nullptr, 0);
@@ -290,7 +290,7 @@ private Q_SLOTS:
         QCOMPARE(text(values.page(), item("SecondsLast.reliability")), QStringLiteral("0"));
         values.put(element("AllSeconds"), 10);
         QCOMPARE(text(values.page(), item("SecondsLast.reliability")), QStringLiteral("50"));
-        values.put(element("AccelLinearX"), quint64(-1500));
+        values.put(element("AccelLinearX"), static_cast<quint64>(-1500));
         values.put(element("AccelLinearZ"), 0x8000);
         QCOMPARE(text(values.page(), item("AccelLinearX.axes")),
                  QStringLiteral("-1.500 | 0.000 | tmizta_072"));

@@ -36,7 +36,9 @@ struct Fix
 
 RecordStore storeOf(const std::vector<Fix>& fixes)
 {
-    const auto raw = [](double degrees) { return quint64(qint64(std::llround(degrees * 600'000))); };
+    const auto raw = [](double degrees) {
+        return static_cast<quint64>(static_cast<qint64>(std::llround(degrees * 600'000)));
+    };
     RecordStore store;
     for (const Fix& fix : fixes) {
         const RecordParts parts{
@@ -156,7 +158,7 @@ void TestTrack::findsStopsAndRareEvents()
     RecordColumns ofHoled(holed);
     all.resize(5);
     const std::vector<Stop> stops = stopsOf(ofHoled, all);
-    QCOMPARE(stops.size(), std::size_t(1));
+    QCOMPARE(stops.size(), std::size_t{1});
     QCOMPARE(stops[0].last, 2);
     TrackPath path;
     path.add(ofHoled);
@@ -169,7 +171,7 @@ void TestTrack::findsStopsAndRareEvents()
         ofCan.add(30, parts.mask, parts.block);
     }
     RecordColumns canColumns(ofCan);
-    QCOMPARE(stopsOf(canColumns, {0, 1, 2}).size(), std::size_t(1));
+    QCOMPARE(stopsOf(canColumns, {0, 1, 2}).size(), std::size_t{1});
 
     const RecordStore truck = truckRecords(6000);
     RecordColumns ofTruck(truck);

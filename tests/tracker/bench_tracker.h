@@ -102,7 +102,7 @@ public:
         for (quint32 number = first; number < first + count; ++number)
             tracker->handle(vlk::Message::RequestRecordByNumber, &number, nullptr);
         QVector<QByteArray> records;
-        if (QTest::qWaitFor([&] { return told.size() == int(count); }, 60000))
+        if (QTest::qWaitFor([&] { return told.size() == static_cast<int>(count); }, 60000))
             for (const Told& each : qAsConst(told))
                 records += each.first.mid(vlk::kRecordByNumberHeader);
         return records;

@@ -40,7 +40,7 @@ inline constexpr qint64 kFirstMidnight = 1779667200;
 // `document`: the configuration by which the tracker records.
 inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
 {
-    const qint64 midnight = kFirstMidnight + qint64(seed % 7) * tracker::kDaySeconds;
+    const qint64 midnight = kFirstMidnight + static_cast<qint64>(seed % 7) * tracker::kDaySeconds;
     const tracker::ConfigurationValues values(document);
     const QTemporaryDir folder;
     const tracker::SettingsHistory settings(folder.path(), tracker::WorkingSettings::of(values));
@@ -48,7 +48,7 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
     tracker::DataSet dataSet;
     dataSet.mask = vlk::FieldMask::fromText(values.text(QStringLiteral("PROTOCOL/ZETA/mask")).toStdString());
     DrivenDays driven;
-    const quint32 last = drive.lastBefore(midnight + qint64(days) * tracker::kDaySeconds - 1);
+    const quint32 last = drive.lastBefore(midnight + static_cast<qint64>(days) * tracker::kDaySeconds - 1);
     for (quint32 number = 0; number <= last; ++number) {
         const tracker::Moment moment = drive.record(number);
         if (moment.kind != tracker::RecordKind::Telemetry)
@@ -58,13 +58,13 @@ inline DrivenDays drivenDays(quint64 seed, int days, const QByteArray& document)
         if (code == FillingStart || code == FillingEnd)
             driven.filling[moment.time] = code;
         const QByteArray bytes = recordBytes(tracker::Vehicle(moment, {}), dataSet);
-        driven.records.add(
-            {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())});
+        driven.records.add({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                            static_cast<std::size_t>(bytes.size())});
     }
     tracker::Odometers at;
     for (int day = 0; day < days; ++day) {
         const tracker::DayPlan plan =
-            tracker::planDay(seed, midnight + qint64(day) * tracker::kDaySeconds, at);
+            tracker::planDay(seed, midnight + static_cast<qint64>(day) * tracker::kDaySeconds, at);
         for (const tracker::Segment& segment : plan.segments) {
             using enum tracker::Activity;
             if (segment.activity == Filling || segment.activity == Draining)

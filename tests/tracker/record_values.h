@@ -15,7 +15,7 @@ template <typename T>
 T at(const QByteArray& bytes, int offset)
 {
     T value{};
-    if (offset >= 0 && offset + int(sizeof value) <= bytes.size())
+    if (offset >= 0 && offset + static_cast<int>(sizeof value) <= bytes.size())
         memcpy(&value, bytes.constData() + offset, sizeof value);
     return value;
 }
@@ -29,7 +29,7 @@ T value(const QByteArray& record, vlk::ElementIndex index)
 
 inline quint32 numberOf(const QByteArray& record)
 {
-    return at<quint32>(record, quint8(record.at(0)) == 177 ? 5 : kHead);
+    return at<quint32>(record, static_cast<quint8>(record.at(0)) == 177 ? 5 : kHead);
 }
 
 inline QByteArray dataSet(const QByteArray& format, const std::string& mask)

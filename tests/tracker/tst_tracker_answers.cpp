@@ -46,7 +46,7 @@ private Q_SLOTS:
         const QByteArray analog = bench.ask(Message::RequestAnalog).first;
         for (int i = 0; i < 3; ++i) {
             QCOMPARE(pairs[i].split(':')[0].toInt(), 21 + i);
-            QCOMPARE(pairs[i].split(':')[1].toInt(nullptr, 16), int(word(analog, 15 + 2 * i)));
+            QCOMPARE(pairs[i].split(':')[1].toInt(nullptr, 16), static_cast<int>(word(analog, 15 + 2 * i)));
         }
         QVERIFY(word(analog, 25) > 0 && word(analog, 25) <= 4095);
         const auto supply = record<vlk::SupplyRecord>(bench.ask(Message::RequestSupply).first);
@@ -54,7 +54,7 @@ private Q_SLOTS:
         const auto accel = record<vlk::AccelValues>(bench.ask(Message::RequestAccel).first);
         QVERIFY(std::sqrt(accel.movement) * 100 / 1800 < 10);
         QVERIFY(accel.tilt >= 0 && accel.tilt < 0.1);
-        QCOMPARE(int(bench.ask(Message::RequestAccelCommand).first.at(11)), 49);
+        QCOMPARE(static_cast<int>(bench.ask(Message::RequestAccelCommand).first.at(11)), 49);
     }
 
     void readsKeysTagsAndTheAdapter()
@@ -68,7 +68,7 @@ private Q_SLOTS:
         bench.tracker->handle(Message::SetCanLogProgram, &program, nullptr);
         bench.restart();
         QCOMPARE(record<std::int32_t>(bench.ask(Message::RequestCanLogProgram).first), program);
-        QCOMPARE(int(bench.ask(Message::WaitStepEnd).id), 2265);
+        QCOMPARE(static_cast<int>(bench.ask(Message::WaitStepEnd).id), 2265);
     }
 
     void searchesBluetooth()
@@ -87,7 +87,7 @@ private Q_SLOTS:
         bench.tracker->handle(Message::CancelBtSearch, nullptr, nullptr);
         QTest::qWait(1200);
         QCOMPARE(bench.told.size(), 2);
-        QCOMPARE(int(bench.told[1].id), 2259);
+        QCOMPARE(static_cast<int>(bench.told[1].id), 2259);
         QCOMPARE(bench.told[1].first, QByteArray("3"));
 
         bench.write("<DEVICE model=\"R-7106\"><BLUETOOTH><GLOBAL use=\"0\"/></BLUETOOTH></DEVICE>");
@@ -98,11 +98,11 @@ private Q_SLOTS:
     void hasNoBluetooth()
     {
         BenchTracker bench;
-        QCOMPARE(bench.tracker->capabilityMask(), quint64(0x800));
+        QCOMPARE(bench.tracker->capabilityMask(), quint64{0x800});
         QSignalSpy attached(bench.tracker.get(), &tracker::SimulatedTracker::attachedChanged);
         bench.tracker->setFaults({.noBluetooth = true});
         QCOMPARE(attached.size(), bench.tracker->attached() ? 2 : 0);
-        QCOMPARE(bench.tracker->capabilityMask(), quint64(0));
+        QCOMPARE(bench.tracker->capabilityMask(), quint64{0});
         QCOMPARE(bench.ask(Message::StartBtSearch).first, QByteArray("2"));
     }
 
@@ -113,8 +113,8 @@ private Q_SLOTS:
              {std::tuple(1, 37, 0), {3, 175, 0}, {4, 175, 0x20}, {5, 119, 0}}) {
             const QByteArray answer = bench.ask(Message::TachographQuestion, question).first;
             QCOMPARE(answer.size(), size);
-            QCOMPARE(int(answer.at(6)), question);
-            QCOMPARE(int(answer.at(7)), status);
+            QCOMPARE(static_cast<int>(answer.at(6)), question);
+            QCOMPARE(static_cast<int>(answer.at(7)), status);
         }
         for (const int none : {2, -7})
             QVERIFY(bench.silent(Message::TachographQuestion, BenchTracker::plain(none)));
@@ -137,8 +137,8 @@ private Q_SLOTS:
         BenchTracker bench;
         vlk::szQueryTaho request{0, static_cast<std::uint8_t>(code), parameter};
         const QByteArray first = bench.ask(Message::TachographFileRequest, &request).first;
-        QCOMPARE(int(first.at(6)), 0);
-        QCOMPARE(int(first.at(7)), made ? 0x10 : 0x30);
+        QCOMPARE(static_cast<int>(first.at(6)), 0);
+        QCOMPARE(static_cast<int>(first.at(7)), made ? 0x10 : 0x30);
         QString path = bench.folder() + "/file.ddd";
         if (!made) {
             QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\0'));
@@ -146,11 +146,11 @@ private Q_SLOTS:
         }
         QTRY_COMPARE_WITH_TIMEOUT(bench.told.size(), 3, 20000);
         const QByteArray ready = bench.told.last().first;
-        QCOMPARE(int(ready.at(7)), 0);
+        QCOMPARE(static_cast<int>(ready.at(7)), 0);
         QVERIFY(QByteArray(ready.constData() + 12).endsWith(".ddd"));
         QCOMPARE(bench.ask(Message::TachographFileRead, &path).first, QByteArray(1, '\1'));
         const QByteArray content = readFile(path);
-        QCOMPARE(quint32(content.size()), qFromLittleEndian<quint32>(ready.constData() + 8));
+        QCOMPARE(static_cast<quint32>(content.size()), qFromLittleEndian<quint32>(ready.constData() + 8));
         int offset = 0;
         while (offset + 5 <= content.size())
             offset += 5 + qFromBigEndian<quint16>(content.constData() + offset + 3);
@@ -168,7 +168,7 @@ private Q_SLOTS:
         const QVector<QByteArray> records = bench.records(0, 8000);
         QCOMPARE(records.size(), 8000);
         for (const QByteArray& record : records)
-            codes += word(record, quint8(record.at(0)) == 177 ? 9 : 38);
+            codes += word(record, static_cast<quint8>(record.at(0)) == 177 ? 9 : 38);
         workbench::KeyTranslator translator;
         for (const char* language : {"ru", "en"}) {
             QVERIFY(translator.load(language, VLK_TEXTS));
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(bench.ask(Message::RequestCurrentRecord).first, whole.left(whole.size() / 2));
         const QByteArray analog = bench.ask(Message::RequestAnalog).first;
         QVERIFY(word(analog, 15) > 0);
-        QCOMPARE(int(word(analog, 40)), 0);
+        QCOMPARE(static_cast<int>(word(analog, 40)), 0);
         bench.tracker->setFaults({.garbledAnswers = true});
         const QByteArray garbled = bench.ask(Message::RequestCurrentRecord).first;
         QCOMPARE(garbled.size(), whole.size());

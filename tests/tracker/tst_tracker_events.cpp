@@ -30,7 +30,9 @@ QStringList traits(const QByteArray& record, const QByteArray& before)
     add("fast", state & 2 && value<float>(record, element("Speed")) > 60);
     for (const char* system : {"NaviInfoGlonass", "NaviInfoGPS", "NaviInfoBeidou"})
         add(system, value<quint8>(record, *vlk::findElement(system)) > 0);
-    const auto fuel = [](const QByteArray& r) { return int(value<quint16>(r, element("LevelRS485_1"))); };
+    const auto fuel = [](const QByteArray& r) {
+        return static_cast<int>(value<quint16>(r, element("LevelRS485_1")));
+    };
     add("sloshed", !before.isEmpty() && std::abs(fuel(record) - fuel(before)) > 100);
     const auto distance = [&] {
         const auto delta = [&](vlk::ElementIndex index) {
@@ -148,11 +150,11 @@ private Q_SLOTS:
         const quint32 last = numberOf(bench.currentRecord());
         QVERIFY(last > newest);
         const QVector<QByteArray> records = bench.records(newest + 1, last - newest);
-        QCOMPARE(quint32(records.size()), last - newest);
+        QCOMPARE(static_cast<quint32>(records.size()), last - newest);
         QMap<QString, int> counts;
         QByteArray previous;
         for (const QByteArray& record : records) {
-            if (quint8(record.at(0)) != 176)
+            if (static_cast<quint8>(record.at(0)) != 176)
                 continue;
             for (const QString& trait : traits(record, previous))
                 ++counts[trait];
@@ -222,7 +224,7 @@ private Q_SLOTS:
         settings.shockLevels = {5000, 0, 0, 0};
         settings.output.switched = true;
         for (int i = 0; i < actions.size(); ++i)
-            settings.output.actions[std::size_t(i)] = actions[i] - '0';
+            settings.output.actions[static_cast<std::size_t>(i)] = actions[i] - '0';
         settings.output.delay = delay;
         settings.output.whenSafe = whenSafe;
         tracker::Moment moment;
@@ -347,7 +349,7 @@ private Q_SLOTS:
                     stoppedAfter = second;
             }
             // A record's state is the one that the events told.
-            const bool running = int(module1(tracker::Vehicle(moment, {}))) & 0x80;
+            const bool running = static_cast<int>(module1(tracker::Vehicle(moment, {}))) & 0x80;
             QCOMPARE(running, startedAfter >= 0 && stoppedAfter < 0);
         }
         QTEST(startedAfter, "startedAfter");
@@ -362,7 +364,7 @@ private Q_SLOTS:
         settings.output.actions[16] = 2;
         tracker::Moment moment;
         moment.sensed.output = true;
-        for (const quint8 shocks : {quint8(0), quint8(1)}) {
+        for (const quint8 shocks : {quint8{0}, quint8{1}}) {
             moment.sensed.shocks = shocks;
             std::vector<tracker::EventCode> events;
             QCOMPARE(sense(tracker::Vehicle(moment, {}), settings, events).output, shocks == 0);

@@ -44,8 +44,8 @@ private Q_SLOTS:
             const QByteArray record = bench.recordByNumber(70000);
             const auto asked = vlk::FieldMask::fromText(text.substr(0, fields));
             QCOMPARE(record.size(), kHead + asked.payloadSize());
-            QCOMPARE(quint8(record.at(0)), quint8(176));
-            QCOMPARE(int(record.at(1)), fields == 69 ? 10 : fields == 122 ? 20 : 30);
+            QCOMPARE(static_cast<quint8>(record.at(0)), quint8{176});
+            QCOMPARE(static_cast<int>(record.at(1)), fields == 69 ? 10 : fields == 122 ? 20 : 30);
             QVERIFY(memcmp(record.constData() + 2, asked.bytes().data(), vlk::FieldMask::kBytes) == 0);
         }
     }
@@ -55,7 +55,7 @@ private Q_SLOTS:
         BenchTracker bench;
         QVERIFY(bench.write("<DEVICE model=\"R-7106\"><PROTOCOL/></DEVICE>").accepted);
         const QByteArray record = bench.recordByNumber(70000);
-        QCOMPARE(int(record.at(1)), 10);
+        QCOMPARE(static_cast<int>(record.at(1)), 10);
         const auto mask = vlk::FieldMask::fromText(vlk::kDefaultMaskText);
         QCOMPARE(record.size(), kHead + mask.payloadSize(69));
         // The present record is filled up to the shortest frame.
@@ -147,13 +147,14 @@ private Q_SLOTS:
             {Message::ClearServerData, BenchTracker::plain(1), Message::ClearedRecord, 3}};
         for (const auto& [request, p1, answer, header] : requests) {
             const Told told = bench.ask(request, p1);
-            QCOMPARE(int(told.id), int(answer));
+            QCOMPARE(static_cast<int>(told.id), static_cast<int>(answer));
             // What the host looks for in an answer, a sound tracker has.
             QVERIFY(workbench::RecordCheck::carriesRecord(told.id));
             QVERIFY(!workbench::RecordCheck().look(told.id, told.first));
             const QByteArray record = told.first.mid(header);
-            QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), quint16(record.size()));
-            QCOMPARE(int(quint8(record.at(0))), request == Message::RequestExtraPacket ? 177 : 176);
+            QCOMPARE(at<quint16>(told.first, header == 2 ? 0 : 1), static_cast<quint16>(record.size()));
+            QCOMPARE(static_cast<int>(static_cast<quint8>(record.at(0))),
+                     request == Message::RequestExtraPacket ? 177 : 176);
             if (header == 13)
                 QCOMPARE(at<quint32>(told.first, 3), numberOf(record));
         }
@@ -166,7 +167,7 @@ private Q_SLOTS:
         QVERIFY2(newest >= 100000, QByteArray::number(newest).constData());
         QCOMPARE(numberOf(bench.recordByNumber(newest + 5)), newest);
         QCOMPARE(numberOf(bench.recordByNumber(0)), newest < 131072 ? 0 : newest - 131071);
-        for (const qint64 time : {bench.now - 200000, bench.now - 3, qint64(0), bench.now * 2}) {
+        for (const qint64 time : {bench.now - 200000, bench.now - 3, qint64{0}, bench.now * 2}) {
             auto when = QDateTime::fromSecsSinceEpoch(time, Qt::UTC);
             const QByteArray before = bench.ask(Message::RequestRecordByTime, &when).first;
             const QByteArray after = bench.ask(Message::RequestRecordOfPeriod, &when).first;
@@ -214,7 +215,7 @@ private Q_SLOTS:
         quint32 number = first;
         for (const QByteArray& record : bench.records(first, 7000)) {
             QCOMPARE(numberOf(record), number++);
-            if (quint8(record.at(0)) == 177) {
+            if (static_cast<quint8>(record.at(0)) == 177) {
                 ++packets;
                 codes += at<quint16>(record, 9);
                 const int dynamic = at<quint16>(record, 1) - record.at(4) - record.at(43) - 4;
@@ -228,7 +229,7 @@ private Q_SLOTS:
             const bool engine = value<quint8>(record, element("Module1")) & 0x80;
             QVERIFY(speed >= 0 && speed < 110);
             QVERIFY(engine || speed == 0);
-            QCOMPARE(bool(value<quint8>(record, element("StateIn1")) & 1), engine);
+            QCOMPARE(static_cast<bool>(value<quint8>(record, element("StateIn1")) & 1), engine);
             // The door opens when the driver gets out, not at midnight.
             const auto time = value<quint32>(record, element("Time"));
             if (engine)
@@ -290,7 +291,7 @@ private Q_SLOTS:
         bench.tracker->setFullDataSet(true);
         const QByteArray after = bench.currentRecord();
         QCOMPARE(state(after), 8);
-        QCOMPARE(int(value<quint8>(after, element("StateOut1"))), 4);
+        QCOMPARE(static_cast<int>(value<quint8>(after, element("StateOut1"))), 4);
         QCOMPARE(value<float>(after, element("Run")), km);
         // What was recorded before stays; the first record afterwards tells of the change.
         const quint32 newest = numberOf(before);
@@ -298,7 +299,7 @@ private Q_SLOTS:
         bench.now += 3600;
         const QByteArray next = bench.recordByNumber(newest + 1);
         QCOMPARE(state(next), 8);
-        QCOMPARE(int(value<quint16>(next, element("Code"))), 54);
+        QCOMPARE(static_cast<int>(value<quint16>(next, element("Code"))), 54);
         bench.tracker->handle(Message::GuardOff, nullptr, nullptr);
         QCOMPARE(state(bench.currentRecord()), 0);
     }
@@ -345,7 +346,7 @@ private Q_SLOTS:
             // No second head: the entries lie behind the first.
             const int dynamic = at<quint16>(packet, 1) - packet.at(4) - 2;
             QCOMPARE(packet.size(), 42 + dynamic);
-            QCOMPARE(int(packet.at(packet.size() - dynamic)), kind);
+            QCOMPARE(static_cast<int>(packet.at(packet.size() - dynamic)), kind);
         }
         for (const int kind : {0, 2, 4})
             QVERIFY(bench.silent(Message::RequestExtraPacket, BenchTracker::plain(kind)));
@@ -356,7 +357,7 @@ private Q_SLOTS:
         BenchTracker bench;
         bench.now = 1000;
         QCOMPARE(numberOf(bench.currentRecord()), 0U);
-        bench.now = qint64(1) << 40;
+        bench.now = qint64{1} << 40;
         QVERIFY(!bench.ask(Message::RequestCurrentRecord).first.isEmpty());
     }
 };

@@ -35,7 +35,7 @@ private Q_SLOTS:
         auto* const cross = bar.findChild<QToolButton*>(QStringLiteral("label_Notice_Close"));
         const auto tell = [&bar] {
             for (const int number : {3, 2, 1})
-                bar.tell(number, Notice{Mark::advice, QString::number(number), {}});
+                bar.tell(number, Notice{Mark::Advice, QString::number(number), {}});
         };
         QElapsedTimer clock;
         do {
@@ -60,11 +60,11 @@ private Q_SLOTS:
     {
         using Place = NoticeBar::Place;
         DataTable<Place, int, bool>({"place", "words", "moves"})
-            .row("a word", Place::lines, 1, false)
-            .row("two lines", Place::lines, 7, false)
-            .row("many lines", Place::lines, 80, false)
-            .row("many lines, at the edge", Place::edge, 80, true)
-            .row("many lines, no place kept", Place::none, 80, true);
+            .row("a word", Place::Lines, 1, false)
+            .row("two lines", Place::Lines, 7, false)
+            .row("many lines", Place::Lines, 80, false)
+            .row("many lines, at the edge", Place::Edge, 80, true)
+            .row("many lines, no place kept", Place::None, 80, true);
     }
     void movesNothing()
     {
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         const int before = below->y();
         const QString told = QStringLiteral("something ").repeated(words).trimmed();
-        bar->tell(1, {Mark::advice, told, {{QStringLiteral("Do it"), [] {}}}});
+        bar->tell(1, {Mark::Advice, told, {{QStringLiteral("Do it"), [] {}}}});
         QCoreApplication::processEvents();
         QCOMPARE(below->y() != before, moves);
         // What has no room is told by the tip, and to whoever asks for the text.
@@ -93,7 +93,7 @@ private Q_SLOTS:
         const QPoint middle = label->rect().center();
         QHelpEvent help(QEvent::ToolTip, middle, label->mapToGlobal(middle));
         QCoreApplication::sendEvent(label, &help);
-        QCOMPARE(QToolTip::text(), place != NoticeBar::Place::none && words > 7 ? told : QString());
+        QCOMPARE(QToolTip::text(), place != NoticeBar::Place::None && words > 7 ? told : QString());
     }
 };
 

@@ -263,7 +263,7 @@ private Q_SLOTS:
     // What is told of a value is not told of the one that is being typed.
     void marksOfTheValueBefore()
     {
-        vlk::markField(whole_, vlk::MarkReason::advice, vlk::Mark::invalid, "no port");
+        vlk::markField(whole_, vlk::MarkReason::Advice, vlk::Mark::Invalid, "no port");
         QCOMPARE(whole_->toolTip(), QString("no port"));
         type(whole_, "<All>2");
         QVERIFY(whole_->toolTip().isEmpty());

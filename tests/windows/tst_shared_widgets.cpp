@@ -194,7 +194,7 @@ private Q_SLOTS:
     void progressDialog()
     {
         VLK_Form_IO_Progress dialog;
-        QCOMPARE(int(dialog.windowFlags()), 0x2000003);
+        QCOMPARE(static_cast<int>(dialog.windowFlags()), 0x2000003);
         QCOMPARE(dialog.size(), QSize(450, 110));
         auto* bar = dialog.findChild<QProgressBar*>("progressBar");
         QCOMPARE(bar->maximum(), 2'000'000);
@@ -232,7 +232,7 @@ private Q_SLOTS:
     void textDialogForgetsHoweverItIsClosed()
     {
         VLK_Form_Param_About dialog;
-        QCOMPARE(int(dialog.windowFlags()), 0x2000003);
+        QCOMPARE(static_cast<int>(dialog.windowFlags()), 0x2000003);
         auto* field = dialog.findChild<QTextEdit*>("textEdit");
         auto* title = dialog.findChild<QLabel*>("label_Title");
         auto* button = dialog.findChild<QPushButton*>("pushButton_Ok");

@@ -22,12 +22,12 @@ QByteArray lastPath;
 
 std::uint32_t token()
 {
-    return std::uint32_t(reinterpret_cast<std::uintptr_t>(&device));
+    return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(&device));
 }
 
 void call(vlk::Message id, void* p1, void* p2 = nullptr)
 {
-    host(&device, std::uint32_t(id), p1, p2);
+    host(&device, static_cast<std::uint32_t>(id), p1, p2);
 }
 
 } // namespace

@@ -27,7 +27,7 @@ constexpr int kFine = -1;
 template <class Problem>
 int kindOf(const std::optional<Problem>& problem)
 {
-    return problem ? int(problem->kind) : kFine;
+    return problem ? static_cast<int>(problem->kind) : kFine;
 }
 
 QByteArray document(const QByteArray& content)
@@ -38,13 +38,14 @@ QByteArray document(const QByteArray& content)
 // A record as a tracker sends it, at a time.
 QByteArray recordAt(qint64 time)
 {
-    return vlk::RecordParts({{"NumPage", 7}, {"Time", quint64(time)}, {"Power", 13800}}).bytes();
+    return vlk::RecordParts({{"NumPage", 7}, {"Time", static_cast<quint64>(time)}, {"Power", 13800}}).bytes();
 }
 
 QByteArray answer(const QByteArray& record, int declared = -1)
 {
     const int size = declared < 0 ? record.size() : declared;
-    return QByteArray(1, char(2300 & 0xff)) + char(size & 0xff) + char(size >> 8) + record;
+    return QByteArray(1, static_cast<char>(2300 & 0xff)) + static_cast<char>(size & 0xff) +
+           static_cast<char>(size >> 8) + record;
 }
 
 constexpr qint64 kPresent = 1720000000;
@@ -65,7 +66,7 @@ private Q_SLOTS:
                      "\t\t<OBJECT name=\"\xCA\xE0\xEC\xC0\xC7\"/>\n\t</TRANS>\n</DEVICE>\n");
         QByteArray garbled = whole;
         for (int i = 0; i < garbled.size(); i += 5)
-            garbled[i] = char(garbled[i] ^ 0x5a);
+            garbled[i] = static_cast<char>(garbled[i] ^ 0x5a);
         using P = ConfigurationProblem;
         table.row("whole", whole, kFine, 0, 0)
             .row("no model", document("<DEVICE/>"), kFine, 0, 0)
@@ -95,8 +96,8 @@ private Q_SLOTS:
         QTEST(kindOf(problem), "kind");
         if (!problem)
             return;
-        QCOMPARE(problem->bytes, qint64(bytes.size()));
-        QCOMPARE(problem->line, qint64(line));
+        QCOMPARE(problem->bytes, static_cast<qint64>(bytes.size()));
+        QCOMPARE(problem->line, static_cast<qint64>(line));
         QVERIFY2(column == 0 || problem->column == column, qPrintable(QString::number(problem->column)));
     }
 
@@ -120,7 +121,7 @@ private Q_SLOTS:
         const QByteArray head = document("<TMI model=\"R-7106\">\n");
         const QByteArray page = "\t<Page type=\"176\" ver=\"30\" format=\"111\">\n\t\t<NumPage>1</NumPage>\n";
         QByteArray record = recordAt(kPresent);
-        const QByteArray stored = QByteArray(1, char(record.size())) + '\0' + record;
+        const QByteArray stored = QByteArray(1, static_cast<char>(record.size())) + '\0' + record;
         const QByteArray header = QByteArray::fromHex("0100800003").leftJustified(128, '\0');
         using P = TelemetryFileProblem;
         table.row("a page", head + page + "\t</Page>\n</TMI>\n", kFine)
@@ -147,7 +148,7 @@ private Q_SLOTS:
         QTEST(kindOf(problem), "kind");
         QVERIFY(!problem || problem->bytes == bytes.size());
         QCOMPARE(kindOf(workbench::checkTelemetryFile(folder.filePath(QStringLiteral("none.tmi")))),
-                 int(TelemetryFileProblem::Unreadable));
+                 static_cast<int>(TelemetryFileProblem::Unreadable));
     }
 
     void record_data()
@@ -156,7 +157,7 @@ private Q_SLOTS:
         const QByteArray good = recordAt(kPresent);
         QByteArray garbled = answer(good);
         for (int i = 0; i < garbled.size(); i += 5)
-            garbled[i] = char(garbled[i] ^ 0x5a);
+            garbled[i] = static_cast<char>(garbled[i] ^ 0x5a);
         QByteArray foreign = good;
         foreign[0] = 9;
         using P = AnswerProblem;
@@ -237,9 +238,9 @@ private Q_SLOTS:
         check.note({Message::RequestRecordOfPeriod, {}, kPresent - 50, {}});
         check.note({Message::RequestRecordByTime, {}, kPresent + 50, {}});
         QByteArray bytes = answer(recordAt(time));
-        bytes[0] = char(Message::RequestRecordByNumber);
+        bytes[0] = static_cast<char>(Message::RequestRecordByNumber);
         QTEST(kindOf(check.look(Message::RecordByNumber, &bytes,
-                                {Message::RequestRecordByNumber, quint32(number), {}, {}})),
+                                {Message::RequestRecordByNumber, static_cast<quint32>(number), {}, {}})),
               "kind");
     }
 
@@ -252,12 +253,12 @@ private Q_SLOTS:
         };
         const qint64 other = kPresent + 30 * kYear;
         for (const auto& [time, kind] : {std::pair(kPresent, kFine),
-                                         {other, int(AnswerProblem::TimeJumps)},
+                                         {other, static_cast<int>(AnswerProblem::TimeJumps)},
                                          {kPresent, kFine},
-                                         {other, int(AnswerProblem::TimeJumps)},
+                                         {other, static_cast<int>(AnswerProblem::TimeJumps)},
                                          {other, kFine},
                                          {other, kFine},
-                                         {kPresent, int(AnswerProblem::TimeJumps)}})
+                                         {kPresent, static_cast<int>(AnswerProblem::TimeJumps)}})
             QCOMPARE(look(time), kind);
         check.forget();
         QCOMPARE(look(kPresent), kFine);

@@ -74,16 +74,16 @@ private Q_SLOTS:
         RecordStore many = storeOf(randomPages(random, 3000));
         const QByteArray packet = packetBytes(kSecondHead + cardEntry(toWindows1251(origin_.vendor)));
         many.add(bytesAt(packet.constData(), packet.size()));
-        put("many.xml", fileOf(ExportForm::xml, many, origin_));
-        put("many.tmi", fileOf(ExportForm::tmi, many, origin_));
+        put("many.xml", fileOf(ExportForm::Xml, many, origin_));
+        put("many.tmi", fileOf(ExportForm::Tmi, many, origin_));
         QTextCodec::setCodecForLocale(nullptr);
-        put("a.tmi", fileOf(ExportForm::tmi, storeOf({1, 2, 4}), {}));
+        put("a.tmi", fileOf(ExportForm::Tmi, storeOf({1, 2, 4}), {}));
         for (const auto& [tracker, store] : {std::pair("7", storeOf({1, 2})), {"8", storeOf({2, 4})}}) {
             TelemetryOrigin origin;
             origin.trackerId = QString(tracker);
-            put(QString(tracker) + ".tmi", fileOf(ExportForm::tmi, store, origin));
+            put(QString(tracker) + ".tmi", fileOf(ExportForm::Tmi, store, origin));
         }
-        put("b.xml", fileOf(ExportForm::xml, storeOf({5, 2, 3}), {}));
+        put("b.xml", fileOf(ExportForm::Xml, storeOf({5, 2, 3}), {}));
         put("c.xml", "<DEVICE/>");
         for (const char* folder : {"bare", "fleet of one"})
             QDir(folder_.path()).mkdir(folder);
@@ -290,7 +290,7 @@ private Q_SLOTS:
             store.add(bytesAt(record.constData(), record.size()));
         const QByteArray packet = packetBytes(kSecondHead + cardEntry("AB 12345"));
         store.add(bytesAt(packet.constData(), packet.size()));
-        put("large.tmi", fileOf(ExportForm::tmi, store, {}));
+        put("large.tmi", fileOf(ExportForm::Tmi, store, {}));
         const auto [status, told, complaints] = run({"convert", "large.tmi", "--to", "tmi"});
         QCOMPARE(complaints, QByteArray());
         QVERIFY(told == readFile(path("large.tmi")));
@@ -330,13 +330,13 @@ private Q_SLOTS:
             origin.trackerId = QString(tracker);
             for (const int first : {0, 10}) {
                 RecordStore store;
-                for (quint64 i = first; i < quint64(first) + 11; ++i) {
+                for (quint64 i = first; i < static_cast<quint64>(first) + 11; ++i) {
                     const RecordParts record{{"NumPage", i},
                                              {"Time", 1700000000 + 60 * i},
                                              {"LevelRS485_1", i < 10 ? 3120 : 2510}};
                     store.add(30, record.mask, record.block);
                 }
-                put(QString("days%1.tmi").arg(first), fileOf(ExportForm::tmi, store, origin));
+                put(QString("days%1.tmi").arg(first), fileOf(ExportForm::Tmi, store, origin));
             }
             const auto [found, told, complaints] =
                 run({"fuel", "--table", "tank.xml", "days0.tmi", "days10.tmi"});
@@ -353,7 +353,7 @@ private Q_SLOTS:
         const int files = 1200;
         for (int i = files; i > 0; --i)
             put(QString("fleet/%1.tmi").arg(i, 4, 10, QChar('0')),
-                fileOf(ExportForm::tmi, storeOf({i, i + 1}), {}));
+                fileOf(ExportForm::Tmi, storeOf({i, i + 1}), {}));
         for (const auto& [call, records] : {std::pair(QStringList{"--merge"}, files + 1), {{}, 2 * files}}) {
             const auto [status, told, complaints] =
                 run(QStringList{"convert", "fleet", "--to", "tsv", "--raw", "--columns", "NumPage"} + call);

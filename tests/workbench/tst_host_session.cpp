@@ -48,7 +48,7 @@ struct Bench
             written.wait(15'000);
         return written.isEmpty() ? RoadReport{} : written.takeFirst().first().value<RoadReport>();
     }
-    bool isConfirmed() { return report().outcome == Outcome::confirmed; }
+    bool isConfirmed() { return report().outcome == Outcome::Confirmed; }
 
     bool agrees = true;
 };
@@ -90,7 +90,7 @@ private Q_SLOTS:
 
         QVERIFY(!bench.session.readConfiguration(true));
         const RoadReport report = bench.report();
-        QVERIFY(report.outcome == Outcome::confirmed);
+        QVERIFY(report.outcome == Outcome::Confirmed);
         QVERIFY(report.settings.isEmpty() && report.backup == 1);
         QVERIFY(!QFile::exists(report.request.file));
         // The request stands in the log before what it led to, and its read file is gone.
@@ -113,7 +113,7 @@ private Q_SLOTS:
                                      QByteArray("<DEVICE model=\"R-7106\"><A x=\"") + x + "\"/></DEVICE>");
             Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
             const RoadReport report = bench.report();
-            QVERIFY(report.outcome == Outcome::notWritten && report.fault == RoadReport::Fault::detached);
+            QVERIFY(report.outcome == Outcome::NotWritten && report.fault == RoadReport::Fault::Detached);
             QVERIFY(!QFile::exists(path));
             reports.append(report);
         }
@@ -137,10 +137,10 @@ private Q_SLOTS:
         bench.session.tracker().attach();
         bench.agrees = false;
         QVERIFY(!bench.session.writeAgain(reports[0].request));
-        QVERIFY(bench.report().outcome == Outcome::cancelled && QFile::exists(reports[0].request.file));
+        QVERIFY(bench.report().outcome == Outcome::Cancelled && QFile::exists(reports[0].request.file));
         QString path = writeFile(QStringLiteral("vlk_R-7106_1.xml"), reports[0].request.document);
         Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
-        QVERIFY(bench.report().outcome == Outcome::cancelled && QFile::exists(reports[0].request.file));
+        QVERIFY(bench.report().outcome == Outcome::Cancelled && QFile::exists(reports[0].request.file));
         QVERIFY(!QFile::exists(path));
         bench.agrees = true;
         // Once more, and the file has done its work.
@@ -223,12 +223,12 @@ private Q_SLOTS:
     void confirmsWhatWasReadBack_data()
     {
         DataTable<tracker::Faults, bool, Outcome> table({"faults", "opensNext", "outcome"});
-        table.row("confirmed", {}, false, Outcome::confirmed)
-            .row("another one is open by now", {}, true, Outcome::confirmed)
-            .row("not taken", {.skipsPage = true}, false, Outcome::notTaken)
-            .row("not sent", {.unplug = true}, false, Outcome::notWritten)
-            .row("not read back", {.garbledAnswers = true}, false, Outcome::unknown)
-            .row("cancelled", {}, false, Outcome::cancelled);
+        table.row("confirmed", {}, false, Outcome::Confirmed)
+            .row("another one is open by now", {}, true, Outcome::Confirmed)
+            .row("not taken", {.skipsPage = true}, false, Outcome::NotTaken)
+            .row("not sent", {.unplug = true}, false, Outcome::NotWritten)
+            .row("not read back", {.garbledAnswers = true}, false, Outcome::Unknown)
+            .row("cancelled", {}, false, Outcome::Cancelled);
     }
     void confirmsWhatWasReadBack()
     {
@@ -245,7 +245,7 @@ private Q_SLOTS:
                         confirmed.append(*static_cast<const vlk::WriteConfirmation*>(p1)->content);
                 });
         const auto spoil = [&] { bench.session.tracker().setFaults(faults); };
-        if (outcome == Outcome::unknown)
+        if (outcome == Outcome::Unknown)
             connect(&bench.session.road(), &workbench::WriteRoad::taken, this, spoil);
         else
             connect(&bench.session.road(), &workbench::WriteRoad::reviewReady, this, spoil);
@@ -254,8 +254,8 @@ private Q_SLOTS:
         Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
         if (opensNext)
             bench.session.newConfiguration(true);
-        QCOMPARE(int(bench.report().outcome), int(outcome));
-        QCOMPARE(confirmed, outcome == Outcome::confirmed ? QByteArrayList{document} : QByteArrayList());
+        QCOMPARE(static_cast<int>(bench.report().outcome), static_cast<int>(outcome));
+        QCOMPARE(confirmed, outcome == Outcome::Confirmed ? QByteArrayList{document} : QByteArrayList());
     }
 
     // Nobody saw the end of the write; who reads the tracker next does.
@@ -279,7 +279,7 @@ private Q_SLOTS:
             QString path = writeFile(bench.root.filePath("w.xml"), document);
             Q_EMIT bench.session.link().received(vlk::Message::WriteConfiguration, &path, nullptr);
             const RoadReport report = bench.report();
-            QVERIFY(report.outcome == Outcome::unknown && QFile::exists(report.request.file));
+            QVERIFY(report.outcome == Outcome::Unknown && QFile::exists(report.request.file));
             bench.session.tracker().setFaults({});
             if (!isThere)
                 QVERIFY(bench.session.tracker().takeConfiguration(before).accepted);
@@ -315,7 +315,7 @@ private Q_SLOTS:
         // The tracker keeps one, and what is brought back takes its place.
         QVERIFY(!bench.session.bringBackPrevious());
         const RoadReport report = bench.report();
-        QVERIFY(report.outcome == Outcome::confirmed && report.backup == 6 && report.settings.size() == 2);
+        QVERIFY(report.outcome == Outcome::Confirmed && report.backup == 6 && report.settings.size() == 2);
         QCOMPARE(held(), QString("22"));
         QVERIFY(bench.session.backups().document(6).contains("x=\"1\""));
         QVERIFY(bench.session.bringBack(99) && bench.session.backups().all().size() == 6);
@@ -344,9 +344,9 @@ private Q_SLOTS:
         Bench bench; // with its texts
         QVERIFY(bench.start());
         RoadReport report;
-        report.request.origin = workbench::WriteRequest::Origin::backup;
+        report.request.origin = workbench::WriteRequest::Origin::Backup;
         report.request.name = "2";
-        report.fault = RoadReport::Fault::detached;
+        report.fault = RoadReport::Fault::Detached;
         report.earlier = 1;
         report.earlierFile = writeFile(bench.root.filePath("lost.xml"), "<DEVICE/>");
         QVERIFY2(
@@ -356,7 +356,7 @@ private Q_SLOTS:
                 report.earlierFile),
             qPrintable(workbench::summary(report)));
         report = {};
-        report.fault = RoadReport::Fault::unsaved;
+        report.fault = RoadReport::Fault::Unsaved;
         report.detail = "x.xml: " + qt_error_string(ENOSPC);
         QVERIFY2(workbench::summary(report).endsWith("\nMake room on the disk and write once more."),
                  qPrintable(workbench::summary(report)));
@@ -441,7 +441,7 @@ private Q_SLOTS:
         const QStringList kept = aside.entryList(QDir::Files);
         QCOMPARE(kept.size(), 1);
         const RoadReport cancelled = bench.report();
-        QVERIFY(cancelled.outcome == Outcome::cancelled && bench.mustBeSeen);
+        QVERIFY(cancelled.outcome == Outcome::Cancelled && bench.mustBeSeen);
         QCOMPARE(cancelled.request.file, aside.filePath(kept.first()));
         QVERIFY(!QFile::exists(cancelled.request.file));
         bench.agrees = true;
@@ -459,7 +459,7 @@ private Q_SLOTS:
         QVERIFY(report.settings.size() > 1);
         QCOMPARE(workbench::summary(report).section('\n', 1, 1),
                  QString("Removed from the tracker: %1").arg(report.settings.size()));
-        QVERIFY(report.outcome == Outcome::confirmed && bench.mustBeSeen);
+        QVERIFY(report.outcome == Outcome::Confirmed && bench.mustBeSeen);
         QVERIFY(report.request.name == "van.xml" && !bench.session.edited().seenIn().isEmpty());
         QCOMPARE(bench.reviewed, 4);
     }

@@ -173,7 +173,7 @@ private Q_SLOTS:
         QWidget* telemetry = windowOf("VLK_Widget_Tmi_View");
         const auto* key = telemetry->findChild<QLineEdit*>("lineEdit_TM");
         QVERIFY(!key->hasFrame() && (key->focusPolicy() & Qt::TabFocus) == 0);
-        QCOMPARE(key->font().weight(), int(QFont::DemiBold));
+        QCOMPARE(key->font().weight(), static_cast<int>(QFont::DemiBold));
         const auto light = [telemetry](QPalette::ColorRole role) {
             const QColor colour = telemetry->palette().color(QPalette::Disabled, role);
             return 0.05 + std::pow(colour.lightnessF(), 2.2);

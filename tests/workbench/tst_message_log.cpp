@@ -110,7 +110,7 @@ private Q_SLOTS:
         static const vlk::ConnectInfo info{QStringLiteral("M"), QStringLiteral("1"), {}, {}, 0xA, 0xB};
         static const vlk::IdPair pair{1, 1};
         static const std::uint8_t kind = 7;
-        static const QByteArray result = QByteArray(vlk::kAccelResultSize - 1, '\0') + char(49);
+        static const QByteArray result = QByteArray(vlk::kAccelResultSize - 1, '\0') + char{49};
         static const QByteArray names(sizeof(vlk::BtDevice), 'n');
         static_assert(vlk::kAccelStatusByte == vlk::kAccelResultSize - 1);
         using enum Direction;
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QFETCH(void*, first);
         QFETCH(void*, second);
         const auto text = workbench::describeMessage(toHost ? Direction::ToHost : Direction::ToPlugin,
-                                                     quint32(number), first, second);
+                                                     static_cast<quint32>(number), first, second);
         QTEST(text.words, "words");
         QTEST(text.bytes, "bytes");
     }
@@ -170,8 +170,8 @@ private Q_SLOTS:
             const bool ofStrings = info.number == Message::SetPaths || info.number == Message::SetIdentity ||
                                    info.number == Message::TrackerAttached;
             const void* record = ofStrings ? static_cast<const void*>(&strings) : zeroes.constData();
-            const auto text =
-                workbench::describeMessage(info.direction, quint32(info.number), record, nullptr);
+            const auto text = workbench::describeMessage(info.direction, static_cast<quint32>(info.number),
+                                                         record, nullptr);
             QVERIFY2(!text.words.isEmpty() || !text.bytes.isEmpty(), info.name);
         }
     }
@@ -181,7 +181,7 @@ private Q_SLOTS:
         workbench::MessageLogModel model(100);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         for (std::int32_t n = 0; n < 250; ++n)
-            model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &n, nullptr);
+            model.append(Direction::ToPlugin, static_cast<quint32>(Message::SetHostMode), &n, nullptr);
         QVERIFY(model.rowCount() <= 100 && model.rowCount() >= 90);
         const QModelIndex last = model.index(model.rowCount() - 1, workbench::MessageLogModel::Parameters);
         QCOMPARE(last.data().toString(), QStringLiteral("249"));
@@ -215,10 +215,11 @@ private Q_SLOTS:
         filter.setDirections(workbench::MessageLogFilter::Directions(directions));
         const QByteArray record("\x0a\xff", 2);
         const std::int32_t mode = 1;
-        model.append(Direction::ToHost, quint32(Message::RequestCurrentRecord), nullptr, nullptr);
-        model.append(Direction::ToPlugin, quint32(Message::CurrentRecord), &record, nullptr);
-        model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
-        model.append(Direction::ToHost, quint32(Message::ShowHelp), nullptr, nullptr);
+        model.append(Direction::ToHost, static_cast<quint32>(Message::RequestCurrentRecord), nullptr,
+                     nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::CurrentRecord), &record, nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::SetHostMode), &mode, nullptr);
+        model.append(Direction::ToHost, static_cast<quint32>(Message::ShowHelp), nullptr, nullptr);
         QTEST(filter.rowCount(), "shown");
     }
 
@@ -231,8 +232,9 @@ private Q_SLOTS:
         const auto append = [&model](int count) {
             const std::int32_t mode = 2;
             for (int i = 0; i < count; ++i)
-                model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
-            model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
+                model.append(Direction::ToPlugin, static_cast<quint32>(Message::LanguageChanged), nullptr,
+                             nullptr);
+            model.append(Direction::ToPlugin, static_cast<quint32>(Message::SetHostMode), &mode, nullptr);
         };
         auto* table = view.findChild<QTableView*>(QStringLiteral("tableView_Log"));
         auto* words = view.findChild<QLineEdit*>(QStringLiteral("lineEdit_LogFilter"));
@@ -271,7 +273,7 @@ private Q_SLOTS:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         workbench::MessageLogModel model;
         workbench::MessageLogView view(&model);
-        model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::LanguageChanged), nullptr, nullptr);
         const QTemporaryDir folder;
         QTimer::singleShot(0, [&folder] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -290,8 +292,8 @@ private Q_SLOTS:
         workbench::MessageLogModel model;
         workbench::MessageLogView view(&model);
         const std::int32_t mode = 2;
-        model.append(Direction::ToPlugin, quint32(Message::SetHostMode), &mode, nullptr);
-        model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::SetHostMode), &mode, nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::LanguageChanged), nullptr, nullptr);
         const auto counted = [&view](const QString& text) {
             const auto labels = view.findChildren<QLabel*>();
             return std::ranges::any_of(labels, [&](const QLabel* label) { return label->text() == text; });
@@ -304,7 +306,7 @@ private Q_SLOTS:
         QTest::keyClicks(view.findChild<QLineEdit*>(QStringLiteral("lineEdit_LogFilter")), "2004");
         QVERIFY(counted("1 of 2"));
         // Behind the filter the log goes on.
-        model.append(Direction::ToPlugin, quint32(Message::LanguageChanged), nullptr, nullptr);
+        model.append(Direction::ToPlugin, static_cast<quint32>(Message::LanguageChanged), nullptr, nullptr);
         QVERIFY(counted("1 of 3"));
         QCOMPARE(saveTip(), QString("Save the log: 1 of 3"));
         const QTemporaryDir folder;

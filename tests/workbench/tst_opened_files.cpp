@@ -150,7 +150,7 @@ private Q_SLOTS:
         QVector<int> windows;
         connect(&bench.window.session().link(), &workbench::PluginLink::passed, this,
                 [&](vlk::Direction, quint32 id, const void*, const void* p2) {
-                    if (id == quint32(vlk::Message::ShowStoredFile))
+                    if (id == static_cast<quint32>(vlk::Message::ShowStoredFile))
                         windows.append(*static_cast<const std::int32_t*>(p2));
                 });
         auto* list = bench.window.findChild<QListWidget*>(QStringLiteral("listWidget_Recent"));

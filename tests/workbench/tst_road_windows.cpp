@@ -449,7 +449,7 @@ private Q_SLOTS:
         bench.session().tracker().setFaults({.delayMs = 1500});
         connect(&bench.session().road(), &workbench::WriteRoad::stepChanged, &bench.window,
                 [&bench](RoadReport::Step step) {
-                    if (step == RoadReport::Step::readingBack)
+                    if (step == RoadReport::Step::ReadingBack)
                         bench.session().tracker().setFaults({.silence = true});
                 });
         QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);

@@ -204,8 +204,8 @@ private Q_SLOTS:
         QByteArray layout;
         QDataStream stream(&layout, QIODevice::WriteOnly);
         stream.setVersion(QDataStream::Qt_4_0);
-        stream << quint32(0x1D9D0CB) << quint16(3) << quint16(0) << kept << kept << qint32(0) << quint8(0)
-               << quint8(0) << qint32(screen.width() + 100) << kept;
+        stream << quint32{0x1D9D0CB} << quint16{3} << quint16{0} << kept << kept << qint32{0} << quint8{0}
+               << quint8{0} << static_cast<qint32>(screen.width() + 100) << kept;
         OpenedWorkbench bench;
         bench.settings.setLayout(bench.window.objectName(), layout);
         workbench::WorkbenchWindow window(bench.folder, bench.settings, bench.languages);

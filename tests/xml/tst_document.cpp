@@ -121,7 +121,7 @@ private Q_SLOTS:
         const QString characters = QString::fromUtf8(" &><\"'!:;%`~@#$^*()-+=|\\÷×,/");
         const int codes[] = {32, 38, 62, 60, 34, 39, 33, 58, 59,  37, 96, 126, 64, 35,
                              36, 94, 42, 40, 41, 45, 43, 61, 124, 92, -9, -41, 44, 47};
-        QCOMPARE(characters.size(), int(std::size(codes)));
+        QCOMPARE(characters.size(), static_cast<int>(std::size(codes)));
         for (int i = 0; i < characters.size(); ++i) {
             const QString name = QString("NAME_1%1b%1").arg(characters[i]);
             const QString escaped = QString("NAME_1_%1_b_%1_").arg(codes[i]);

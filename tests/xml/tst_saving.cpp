@@ -200,9 +200,9 @@ private Q_SLOTS:
         };
         DataTable<Save>({"save"})
             .row("calibration", [](const QString& path) { return vlk::saveFuelFile(path, "1;2\r\n"); })
-            .row("telemetry", telemetry(TelemetryForm::xml))
-            .row("telemetry for a server", telemetry(TelemetryForm::binary))
-            .row("telemetry as a table", telemetry(TelemetryForm::csv));
+            .row("telemetry", telemetry(TelemetryForm::Xml))
+            .row("telemetry for a server", telemetry(TelemetryForm::Binary))
+            .row("telemetry as a table", telemetry(TelemetryForm::Csv));
     }
     void savesOtherFilesInPlace()
     {

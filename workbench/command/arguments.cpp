@@ -30,14 +30,14 @@ struct CommandRow
     const char* description;
     const char* examples; // below its help
     enum Takes {
-        anyFiles,
-        twoFiles, // or one with --defaults
-        oneFile,  // and writes to -o
-        pathAndFiles,
-        settingsAndFiles, // by their "="
-        presetAndFiles,
-        recordFiles, // of telemetry, and --to
-        tablesAndFiles,
+        AnyFiles,
+        TwoFiles, // or one with --defaults
+        OneFile,  // and writes to -o
+        PathAndFiles,
+        SettingsAndFiles, // by their "="
+        PresetAndFiles,
+        RecordFiles, // of telemetry, and --to
+        TablesAndFiles,
     } takes;
     bool printsSecrets;
     bool edits;
@@ -45,29 +45,29 @@ struct CommandRow
 
 constexpr CommandRow kCommands[] = {
     {"check", "cli_100", "  r7106 check fleet\n  r7106 check --json fleet > findings.ndjson",
-     CommandRow::anyFiles, true, false},
+     CommandRow::AnyFiles, true, false},
     {"diff", "cli_101", "  r7106 diff before.xml after.xml\n  r7106 diff --defaults truck.xml",
-     CommandRow::twoFiles, true, false},
-    {"compare", "cli_102", "  r7106 compare --csv -o fleet.csv fleet", CommandRow::anyFiles, true, false},
-    {"get", "cli_103", "  r7106 get TRANS/SRV1/addr fleet", CommandRow::pathAndFiles, true, false},
+     CommandRow::TwoFiles, true, false},
+    {"compare", "cli_102", "  r7106 compare --csv -o fleet.csv fleet", CommandRow::AnyFiles, true, false},
+    {"get", "cli_103", "  r7106 get TRANS/SRV1/addr fleet", CommandRow::PathAndFiles, true, false},
     {"set", "cli_104",
      "  r7106 set --dry-run TRACK/POINTS/maxSpeed=90 fleet\n  r7106 set TRANS/SRV1/addr=tracking.example.com "
      "TRANS/SRV1/port=5000 truck.xml",
-     CommandRow::settingsAndFiles, true, true},
+     CommandRow::SettingsAndFiles, true, true},
     {"apply", "cli_105", "  r7106 apply --dry-run winter.xml fleet\n  r7106 apply winter.xml fleet",
-     CommandRow::presetAndFiles, true, true},
-    {"report", "cli_106", "  r7106 report truck.xml -o truck.pdf", CommandRow::oneFile, true, false},
-    {"info", "cli_107", "  r7106 info --json archive", CommandRow::anyFiles, false, false},
+     CommandRow::PresetAndFiles, true, true},
+    {"report", "cli_106", "  r7106 report truck.xml -o truck.pdf", CommandRow::OneFile, true, false},
+    {"info", "cli_107", "  r7106 info --json archive", CommandRow::AnyFiles, false, false},
     {"convert", "cli_201",
      "  r7106 convert week.tmi --to csv -o week.csv\n  r7106 convert --to gpx --from 20.11.2026 --to-time "
      "20.11.2026 week.xml > day.gpx\n  r7106 convert --to csv --where 'StateU_Ain3 < 9 and Speed > 0' "
      "archive",
-     CommandRow::recordFiles, false, false},
+     CommandRow::RecordFiles, false, false},
     {"fuel", "cli_230",
      "  r7106 fuel --table tank.xml week.xml\n  r7106 fuel --table left.xml --table right.xml --fall 15 "
      "--json "
      "archive\n  r7106 fuel --table tank.xml --merge monday.xml tuesday.xml",
-     CommandRow::tablesAndFiles, false, false},
+     CommandRow::TablesAndFiles, false, false},
 };
 
 std::string withExamples(const char* examples)
@@ -154,23 +154,23 @@ void addFuelOptions(CLI::App& app, Read& read)
 void addOptions(CLI::App& app, const CommandRow& row, Read& read)
 {
     addLanguage(app, read);
-    const char* output = row.edits ? "cli_262" : row.takes == CommandRow::oneFile ? "cli_118" : "cli_111";
+    const char* output = row.edits ? "cli_262" : row.takes == CommandRow::OneFile ? "cli_118" : "cli_111";
     app.add_option("-o,--output", read.output, words(output))->option_text("FILE");
-    if (row.takes == CommandRow::recordFiles)
+    if (row.takes == CommandRow::RecordFiles)
         addConversion(app, read.call.conversion);
-    if (row.takes != CommandRow::oneFile && row.takes != CommandRow::recordFiles)
+    if (row.takes != CommandRow::OneFile && row.takes != CommandRow::RecordFiles)
         app.add_flag("--json", read.call.json, words("cli_112"));
     if (row.printsSecrets)
         app.add_flag("--secrets", read.call.secrets, words("cli_113"));
     if (row.edits)
         app.add_flag("--dry-run", read.call.dryRun, words("cli_114"));
-    if (row.takes == CommandRow::twoFiles)
+    if (row.takes == CommandRow::TwoFiles)
         app.add_flag("--defaults", read.call.againstDefaults, words("cli_115"));
-    if (row.takes == CommandRow::oneFile)
+    if (row.takes == CommandRow::OneFile)
         app.add_flag("--changed", read.call.changedOnly, words("cli_116"));
     if (row.description == std::string_view("cli_102"))
         app.add_flag("--csv", read.call.csv, words("cli_117"));
-    if (row.takes == CommandRow::tablesAndFiles)
+    if (row.takes == CommandRow::TablesAndFiles)
         addFuelOptions(app, read);
 }
 
@@ -180,10 +180,10 @@ void addCommand(CLI::App& app, const CommandRow& row, Read& read)
     command->group(words("cli_134"));
     command->footer(withExamples(row.examples));
     addOptions(*command, row, read);
-    if (row.takes == CommandRow::pathAndFiles || row.takes == CommandRow::presetAndFiles)
-        command->add_option(row.takes == CommandRow::pathAndFiles ? "PATH" : "PRESET", read.first)
+    if (row.takes == CommandRow::PathAndFiles || row.takes == CommandRow::PresetAndFiles)
+        command->add_option(row.takes == CommandRow::PathAndFiles ? "PATH" : "PRESET", read.first)
             ->required();
-    const bool isSet = row.takes == CommandRow::settingsAndFiles;
+    const bool isSet = row.takes == CommandRow::SettingsAndFiles;
     CLI::Option* option = command->add_option(isSet ? "ARGUMENT" : "FILE", read.files);
     option->option_text(isSet ? "PATH=VALUE... FILE..." : "...");
 }
@@ -197,7 +197,7 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
     for (const std::string& file : read.files)
         files << nameOf(file);
     files += plain.value_or(QStringList());
-    if (row.takes == CommandRow::settingsAndFiles) {
+    if (row.takes == CommandRow::SettingsAndFiles) {
         // Up to "--" where it stands, else up to the first without a sign.
         const auto isFile = [](const QString& name) { return !name.contains(QLatin1Char('=')); };
         const auto settings =
@@ -224,13 +224,13 @@ QString splitFiles(const CommandRow& row, const Read& read, const std::optional<
         if (call->settings.isEmpty() || files.isEmpty())
             return text("cli_021");
     }
-    if (row.takes == CommandRow::pathAndFiles)
+    if (row.takes == CommandRow::PathAndFiles)
         call->settings << QString::fromUtf8(read.first.c_str());
-    if (row.takes == CommandRow::presetAndFiles)
+    if (row.takes == CommandRow::PresetAndFiles)
         call->preset = nameOf(read.first);
-    if (row.takes == CommandRow::twoFiles && files.size() != (call->againstDefaults ? 1 : 2))
+    if (row.takes == CommandRow::TwoFiles && files.size() != (call->againstDefaults ? 1 : 2))
         return text("cli_022");
-    if (row.takes == CommandRow::oneFile && files.size() != 1)
+    if (row.takes == CommandRow::OneFile && files.size() != 1)
         return text("cli_027");
     if (files.isEmpty())
         return text("cli_026");
@@ -260,7 +260,7 @@ Arguments refused(const CLI::App& app, const QString& reason)
     for (const CLI::App* chosen : app.get_subcommands())
         program += QLatin1Char(' ') + QString::fromStdString(chosen->get_name());
     return {{},
-            failed,
+            Failed,
             (QStringLiteral("r7106: ") + reason + QLatin1Char('\n') + text("cli_023").arg(program)).toUtf8()};
 }
 
@@ -312,7 +312,7 @@ QString whyNotParsed(const CLI::App& app, const CLI::ParseError& error)
 void addPrint(CLI::App& app)
 {
     const auto print = [&app](const std::string& what) {
-        throw CLI::CallForVersion(what == "man" ? manualPage(app) : bashCompletion(app), nothing);
+        throw CLI::CallForVersion(what == "man" ? manualPage(app) : bashCompletion(app), Nothing);
     };
     app.add_option_function<std::string>("--print", print)
         ->check(CLI::IsMember({"man", "bash-completion"}))
@@ -391,10 +391,10 @@ Arguments readArguments(const QByteArrayList& arguments)
     } catch (const CLI::CallForHelp&) {
         const std::vector<CLI::App*> chosen = app.get_subcommands();
         return {{},
-                nothing,
+                Nothing,
                 QByteArray::fromStdString(chosen.empty() ? app.help() : chosen.front()->help("r7106"))};
     } catch (const CLI::CallForVersion& printed) {
-        return {{}, nothing, printed.what()};
+        return {{}, Nothing, printed.what()};
     } catch (const CLI::ParseError& error) {
         return refused(app, whyNotParsed(app, error));
     }

@@ -46,7 +46,7 @@ struct Call
 };
 
 // The greater one counts.
-enum Status { nothing = 0, found = 1, failed = 2 };
+enum Status { Nothing = 0, Found = 1, Failed = 2 };
 
 // What one file gives. Lines of `told` go to the output, those of `complaints` to standard error; `inTurn`
 // runs in the order of the files, one at a time.
@@ -54,7 +54,7 @@ struct Outcome
 {
     QByteArray told{};
     QByteArray complaints{};
-    int status = nothing;
+    int status = Nothing;
     std::function<void()> inTurn{};
     bool isPassedOver = false; // it is not what the command is for
 };

@@ -38,7 +38,7 @@ QByteArray lineOf(const Call& call, const File& file, const FileRemark& remark)
         const QString line = QStringLiteral("%1: %2: %3").arg(text(severity.word), place, remark.text);
         return complaint(file.name, line);
     }
-    const bool isFinding = remark.kind == FileRemark::Kind::finding;
+    const bool isFinding = remark.kind == FileRemark::Kind::Finding;
     return JsonLine()
         .add("file", readable(file.name))
         .add("kind", isFinding ? QStringLiteral("finding") : QStringLiteral("advice"))
@@ -73,7 +73,7 @@ std::vector<FileRemark> remarksOnPreset(CXmlSection& root, vlk::review::Secrets 
 
 int check(const Call& call, Output& output)
 {
-    const auto secrets = call.secrets ? vlk::review::Secrets::shown : vlk::review::Secrets::masked;
+    const auto secrets = call.secrets ? vlk::review::Secrets::Shown : vlk::review::Secrets::Masked;
     const auto work = [&](const File& file) {
         return withConfiguration(call, file, [&](const QByteArray&, vlk::XmlDocument& document) {
             Outcome outcome;
@@ -81,7 +81,7 @@ int check(const Call& call, Output& output)
             for (const FileRemark& remark : isPreset ? remarksOnPreset(*document.root(), secrets)
                                                      : checkDocument(*document.root(), secrets)) {
                 outcome.told += lineOf(call, file, remark);
-                outcome.status = found;
+                outcome.status = Found;
             }
             return outcome;
         });

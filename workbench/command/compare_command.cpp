@@ -319,11 +319,11 @@ int compare(const Call& call, Output& output)
         [&](const File& file) {
             return withConfiguration(call, file, [&](const QByteArray&, vlk::XmlDocument& document) {
                 auto state = std::make_shared<FileState>(FileState::ofDocument(*document.root()));
-                return Outcome{{}, {}, nothing, [&fleet, file, state] { fleet.add(file.name, *state); }};
+                return Outcome{{}, {}, Nothing, [&fleet, file, state] { fleet.add(file.name, *state); }};
             });
         },
         output);
-    return std::max<int>(status, fleet.tell(call, output) ? found : nothing);
+    return std::max<int>(status, fleet.tell(call, output) ? Found : Nothing);
 }
 
 } // namespace workbench::command

@@ -27,14 +27,14 @@ namespace {
 QString whyOther(FileKind kind)
 {
     switch (kind) {
-    case FileKind::telemetry:
+    case FileKind::Telemetry:
         return text("cli_009");
-    case FileKind::calibration:
+    case FileKind::Calibration:
         return text("cli_010");
-    case FileKind::tachograph:
+    case FileKind::Tachograph:
         return text("cli_011");
-    case FileKind::configuration:
-    case FileKind::unknown:
+    case FileKind::Configuration:
+    case FileKind::Unknown:
         break;
     }
     return text("cli_012");
@@ -94,7 +94,7 @@ bool isDoubtful(const QByteArray& bytes)
     const QString text = QString::fromLatin1(bytes);
     vlk::XmlScanner scanner(text);
     std::vector<QStringView> names;
-    while (scanner.next() != vlk::XmlScanner::Token::none) {
+    while (scanner.next() != vlk::XmlScanner::Token::None) {
         names.clear();
         for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes())
             names.push_back(scanner.at(attribute.name));
@@ -122,8 +122,8 @@ QString whyDamaged(const QByteArray& bytes)
 
 Outcome refusal(const Call& call, const QString& name, const QString& reason)
 {
-    return call.json ? Outcome{complaintAsJson(name, reason), {}, failed}
-                     : Outcome{{}, complaint(name, reason), failed};
+    return call.json ? Outcome{complaintAsJson(name, reason), {}, Failed}
+                     : Outcome{{}, complaint(name, reason), Failed};
 }
 
 Outcome withConfiguration(const Call& call, const File& file, const TakeConfiguration& take)
@@ -135,8 +135,8 @@ Outcome withConfiguration(const Call& call, const File& file, const TakeConfigur
     if (bytes->trimmed().isEmpty())
         return refusal(call, file.name, text("cli_004"));
     const FileKind kind = kindOf(*bytes);
-    if (kind != FileKind::configuration) {
-        const bool isPassedOver = !file.isNamed && kind != FileKind::unknown;
+    if (kind != FileKind::Configuration) {
+        const bool isPassedOver = !file.isNamed && kind != FileKind::Unknown;
         return isPassedOver ? Outcome{.isPassedOver = true} : refusal(call, file.name, whyOther(kind));
     }
     if (bytes->size() > CSerialize::kMaxFileSize)

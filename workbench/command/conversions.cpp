@@ -42,7 +42,7 @@ const vlk::ExportFormRow& formOf(const Conversion& asked)
 bool looksAhead(const Conversion& asked, const vlk::ExportOptions& options)
 {
     const vlk::ExportFormRow& form = formOf(asked);
-    const bool isTable = form.form == ExportForm::csv || form.form == ExportForm::tsv;
+    const bool isTable = form.form == ExportForm::Csv || form.form == ExportForm::Tsv;
     const bool knowsColumns = isTable && (options.archive || !options.columns.empty());
     return (form.looksAhead && !knowsColumns) || asked.strict;
 }

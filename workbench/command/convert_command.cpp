@@ -73,7 +73,7 @@ QString readFilter(const Conversion& conversion, const FilterNames& names, Filte
             continue;
         const vlk::ParsedFilter parsed = vlk::parseFilter(part.prefix + part.condition, names);
         const bool isMoment =
-            parsed.filter && parsed.filter->root && parsed.filter->root->kind == FilterNode::condition;
+            parsed.filter && parsed.filter->root && parsed.filter->root->kind == FilterNode::Condition;
         if (!parsed.filter)
             return text("cli_214")
                 .arg(QLatin1String(part.option))
@@ -91,7 +91,7 @@ QString readFilter(const Conversion& conversion, const FilterNames& names, Filte
     if (nodes.size() == 1)
         filter->root = nodes.front();
     else if (!nodes.empty())
-        filter->root = FilterNode{.kind = FilterNode::all, .parts = std::move(nodes)};
+        filter->root = FilterNode{.kind = FilterNode::All, .parts = std::move(nodes)};
     return {};
 }
 
@@ -115,7 +115,7 @@ int refused(Output& output, const QString& reason)
 {
     output.drop();
     writeError(complaint(QStringLiteral("r7106"), reason));
-    return failed;
+    return Failed;
 }
 
 // A condition on a column that no record holds is not one that no value meets.
@@ -148,11 +148,11 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
     SourceListener listener;
     listener.damage = [&](const File& file, const vlk::FileDamage& damage, qint64 size) {
         progress.writeError(damageLine(file, damage, size));
-        status = std::max<int>(status, found);
+        status = std::max<int>(status, Found);
     };
     listener.fault = [&](const File& file, const QString& reason) {
         progress.writeError(complaint(file.name, text("cli_002").arg(reason)));
-        status = failed;
+        status = Failed;
     };
     OriginLosses losses(asked);
     listener.origin = [&](const File& file, const vlk::TelemetryOrigin& origin, const QString& tracker) {
@@ -181,15 +181,15 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
     Conversions conversions(asked, filter, options, prepared ? *prepared : *files, output, progress);
     if (isReadTwice)
         conversions.lookAhead();
-    if (asked.strict && status != nothing) {
+    if (asked.strict && status != Nothing) {
         output.drop();
-        return failed;
+        return Failed;
     }
     conversions.write();
     if (trackers.size() > 1) {
         writeError(complaint(QStringLiteral("r7106"),
                              text("cli_296").arg(valueInOneLine(trackers.join(QStringLiteral(", "))))));
-        status = std::max<int>(status, found);
+        status = std::max<int>(status, Found);
     }
     if (conversions.isEmpty() || conversions.lacksContent()) {
         // A file that is there has more to tell.
@@ -198,7 +198,7 @@ int convertFiles(const Conversion& asked, const Filter& filter, vlk::ExportOptio
                                : filter.root          ? whyNone(filter, *files)
                                                       : text("cli_293");
         writeError(complaint(QStringLiteral("r7106"), reason));
-        return std::max<int>(status, found);
+        return std::max<int>(status, Found);
     }
     writeError(losses.lines(conversions.origin()));
     return status;
@@ -214,7 +214,7 @@ int convert(const Call& call, Output& output)
     if (asked.form == QLatin1String("ndjson"))
         options.eventText = tracker::eventText;
     options.decimalComma = asked.decimalComma;
-    options.isMarked = formOf(asked).form == vlk::ExportForm::csv && output.isSpreadsheet();
+    options.isMarked = formOf(asked).form == vlk::ExportForm::Csv && output.isSpreadsheet();
     options.encode = vlk::toWindows1251;
     options.archive = asked.columns == QLatin1String("archive");
     if (asked.decimalComma && !formOf(asked).hasDecimalSign)

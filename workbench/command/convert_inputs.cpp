@@ -61,11 +61,11 @@ void TelemetryInputs::take(const File& file)
         return refuse(file, whyUnreadable(*device));
     const FileKind kind = kindOf(*device, file.name);
     // What has lost its beginning and is known by its records is of the binary form.
-    const bool isXml = kindOf(start) == FileKind::telemetry &&
+    const bool isXml = kindOf(start) == FileKind::Telemetry &&
                        !vlk::looksBinary(vlk::bytesAt(start.constData(), start.size()));
-    if (kind == FileKind::telemetry)
+    if (kind == FileKind::Telemetry)
         add(file, isKept || file.isStandardInput() ? std::move(device) : nullptr, isXml);
-    else if (file.isNamed || kind == FileKind::unknown)
+    else if (file.isNamed || kind == FileKind::Unknown)
         refuse(file, text(isBlank(start) ? "cli_004" : "cli_212"));
 }
 
@@ -79,7 +79,7 @@ void TelemetryInputs::refuse(const File& file, const QString& reason)
 {
     folders_.found(file);
     writeError(complaint(file.name, reason));
-    status_ = failed;
+    status_ = Failed;
 }
 
 } // namespace workbench::command

@@ -33,7 +33,7 @@ private:
 
     FolderTally folders_;
     std::vector<TelemetryInput> files_;
-    int status_ = nothing;
+    int status_ = Nothing;
 };
 
 } // namespace workbench::command

@@ -81,7 +81,7 @@ private:
             tracker_ =
                 QString::fromLocal8Bit(vlk::identityIn(vlk::bytesAt(header.constData(), header.size())));
             reader_ = std::make_unique<vlk::TelemetryReader>(device(input), input.file.name,
-                                                             vlk::TelemetryReading::salvage);
+                                                             vlk::TelemetryReading::Salvage);
             origin_.reset();
         }
         vlk::TelemetryContents& contents = reader_->contents();

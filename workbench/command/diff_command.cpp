@@ -21,7 +21,7 @@ int diff(const Call& call, Output& output)
     vlk::Configuration configuration(vlk::allSettings());
     std::vector<FileState> states;
     std::optional<Differences> load;
-    int status = nothing;
+    int status = Nothing;
     for (const QString& name : call.files) {
         const Outcome outcome =
             withConfiguration(call, {name, true}, [&](const QByteArray&, vlk::XmlDocument& document) {
@@ -36,13 +36,13 @@ int diff(const Call& call, Output& output)
         writeError(outcome.complaints);
         status = std::max(status, outcome.status);
     }
-    if (status == failed)
-        return failed;
+    if (status == Failed)
+        return Failed;
     if (call.againstDefaults)
         states.insert(states.begin(), FileState::ofDefaults(configuration));
     const Differences differences(std::move(states.front()), std::move(states.back()));
     output.write(linesOf(differences, configuration, call, {}, load ? &*load : nullptr));
-    return differences.count() > 0 ? found : nothing;
+    return differences.count() > 0 ? Found : Nothing;
 }
 
 } // namespace workbench::command

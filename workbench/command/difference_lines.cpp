@@ -84,7 +84,7 @@ QByteArray linesOf(const Differences& differences, const vlk::Configuration& con
                    const QString& file, const Differences* load)
 {
     QByteArray lines;
-    const Secrets secrets = call.secrets ? Secrets::shown : Secrets::masked;
+    const Secrets secrets = call.secrets ? Secrets::Shown : Secrets::Masked;
     for (const Difference& difference : differences.all()) {
         const int table = difference.key < 0 ? 0 : vlk::review::FileKeys::all()[difference.key].table;
         const vlk::Values& values = configuration.tables()[table];

@@ -14,12 +14,12 @@ void FolderTally::found(const File& file)
 
 int FolderTally::tell(const FileWalk& walk, const char* key) const
 {
-    int status = nothing;
+    int status = Nothing;
     for (const QString& folder : walk.folders()) {
         if (found_.contains(folder))
             continue;
         writeError(complaint(folder, text(walk.emptyFolders().contains(folder) ? "cli_144" : key)));
-        status = failed;
+        status = Failed;
     }
     return status;
 }

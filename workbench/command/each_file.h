@@ -23,7 +23,7 @@ int workInTurn(std::function<std::optional<Item>()> next, std::function<Outcome(
 {
     InOrder<Item, Outcome> outcomes(std::move(next), std::move(work));
     Progress progress;
-    int status = nothing;
+    int status = Nothing;
     for (std::size_t done = 1; const std::optional<Outcome> outcome = outcomes.take(); ++done) {
         if (!outcome->told.isEmpty())
             progress.clear();

@@ -47,26 +47,26 @@ bool isFraction(const PresetProblem& problem)
 const char* reasonKey(const PresetProblem& problem)
 {
     switch (problem.change) {
-    case Change::notANumber:
+    case Change::NotANumber:
         return isFraction(problem) ? "cli_297" : "cli_034";
-    case Change::outOfRange:
-    case Change::wrapped:
+    case Change::OutOfRange:
+    case Change::Wrapped:
         return "cli_035";
-    case Change::rounded:
+    case Change::Rounded:
         return "cli_036";
-    case Change::tooLong:
+    case Change::TooLong:
         return "cli_037";
-    case Change::notOffered:
+    case Change::NotOffered:
         return "cli_038";
-    case Change::byRule:
+    case Change::ByRule:
         return "cli_039";
-    case Change::none:
-    case Change::missing:
-    case Change::unknownCode:
-    case Change::completed:
-    case Change::notCarried:
-    case Change::otherForm:
-    case Change::looseForm:
+    case Change::None:
+    case Change::Missing:
+    case Change::UnknownCode:
+    case Change::Completed:
+    case Change::NotCarried:
+    case Change::OtherForm:
+    case Change::LooseForm:
         break;
     }
     return "cli_033";
@@ -77,13 +77,13 @@ QString sentence(const PresetProblem& problem)
     using What = PresetProblem::What;
     const QString path = valueInOneLine(problem.path);
     switch (problem.what) {
-    case What::unknownKey:
+    case What::UnknownKey:
         return text("cli_030").arg(path);
-    case What::doubled:
+    case What::Doubled:
         return text("cli_031").arg(path);
-    case What::noPlace:
+    case What::NoPlace:
         return text("cli_032").arg(path);
-    case What::badValue:
+    case What::BadValue:
         break;
     }
     if (problem.text.isEmpty())
@@ -129,7 +129,7 @@ bool isOvertaken(const QString& name, const QByteArray& read)
 // Standard input goes to standard output as a document; what changed in it is told beside it.
 Outcome passedOn(const Call& call, const QByteArray& document, const QByteArray& told)
 {
-    return call.dryRun ? Outcome{told, {}, told.isEmpty() ? nothing : found} : Outcome{document, told};
+    return call.dryRun ? Outcome{told, {}, told.isEmpty() ? Nothing : Found} : Outcome{document, told};
 }
 
 Outcome laidInto(const Call& call, const File& file, const QByteArray& before, const EditedFile& edited)
@@ -149,7 +149,7 @@ Outcome laidInto(const Call& call, const File& file, const QByteArray& before, c
     QString reason = isClosed(file.name) ? qt_error_string(EACCES) : QString();
     if (!reason.isEmpty() || (!call.dryRun && !vlk::replaceFile(file.name, edited.text, &reason)))
         return refusal(call, file.name, text("cli_003").arg(systemReason(reason)));
-    return {told, {}, call.dryRun ? found : nothing};
+    return {told, {}, call.dryRun ? Found : Nothing};
 }
 
 using Edit = std::function<EditedFile(const QByteArray& text)>;
@@ -200,8 +200,8 @@ int apply(const Call& call, Output& output)
         });
     output.write(outcome.told);
     writeError(outcome.complaints);
-    if (outcome.status == failed)
-        return failed;
+    if (outcome.status == Failed)
+        return Failed;
     return edit(call, output, [&](const QByteArray& text) {
         vlk::XmlDocument document(preset, QStringLiteral("DEVICE"));
         return vlk::review::withPreset(text, *document.root());

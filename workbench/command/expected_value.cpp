@@ -101,12 +101,12 @@ QString expected(const vlk::Text& row, const Limits&)
 
 QString withExpected(const QString& sentence, const vlk::review::PresetProblem& problem)
 {
-    if (!problem.setting || problem.change == Change::byRule)
+    if (!problem.setting || problem.change == Change::ByRule)
         return sentence;
     const auto* line = problem.setting->as<vlk::Text>();
-    if (line && line->unexpectedKey && problem.change != Change::tooLong)
+    if (line && line->unexpectedKey && problem.change != Change::TooLong)
         return QStringLiteral("%1: %2").arg(sentence, text(line->unexpectedKey));
-    if (line && problem.change != Change::tooLong)
+    if (line && problem.change != Change::TooLong)
         return text("cli_253").arg(sentence, expectedSigns(*line, problem.text));
     const QString said =
         std::visit([&](const auto& row) { return expected(row, problem.limits); }, problem.setting->kind);

@@ -24,11 +24,11 @@ struct KindRow
     const char* root;
 };
 
-constexpr KindRow kKinds[] = {{FileKind::configuration, "configuration", "cli_060", "DEVICE"},
-                              {FileKind::telemetry, "telemetry", "cli_061", "TMI"},
-                              {FileKind::calibration, "calibration", "cli_062", "FUEL"},
-                              {FileKind::tachograph, "tachograph", "cli_063", nullptr},
-                              {FileKind::unknown, "unknown", "cli_064", nullptr}};
+constexpr KindRow kKinds[] = {{FileKind::Configuration, "configuration", "cli_060", "DEVICE"},
+                              {FileKind::Telemetry, "telemetry", "cli_061", "TMI"},
+                              {FileKind::Calibration, "calibration", "cli_062", "FUEL"},
+                              {FileKind::Tachograph, "tachograph", "cli_063", nullptr},
+                              {FileKind::Unknown, "unknown", "cli_064", nullptr}};
 
 // Blocks of a driver's card begin with the tag of the chip, those of a vehicle unit with 0x76 and a number.
 bool looksLikeTachograph(const QByteArray& start)
@@ -50,7 +50,7 @@ bool beginsWithRecords(QIODevice& device, const QString& name)
     QBuffer start;
     start.setData(device.peek(searched));
     start.open(QIODevice::ReadOnly);
-    vlk::TelemetryReader reader(start, name, vlk::TelemetryReading::salvage);
+    vlk::TelemetryReader reader(start, name, vlk::TelemetryReading::Salvage);
     while (reader.step()) {
     }
     constexpr qint64 leastShare = 4; // of the bytes behind the header one in four
@@ -68,27 +68,27 @@ FileKind kindOf(const QByteArray& start)
     const std::span bytes(reinterpret_cast<const std::uint8_t*>(start.constData()),
                           static_cast<std::size_t>(start.size()));
     if (vlk::looksBinary(bytes))
-        return FileKind::telemetry;
+        return FileKind::Telemetry;
     if (looksLikeTachograph(start))
-        return FileKind::tachograph;
+        return FileKind::Tachograph;
     const QString text = textOf(start);
     vlk::XmlScanner scanner(text);
-    const bool hasTag = scanner.next() == vlk::XmlScanner::Token::start;
+    const bool hasTag = scanner.next() == vlk::XmlScanner::Token::Start;
     const auto* found = std::ranges::find_if(kKinds, [&](const KindRow& row) {
         return hasTag && row.root && scanner.at(scanner.name()) == QLatin1String(row.root);
     });
     if (found != std::end(kKinds))
         return found->kind;
     // Without its beginning telemetry is known by the first line of a record.
-    return start.contains("<Page type=\"") ? FileKind::telemetry : FileKind::unknown;
+    return start.contains("<Page type=\"") ? FileKind::Telemetry : FileKind::Unknown;
 }
 
 FileKind kindOf(QIODevice& device, const QString& name)
 {
     const FileKind kind = kindOf(device.peek(kBeginning));
-    return kind == FileKind::unknown && name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
+    return kind == FileKind::Unknown && name.endsWith(QLatin1String(".tmi"), Qt::CaseInsensitive) &&
                    beginsWithRecords(device, name)
-               ? FileKind::telemetry
+               ? FileKind::Telemetry
                : kind;
 }
 
@@ -106,7 +106,7 @@ QString modelOf(const QByteArray& start)
 {
     const QString text = textOf(start);
     vlk::XmlScanner scanner(text);
-    if (scanner.next() == vlk::XmlScanner::Token::start) {
+    if (scanner.next() == vlk::XmlScanner::Token::Start) {
         for (const vlk::XmlScanner::Attribute& attribute : scanner.attributes()) {
             if (scanner.at(attribute.name) == QLatin1String("model"))
                 return scanner.at(attribute.value).toString();

@@ -8,7 +8,7 @@
 
 namespace workbench::command {
 
-enum class FileKind { configuration, telemetry, calibration, tachograph, unknown };
+enum class FileKind { Configuration, Telemetry, Calibration, Tachograph, Unknown };
 
 // How much of its beginning is enough to know it.
 inline constexpr qint64 kBeginning = 4096;

@@ -86,9 +86,9 @@ QString sensorsToChoose(const Call& call)
     while (const std::optional<File> file = walk.next()) {
         QFile device(file->name);
         if (file->isStandardInput() || !device.open(QIODevice::ReadOnly) ||
-            kindOf(device, file->name) != FileKind::telemetry)
+            kindOf(device, file->name) != FileKind::Telemetry)
             continue;
-        vlk::TelemetryReader reader(device, file->name, vlk::TelemetryReading::salvage);
+        vlk::TelemetryReader reader(device, file->name, vlk::TelemetryReading::Salvage);
         while (reader.contents().records.size() < mostRecords && reader.step())
             ;
         vlk::RecordColumns columns(reader.contents().records);
@@ -208,7 +208,7 @@ public:
         for (const FuelEvent& event :
              vlk::findFuelEvents(columns, litres, medians, {call_.rise, call_.fall})) {
             outcome_.told += eventLine(call_, partOf(event.record).file, sensor, event);
-            outcome_.status = std::max<int>(outcome_.status, found);
+            outcome_.status = std::max<int>(outcome_.status, Found);
         }
         return std::move(outcome_);
     }
@@ -234,7 +234,7 @@ private:
         const Outcome refused = refusal(call_, file.name, reason);
         outcome_.told += refused.told;
         outcome_.complaints += refused.complaints;
-        outcome_.status = failed;
+        outcome_.status = Failed;
     }
 
     void read(const File& file, bool isOneOfSeveral)
@@ -257,16 +257,16 @@ private:
         if (start.isEmpty() && plain.isOpen() && plain.error() != QFileDevice::NoError)
             return refuse(file, whyUnreadable(plain));
         const FileKind kind = kindOf(*device, file.name);
-        if (kind == FileKind::telemetry)
+        if (kind == FileKind::Telemetry)
             return readRecords(file, *device, isOneOfSeveral);
-        if (file.isNamed || kind == FileKind::unknown)
+        if (file.isNamed || kind == FileKind::Unknown)
             refuse(file, text(isBlank(start) ? "cli_004" : "cli_245"));
     }
 
     void readRecords(const File& file, QIODevice& device, bool isOneOfSeveral)
     {
         folders_.found(file);
-        vlk::TelemetryReader reader(device, file.name, vlk::TelemetryReading::salvage);
+        vlk::TelemetryReader reader(device, file.name, vlk::TelemetryReading::Salvage);
         Part part{file, records_.size(), 0, false};
         for (bool isMore = true; isMore;) {
             isMore = reader.step();
@@ -283,7 +283,7 @@ private:
         reader.finish();
         for (const vlk::FileDamage& damage : reader.contents().damages) {
             outcome_.complaints += damageLine(file, damage, device.size());
-            outcome_.status = std::max<int>(outcome_.status, found);
+            outcome_.status = std::max<int>(outcome_.status, Found);
         }
         part.end = records_.size();
         parts_.push_back(std::move(part));
@@ -371,8 +371,8 @@ int fuel(const Call& call, Output& output)
     const Outcome outcome = takeTanks(call, &tanks);
     output.write(outcome.told);
     writeError(outcome.complaints);
-    if (outcome.status == failed)
-        return failed;
+    if (outcome.status == Failed)
+        return Failed;
     FileWalk walk(call.files);
     const std::vector<Vehicle> vehicles = vehiclesOf(walk, call.isOneVehicle);
     FolderTally folders;

@@ -63,7 +63,7 @@ int get(const Call& call, Output& output)
     const int key = FileKeys::all().at(path);
     if (key < 0) {
         writeError(complaint(QStringLiteral("r7106"), text("cli_030").arg(path)));
-        return failed;
+        return Failed;
     }
     const bool isAlone = call.files.size() == 1 && !QFileInfo(call.files.first()).isDir();
     const auto told = [&](const File& file, const Setting& setting) {
@@ -88,7 +88,7 @@ int get(const Call& call, Output& output)
                 // It leaves alone what it lacks: a default would be no value of it.
                 if (setting.isLacking && vlk::review::saysPreset(*document.root()))
                     return refusal(call, file.name, text("cli_332"));
-                return Outcome{told(file, setting), {}, nothing};
+                return Outcome{told(file, setting), {}, Nothing};
             });
         },
         output);

@@ -26,7 +26,7 @@ namespace {
 
 struct Facts
 {
-    FileKind kind = FileKind::unknown;
+    FileKind kind = FileKind::Unknown;
     bool isPreset = false;
     QString model{};
     QString name{};     // of the object
@@ -91,7 +91,7 @@ QByteArray lineOf(const Call& call, const File& file, const Facts& facts)
 Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
 {
     const TelemetrySummary summary = summaryOf(device, file.name);
-    Facts facts{.kind = FileKind::telemetry, .records = summary.records, .gaps = summary.gaps};
+    Facts facts{.kind = FileKind::Telemetry, .records = summary.records, .gaps = summary.gaps};
     facts.model = summary.model.isEmpty() ? QString() : summary.model;
     facts.from = timeText(summary.from);
     facts.to = timeText(summary.to);
@@ -103,7 +103,7 @@ Outcome telemetryFacts(const Call& call, const File& file, QIODevice& device)
     }
     if (summary.strayed > 0)
         complaints += complaint(file.name, text("rec_603").arg(summary.strayed));
-    return {lineOf(call, file, facts), complaints, summary.damages.empty() ? nothing : found};
+    return {lineOf(call, file, facts), complaints, summary.damages.empty() ? Nothing : Found};
 }
 
 // A text of the section TRANS; null where there is none.
@@ -117,21 +117,21 @@ QString textAt(const CXmlSection& root, const char* group, const char* key)
 
 Outcome documentFacts(const Call& call, const File& file, FileKind kind, const QByteArray& content)
 {
-    const QString root = QString::fromLatin1(kind == FileKind::calibration ? vlk::kFuelRoot : "DEVICE");
-    const QString damage = kind == FileKind::configuration ? whyDamaged(content) : QString();
+    const QString root = QString::fromLatin1(kind == FileKind::Calibration ? vlk::kFuelRoot : "DEVICE");
+    const QString damage = kind == FileKind::Configuration ? whyDamaged(content) : QString();
     vlk::XmlDocument document(damage.isEmpty() ? content : QByteArray(), root);
     if (!document.isOpen())
         return refusal(call, file.name, damage.isEmpty() ? text("cli_008") : damage);
     Facts facts{.kind = kind};
     if (const QString* model = document.root()->find(QStringLiteral("model")))
         facts.model = *model;
-    if (kind == FileKind::configuration) {
+    if (kind == FileKind::Configuration) {
         facts.isPreset = vlk::review::saysPreset(*document.root());
         facts.name = textAt(*document.root(), "OBJECT", "name");
         const QString id = textAt(*document.root(), "SRV1", "objID");
         facts.objectId = id == QLatin1String("0") ? QString() : id;
     }
-    if (const auto rows = kind == FileKind::calibration ? vlk::fuelTable(document.root()) : std::nullopt)
+    if (const auto rows = kind == FileKind::Calibration ? vlk::fuelTable(document.root()) : std::nullopt)
         facts.records = static_cast<qint64>(rows->size());
     return {lineOf(call, file, facts)};
 }
@@ -144,12 +144,12 @@ Outcome factsOf(const Call& call, const File& file)
     const QByteArray start = isOpen ? device.peek(kBeginning) : QByteArray();
     if (start.isEmpty() && device.error() != QFileDevice::NoError)
         return refusal(call, file.name, whyUnreadable(device));
-    const FileKind kind = isOpen ? kindOf(device, file.name) : FileKind::unknown;
-    if (kind == FileKind::telemetry)
+    const FileKind kind = isOpen ? kindOf(device, file.name) : FileKind::Unknown;
+    if (kind == FileKind::Telemetry)
         return telemetryFacts(call, file, device);
     if (isBlank(start))
         return refusal(call, file.name, text("cli_004"));
-    if (kind == FileKind::tachograph || kind == FileKind::unknown)
+    if (kind == FileKind::Tachograph || kind == FileKind::Unknown)
         return {lineOf(call, file, {.kind = kind})};
     const QByteArray content = device.read(CSerialize::kMaxFileSize + 1);
     if (content.size() > CSerialize::kMaxFileSize)

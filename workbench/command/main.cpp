@@ -42,7 +42,7 @@ constexpr CommandFunction kFunctions[] = {{"check", check}, {"diff", diff},     
 
 Output::Readers readersOf(const Call& call)
 {
-    return call.secrets ? Output::Readers::owner : Output::Readers::usual;
+    return call.secrets ? Output::Readers::Owner : Output::Readers::Usual;
 }
 
 int run(const Call& call)
@@ -53,16 +53,16 @@ int run(const Call& call)
         Output output(call.output, readersOf(call));
         // Before anything is changed, or worked on for long.
         if (!output.isReachable())
-            return output.close() ? nothing : failed;
+            return output.close() ? Nothing : Failed;
         const int status = function.run(call, output);
         // What came to nothing is no reason to empty a file that was there.
-        if (status == failed && output.isEmptyFile())
+        if (status == Failed && output.isEmptyFile())
             output.drop();
         if (output.hasMask() && !call.secrets && !call.json)
             writeError(complaint(QStringLiteral("r7106"), text("cli_326")));
-        return output.close() ? status : failed;
+        return output.close() ? status : Failed;
     }
-    return failed;
+    return Failed;
 }
 
 // With what is to be told of it once it is there, if anything.
@@ -70,10 +70,10 @@ int writeReport(Output& output, const QByteArray& report, const QString& note)
 {
     output.write(report);
     if (!output.close())
-        return failed;
+        return Failed;
     if (!note.isEmpty())
         writeError(complaint(QStringLiteral("r7106"), note));
-    return nothing;
+    return Nothing;
 }
 
 bool isPdf(const Call& call)
@@ -101,7 +101,7 @@ int writePdf(const Pdf& pdf, int argc, char** argv)
         make(pdf.html, &made, argc, argv);
     if (made.isEmpty()) {
         writeError(complaint(QStringLiteral("r7106"), pdf.notLoaded));
-        return failed;
+        return Failed;
     }
     Output output(pdf.call.output, readersOf(pdf.call), pdf.notWritten);
     return writeReport(output, made, pdf.note);
@@ -119,9 +119,9 @@ void holdClosedStreams()
 
 int report(const Call& call, Pdf* pdf)
 {
-    int status = nothing;
+    int status = Nothing;
     const QString html = reportHtml(call, &status);
-    if (status != nothing)
+    if (status != Nothing)
         return status;
     const bool hasMask = !call.secrets && html.contains(QString::fromUtf8(vlk::kSecretDots));
     const QString note = hasMask ? text("cli_326") : QString();
@@ -133,7 +133,7 @@ int report(const Call& call, Pdf* pdf)
                 text("cli_025"),
                 text("cli_003"),
                 note};
-        return nothing;
+        return Nothing;
     }
     Output output(call.output, readersOf(call));
     return writeReport(output, html.toUtf8(), note);
@@ -150,20 +150,20 @@ int runWithTexts(int& argc, char** argv, Pdf* pdf)
     languages.set(workbench::Languages::isKnown(language) ? language : workbench::Languages::ofSystem());
     const Arguments arguments = readArguments(all);
     if (arguments.end) {
-        if (*arguments.end == failed) {
+        if (*arguments.end == Failed) {
             writeError(arguments.message);
-            return failed;
+            return Failed;
         }
-        Output output({}, Output::Readers::usual);
+        Output output({}, Output::Readers::Usual);
         output.write(arguments.message);
-        return output.close() ? nothing : failed;
+        return output.close() ? Nothing : Failed;
     }
     QString reason = whyNotReplaced(arguments.call);
     if (reason.isEmpty())
         reason = whyOtherEnding(arguments.call);
     if (!reason.isEmpty()) {
         writeError(complaint(arguments.call.output, reason));
-        return failed;
+        return Failed;
     }
     return arguments.call.command == QLatin1String("report") ? report(arguments.call, pdf)
                                                              : run(arguments.call);
@@ -181,9 +181,9 @@ int main(int argc, char* argv[])
             break;
         if (std::strcmp(argv[i], "--version") == 0) {
             if (std::puts("r7106 " VLK_VERSION) >= 0 && std::fflush(stdout) == 0)
-                return nothing;
+                return Nothing;
             std::perror("r7106");
-            return failed;
+            return Failed;
         }
     }
     // What is logged, the commands tell in their own words.

@@ -28,7 +28,7 @@ Output::Output(const QString& name, Readers readers, const QString& complaint)
 void Output::open()
 {
     kept_ = std::make_unique<QFile>();
-    isBeside_ = readers_ == Readers::usual && vlk::openBeside(*kept_, name_);
+    isBeside_ = readers_ == Readers::Usual && vlk::openBeside(*kept_, name_);
     if (isBeside_)
         return;
     auto temporary = std::make_unique<QTemporaryFile>();
@@ -99,7 +99,7 @@ void Output::putInPlace()
         QFile device(name_);
         if (!device.open(QIODevice::WriteOnly) || !copy(device) || !device.flush())
             fault_ = device.errorString();
-    } else if (readers_ == Readers::owner) {
+    } else if (readers_ == Readers::Owner) {
         kept_->seek(0);
         vlk::replacePrivateFile(name_, kept_->readAll(), &fault_);
     } else if (!isBeside_ || !vlk::putInPlace(*kept_, name_)) {

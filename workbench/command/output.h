@@ -12,7 +12,7 @@ class Output
 {
 public:
     // Who may read the file: others as far as its folder and the system say, or its owner alone.
-    enum class Readers { usual, owner };
+    enum class Readers { Usual, Owner };
 
     // Empty, or "-": standard output.
     Output(const QString& name, Readers readers);

@@ -55,8 +55,8 @@ bool isNamed(const vlk::ExportFormRow& row, const QString& ending)
 {
     using vlk::ExportForm;
     return ending == QLatin1String(row.suffix) ||
-           (row.form == ExportForm::ndjson && ending == QLatin1String("jsonl")) ||
-           ((row.form == ExportForm::ndjson || row.form == ExportForm::geojson) &&
+           (row.form == ExportForm::Ndjson && ending == QLatin1String("jsonl")) ||
+           ((row.form == ExportForm::Ndjson || row.form == ExportForm::Geojson) &&
             ending == QLatin1String("json"));
 }
 

@@ -47,10 +47,10 @@ bool isInput(const FileIdentity& output, const Call& call)
 FileKind writtenBy(const Call& call)
 {
     if (call.command == QLatin1String("set") || call.command == QLatin1String("apply"))
-        return FileKind::configuration;
+        return FileKind::Configuration;
     const QString& form = call.conversion.form;
-    return form == QLatin1String("xml") || form == QLatin1String("tmi") ? FileKind::telemetry
-                                                                        : FileKind::unknown;
+    return form == QLatin1String("xml") || form == QLatin1String("tmi") ? FileKind::Telemetry
+                                                                        : FileKind::Unknown;
 }
 
 } // namespace
@@ -64,14 +64,14 @@ QString whyNotReplaced(const Call& call)
     if (isInput(*output, call))
         return text("cli_250");
     QFile file(call.output);
-    const FileKind kind = file.open(QIODevice::ReadOnly) ? kindOf(file, call.output) : FileKind::unknown;
+    const FileKind kind = file.open(QIODevice::ReadOnly) ? kindOf(file, call.output) : FileKind::Unknown;
     // Lines of text may begin as tachograph files do.
     const bool isPrecious =
-        kind == FileKind::configuration || kind == FileKind::telemetry || kind == FileKind::calibration;
+        kind == FileKind::Configuration || kind == FileKind::Telemetry || kind == FileKind::Calibration;
     if (isPrecious && kind != writtenBy(call))
         return text("cli_266").arg(text(wordOf(kind)));
     // "-o *.tmi" takes the first file for the output, and the others would take its place.
-    return kind == FileKind::telemetry && call.files.size() > 1 ? text("cli_282") : QString();
+    return kind == FileKind::Telemetry && call.files.size() > 1 ? text("cli_282") : QString();
 }
 
 } // namespace workbench::command

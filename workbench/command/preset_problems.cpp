@@ -17,7 +17,7 @@ namespace {
 bool isAlwaysWrong(const PresetProblem& problem)
 {
     using What = PresetProblem::What;
-    if (problem.what == What::unknownKey || problem.what == What::doubled)
+    if (problem.what == What::UnknownKey || problem.what == What::Doubled)
         return true;
     const int key = FileKeys::all().at(problem.path);
     const vlk::review::FileKey& place = FileKeys::all()[key];
@@ -25,7 +25,7 @@ bool isAlwaysWrong(const PresetProblem& problem)
         const vlk::TableLayout::Row& setting = FileKeys::all().layout(place.table).rows[row];
         return !setting.ranges.empty() || !setting.sharers.empty() || !setting.distances.empty();
     });
-    return problem.what == What::badValue && problem.change != Change::byRule && !follows;
+    return problem.what == What::BadValue && problem.change != Change::ByRule && !follows;
 }
 
 } // namespace

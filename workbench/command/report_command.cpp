@@ -30,7 +30,7 @@ QString html(const Call& call, vlk::XmlDocument& document)
     }
     vlk::review::ReportChoice choice{.isChangesAlone = call.changedOnly};
     if (call.secrets)
-        choice.secrets = vlk::review::Secrets::shown;
+        choice.secrets = vlk::review::Secrets::Shown;
     const Differences changes(FileState::ofDefaults(configuration),
                               FileState::ofConfiguration(configuration));
     const auto advice =

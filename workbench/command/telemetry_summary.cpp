@@ -78,10 +78,10 @@ TelemetrySummary summaryOf(QIODevice& device, const QString& name)
 {
     TelemetrySummary summary;
     const QByteArray start = device.peek(4096);
-    vlk::TelemetryReader reader(device, name, vlk::TelemetryReading::salvage);
+    vlk::TelemetryReader reader(device, name, vlk::TelemetryReading::Salvage);
     // Where the header is damaged or cut, what stands there is no model.
     const bool hasHeader =
-        start.size() >= int{vlk::binary::kHeaderBytes} && kindOf(start) == FileKind::telemetry;
+        start.size() >= int{vlk::binary::kHeaderBytes} && kindOf(start) == FileKind::Telemetry;
     if (!reader.isBinary())
         summary.model = modelOf(start);
     else if (hasHeader)

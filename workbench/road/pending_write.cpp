@@ -70,12 +70,12 @@ std::optional<RoadReport> PendingWrite::left() const
         return {};
     const QJsonObject object = QJsonDocument::fromJson(file.read(most)).object();
     RoadReport report;
-    report.outcome = RoadReport::Outcome::unknown;
-    report.fault = RoadReport::Fault::interrupted;
-    report.step = RoadReport::Step::writing;
+    report.outcome = RoadReport::Outcome::Unknown;
+    report.fault = RoadReport::Fault::Interrupted;
+    report.step = RoadReport::Step::Writing;
     report.request.origin = WriteRequest::Origin(
-        std::clamp(object[kOriginKey].toInt(), static_cast<int>(WriteRequest::Origin::tracker),
-                   static_cast<int>(WriteRequest::Origin::previous)));
+        std::clamp(object[kOriginKey].toInt(), static_cast<int>(WriteRequest::Origin::Tracker),
+                   static_cast<int>(WriteRequest::Origin::Previous)));
     report.request.document = QByteArray::fromBase64(object[kDocumentKey].toString().toLatin1());
     report.backup = object[kBackupKey].toInt();
     report.time = QDateTime::fromString(object[kTimeKey].toString(), Qt::ISODate).toLocalTime();

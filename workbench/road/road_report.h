@@ -15,9 +15,9 @@ namespace workbench {
 
 struct WriteRequest
 {
-    enum class Origin { tracker, file, fresh, backup, previous };
+    enum class Origin { Tracker, File, Fresh, Backup, Previous };
 
-    Origin origin = Origin::tracker;
+    Origin origin = Origin::Tracker;
     QByteArray document; // of `previous` empty: the tracker is asked for it
     QString name;        // of the file or the number of the backup
     QString readFrom;    // number of the tracker that is known to have held what was edited
@@ -45,15 +45,15 @@ struct WriteReview
 
     // Why it has to be looked at.
     enum class Why {
-        removes,
-        hasErrors,
-        hasTyped,
-        isUnchecked,
-        isOfAnother,
-        isKnownNoMore,
-        losesKeys,
-        bringsMore,
-        bringsBack
+        Removes,
+        HasErrors,
+        HasTyped,
+        IsUnchecked,
+        IsOfAnother,
+        IsKnownNoMore,
+        LosesKeys,
+        BringsMore,
+        BringsBack
     };
 
     int changed() const { return static_cast<int>(changes.size()) - added - removed; }
@@ -74,7 +74,7 @@ struct WriteReview
     bool mustBeSeen() const
     {
         const QVector<Why> all = reasons();
-        return !all.isEmpty() && all != QVector{Why::bringsBack};
+        return !all.isEmpty() && all != QVector{Why::BringsBack};
     }
 };
 
@@ -90,33 +90,33 @@ struct WrittenSetting
 struct RoadReport
 {
     enum class Outcome {
-        confirmed,  // read back, and all is there
-        notTaken,   // read back, and something is not as it was sent
-        notWritten, // the tracker has what it had
-        unknown,    // it may have taken it; nobody has seen what it holds
-        cancelled
+        Confirmed,  // read back, and all is there
+        NotTaken,   // read back, and something is not as it was sent
+        NotWritten, // the tracker has what it had
+        Unknown,    // it may have taken it; nobody has seen what it holds
+        Cancelled
     };
     // Why it ended before its time.
     enum class Fault {
-        none,
-        badRequest,   // what is to be written is no configuration
-        unsaved,      // the file for the tracker was not saved
-        incomparable, // nobody can tell the two apart
-        detached,
-        reattached, // what was compared may be there no longer
-        otherTracker,
-        unplugged,
-        silent,
-        badAnswer,
-        noBackup,
-        refused,
-        interrupted, // the program ended before
+        None,
+        BadRequest,   // what is to be written is no configuration
+        Unsaved,      // the file for the tracker was not saved
+        Incomparable, // nobody can tell the two apart
+        Detached,
+        Reattached, // what was compared may be there no longer
+        OtherTracker,
+        Unplugged,
+        Silent,
+        BadAnswer,
+        NoBackup,
+        Refused,
+        Interrupted, // the program ended before
     };
-    enum class Step { reading, review, backup, writing, readingBack };
+    enum class Step { Reading, Review, Backup, Writing, ReadingBack };
 
-    Outcome outcome = Outcome::notWritten;
-    Fault fault = Fault::none;
-    Step step = Step::reading;
+    Outcome outcome = Outcome::NotWritten;
+    Fault fault = Fault::None;
+    Step step = Step::Reading;
     std::optional<ConfigurationProblem> problem; // of a bad request or answer
     QString reasonKey;                           // of a refusal
     QString detail;
@@ -136,8 +136,8 @@ struct RoadReport
     // The tracker holds, or may hold, something else than before.
     bool mayHaveChanged() const
     {
-        return outcome == Outcome::notTaken || outcome == Outcome::unknown ||
-               (outcome == Outcome::confirmed && !settings.isEmpty());
+        return outcome == Outcome::NotTaken || outcome == Outcome::Unknown ||
+               (outcome == Outcome::Confirmed && !settings.isEmpty());
     }
     // The backup of what the tracker may hold no longer.
     int toBringBack() const { return mayHaveChanged() ? backup : earlier; }
@@ -151,16 +151,16 @@ inline QVector<WriteReview::Why> WriteReview::reasons() const
         if (holds)
             all.append(why);
     };
-    add(Why::removes, removed > 0);
-    add(Why::hasErrors, errors > 0);
-    add(Why::hasTyped, typed > 0);
-    add(Why::isUnchecked, isUnchecked);
-    add(Why::isOfAnother, !isOfThisTracker);
-    add(Why::isKnownNoMore, isKnownNoMore);
-    add(Why::losesKeys, !request.lost.isEmpty());
-    add(Why::bringsMore, !alongside().isEmpty());
+    add(Why::Removes, removed > 0);
+    add(Why::HasErrors, errors > 0);
+    add(Why::HasTyped, typed > 0);
+    add(Why::IsUnchecked, isUnchecked);
+    add(Why::IsOfAnother, !isOfThisTracker);
+    add(Why::IsKnownNoMore, isKnownNoMore);
+    add(Why::LosesKeys, !request.lost.isEmpty());
+    add(Why::BringsMore, !alongside().isEmpty());
     // Nobody has edited what is brought back: the review is the one look at it.
-    add(Why::bringsBack, request.origin == Origin::backup || request.origin == Origin::previous);
+    add(Why::BringsBack, request.origin == Origin::Backup || request.origin == Origin::Previous);
     return all;
 }
 

@@ -18,9 +18,9 @@ struct TrackerIdentity
 
 struct PortAnswer
 {
-    enum class Outcome { done, detached, unplugged, refused };
+    enum class Outcome { Done, Detached, Unplugged, Refused };
 
-    Outcome outcome = Outcome::done;
+    Outcome outcome = Outcome::Done;
     QByteArray document; // of a reading
     QString reasonKey;   // of a refusal: the key of its text, and what the tracker adds to it
     QString detail;
@@ -32,7 +32,7 @@ class TrackerPort : public QObject
 
 public:
     // The configuration that the tracker works by, or the one that it kept before the last write.
-    enum class Copy { present, previous };
+    enum class Copy { Present, Previous };
 
     using QObject::QObject;
 

@@ -24,16 +24,16 @@ void leaveKeptSections(SettingChanges& changes, const QSet<QString>& sent, QStri
 RoadReport::Fault faultOf(PortAnswer::Outcome outcome)
 {
     switch (outcome) {
-    case PortAnswer::Outcome::done:
+    case PortAnswer::Outcome::Done:
         break;
-    case PortAnswer::Outcome::detached:
-        return RoadReport::Fault::detached;
-    case PortAnswer::Outcome::unplugged:
-        return RoadReport::Fault::unplugged;
-    case PortAnswer::Outcome::refused:
-        return RoadReport::Fault::refused;
+    case PortAnswer::Outcome::Detached:
+        return RoadReport::Fault::Detached;
+    case PortAnswer::Outcome::Unplugged:
+        return RoadReport::Fault::Unplugged;
+    case PortAnswer::Outcome::Refused:
+        return RoadReport::Fault::Refused;
     }
-    return RoadReport::Fault::none;
+    return RoadReport::Fault::None;
 }
 
 } // namespace
@@ -83,9 +83,9 @@ bool WriteRoad::begin(const WriteRequest& request)
     report_ = {};
     report_.request = request;
     report_.tracker = review_.tracker;
-    setStep(Step::reading);
-    if (request.origin == WriteRequest::Origin::previous && request.document.isEmpty()) {
-        reading_ = TrackerPort::Copy::previous;
+    setStep(Step::Reading);
+    if (request.origin == WriteRequest::Origin::Previous && request.document.isEmpty()) {
+        reading_ = TrackerPort::Copy::Previous;
         port_.read(reading_);
     } else if ((report_.problem = checkConfiguration(request.document, review_.tracker.model))) {
         // Told later, as everything is.
@@ -93,7 +93,7 @@ bool WriteRoad::begin(const WriteRequest& request)
             this,
             [this] {
                 if (isBusy_ && report_.problem)
-                    fail(Fault::badRequest);
+                    fail(Fault::BadRequest);
             },
             Qt::QueuedConnection);
     } else {
@@ -136,7 +136,7 @@ void WriteRoad::reject(const WriteRequest& request, RoadReport::Fault fault, con
 void WriteRoad::setStep(Step step)
 {
     report_.step = step;
-    const bool waits = step == Step::reading || step == Step::writing || step == Step::readingBack;
+    const bool waits = step == Step::Reading || step == Step::Writing || step == Step::ReadingBack;
     notice_.stop();
     patience_.stop();
     if (waits)
@@ -157,26 +157,26 @@ void WriteRoad::listen()
 
 void WriteRoad::readPresent()
 {
-    reading_ = TrackerPort::Copy::present;
+    reading_ = TrackerPort::Copy::Present;
     port_.read(reading_);
 }
 
 void WriteRoad::readCame(const PortAnswer& answer)
 {
-    if (!isBusy_ || (report_.step != Step::reading && report_.step != Step::readingBack))
+    if (!isBusy_ || (report_.step != Step::Reading && report_.step != Step::ReadingBack))
         return;
-    if (answer.outcome != PortAnswer::Outcome::done) {
+    if (answer.outcome != PortAnswer::Outcome::Done) {
         fail(faultOf(answer.outcome), answer);
         return;
     }
     if ((report_.problem = checkConfiguration(answer.document, review_.tracker.model))) {
-        fail(Fault::badAnswer);
+        fail(Fault::BadAnswer);
         return;
     }
     listen();
-    if (report_.step == Step::readingBack)
+    if (report_.step == Step::ReadingBack)
         readBackCame(answer.document);
-    else if (reading_ == TrackerPort::Copy::previous)
+    else if (reading_ == TrackerPort::Copy::Previous)
         previousCame(answer.document);
     else
         presentCame(answer.document);
@@ -195,18 +195,18 @@ void WriteRoad::presentCame(const QByteArray& document)
     before_ = document;
     const QByteArray& wanted = review_.request.document;
     if (const std::optional<RoadReport> earlier = settledBy(document)) {
-        if (earlier->outcome == Outcome::confirmed && earlier->request.document == wanted) {
+        if (earlier->outcome == Outcome::Confirmed && earlier->request.document == wanted) {
             // The next try of the same has nothing left to write.
             report_ = *earlier;
             report_.request = review_.request;
-            end(Outcome::confirmed);
+            end(Outcome::Confirmed);
             return;
         }
         Q_EMIT settled(*earlier);
     }
     auto changes = compare_(before_, wanted);
     if (!changes) {
-        fail(Fault::incomparable);
+        fail(Fault::Incomparable);
         return;
     }
     const QSet<QString> sent = sectionsOf(wanted);
@@ -215,7 +215,7 @@ void WriteRoad::presentCame(const QByteArray& document)
                           [](const SettingChange& change) { return change.isRemoved(); });
     review_.changes = *changes;
     const auto count = [&](bool (SettingChange::*is)() const) {
-        return int(std::ranges::count_if(*changes, is));
+        return static_cast<int>(std::ranges::count_if(*changes, is));
     };
     review_.added = count(&SettingChange::isAdded);
     review_.removed = count(&SettingChange::isRemoved);
@@ -234,7 +234,7 @@ void WriteRoad::presentCame(const QByteArray& document)
     review_.typed = static_cast<int>(std::ranges::count_if(review_.advice, &SettingAdvice::isTyped));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);
-    setStep(Step::review);
+    setStep(Step::Review);
     Q_EMIT reviewReady(review_);
 }
 
@@ -248,24 +248,24 @@ bool WriteRoad::isChanged(const QByteArray& known) const
 
 void WriteRoad::approve()
 {
-    if (!isBusy_ || report_.step != Step::review)
+    if (!isBusy_ || report_.step != Step::Review)
         return;
     const TrackerIdentity now = port_.tracker();
     if (now.isAttached() && now.number != review_.tracker.number) {
-        fail(Fault::otherTracker);
+        fail(Fault::OtherTracker);
         return;
     }
     if (!now.isAttached() || wasGone_) {
-        fail(now.isAttached() ? Fault::reattached : Fault::detached);
+        fail(now.isAttached() ? Fault::Reattached : Fault::Detached);
         return;
     }
-    setStep(Step::backup);
+    setStep(Step::Backup);
     report_.backup = backups_.add(review_.tracker, before_, QDateTime::currentDateTimeUtc(), &report_.detail);
     if (report_.backup == 0) {
-        fail(Fault::noBackup);
+        fail(Fault::NoBackup);
         return;
     }
-    setStep(Step::writing);
+    setStep(Step::Writing);
     pending_.keep(report_);
     port_.write(review_.request.document);
 }
@@ -275,17 +275,17 @@ bool WriteRoad::cancel()
     if (!isBusy_ || isTaken_)
         return !isTaken_;
     port_.drop();
-    end(Outcome::cancelled);
+    end(Outcome::Cancelled);
     return true;
 }
 
 void WriteRoad::writeCame(const PortAnswer& answer)
 {
-    if (!isBusy_ || report_.step != Step::writing)
+    if (!isBusy_ || report_.step != Step::Writing)
         return;
-    if (answer.outcome == PortAnswer::Outcome::done) {
+    if (answer.outcome == PortAnswer::Outcome::Done) {
         isTaken_ = true;
-        setStep(Step::readingBack);
+        setStep(Step::ReadingBack);
         readPresent();
     } else {
         fail(faultOf(answer.outcome), answer);
@@ -297,7 +297,7 @@ void WriteRoad::readBackCame(const QByteArray& document)
     if (const auto outcome = outcomeIn(document, before_, review_.changes, report_))
         end(*outcome);
     else
-        fail(Fault::incomparable);
+        fail(Fault::Incomparable);
 }
 
 // What came back decides, whatever was said before.
@@ -331,10 +331,10 @@ std::optional<RoadReport::Outcome> WriteRoad::outcomeIn(const QByteArray& docume
             found->change = change;
     }
     if (notTaken.isEmpty()) {
-        report.fault = Fault::none;
-        return Outcome::confirmed;
+        report.fault = Fault::None;
+        return Outcome::Confirmed;
     }
-    return moved->isEmpty() && report.fault != Fault::none ? Outcome::notWritten : Outcome::notTaken;
+    return moved->isEmpty() && report.fault != Fault::None ? Outcome::NotWritten : Outcome::NotTaken;
 }
 
 std::optional<RoadReport> WriteRoad::settledBy(const QByteArray& document)
@@ -355,7 +355,7 @@ std::optional<RoadReport> WriteRoad::settledBy(const QByteArray& document)
     if (!outcome)
         return {};
     report.outcome = *outcome;
-    report.fault = Fault::none;
+    report.fault = Fault::None;
     report.problem.reset();
     report.reasonKey.clear();
     report.detail.clear();
@@ -368,28 +368,28 @@ std::optional<RoadReport> WriteRoad::settledBy(const QByteArray& document)
 void WriteRoad::giveUp()
 {
     port_.drop();
-    fail(Fault::silent);
+    fail(Fault::Silent);
 }
 
 void WriteRoad::fail(Fault fault, const PortAnswer& answer)
 {
     // The first fault is the cause of the others.
-    if (report_.fault == Fault::none) {
+    if (report_.fault == Fault::None) {
         report_.fault = fault;
         report_.reasonKey = answer.reasonKey;
         if (!answer.detail.isEmpty())
             report_.detail = answer.detail;
     }
     // All of it is there, and only looking tells what became of it.
-    if (report_.step == Step::writing && isTaken_ && fault != Fault::refused &&
+    if (report_.step == Step::Writing && isTaken_ && fault != Fault::Refused &&
         port_.tracker().isAttached()) {
-        setStep(Step::readingBack);
+        setStep(Step::ReadingBack);
         readPresent();
         return;
     }
-    const bool mayBeThere = report_.step == Step::readingBack ||
-                            (report_.step == Step::writing && isTaken_ && fault != Fault::refused);
-    end(mayBeThere ? Outcome::unknown : Outcome::notWritten);
+    const bool mayBeThere = report_.step == Step::ReadingBack ||
+                            (report_.step == Step::Writing && isTaken_ && fault != Fault::Refused);
+    end(mayBeThere ? Outcome::Unknown : Outcome::NotWritten);
 }
 
 void WriteRoad::end(Outcome outcome)
@@ -415,11 +415,11 @@ void WriteRoad::settle(RoadReport& report)
     // One that is not attached may be the same.
     const bool maybeSame =
         report.tracker.number.isEmpty() || report.tracker.number == unsettled_.tracker.number;
-    if (report.outcome == Outcome::unknown)
+    if (report.outcome == Outcome::Unknown)
         unsettled_ = report;
-    else if (report.outcome == Outcome::notWritten && maybeSame)
+    else if (report.outcome == Outcome::NotWritten && maybeSame)
         std::tie(report.earlier, report.earlierFile) = std::tie(unsettled_.backup, unsettled_.request.file);
-    else if (report.outcome != Outcome::cancelled && maybeSame)
+    else if (report.outcome != Outcome::Cancelled && maybeSame)
         unsettled_ = {};
 }
 

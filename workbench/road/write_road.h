@@ -35,7 +35,7 @@ public:
     WriteRoad(TrackerPort& port, Backups& backups, Compare compare, Advise advise);
 
     bool isBusy() const { return isBusy_; }
-    bool isInReview() const { return isBusy_ && report_.step == Step::review; }
+    bool isInReview() const { return isBusy_ && report_.step == Step::Review; }
     Step step() const { return report_.step; }
     // No more than a report can be had of it from now on.
     bool isTaken() const { return isTaken_; }
@@ -105,7 +105,7 @@ private:
     bool isBusy_ = false;
     bool wasGone_ = false;
     bool isTaken_ = false;
-    TrackerPort::Copy reading_ = TrackerPort::Copy::present;
+    TrackerPort::Copy reading_ = TrackerPort::Copy::Present;
     QByteArray before_; // what the tracker held
     WriteReview review_;
     RoadReport report_;

@@ -253,23 +253,23 @@ std::uint64_t bitsOf(vlk::ValueType type, double value)
 {
     using enum vlk::ValueType;
     switch (type) {
-    case u8:
+    case U8:
         return limited<std::uint8_t>(value);
-    case u16:
+    case U16:
         return limited<std::uint16_t>(value);
-    case u32:
+    case U32:
         return limited<std::uint32_t>(value);
-    case u64:
+    case U64:
         return limited<std::uint64_t>(value);
-    case i8:
+    case I8:
         return limited<std::int8_t>(value);
-    case i16:
+    case I16:
         return limited<std::int16_t>(value);
-    case i32:
+    case I32:
         return limited<std::int32_t>(value);
-    case i64:
+    case I64:
         return limited<std::int64_t>(value);
-    case f32:
+    case F32:
         return std::bit_cast<std::uint32_t>(static_cast<float>(value));
     }
     return 0;

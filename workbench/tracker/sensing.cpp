@@ -78,7 +78,7 @@ private:
         for (int i = 0; i < static_cast<int>(settings_.lines.size()); ++i) {
             const LineRules& line = settings_.lines[i];
             const bool triggered = now_.lines >> i & 1;
-            if (triggered != bool(before_.lines >> i & 1))
+            if (triggered != static_cast<bool>(before_.lines >> i & 1))
                 lineChanged(i, line, triggered);
         }
         analogue();

@@ -36,7 +36,7 @@ constexpr CommandRow kCommandRows[] = {
     {Command::About, "action_About", "about", "wb_about", "wb_about", ""},
     {Command::Quit, "action_Quit", "quit", "wb_quit", "wb_quit", "Ctrl+Q"},
 };
-static_assert(std::size(kCommandRows) == std::size_t(Command::Count));
+static_assert(std::size(kCommandRows) == static_cast<std::size_t>(Command::Count));
 
 } // namespace
 
@@ -46,7 +46,7 @@ Commands::Commands(QWidget* parent)
         auto* action = new QAction(lineIcon(QLatin1String(row.icon)), {}, parent);
         action->setObjectName(QLatin1String(row.name));
         action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
-        actions_[std::size_t(row.command)] = action;
+        actions_[static_cast<std::size_t>(row.command)] = action;
     }
     (*this)[Command::Cable]->setCheckable(true);
     (*this)[Command::Quit]->setMenuRole(QAction::QuitRole);

@@ -34,11 +34,11 @@ public:
     // The actions belong to the parent, which thereby has their keyboard shortcuts.
     explicit Commands(QWidget* parent);
 
-    QAction* operator[](Command command) const { return actions_[std::size_t(command)]; }
+    QAction* operator[](Command command) const { return actions_[static_cast<std::size_t>(command)]; }
     void retranslate();
 
 private:
-    std::array<QAction*, std::size_t(Command::Count)> actions_{};
+    std::array<QAction*, static_cast<std::size_t>(Command::Count)> actions_{};
 };
 
 } // namespace workbench

@@ -97,7 +97,7 @@ void DevicePanel::refresh()
 {
     const tracker::SimulatedTracker& tracker = session_.tracker();
     const bool attached = tracker.attached();
-    const Mark mark = !attached ? Mark::invalid : trouble_->text().isEmpty() ? Mark::right : Mark::advice;
+    const Mark mark = !attached ? Mark::Invalid : trouble_->text().isEmpty() ? Mark::Right : Mark::Advice;
     symbol_->setPixmap(vlk::markPixmap(mark, palette(), vlk::kMarkSize, devicePixelRatioF()));
     state_->setText(text(attached ? "wb_device_attached" : "wb_device_detached"));
     const QString none = QStringLiteral("–");

@@ -167,7 +167,7 @@ void writeTracker(Tour& tour, Notebook& book)
     write->click();
     tour.waitFor([&book] { return book.report != nullptr; }, QStringLiteral("the tracker's report"));
     tour.save(QStringLiteral("report.txt"), plainText(*book.report).toUtf8());
-    Tour::expect(book.report->outcome == RoadReport::Outcome::confirmed, summary(*book.report));
+    Tour::expect(book.report->outcome == RoadReport::Outcome::Confirmed, summary(*book.report));
     Tour::expect(!QFile::exists(book.report->request.file),
                  QStringLiteral("the written file was left behind: %1").arg(book.report->request.file));
     Tour::expect(book.report->backup > 0, QStringLiteral("no backup was made"));

@@ -80,7 +80,8 @@ std::optional<int> EditedConfiguration::changesIn(const QByteArray& document) co
     if (source_ == Source::New || source_ == Source::None)
         return {};
     const auto changes = compare_(document_, document);
-    return changes ? int(changes->size()) : tracker::differingKeys(asRead_, ConfigurationValues(document));
+    return changes ? static_cast<int>(changes->size())
+                   : tracker::differingKeys(asRead_, ConfigurationValues(document));
 }
 
 QString EditedConfiguration::text() const

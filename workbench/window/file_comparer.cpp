@@ -63,7 +63,7 @@ bool FileComparer::check(const QByteArray& document, FileCheck asked) const
         return false;
     link_.send(vlk::Message::CheckFile, &asked);
     QFile::remove(path);
-    return asked.outcome != FileCheck::unreadable;
+    return asked.outcome != FileCheck::Unreadable;
 }
 
 std::optional<QVector<SettingAdvice>> FileComparer::advise(const QByteArray& document) const
@@ -72,10 +72,10 @@ std::optional<QVector<SettingAdvice>> FileComparer::advise(const QByteArray& doc
     FileCheck asked;
     asked.context = &advice;
     asked.take = [](void* context, const FileRemark* told) {
-        const bool isError = told->severity == FileRemark::error;
+        const bool isError = told->severity == FileRemark::Error;
         // What a load makes of it is the plug-in's business, unless it cannot work.
         const QString group = told->size < sizeof(FileRemark) ? QString() : orNull(told->group);
-        if (told->kind == FileRemark::advice || isError)
+        if (told->kind == FileRemark::Advice || isError)
             static_cast<QVector<SettingAdvice>*>(context)->append(
                 {isError, orNull(told->page), group, orNull(told->caption), orNull(told->text)});
     };
@@ -88,7 +88,7 @@ QStringList FileComparer::unknownKeys(const QByteArray& document) const
     FileCheck asked;
     asked.context = &paths;
     asked.take = [](void* context, const FileRemark* told) {
-        if (told->kind == FileRemark::finding && !told->caption)
+        if (told->kind == FileRemark::Finding && !told->caption)
             static_cast<QStringList*>(context)->append(*told->path);
     };
     check(document, asked);
@@ -110,7 +110,7 @@ QByteArray FileComparer::bring(const QByteArray& document, const QByteArray& oth
         link_.send(vlk::Message::BringSettings, &asked);
     QFile::remove(file);
     QFile::remove(from);
-    return asked.outcome == BroughtSettings::done ? content : document;
+    return asked.outcome == BroughtSettings::Done ? content : document;
 }
 
 std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const
@@ -131,9 +131,9 @@ std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, co
         link_.send(vlk::Message::CompareFiles, &asked);
     QFile::remove(first);
     QFile::remove(second);
-    if (asked.outcome == FileComparison::done)
+    if (asked.outcome == FileComparison::Done)
         return changes;
-    return asked.outcome == FileComparison::none ? compareKeys(before, after) : std::nullopt;
+    return asked.outcome == FileComparison::None ? compareKeys(before, after) : std::nullopt;
 }
 
 } // namespace workbench

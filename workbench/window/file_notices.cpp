@@ -109,7 +109,7 @@ void FileNotices::tellWaiting()
         return bar_.end(kWaiting);
     const bool isLost = std::any_of(waiting_.cbegin(), waiting_.cend(),
                                     [](const auto& entry) { return entry.first == kLost; });
-    bar_.tell(kWaiting, [waiting = waiting_, mark = isLost ? vlk::Mark::invalid : vlk::Mark::advice] {
+    bar_.tell(kWaiting, [waiting = waiting_, mark = isLost ? vlk::Mark::Invalid : vlk::Mark::Advice] {
         return vlk::Notice{mark, told(waiting, kMostInBar), {}};
     });
 }

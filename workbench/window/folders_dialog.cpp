@@ -49,7 +49,7 @@ void FoldersDialog::accept()
         if (reason.isEmpty())
             continue;
         bar_->tell(
-            0, {vlk::Mark::invalid,
+            0, {vlk::Mark::Invalid,
                 text("wb_folder_unusable").arg(QDir::toNativeSeparators(path), vlk::fileErrorText(reason)),
                 {}});
         folder->setFocus();

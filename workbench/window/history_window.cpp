@@ -109,7 +109,7 @@ QWidget* HistoryWindow::buildDifferences()
     texts_.bind([this] { table_->setAccessibleName(text("wb_history_table")); });
     table_->setModel(&model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    dressTable(table_, TableUse::read);
+    dressTable(table_, TableUse::Read);
     elideInTheMiddle(table_, SettingChangeModel::Setting);
     table_->setIconSize({kMarkSize, kMarkSize});
     columns_ = new SettingColumns(table_, {{SettingChangeModel::Before}, {SettingChangeModel::After}});

@@ -224,9 +224,9 @@ void HostSession::takeWritten(const QString& path)
     using Origin = WriteRequest::Origin;
     QFile file(path);
     WriteRequest request;
-    request.origin = edited_.isNew()            ? Origin::fresh
-                     : edited_.file().isEmpty() ? Origin::tracker
-                                                : Origin::file;
+    request.origin = edited_.isNew()            ? Origin::Fresh
+                     : edited_.file().isEmpty() ? Origin::Tracker
+                                                : Origin::File;
     request.document = contentOf(file);
     request.name = edited_.file();
     request.readFrom = edited_.seenIn();
@@ -246,7 +246,7 @@ void HostSession::takeWritten(const QString& path)
             if (error.isEmpty())
                 begin(request, opened, wasThere);
             else
-                road_.reject(request, RoadReport::Fault::unsaved,
+                road_.reject(request, RoadReport::Fault::Unsaved,
                              request.file + QStringLiteral(": ") + error);
         },
         Qt::QueuedConnection);
@@ -268,9 +268,9 @@ void HostSession::finish(const RoadReport& report)
 {
     using Outcome = RoadReport::Outcome;
     const WriteRequest& request = report.request;
-    const bool isConfirmed = report.outcome == Outcome::confirmed;
+    const bool isConfirmed = report.outcome == Outcome::Confirmed;
     // What is given up at its first try is in the window still; later the file may be all that is left.
-    const bool isGivenUp = report.outcome == Outcome::cancelled && !isAgain_;
+    const bool isGivenUp = report.outcome == Outcome::Cancelled && !isAgain_;
     const bool isOfOpen = !request.file.isEmpty() && openedThen_ == opened_;
     if (isConfirmed) {
         if (isOfOpen)
@@ -290,7 +290,7 @@ void HostSession::finish(const RoadReport& report)
 
 void HostSession::followSettled(const RoadReport& report)
 {
-    if (report.outcome != RoadReport::Outcome::confirmed)
+    if (report.outcome != RoadReport::Outcome::Confirmed)
         return;
     edited_.trackerHolds(report.request.document);
     dropWritten(report.request);
@@ -330,7 +330,7 @@ Sentence HostSession::bringBack(int backup, const QStringList& paths)
         };
     const auto kept = backups_.find(backup);
     WriteRequest request;
-    request.origin = WriteRequest::Origin::backup;
+    request.origin = WriteRequest::Origin::Backup;
     request.document = backups_.document(backup);
     request.name = QString::number(backup);
     request.readFrom = kept ? kept->tracker : QString();
@@ -351,7 +351,7 @@ Sentence HostSession::bringBack(int backup, const QStringList& paths)
 Sentence HostSession::bringBackPrevious()
 {
     WriteRequest request;
-    request.origin = WriteRequest::Origin::previous;
+    request.origin = WriteRequest::Origin::Previous;
     return writeAgain(request);
 }
 
@@ -362,7 +362,7 @@ void HostSession::keepFor(int days)
 
 void HostSession::writeNotSaved(const QString& path, const QString& reason)
 {
-    road_.reject({}, RoadReport::Fault::unsaved, QStringLiteral("%1: %2").arg(path, reason));
+    road_.reject({}, RoadReport::Fault::Unsaved, QStringLiteral("%1: %2").arg(path, reason));
 }
 
 } // namespace workbench

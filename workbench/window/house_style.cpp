@@ -35,9 +35,9 @@ QIcon HouseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
     const int side = pixelMetric(PM_MessageBoxIconSize, option, widget);
     switch (icon) {
     case SP_MessageBoxWarning:
-        return markPixmap(Mark::advice, palette, side, ratio);
+        return markPixmap(Mark::Advice, palette, side, ratio);
     case SP_MessageBoxCritical:
-        return markPixmap(Mark::invalid, palette, side, ratio);
+        return markPixmap(Mark::Invalid, palette, side, ratio);
     case SP_MessageBoxInformation:
         return lineIcon(QStringLiteral("about"));
     case SP_MessageBoxQuestion:

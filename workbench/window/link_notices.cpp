@@ -143,7 +143,7 @@ void LinkNotices::tellResult(StatusLine::Topic topic, const Sentence& sentence, 
 {
     endReason();
     status_.tell(topic, sentence);
-    const auto notice = [sentence, mark = isNews ? vlk::Mark::changed : vlk::Mark::advice] {
+    const auto notice = [sentence, mark = isNews ? vlk::Mark::Changed : vlk::Mark::Advice] {
         return vlk::Notice{mark, sentence(), {}};
     };
     if (isNews)
@@ -237,7 +237,7 @@ QString LinkNotices::silence(const QDateTime& since, vlk::Message request)
 
 vlk::Notice LinkNotices::troubleNotice()
 {
-    vlk::Notice notice{vlk::Mark::advice, trouble_(), {}};
+    vlk::Notice notice{vlk::Mark::Advice, trouble_(), {}};
     if (isSaving_) {
         notice.actions.push_back({text("wb_end_save"), [this] { endSave(); }});
         notice.mayClose = false;

@@ -60,7 +60,7 @@ QString MessageLogModel::cell(const LoggedMessage& message, int column) const
 
 QVariant MessageLogModel::data(const QModelIndex& index, int role) const
 {
-    const LoggedMessage& message = messages_[std::size_t(index.row())];
+    const LoggedMessage& message = messages_[static_cast<std::size_t>(index.row())];
     if (role == Qt::DisplayRole || (role == Qt::ToolTipRole && index.column() == Parameters))
         return cell(message, index.column());
     if (role == kDirectionRole)
@@ -81,7 +81,7 @@ QString MessageLogModel::line(int row) const
 {
     QStringList cells;
     for (int column = 0; column < ColumnCount; ++column)
-        cells.append(cell(messages_[std::size_t(row)], column));
+        cells.append(cell(messages_[static_cast<std::size_t>(row)], column));
     return cells.join(QLatin1Char('\t'));
 }
 

@@ -116,7 +116,7 @@ void MessageLogView::buildTable()
     table_->setObjectName(QStringLiteral("tableView_Log"));
     table_->setModel(filter_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    vlk::dressTable(table_, TableUse::read);
+    vlk::dressTable(table_, TableUse::Read);
     empty_ = new EmptyNote(table_);
     table_->horizontalHeader()->setStretchLastSection(true);
     const char* const samples[] = {"00:00:00.000", "⇄ m", "00000 m", "TachographFileRequest"};

@@ -137,12 +137,13 @@ void PluginLink::openConfiguration(const QString& path, bool full, bool fromFile
 {
     const QByteArray encoded = path.toLocal8Bit();
     // As long as the path needs, and never shorter than the record's declared size.
-    const std::size_t size = std::max(sizeof(vlk::OpenRequest),
-                                      offsetof(vlk::OpenRequest, path) + std::size_t(encoded.size()) + 1);
+    const std::size_t size =
+        std::max(sizeof(vlk::OpenRequest),
+                 offsetof(vlk::OpenRequest, path) + static_cast<std::size_t>(encoded.size()) + 1);
     std::vector<std::int32_t> record(size / sizeof(std::int32_t) + 1);
     record[0] = full ? 1 : 0;
     record[1] = fromFile ? 1 : 0;
-    std::memcpy(record.data() + 2, encoded.constData(), std::size_t(encoded.size()));
+    std::memcpy(record.data() + 2, encoded.constData(), static_cast<std::size_t>(encoded.size()));
     send(vlk::Message::OpenConfiguration, record.data());
 }
 
@@ -175,7 +176,7 @@ void PluginLink::promiseConfirmations()
 void PluginLink::confirmWrite(const QByteArray& content)
 {
     vlk::WriteConfirmation record;
-    record.step = vlk::WriteConfirmation::confirmed;
+    record.step = vlk::WriteConfirmation::Confirmed;
     record.content = &content;
     send(vlk::Message::ConfirmWrite, &record);
 }
@@ -183,7 +184,7 @@ void PluginLink::confirmWrite(const QByteArray& content)
 void PluginLink::tellHeld(const QByteArray& content)
 {
     vlk::WriteConfirmation record;
-    record.step = vlk::WriteConfirmation::held;
+    record.step = vlk::WriteConfirmation::Held;
     record.content = &content;
     send(vlk::Message::ConfirmWrite, &record);
 }

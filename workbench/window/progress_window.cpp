@@ -28,7 +28,7 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
     bar_->setAccessibleName(windowTitle());
     trouble_->setObjectName(QStringLiteral("label_Silence"));
     QPalette amber = trouble_->palette();
-    amber.setColor(QPalette::WindowText, markColor(Mark::advice, amber));
+    amber.setColor(QPalette::WindowText, markColor(Mark::Advice, amber));
     trouble_->setPalette(amber);
     cancel_->setObjectName(QStringLiteral("pushButton_Cancel"));
     cancel_->setMinimumWidth(80);
@@ -69,12 +69,12 @@ ProgressWindow::ProgressWindow(WriteRoad& road, QWidget* parent)
 void ProgressWindow::showStep(RoadReport::Step step)
 {
     using Step = RoadReport::Step;
-    what_->setText(text(step == Step::reading       ? "wb_progress_reading"
-                        : step == Step::readingBack ? "wb_progress_back"
+    what_->setText(text(step == Step::Reading       ? "wb_progress_reading"
+                        : step == Step::ReadingBack ? "wb_progress_back"
                                                     : "wb_progress_writing"));
     bar_->setRange(0, 0);
     bar_->setFormat({});
-    if (step == Step::reading) {
+    if (step == Step::Reading) {
         cancel_->setEnabled(true);
         cancel_->setToolTip({});
     }

@@ -45,18 +45,18 @@ QString originOf(const WriteReview& review)
     using Origin = WriteRequest::Origin;
     const WriteRequest& request = review.request;
     switch (request.origin) {
-    case Origin::backup:
+    case Origin::Backup:
         if (!request.chosen.isEmpty())
             return text("wb_review_chosen").arg(request.name);
         return review.isOfThisTracker ? text("wb_review_backup").arg(request.name)
                                       : text("wb_review_backup_other").arg(request.name, request.readFrom);
-    case Origin::previous:
+    case Origin::Previous:
         return text("wb_review_previous");
-    case Origin::fresh:
+    case Origin::Fresh:
         return review.isOfThisTracker ? QString() : text("wb_review_new");
-    case Origin::file:
+    case Origin::File:
         return review.isOfThisTracker ? QString() : text("wb_review_file").arg(request.name);
-    case Origin::tracker:
+    case Origin::Tracker:
         return review.isOfThisTracker ? QString() : text("wb_review_other").arg(request.readFrom);
     }
     return {};
@@ -69,15 +69,15 @@ struct WhyRow
 };
 
 constexpr WhyRow kWhyRows[] = {
-    {WriteReview::Why::removes, "wb_review_why_removes"},
-    {WriteReview::Why::hasErrors, "wb_review_why_error"},
-    {WriteReview::Why::hasTyped, "wb_780"},
-    {WriteReview::Why::isUnchecked, "wb_review_why_unchecked"},
-    {WriteReview::Why::isOfAnother, "wb_review_why_other"},
-    {WriteReview::Why::isKnownNoMore, "wb_review_why_known"},
-    {WriteReview::Why::losesKeys, "wb_review_why_lost"},
-    {WriteReview::Why::bringsMore, "wb_review_why_more"},
-    {WriteReview::Why::bringsBack, "wb_review_why_back"},
+    {WriteReview::Why::Removes, "wb_review_why_removes"},
+    {WriteReview::Why::HasErrors, "wb_review_why_error"},
+    {WriteReview::Why::HasTyped, "wb_780"},
+    {WriteReview::Why::IsUnchecked, "wb_review_why_unchecked"},
+    {WriteReview::Why::IsOfAnother, "wb_review_why_other"},
+    {WriteReview::Why::IsKnownNoMore, "wb_review_why_known"},
+    {WriteReview::Why::LosesKeys, "wb_review_why_lost"},
+    {WriteReview::Why::BringsMore, "wb_review_why_more"},
+    {WriteReview::Why::BringsBack, "wb_review_why_back"},
 };
 
 // Why it is shown to somebody who has asked for no such window.
@@ -184,15 +184,16 @@ void ReviewWindow::addCounts(QVBoxLayout* column)
                  : text("wb_review_counts").arg(number(review_.changed()), number(review_.added)),
              "label_Counts");
     if (review_.removed > 0)
-        addCount(line, int(Mark::invalid), text("wb_review_removed").arg(number(review_.removed)),
-                 "label_Removed");
+        addCount(line, static_cast<int>(Mark::Invalid),
+                 text("wb_review_removed").arg(number(review_.removed)), "label_Removed");
     line->addStretch(1);
     // The window that is open counts the advice on what it holds, and so does this one.
     if (const int advice = static_cast<int>(review_.advice.size()) - review_.typed; advice > 0)
-        addCount(line, int(review_.errors > 0 ? Mark::invalid : Mark::advice),
+        addCount(line, static_cast<int>(review_.errors > 0 ? Mark::Invalid : Mark::Advice),
                  text("wb_review_advice").arg(number(advice)), "label_Advice");
     if (review_.typed > 0)
-        addCount(line, int(Mark::advice), text("wb_781").arg(number(review_.typed)), "label_Typed");
+        addCount(line, static_cast<int>(Mark::Advice), text("wb_781").arg(number(review_.typed)),
+                 "label_Typed");
     if (!review_.advice.isEmpty()) {
         auto* show = new QPushButton(text("wb_review_show"), this);
         show->setObjectName(QStringLiteral("pushButton_Advice"));
@@ -219,7 +220,7 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setAccessibleName(text("wb_review_table"));
     table->setModel(model);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    dressTable(table, TableUse::read);
+    dressTable(table, TableUse::Read);
     elideInTheMiddle(table, SettingChangeModel::Setting);
     table->setIconSize({kMarkSize, kMarkSize});
     auto* empty = new EmptyNote(table);
@@ -237,7 +238,7 @@ void ReviewWindow::addAdvice(QVBoxLayout* column)
     list->setWordWrap(true);
     list->setIconSize({kMarkSize, kMarkSize});
     for (const SettingAdvice& advice : review_.advice) {
-        const Mark mark = advice.isError ? Mark::invalid : Mark::advice;
+        const Mark mark = advice.isError ? Mark::Invalid : Mark::Advice;
         new QListWidgetItem(QIcon(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF())), advice.line(),
                             list);
     }

@@ -35,7 +35,7 @@ RoadWindows::~RoadWindows()
 
 void RoadWindows::follow(RoadReport::Step step)
 {
-    if (step == RoadReport::Step::review) {
+    if (step == RoadReport::Step::Review) {
         hideProgress();
     } else if (!progress_ && !notice_.isActive()) {
         notice_.start();

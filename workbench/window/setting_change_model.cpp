@@ -74,7 +74,7 @@ QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole && index.column() == Setting)
         return settingName(change) + QLatin1Char('\n') + change.path;
     if (role == Qt::DecorationRole && index.column() == Setting)
-        return markPixmap(change.isRemoved() ? Mark::invalid : Mark::changed, QGuiApplication::palette(),
+        return markPixmap(change.isRemoved() ? Mark::Invalid : Mark::Changed, QGuiApplication::palette(),
                           kMarkSize, qApp->devicePixelRatio());
     if (role == Qt::CheckStateRole && index.column() == Setting && canBeChosen_)
         return chosen_.contains(change.path) ? Qt::Checked : Qt::Unchecked;

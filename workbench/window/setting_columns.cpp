@@ -62,7 +62,7 @@ void SettingColumns::fit()
     const int letter = table_->fontMetrics().averageCharWidth();
     const int room = view.viewport()->width();
     std::vector<Width> widths;
-    int missing = int(room * share) - room;
+    int missing = static_cast<int>(room * share) - room;
     for (const Column& column : columns_) {
         const int head = header.sectionSizeHint(column.number);
         const int wanted = std::max(view.sizeHintForColumn(column.number), head);

@@ -49,23 +49,23 @@ void SimulatedPort::answer(Copy copy)
 {
     using Outcome = tracker::Reading::Outcome;
     const tracker::Reading reading =
-        copy == Copy::present ? tracker_.readConfiguration() : tracker_.readPrevious();
+        copy == Copy::Present ? tracker_.readConfiguration() : tracker_.readPrevious();
     switch (reading.outcome) {
     case Outcome::Silent:
         later(kSilenceMs, [this, copy] { answer(copy); });
         break;
     case Outcome::Detached:
-        Q_EMIT readEnded({PortAnswer::Outcome::detached, {}, {}, {}});
+        Q_EMIT readEnded({PortAnswer::Outcome::Detached, {}, {}, {}});
         break;
     case Outcome::Unplugged:
-        Q_EMIT readEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+        Q_EMIT readEnded({PortAnswer::Outcome::Unplugged, {}, {}, {}});
         break;
     case Outcome::Came:
-        if (copy == Copy::previous && reading.document.isEmpty())
+        if (copy == Copy::Previous && reading.document.isEmpty())
             Q_EMIT readEnded(
-                {PortAnswer::Outcome::refused, {}, QStringLiteral("wb_refused_no_previous"), {}});
+                {PortAnswer::Outcome::Refused, {}, QStringLiteral("wb_refused_no_previous"), {}});
         else
-            Q_EMIT readEnded({PortAnswer::Outcome::done, reading.document, {}, {}});
+            Q_EMIT readEnded({PortAnswer::Outcome::Done, reading.document, {}, {}});
         break;
     }
 }
@@ -82,7 +82,7 @@ void SimulatedPort::sendBlock()
     using Block = tracker::SimulatedTracker::Block;
     switch (tracker_.takeBlock()) {
     case Block::Gone:
-        Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+        Q_EMIT writeEnded({PortAnswer::Outcome::Unplugged, {}, {}, {}});
         return;
     case Block::Silent:
         later(kSilenceMs, [this] { sendBlock(); });
@@ -106,8 +106,8 @@ void SimulatedPort::takeAll()
     PortAnswer answer;
     if (!report.accepted)
         answer = tracker_.attached()
-                     ? PortAnswer{PortAnswer::Outcome::refused, {}, report.reasonKey, report.detail}
-                     : PortAnswer{PortAnswer::Outcome::unplugged, {}, {}, {}};
+                     ? PortAnswer{PortAnswer::Outcome::Refused, {}, report.reasonKey, report.detail}
+                     : PortAnswer{PortAnswer::Outcome::Unplugged, {}, {}, {}};
     later(kBlockMs + std::max(0, tracker_.faults().delayMs), [this, answer] { answerWrite(answer); });
     Q_EMIT taken();
 }
@@ -119,7 +119,7 @@ void SimulatedPort::answerWrite(const PortAnswer& answer)
     else if (tracker_.attached())
         Q_EMIT writeEnded(answer);
     else
-        Q_EMIT writeEnded({PortAnswer::Outcome::unplugged, {}, {}, {}});
+        Q_EMIT writeEnded({PortAnswer::Outcome::Unplugged, {}, {}, {}});
 }
 
 } // namespace workbench

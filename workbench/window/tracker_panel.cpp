@@ -99,7 +99,7 @@ QWidget* TrackerPanel::buildKeys()
     keys_->setObjectName(QStringLiteral("tableWidget_Keys"));
     keys_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     keys_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    vlk::dressTable(keys_, TableUse::read);
+    vlk::dressTable(keys_, TableUse::Read);
     vlk::elideInTheMiddle(keys_, 0);
     empty_ = new EmptyNote(keys_);
     texts_.bind([this] { empty_->tell(text("wb_nothing_matches"), text("wb_clear_filter")); });

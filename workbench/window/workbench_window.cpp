@@ -161,7 +161,7 @@ void WorkbenchWindow::connectSession()
         tabs_->setCurrentIndex(ReportTab);
     });
     connect(&session_.road(), &WriteRoad::stepChanged, this, [this](RoadReport::Step step) {
-        if (step == RoadReport::Step::writing)
+        if (step == RoadReport::Step::Writing)
             status_->tell(StatusLine::Command, [] { return text("wb_writing"); });
     });
     connect(&session_, &HostSession::writeRefused, this,
@@ -276,7 +276,7 @@ void WorkbenchWindow::tellOfRun(const Sentence& text)
     }
     status_->tell(StatusLine::Program, text);
     // The line shows no more than the beginning of a long sentence.
-    bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::advice, text(), {}}; });
+    bar_->tell(kOfRun, [text] { return vlk::Notice{vlk::Mark::Advice, text(), {}}; });
 }
 
 void WorkbenchWindow::tellOpened(const Sentence& failure)
@@ -373,7 +373,7 @@ void WorkbenchWindow::showHelp(const QString& page)
 
 void WorkbenchWindow::showReport(const RoadReport& report)
 {
-    if (report.outcome == RoadReport::Outcome::cancelled) {
+    if (report.outcome == RoadReport::Outcome::Cancelled) {
         status_->tell(StatusLine::Command, [] { return text("wb_write_cancelled"); });
         return;
     }

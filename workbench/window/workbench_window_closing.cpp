@@ -67,7 +67,7 @@ void WorkbenchWindow::tellCutShort()
         return;
     bar_->tell(kCutShort, [path = parts[0],
                            part = SavedPart{parts[1].toLongLong(), parts[2].toLongLong(), parts[3]}] {
-        return vlk::Notice{vlk::Mark::advice, sentences({text("wb_620"), savedPartText(path, part)}), {}};
+        return vlk::Notice{vlk::Mark::Advice, sentences({text("wb_620"), savedPartText(path, part)}), {}};
     });
 }
 

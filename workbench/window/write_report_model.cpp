@@ -36,7 +36,7 @@ QVariant WriteReportModel::data(const QModelIndex& index, int role) const
 {
     const WrittenSetting& setting = settings_.at(index.row());
     if (role == Qt::DecorationRole && index.column() == Setting)
-        return markPixmap(setting.isTaken ? Mark::right : Mark::invalid, QGuiApplication::palette(),
+        return markPixmap(setting.isTaken ? Mark::Right : Mark::Invalid, QGuiApplication::palette(),
                           kMarkSize, qApp->devicePixelRatio());
     if (role != Qt::DisplayRole)
         return {};

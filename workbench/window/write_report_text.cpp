@@ -29,16 +29,16 @@ struct FaultRow
 };
 
 constexpr FaultRow kFaultRows[] = {
-    {Fault::badRequest, "wb_road_request", nullptr},
-    {Fault::unsaved, "wb_refused_unsaved", kDisk},
-    {Fault::incomparable, "wb_road_incomparable", nullptr},
-    {Fault::detached, "wb_refused_detached", "wb_do_attach"},
-    {Fault::reattached, "wb_road_reattached", "wb_do_again"},
-    {Fault::otherTracker, "wb_road_other", "wb_do_attach"},
-    {Fault::unplugged, "wb_why_unplugged", "wb_do_attach"},
-    {Fault::silent, "wb_refused_silence", "wb_do_cable"},
-    {Fault::badAnswer, "wb_why_answer", "wb_do_cable"},
-    {Fault::noBackup, "wb_road_no_backup", kDisk},
+    {Fault::BadRequest, "wb_road_request", nullptr},
+    {Fault::Unsaved, "wb_refused_unsaved", kDisk},
+    {Fault::Incomparable, "wb_road_incomparable", nullptr},
+    {Fault::Detached, "wb_refused_detached", "wb_do_attach"},
+    {Fault::Reattached, "wb_road_reattached", "wb_do_again"},
+    {Fault::OtherTracker, "wb_road_other", "wb_do_attach"},
+    {Fault::Unplugged, "wb_why_unplugged", "wb_do_attach"},
+    {Fault::Silent, "wb_refused_silence", "wb_do_cable"},
+    {Fault::BadAnswer, "wb_why_answer", "wb_do_cable"},
+    {Fault::NoBackup, "wb_road_no_backup", kDisk},
 };
 
 struct AdviceRow
@@ -59,8 +59,8 @@ QString reasonFor(const RoadReport& report)
         std::ranges::find_if(kFaultRows, [&](const FaultRow& each) { return each.fault == report.fault; });
     const char* advice = row == std::end(kFaultRows) ? nullptr : row->adviceKey;
     QString reason = row == std::end(kFaultRows) ? text(report.reasonKey.toLatin1().constData())
-                     : report.fault == Fault::unplugged && report.outcome == Outcome::notWritten &&
-                             report.step == RoadReport::Step::writing
+                     : report.fault == Fault::Unplugged && report.outcome == Outcome::NotWritten &&
+                             report.step == RoadReport::Step::Writing
                          ? text("wb_refused_unplugged")
                          : text(row->reasonKey);
     for (const AdviceRow& each : kAdvices) {
@@ -75,7 +75,7 @@ QString reasonFor(const RoadReport& report)
     if (advice)
         reason += (report.detail.isEmpty() ? QLatin1Char(' ') : QLatin1Char('\n')) +
                   (advice != kDisk ? text(advice)
-                   : report.fault == Fault::unsaved
+                   : report.fault == Fault::Unsaved
                        ? text(isAboutRoom(report.detail) ? "wb_do_disk_write" : "wb_do_folder_write")
                        : adviceOnDisk(report.detail));
     return reason;
@@ -94,13 +94,13 @@ QString seenLater(const RoadReport& report)
         return text(key).arg(report.tracker.number, timeOfDay(report.time));
     };
     switch (report.outcome) {
-    case Outcome::confirmed:
+    case Outcome::Confirmed:
         return says("wb_report_seen_sent");
-    case Outcome::notWritten:
+    case Outcome::NotWritten:
         return says("wb_report_seen_before");
-    case Outcome::notTaken:
-    case Outcome::unknown:
-    case Outcome::cancelled:
+    case Outcome::NotTaken:
+    case Outcome::Unknown:
+    case Outcome::Cancelled:
         break;
     }
     return says("wb_report_seen_else");
@@ -113,18 +113,18 @@ QString firstLine(const RoadReport& report)
     if (report.isSeenLater)
         return seenLater(report);
     switch (report.outcome) {
-    case Outcome::confirmed:
+    case Outcome::Confirmed:
         return all == 0 ? text("wb_report_same")
                         : text("wb_report_confirmed").arg(number(all - missed), number(all));
-    case Outcome::notTaken:
+    case Outcome::NotTaken:
         return text("wb_report_missed").arg(number(missed), number(all));
-    case Outcome::unknown:
-        if (report.fault == Fault::interrupted)
+    case Outcome::Unknown:
+        if (report.fault == Fault::Interrupted)
             return text("wb_report_left").arg(report.tracker.number, moment(report.time));
         return text("wb_report_unknown").arg(reasonFor(report));
-    case Outcome::notWritten:
+    case Outcome::NotWritten:
         return text("wb_report_refused").arg(reasonFor(report));
-    case Outcome::cancelled:
+    case Outcome::Cancelled:
         return text("wb_write_cancelled");
     }
     return {};
@@ -132,7 +132,7 @@ QString firstLine(const RoadReport& report)
 
 bool isWritten(const RoadReport& report)
 {
-    return report.outcome == Outcome::confirmed || report.outcome == Outcome::notTaken;
+    return report.outcome == Outcome::Confirmed || report.outcome == Outcome::NotTaken;
 }
 
 // How much of it the tracker holds no longer; empty for most.
@@ -148,18 +148,18 @@ QString removedFrom(const RoadReport& report)
 // Where it was not what stands in a window: what it was. Empty otherwise.
 QString broughtBack(const RoadReport& report)
 {
-    const bool isConfirmed = report.outcome == Outcome::confirmed;
+    const bool isConfirmed = report.outcome == Outcome::Confirmed;
     switch (report.request.origin) {
-    case WriteRequest::Origin::backup:
+    case WriteRequest::Origin::Backup:
         if (!isConfirmed)
             return text("wb_report_of_backup").arg(report.request.name);
         return text(report.request.chosen.isEmpty() ? "wb_report_brought" : "wb_report_brought_chosen")
             .arg(report.request.name);
-    case WriteRequest::Origin::previous:
+    case WriteRequest::Origin::Previous:
         return text(isConfirmed ? "wb_report_brought_previous" : "wb_report_of_previous");
-    case WriteRequest::Origin::tracker:
-    case WriteRequest::Origin::file:
-    case WriteRequest::Origin::fresh:
+    case WriteRequest::Origin::Tracker:
+    case WriteRequest::Origin::File:
+    case WriteRequest::Origin::Fresh:
         break;
     }
     return {};
@@ -170,7 +170,7 @@ QString earlierWrite(const RoadReport& report)
 {
     using Origin = WriteRequest::Origin;
     const bool isOfBack =
-        report.request.origin == Origin::backup || report.request.origin == Origin::previous;
+        report.request.origin == Origin::Backup || report.request.origin == Origin::Previous;
     const QString said =
         text(isOfBack ? "wb_report_earlier_back" : "wb_report_earlier").arg(number(report.earlier));
     return isOfBack && QFile::exists(report.earlierFile)
@@ -200,9 +200,9 @@ QString summary(const RoadReport& report)
     QStringList lines{firstLine(report)};
     lines.append(removedFrom(report));
     lines.append(broughtBack(report));
-    if (report.fault == Fault::interrupted)
+    if (report.fault == Fault::Interrupted)
         lines.append(text("wb_report_left_do"));
-    else if (report.outcome == Outcome::unknown || report.outcome == Outcome::notTaken)
+    else if (report.outcome == Outcome::Unknown || report.outcome == Outcome::NotTaken)
         lines.append(text(saysTryAgain(lines.first()) ? "wb_report_else" : "wb_report_do"));
     if (report.earlier > 0)
         lines.append(earlierWrite(report));

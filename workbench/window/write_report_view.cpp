@@ -87,7 +87,7 @@ void WriteReportView::buildTable()
     table_->setObjectName(QStringLiteral("tableView_Report"));
     table_->setModel(&model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    dressTable(table_, TableUse::read);
+    dressTable(table_, TableUse::Read);
     elideInTheMiddle(table_, WriteReportModel::Setting);
     elideInTheMiddle(table_, WriteReportModel::Key);
     table_->setIconSize({kMarkSize, kMarkSize});
@@ -101,7 +101,7 @@ void WriteReportView::buildTable()
     auto* empty = new EmptyNote(table_);
     texts_.bind([this, empty] {
         // What is not known is said above.
-        empty->tell(report_.time.isValid() && report_.outcome == RoadReport::Outcome::unknown
+        empty->tell(report_.time.isValid() && report_.outcome == RoadReport::Outcome::Unknown
                         ? QString()
                         : text(report_.time.isValid() ? "wb_report_nothing" : "wb_report_none"));
     });
@@ -135,7 +135,7 @@ Sentence WriteReportView::bringBack()
 void WriteReportView::setReport(const RoadReport& report)
 {
     const auto isOfWrite = [](const RoadReport& each) {
-        return each.time.isValid() && (each.isSeenLater || each.outcome != RoadReport::Outcome::notWritten);
+        return each.time.isValid() && (each.isSeenLater || each.outcome != RoadReport::Outcome::NotWritten);
     };
     if (isOfWrite(report))
         other_.reset();
@@ -172,9 +172,9 @@ void WriteReportView::showSummary()
     backup_->setVisible(any && report_.backup > 0);
     backup_->setText(text("wb_report_backup").arg(number(report_.backup)));
     // What was never saved for the tracker is written again from its window.
-    again_->setVisible(any && report_.outcome != Outcome::confirmed &&
-                       report_.fault != RoadReport::Fault::unsaved &&
-                       report_.fault != RoadReport::Fault::badRequest);
+    again_->setVisible(any && report_.outcome != Outcome::Confirmed &&
+                       report_.fault != RoadReport::Fault::Unsaved &&
+                       report_.fault != RoadReport::Fault::BadRequest);
     again_->setText(text("wb_report_again"));
     otherReport_->setVisible(other_.has_value());
     if (other_)
@@ -183,10 +183,10 @@ void WriteReportView::showSummary()
     back_->setText(text("wb_report_bring_back").arg(number(report_.toBringBack())));
     if (!any)
         return;
-    const Mark mark = report_.outcome == Outcome::confirmed
-                          ? (lookAgainText(report_).isEmpty() ? Mark::right : Mark::advice)
-                      : report_.outcome == Outcome::cancelled ? Mark::advice
-                                                              : Mark::invalid;
+    const Mark mark = report_.outcome == Outcome::Confirmed
+                          ? (lookAgainText(report_).isEmpty() ? Mark::Right : Mark::Advice)
+                      : report_.outcome == Outcome::Cancelled ? Mark::Advice
+                                                              : Mark::Invalid;
     symbol_->setPixmap(markPixmap(mark, palette(), kMarkSize, devicePixelRatioF()));
     summary_->setText(summary(report_));
     time_->setText(timeOfDay(report_.time));

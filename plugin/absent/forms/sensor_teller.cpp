@@ -60,7 +60,7 @@ void SensorTeller::tell(const SensorOffers& now)
         if (now.vendor != before.vendor) {
             tellSupplied(before, false);
             tellSupplied(now, true);
-            if (now.type->naming == BluetoothSensorType::Naming::byVendor)
+            if (now.type->naming == BluetoothSensorType::Naming::ByVendor)
                 Q_EMIT form->signal_SetSensorNameEnabled(now.type->vendors[now.vendor].named);
         }
         if (now.number != before.number)
@@ -113,13 +113,13 @@ void SensorTeller::tellRow(const Universal& before, const Universal& now) const
 void SensorTeller::offer(const Universal& row) const
 {
     if (!row.name.isEmpty())
-        Q_EMIT universal_->signal_Device_UserParam_Add_Uni(userParamType::universal, row.name, row.element);
+        Q_EMIT universal_->signal_Device_UserParam_Add_Uni(userParamType::Universal, row.name, row.element);
 }
 
 void SensorTeller::withdraw(const Universal& row) const
 {
     if (!row.name.isEmpty())
-        Q_EMIT universal_->signal_Device_UserParam_Del_Uni(userParamType::universal, row.name, row.element);
+        Q_EMIT universal_->signal_Device_UserParam_Del_Uni(userParamType::Universal, row.name, row.element);
 }
 
 void SensorTeller::take(const Universal& row) const

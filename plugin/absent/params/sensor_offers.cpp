@@ -25,7 +25,7 @@ SensorOfferSource::SensorOfferSource(const Values& bluetooth, int sensor)
         const char* element = index.elsewhere ? index.elsewhere : type.section;
         types_.push_back(
             {&type, type.vendors.size() > 1 ? bluetooth.rowAt(path(type.section, sensor, "type")) : -1,
-             index.list == BluetoothList::none ? -1 : bluetooth.rowAt(path(element, sensor, "idx"))});
+             index.list == BluetoothList::None ? -1 : bluetooth.rowAt(path(element, sensor, "idx"))});
     }
     for (int place = 0; place < kUniversalValues; ++place) {
         const QString row = QStringLiteral("U%1P%2/").arg(sensor).arg(place + 1);

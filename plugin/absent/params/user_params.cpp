@@ -12,16 +12,16 @@ using Type = userParamType;
 namespace {
 
 // Kinds whose key is the code and the index: "fs3".
-constexpr Type kPlainTypes[] = {Type::fuelFlow, Type::humidity, Type::link,
-                                Type::light,    Type::pressure, Type::signalLevel,
-                                Type::state,    Type::battery,  Type::workTime};
+constexpr Type kPlainTypes[] = {Type::FuelFlow, Type::Humidity, Type::Link,
+                                Type::Light,    Type::Pressure, Type::SignalLevel,
+                                Type::State,    Type::Battery,  Type::WorkTime};
 // Kinds of one code whose key counts the sensors of one axis after the other: "as5" is the first sensor's
 // second kind.
-constexpr Type kTiltTypes[] = {Type::tilt, Type::tiltX, Type::tiltY, Type::tiltZ};
+constexpr Type kTiltTypes[] = {Type::Tilt, Type::TiltX, Type::TiltY, Type::TiltZ};
 constexpr int kSensors = 4;
 // Kinds of one code whose key counts the axes of one sensor after the other: "ag4" is the second sensor's
 // first axis.
-constexpr Type kAccelerationTypes[] = {Type::accelerationX, Type::accelerationY, Type::accelerationZ};
+constexpr Type kAccelerationTypes[] = {Type::AccelerationX, Type::AccelerationY, Type::AccelerationZ};
 constexpr int kAxes = 3;
 
 bool isCodeOf(Type type, const QString& code)
@@ -95,16 +95,16 @@ QString VLK_UserParams::keyToDisplay(const QString& key) const
         if (isPrefixOf(type, prefix))
             return display(type, number);
     }
-    if (isPrefixOf(Type::tilt, prefix)) {
+    if (isPrefixOf(Type::Tilt, prefix)) {
         const int place = std::clamp((number - 1) / kSensors, 0, static_cast<int>(std::size(kTiltTypes)) - 1);
         return display(kTiltTypes[place], number - place * kSensors);
     }
-    if (isPrefixOf(Type::events, prefix))
-        return display(Type::events, number);
-    if (isPrefixOf(Type::accelerationX, prefix) && number >= 1 && number <= kAxes * kSensors)
+    if (isPrefixOf(Type::Events, prefix))
+        return display(Type::Events, number);
+    if (isPrefixOf(Type::AccelerationX, prefix) && number >= 1 && number <= kAxes * kSensors)
         return display(kAccelerationTypes[(number - 1) % kAxes], (number - 1) / kAxes + 1);
-    if (isPrefixOf(Type::magnet, prefix))
-        return display(Type::magnet, number);
+    if (isPrefixOf(Type::Magnet, prefix))
+        return display(Type::Magnet, number);
     return {};
 }
 
@@ -118,7 +118,7 @@ QString VLK_UserParams::displayToKey(const QString& text) const
         if (isCodeOf(type, code))
             return key(numberText(name, kindName(type)));
     }
-    if (isCodeOf(Type::tilt, code)) {
+    if (isCodeOf(Type::Tilt, code)) {
         for (std::size_t i = 0; i < std::size(kTiltTypes); ++i) {
             const QString kind = kindName(kTiltTypes[i]);
             if (name.startsWith(kind))
@@ -129,11 +129,11 @@ QString VLK_UserParams::displayToKey(const QString& text) const
     // Names of the others may hold commas: all that stands behind the code counts.
     const QString whole = text.section(QLatin1Char(','), 1).trimmed();
     const int number = whole.right(2).trimmed().toInt();
-    for (const Type type : {Type::universal, Type::events, Type::magnet}) {
+    for (const Type type : {Type::Universal, Type::Events, Type::Magnet}) {
         if (isCodeOf(type, code))
             return key(QString::number(number));
     }
-    if (isCodeOf(Type::accelerationX, code)) {
+    if (isCodeOf(Type::AccelerationX, code)) {
         for (int axis = 0; axis < kAxes; ++axis) {
             if (whole.contains(kindName(kAccelerationTypes[axis])))
                 return key(QString::number(kAxes * number - (kAxes - 1 - axis)));

@@ -35,12 +35,12 @@ QString fuelFileName(const QString& folder, const QString& sensor, const QString
 
 QString fuelFolder(const QString& otherwise)
 {
-    return lastFolder(FileKind::calibration, otherwise);
+    return lastFolder(FileKind::Calibration, otherwise);
 }
 
 void rememberFuelFolder(const QString& path)
 {
-    rememberFolder(FileKind::calibration, path);
+    rememberFolder(FileKind::Calibration, path);
 }
 
 bool saveFuelFile(const QString& path, const QByteArray& content)

@@ -33,7 +33,7 @@ Unsaved unsavedOf(const QString& name)
 {
     const auto* const found =
         std::ranges::find(kUnsavedNames, name, [](const char* known) { return QLatin1String(known); });
-    return found == std::end(kUnsavedNames) ? Unsaved::changed
+    return found == std::end(kUnsavedNames) ? Unsaved::Changed
                                             : static_cast<Unsaved>(found - std::begin(kUnsavedNames));
 }
 

@@ -15,9 +15,9 @@ namespace vlk {
 
 // Why a table is kept.
 enum class Unsaved {
-    added,   // it has rows that are in no XML file
-    changed, // since it was saved or loaded
-    cut      // it is saved, without the fractions of its volumes
+    Added,   // it has rows that are in no XML file
+    Changed, // since it was saved or loaded
+    Cut      // it is saved, without the fractions of its volumes
 };
 
 struct KeptTable

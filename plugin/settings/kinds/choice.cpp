@@ -59,7 +59,7 @@ QString offeredCode(const Choice& row, const Limits& limits, const QString* behi
 QString normalised(const Choice& row, const Reading& reading)
 {
     // A list without a current item is nothing that a file could ask for.
-    if (reading.source == Source::edit && isNoItem(row, reading.text))
+    if (reading.source == Source::Edit && isNoItem(row, reading.text))
         return reading.text;
     const Code* code = codeOf(row, reading.text);
     if (code && offersCode(*code, reading.limits))
@@ -67,7 +67,7 @@ QString normalised(const Choice& row, const Reading& reading)
     const QString fallback = row.fallback ? QString::fromLatin1(row.fallback) : reading.before;
     if (!code)
         return reading.limits.taken.contains(fallback) ? reading.before : fallback;
-    return row.unoffered == Unoffered::keepsValue ? reading.before
+    return row.unoffered == Unoffered::KeepsValue ? reading.before
            : row.none                             ? QString::fromLatin1(row.none)
                                                   : fallback;
 }

@@ -24,7 +24,7 @@ struct Code
 
 // What a code of the file that the list lacks becomes: the code for no item, or the fallback where there is
 // none; or the value stays.
-enum class Unoffered : std::uint8_t { noItem, keepsValue };
+enum class Unoffered : std::uint8_t { NoItem, KeepsValue };
 
 struct Choice : ShownOf<Choice>
 {
@@ -34,7 +34,7 @@ struct Choice : ShownOf<Choice>
     const char* offers = nullptr;   // codes of the list, "NU|NS+"; null: those with `offered`
     const char* fallback = nullptr; // what an unknown code stands for, or `none`; null: the value stays
     const char* none = nullptr;     // stands for no item
-    Unoffered unoffered = Unoffered::noItem;
+    Unoffered unoffered = Unoffered::NoItem;
     bool numeric = false; // codes are compared as numbers
 
     constexpr Choice offering(const char* list) const { return with(&Choice::offers, list); }

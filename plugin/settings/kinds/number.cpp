@@ -59,7 +59,7 @@ QString normalised(const Number& row, const Reading& reading)
         return text;
     const double inFile = row.isText                       ? leadingDouble(text)
                           : row.hexadecimal                ? text.toInt(nullptr, 16)
-                          : reading.source == Source::edit ? text.trimmed().toInt()
+                          : reading.source == Source::Edit ? text.trimmed().toInt()
                                                            : leadingInt(text);
     const bool isOff = row.zeroIsOff && (row.negativeIsOn ? inFile == 0 : inFile <= 0);
     const double read = (row.singleRead ? static_cast<float>(inFile) : inFile) / row.factor;

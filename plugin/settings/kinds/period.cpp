@@ -9,7 +9,7 @@ namespace vlk {
 QString normalised(const Period& row, const Reading& reading)
 {
     int rest = leadingInt(reading.text);
-    if (row.wrap > 0 && reading.source == Source::file)
+    if (row.wrap > 0 && reading.source == Source::File)
         rest = ((rest % row.wrap) + row.wrap) % row.wrap;
     qint64 held = 0;
     for (const PeriodPart& part : row.parts) {

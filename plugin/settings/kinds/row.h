@@ -54,11 +54,11 @@ constexpr When whenSame(Path path, const char* element)
 
 // What becomes of a value that the file has no key for, or of one that lives in the window alone: its load
 // default, or it stays.
-enum class Missing : std::uint8_t { loadDefault, keepsValue };
+enum class Missing : std::uint8_t { LoadDefault, KeepsValue };
 // What a reset gives: the load default, a value of its own, or it leaves the value as it stands.
-enum class OnReset : std::uint8_t { loadDefault, own, keepsValue };
+enum class OnReset : std::uint8_t { LoadDefault, Own, KeepsValue };
 // What a save starts from: the value, or what the document holds under the key, if it does.
-enum class OnSave : std::uint8_t { value, document };
+enum class OnSave : std::uint8_t { Value, Document };
 
 // Under which title of its window a row stands, and under which one that title does. Of the format %1 is the
 // title, %2 the number of a repeated row and %3 that of a repetition inside it.
@@ -80,9 +80,9 @@ struct RowBase
     bool stored = true;  // false: lives in the window alone, the file has no such key
     bool last = false;   // read after all others; in a repetition after those of its number
     bool secret = false; // whoever shows, copies or exports values leaves this one out
-    Missing missing = Missing::loadDefault;
-    OnReset onReset = OnReset::loadDefault;
-    OnSave onSave = OnSave::value;
+    Missing missing = Missing::LoadDefault;
+    OnReset onReset = OnReset::LoadDefault;
+    OnSave onSave = OnSave::Value;
     std::uint8_t column = 0; // the widget is a tree; the cell of this column in the row of the number
 
     constexpr const char* pathName() const { return name ? name : key; }
@@ -132,7 +132,7 @@ struct ShownOf : RowOf<Kind, Shown>
     constexpr Kind atReset(OnReset policy) const { return this->with(&Kind::onReset, policy); }
     constexpr Kind resetTo(auto value) const
     {
-        return this->with(&Kind::reset, value).with(&Kind::onReset, OnReset::own);
+        return this->with(&Kind::reset, value).with(&Kind::onReset, OnReset::Own);
     }
 };
 
@@ -156,7 +156,7 @@ struct Limits
 
 // Where a text comes from. A file is read as far as it is a number, "12abc" as 12, and its periods wrap
 // around where the row says so. An edit or a reset means what it says: a text that is no whole number is 0.
-enum class Source { file, edit };
+enum class Source { File, Edit };
 
 // What `normalised` of each kind makes a text of the file of, as a window would: limited to the range,
 // rounded, cut, or replaced where the text is none of the known codes.
@@ -165,7 +165,7 @@ struct Reading
     const QString& text;
     const QString& before; // what stays where the text leaves the value alone
     const Limits& limits;
-    Source source = Source::file;
+    Source source = Source::File;
 };
 
 // The texts of two kinds of defaults.

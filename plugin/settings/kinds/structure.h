@@ -13,14 +13,14 @@ namespace vlk {
 
 // What a save does with an element: makes it anew, makes it anew unless none of its keys is written, or lays
 // its keys over what it holds.
-enum class ElementSave : std::uint8_t { anew, anewIfAny, keepsOthers };
+enum class ElementSave : std::uint8_t { Anew, AnewIfAny, KeepsOthers };
 
 struct Group : RowOf<Group, RowBase>
 {
     When presentToo{};
     // Read while both hold, whenever it is written; without them while it is written.
     std::optional<std::array<When, 2>> readable{};
-    ElementSave save = ElementSave::anew;
+    ElementSave save = ElementSave::Anew;
 
     constexpr void eachPath(auto visit)
     {

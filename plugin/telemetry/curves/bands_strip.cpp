@@ -165,7 +165,7 @@ void BandsStrip::paintMarks(QPainter& painter, const QRect& row, std::size_t mar
 {
     const std::vector<quint32>& times = model_->records().columns().times();
     const std::vector<int>& records = model_->marks()[marks].records;
-    const auto timeOfRecord = [&](int record) { return double(times[record]); };
+    const auto timeOfRecord = [&](int record) { return static_cast<double>(times[record]); };
     painter.save();
     painter.setPen(QPen(palette().color(QPalette::WindowText), 1));
     painter.setBrush(palette().color(marks == 0 ? QPalette::WindowText : QPalette::Base));
@@ -212,13 +212,13 @@ const FoundEvent* BandsStrip::foundAt(int record) const
 void BandsStrip::paintCursors(QPainter& painter) const
 {
     const std::vector<quint32>& times = model_->records().columns().times();
-    for (const Cursor which : {Cursor::a, Cursor::b}) {
+    for (const Cursor which : {Cursor::A, Cursor::B}) {
         const int record = model_->cursor(which);
         if (record < 0 || times[record] == 0 || !plot_->span().contains(times[record]))
             continue;
         const double x = std::round(plot_->xOf(times[record]));
         painter.setPen(QPen(palette().color(QPalette::WindowText), which == model_->moving() ? 2 : 1,
-                            which == Cursor::a ? Qt::SolidLine : Qt::DashLine));
+                            which == Cursor::A ? Qt::SolidLine : Qt::DashLine));
         painter.drawLine(QPointF(x, 0), QPointF(x, height()));
     }
 }
@@ -241,8 +241,8 @@ int BandsStrip::markAt(const QPoint& place) const
             return hit->record;
     }
     const double from = plot_->timeAtPixel(place.x() - kMarkReach);
-    const auto found =
-        std::ranges::lower_bound(records, from, {}, [&](int record) { return double(times[record]); });
+    const auto found = std::ranges::lower_bound(
+        records, from, {}, [&](int record) { return static_cast<double>(times[record]); });
     const bool isThere =
         found != records.end() && times[*found] <= plot_->timeAtPixel(place.x() + kMarkReach);
     return isThere ? *found : -1;
@@ -278,13 +278,13 @@ QString BandsStrip::tipAt(const QPoint& place) const
         return gap;
     const double moment = plot_->timeAtPixel(place.x());
     const std::vector<StateRuns::Run>& runs = model_->bands()[band].runs->on;
-    const auto run = std::ranges::lower_bound(runs, moment, {},
-                                              [](const StateRuns::Run& each) { return double(each.to); });
+    const auto run = std::ranges::lower_bound(
+        runs, moment, {}, [](const StateRuns::Run& each) { return static_cast<double>(each.to); });
     if (run == runs.end() || run->from > moment)
         return {};
     return QStringLiteral("%1: %2 – %3 (%4)")
         .arg(model_->bands()[band].title, momentText(run->from, offset),
-             momentText(run->to, run->from, offset), durationText(double(run->to) - run->from));
+             momentText(run->to, run->from, offset), durationText(static_cast<double>(run->to) - run->from));
 }
 
 bool BandsStrip::event(QEvent* event)

@@ -116,7 +116,7 @@ void CurveChoice::tick(QListWidgetItem* item)
         names << name;
     else
         names.removeAll(name);
-    model_->show(names, CurvesModel::Choice::chosen);
+    model_->show(names, CurvesModel::Choice::Chosen);
     const bool isShown = model_->shownNames().contains(name);
     QFont font = note_->font();
     font.setBold(item->checkState() == Qt::Checked && !isShown);

@@ -27,8 +27,8 @@ bool isDrawn(const CsvColumn& column)
         element("AinfStopID"),  element("AinfRouteID"), element("CAN3FailureCode"),
         element("FfsError")};
     const Shape shape = kItems[column.item].rule().shape;
-    const bool isNumber = shape == Shape::decimal || shape == Shape::fixed || shape == Shape::general ||
-                          shape == Shape::userParameter;
+    const bool isNumber = shape == Shape::Decimal || shape == Shape::Fixed || shape == Shape::General ||
+                          shape == Shape::UserParameter;
     return isNumber && std::ranges::find(names, column.element()) == std::end(names);
 }
 
@@ -81,7 +81,7 @@ int decimalsOf(const CurveColumn& column)
     if (!column.item)
         return 1;
     const Rule& rule = kItems[*column.item].rule();
-    return rule.shape == Shape::fixed ? rule.decimals : 0;
+    return rule.shape == Shape::Fixed ? rule.decimals : 0;
 }
 
 } // namespace
@@ -100,7 +100,7 @@ std::vector<CurveColumn> curveColumns(const ShownRecords& records)
 std::vector<CurveColumn> stateColumns(const ShownRecords& records)
 {
     return columnsThat(
-        records, [](const CsvColumn& column) { return kItems[column.item].rule().shape == Shape::twoState; });
+        records, [](const CsvColumn& column) { return kItems[column.item].rule().shape == Shape::TwoState; });
 }
 
 const NumberColumn& numbersOf(ShownRecords& records, const CurveColumn& column)
@@ -139,7 +139,7 @@ QString valueText(const CurveColumn& column, double value, bool isDifference)
     if (std::isnan(value))
         return kAbsentMark;
     const QLocale locale;
-    const bool isGeneral = column.item && kItems[*column.item].rule().shape == Shape::general;
+    const bool isGeneral = column.item && kItems[*column.item].rule().shape == Shape::General;
     QString text = isGeneral ? locale.toString(value, 'g', kGeneralDigits)
                              : locale.toString(value, 'f', decimalsOf(column));
     if (isDifference && value > 0)

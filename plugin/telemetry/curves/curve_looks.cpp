@@ -18,14 +18,14 @@ struct CurveLook
 {
     QRgb light;
     QRgb dark;
-    enum Shape { disc, square, triangle, diamond, cross, plus, ring, bar } shape;
+    enum Shape { Disc, Square, Triangle, Diamond, Cross, Plus, Ring, Bar } shape;
 };
 
 constexpr CurveLook kCurveLooks[] = {
-    {0x1f5f9e, 0x7ab8f5, CurveLook::disc},     {0xb3261e, 0xff9d94, CurveLook::square},
-    {0x1b6e33, 0x7fd491, CurveLook::triangle}, {0x8a5300, 0xffbd59, CurveLook::diamond},
-    {0x6a3d9a, 0xc9a6f0, CurveLook::cross},    {0x00686f, 0x5fd0da, CurveLook::plus},
-    {0xa0246e, 0xf29acb, CurveLook::ring},     {0x4a4a4a, 0xd0d0d0, CurveLook::bar},
+    {0x1f5f9e, 0x7ab8f5, CurveLook::Disc},     {0xb3261e, 0xff9d94, CurveLook::Square},
+    {0x1b6e33, 0x7fd491, CurveLook::Triangle}, {0x8a5300, 0xffbd59, CurveLook::Diamond},
+    {0x6a3d9a, 0xc9a6f0, CurveLook::Cross},    {0x00686f, 0x5fd0da, CurveLook::Plus},
+    {0xa0246e, 0xf29acb, CurveLook::Ring},     {0x4a4a4a, 0xd0d0d0, CurveLook::Bar},
 };
 
 constexpr double kShapeReach = 3.5;
@@ -62,30 +62,30 @@ void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const 
     painter.translate(centre);
     const CurveLook::Shape shape = lookAt(place).shape;
     painter.setPen(QPen(colour, 1.5));
-    painter.setBrush(shape == CurveLook::ring ? QBrush(Qt::NoBrush) : QBrush(colour));
+    painter.setBrush(shape == CurveLook::Ring ? QBrush(Qt::NoBrush) : QBrush(colour));
     switch (shape) {
-    case CurveLook::disc:
-    case CurveLook::ring:
+    case CurveLook::Disc:
+    case CurveLook::Ring:
         painter.drawEllipse(QPointF(), r - 0.5, r - 0.5);
         break;
-    case CurveLook::square:
+    case CurveLook::Square:
         painter.drawRect(QRectF(1 - r, 1 - r, 2 * r - 2, 2 * r - 2));
         break;
-    case CurveLook::triangle:
+    case CurveLook::Triangle:
         painter.drawPolygon(QPolygonF({{0, -r}, {r, r - 1}, {-r, r - 1}}));
         break;
-    case CurveLook::diamond:
+    case CurveLook::Diamond:
         painter.drawPolygon(QPolygonF({{0, -r}, {r, 0}, {0, r}, {-r, 0}}));
         break;
-    case CurveLook::cross:
+    case CurveLook::Cross:
         painter.drawLine(QPointF(-r, -r), QPointF(r, r));
         painter.drawLine(QPointF(-r, r), QPointF(r, -r));
         break;
-    case CurveLook::plus:
+    case CurveLook::Plus:
         painter.drawLine(QPointF(-r, 0), QPointF(r, 0));
         painter.drawLine(QPointF(0, -r), QPointF(0, r));
         break;
-    case CurveLook::bar:
+    case CurveLook::Bar:
         painter.drawRect(QRectF(-1, -r, 2, 2 * r));
         break;
     }
@@ -94,7 +94,7 @@ void paintCurveShape(QPainter& painter, int place, const QPointF& centre, const 
 
 QColor foundColor(bool isRise, const QPalette& palette)
 {
-    return markColor(isRise ? Mark::right : Mark::invalid, palette);
+    return markColor(isRise ? Mark::Right : Mark::Invalid, palette);
 }
 
 void paintFoundEvent(QPainter& painter, bool isRise, const QPointF& tip, const QPalette& palette)

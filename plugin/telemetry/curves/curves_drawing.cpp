@@ -55,7 +55,7 @@ void CurvesDrawing::draw(QPainter* painter, const QwtScaleMap& x, const QwtScale
     if (model.focused() >= 0)
         drawCurve(*painter, model.focused(), x, y, canvas);
     drawFound(*painter, x, canvas);
-    for (const Cursor which : {Cursor::a, Cursor::b})
+    for (const Cursor which : {Cursor::A, Cursor::B})
         drawCursor(*painter, which, x, y, canvas);
 }
 
@@ -127,14 +127,14 @@ void CurvesDrawing::drawCursor(QPainter& painter, Cursor which, const QwtScaleMa
     const double at = std::round(x.transform(times[record]));
     const QColor colour = palette.color(QPalette::Text);
     painter.setPen(
-        QPen(colour, which == model.moving() ? 2 : 1, which == Cursor::a ? Qt::SolidLine : Qt::DashLine));
+        QPen(colour, which == model.moving() ? 2 : 1, which == Cursor::A ? Qt::SolidLine : Qt::DashLine));
     painter.drawLine(QPointF(at, canvas.top()), QPointF(at, canvas.bottom()));
     const QFontMetrics metrics(painter.font());
     QRectF letter(0, 0, metrics.height(), metrics.height());
     letter.moveBottomLeft({std::min(at + 1, canvas.right() - letter.width()), canvas.bottom()});
     painter.fillRect(letter, colour);
     painter.setPen(palette.color(QPalette::Base));
-    painter.drawText(letter, Qt::AlignCenter, QLatin1String(which == Cursor::a ? "A" : "B"));
+    painter.drawText(letter, Qt::AlignCenter, QLatin1String(which == Cursor::A ? "A" : "B"));
     if (model.focused() < 0)
         return;
     const Curve& curve = model.curves()[model.focused()];

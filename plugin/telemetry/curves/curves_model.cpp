@@ -69,7 +69,7 @@ void CurvesModel::restart()
     focused_ = -1;
     chosenName_.clear();
     cursors_ = {records_->current(), -1};
-    moving_ = Cursor::a;
+    moving_ = Cursor::A;
     Q_EMIT changed();
     records_->later([this] { records_->columns().numbers(item("Speed")); });
     records_->later([this] { findStops(); });
@@ -142,7 +142,7 @@ void CurvesModel::showLater(const QStringList& items, Choice choice)
         if (!items.contains(state.name))
             continue;
         records_->later([this, state, choice] {
-            if (choice == Choice::chosen || changes(state))
+            if (choice == Choice::Chosen || changes(state))
                 runsOf(*state.item);
         });
     }
@@ -214,7 +214,7 @@ void CurvesModel::addCurve(CurveColumn column)
     if (like == curves_.end() && axes_.size() == kMostAxes)
         return;
     std::shared_ptr<CurveSeries> series = seriesOf(column);
-    if (choice_ == Choice::offered && !series->hasValues())
+    if (choice_ == Choice::Offered && !series->hasValues())
         return;
     int axis = axes_.size();
     if (like != curves_.end())
@@ -249,7 +249,7 @@ void CurvesModel::addBand(const CurveColumn& column)
 {
     if (static_cast<int>(bands_.size()) == kMostBands)
         return;
-    if (choice_ == Choice::chosen || changes(column))
+    if (choice_ == Choice::Chosen || changes(column))
         bands_.push_back({column.name, column.title, runsOf(*column.item)});
 }
 
@@ -352,9 +352,9 @@ bool CurvesModel::endCursor(Cursor which)
 {
     if (cursor(which) < 0)
         return false;
-    const Cursor other = which == Cursor::a ? Cursor::b : Cursor::a;
+    const Cursor other = which == Cursor::A ? Cursor::B : Cursor::A;
     cursors_[static_cast<std::size_t>(which)] = -1;
-    moving_ = cursor(other) >= 0 ? other : Cursor::a;
+    moving_ = cursor(other) >= 0 ? other : Cursor::A;
     // The other one stays where it is, and is again what is looked at.
     records_->setCurrent(cursor(moving_));
     Q_EMIT cursorsChanged();
@@ -366,11 +366,11 @@ QString CurvesModel::cursorText(Cursor which) const
     const std::vector<quint32>& times = records_->columns().times();
     const int record = cursor(which);
     QString moment(kAbsentMark);
-    if (times[record] != 0 && which == Cursor::b && cursor(Cursor::a) >= 0)
-        moment = momentText(times[record], times[cursor(Cursor::a)], records_->utcOffset());
+    if (times[record] != 0 && which == Cursor::B && cursor(Cursor::A) >= 0)
+        moment = momentText(times[record], times[cursor(Cursor::A)], records_->utcOffset());
     else if (times[record] != 0)
         moment = momentText(times[record], records_->utcOffset());
-    QString text = QLatin1String(which == Cursor::a ? "A " : "B ") + moment;
+    QString text = QLatin1String(which == Cursor::A ? "A " : "B ") + moment;
     if (focused_ >= 0)
         text += QLatin1Char(' ') + valueText(curves_[focused_].column, valueAt(curves_[focused_], record));
     return text;
@@ -378,16 +378,16 @@ QString CurvesModel::cursorText(Cursor which) const
 
 QString CurvesModel::cursorLine() const
 {
-    const int a = cursor(Cursor::a);
-    const int b = cursor(Cursor::b);
+    const int a = cursor(Cursor::A);
+    const int b = cursor(Cursor::B);
     if (a < 0 || b < 0)
-        return a >= 0 ? cursorText(Cursor::a) : b >= 0 ? cursorText(Cursor::b) : QString();
-    QString line = cursorText(Cursor::a);
+        return a >= 0 ? cursorText(Cursor::A) : b >= 0 ? cursorText(Cursor::B) : QString();
+    QString line = cursorText(Cursor::A);
     const std::vector<quint32>& times = records_->columns().times();
-    line += QLatin1String(" | ") + cursorText(Cursor::b);
+    line += QLatin1String(" | ") + cursorText(Cursor::B);
     QStringList differences;
     if (times[a] != 0 && times[b] != 0)
-        differences << durationText(double(times[b]) - times[a]);
+        differences << durationText(static_cast<double>(times[b]) - times[a]);
     if (focused_ >= 0) {
         const Curve& curve = curves_[focused_];
         differences << valueText(curve.column, valueAt(curve, b) - valueAt(curve, a), true);

@@ -34,7 +34,7 @@ struct MarkRow
     std::vector<int> records;
 };
 
-enum class Cursor { a, b };
+enum class Cursor { A, B };
 
 class CurvesModel : public QObject
 {
@@ -52,7 +52,7 @@ public:
 
     // Takes the items that the records have, as many as there is room for: curves and states. A preset's are
     // offered, and show where they have values or change; those that were chosen are shown in any case.
-    enum class Choice { offered, chosen };
+    enum class Choice { Offered, Chosen };
     void show(const QStringList& items, Choice choice);
     // Does what show() does, as steps of what is done later.
     void showLater(const QStringList& items, Choice choice);
@@ -111,7 +111,7 @@ private:
 
     ShownRecords* records_;
     QStringList items_;
-    Choice choice_ = Choice::offered;
+    Choice choice_ = Choice::Offered;
     std::map<QString, std::shared_ptr<CurveSeries>> series_;
     std::map<ItemIndex, std::shared_ptr<const StateRuns>> runs_;
     // The bits of elements that are now set, now clear.
@@ -127,7 +127,7 @@ private:
     int focused_ = -1;
     QString chosenName_; // of the focused one; empty until the user chooses
     std::array<int, 2> cursors_{-1, -1};
-    Cursor moving_ = Cursor::a;
+    Cursor moving_ = Cursor::A;
 };
 
 } // namespace vlk

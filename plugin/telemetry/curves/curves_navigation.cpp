@@ -99,16 +99,16 @@ bool CurvesNavigation::takeKey(const QKeyEvent& event)
         goTo(records_.byTime().size() - 1);
         return true;
     case Qt::Key_A:
-        model_->setMoving(Cursor::a);
+        model_->setMoving(Cursor::A);
         return true;
     case Qt::Key_B:
-        model_->setMoving(Cursor::b);
+        model_->setMoving(Cursor::B);
         return true;
     case Qt::Key_Delete:
         model_->endCursor(model_->moving());
         return true;
     case Qt::Key_Escape:
-        return endDrag() || model_->endCursor(Cursor::b);
+        return endDrag() || model_->endCursor(Cursor::B);
     default:
         return false;
     }
@@ -146,7 +146,7 @@ bool CurvesNavigation::press(const QMouseEvent& event)
         return false;
     endDrag();
     plot_->setFocus(Qt::MouseFocusReason);
-    drag_ = isPan ? Drag::pan : Drag::zoom;
+    drag_ = isPan ? Drag::Pan : Drag::Zoom;
     dragFrom_ = event.pos();
     dragSpan_ = plot_->span();
     return true;
@@ -154,11 +154,11 @@ bool CurvesNavigation::press(const QMouseEvent& event)
 
 bool CurvesNavigation::drag(const QMouseEvent& event)
 {
-    if (drag_ == Drag::none)
+    if (drag_ == Drag::None)
         return false;
     QWidget* const canvas = plot_->canvas();
     const int way = event.x() - dragFrom_.x();
-    if (drag_ == Drag::pan) {
+    if (drag_ == Drag::Pan) {
         const double share = -static_cast<double>(way) / std::max(canvas->width(), 1);
         records_.setInSight(moved(dragSpan_, share, records_.wholeTime()));
     } else if (rubber_ || std::abs(way) >= QApplication::startDragDistance()) {
@@ -176,21 +176,21 @@ bool CurvesNavigation::release(const QMouseEvent& event)
     const Drag ended = drag_;
     const bool hasRubber = rubber_ != nullptr;
     endDrag();
-    if (ended == Drag::zoom && hasRubber) {
+    if (ended == Drag::Zoom && hasRubber) {
         // Back to where it began it chooses nothing.
         const auto [from, to] = std::minmax({timeAt(dragFrom_.x()), timeAt(event.x())});
         if (std::abs(event.x() - dragFrom_.x()) >= QApplication::startDragDistance())
             records_.setInSight(zoomed({from, to}, 1, (from + to) / 2, records_.wholeTime()));
-    } else if (ended == Drag::zoom) {
+    } else if (ended == Drag::Zoom) {
         plot_->goToPixel(event.x() + plot_->canvas()->x());
     }
-    return ended != Drag::none;
+    return ended != Drag::None;
 }
 
 bool CurvesNavigation::endDrag()
 {
     delete std::exchange(rubber_, nullptr);
-    return std::exchange(drag_, Drag::none) != Drag::none;
+    return std::exchange(drag_, Drag::None) != Drag::None;
 }
 
 bool CurvesNavigation::turn(const QWheelEvent& event)

@@ -43,7 +43,7 @@ private:
     ShownRecords& records_;
     CurvesPlot* plot_;
     QRubberBand* rubber_ = nullptr;
-    enum class Drag { none, zoom, pan } drag_ = Drag::none;
+    enum class Drag { None, Zoom, Pan } drag_ = Drag::None;
     QPoint dragFrom_;
     TimeSpan dragSpan_;
 };

@@ -142,7 +142,7 @@ std::optional<CurvesPlot::Between> CurvesPlot::recordsRound(double time) const
 {
     ShownRecords& records = model_->records();
     const std::vector<int>& byTime = records.byTime();
-    const auto timeOf = [&](int each) { return double(records.columns().times()[each]); };
+    const auto timeOf = [&](int each) { return static_cast<double>(records.columns().times()[each]); };
     const auto behind = std::ranges::lower_bound(byTime, time, {}, timeOf);
     if (behind == byTime.begin() || behind == byTime.end())
         return {};

@@ -44,11 +44,11 @@ void paintCurves(QPainter& painter, const QSize& size, CurvesModel& model, const
         const int record = model.cursor(which);
         return record >= 0 && span.contains(model.records().columns().times()[record]);
     };
-    const bool hasA = isOnSheet(Cursor::a);
-    const bool hasB = isOnSheet(Cursor::b);
+    const bool hasA = isOnSheet(Cursor::A);
+    const bool hasB = isOnSheet(Cursor::B);
     if (hasA || hasB)
         layout->addWidget(new QLabel(
-            hasA && hasB ? model.cursorLine() : model.cursorText(hasA ? Cursor::a : Cursor::b), &sheet));
+            hasA && hasB ? model.cursorLine() : model.cursorText(hasA ? Cursor::A : Cursor::B), &sheet));
     sheet.resize(size);
     // Lays all out before they are painted.
     sheet.show();

@@ -38,8 +38,8 @@ constexpr int kChosen = -1;
 
 CurvesModel::Choice choiceOf(int preset)
 {
-    return preset < static_cast<int>(builtInPresets().size()) ? CurvesModel::Choice::offered
-                                                              : CurvesModel::Choice::chosen;
+    return preset < static_cast<int>(builtInPresets().size()) ? CurvesModel::Choice::Offered
+                                                              : CurvesModel::Choice::Chosen;
 }
 
 } // namespace
@@ -104,7 +104,7 @@ CurvesView::CurvesView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     connect(choose_, &QPushButton::clicked, this, &CurvesView::choose);
     connect(allStates_, &QToolButton::toggled, this, &CurvesView::fitStates);
     // A second press takes it away.
-    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)})
+    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::A), std::pair(cursorB_, Cursor::B)})
         connect(button, &QToolButton::clicked, this, [this, which = which] {
             if (model_->moving() != which || !model_->endCursor(which))
                 model_->setMoving(which);
@@ -185,7 +185,7 @@ void CurvesView::setTitle(const QString& title)
 
 bool CurvesView::endCursorB()
 {
-    return model_->endCursor(Cursor::b);
+    return model_->endCursor(Cursor::B);
 }
 
 void CurvesView::retranslate()
@@ -234,7 +234,7 @@ void CurvesView::showUseful(int preset)
     const int index = preset == kChosen ? chosenPreset() : preset % builtIn;
     presets_->setCurrentIndex(index);
     if (index < 0)
-        model_->showLater(chosen_.items, CurvesModel::Choice::chosen);
+        model_->showLater(chosen_.items, CurvesModel::Choice::Chosen);
     else
         model_->showLater(presets_->itemData(index).toStringList(), choiceOf(index));
     records_->later([this, preset, index, builtIn] {
@@ -297,7 +297,7 @@ void CurvesView::refresh()
     fit();
     line_->setText(model_->cursorLine());
     plot_->setAccessibleDescription(line_->text());
-    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::a), std::pair(cursorB_, Cursor::b)}) {
+    for (const auto& [button, which] : {std::pair(cursorA_, Cursor::A), std::pair(cursorB_, Cursor::B)}) {
         const bool isMoving = model_->moving() == which && model_->cursor(which) >= 0;
         button->setChecked(isMoving);
         // Dark buttons look alike, pressed or not.

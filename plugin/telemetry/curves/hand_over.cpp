@@ -70,16 +70,16 @@ void HandOver::save(const QString& path, const WriteContent& write)
     if (replaceFile(path, write, &reason))
         return tellSaved(path);
     if (bar_)
-        bar_->tell(kHandedOver, [shown = QDir::toNativeSeparators(path), reason] {
-            return Notice{Mark::invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}};
+        bar_->tell(HandedOverNotice, [shown = QDir::toNativeSeparators(path), reason] {
+            return Notice{Mark::Invalid, translated("rec_171").arg(shown, fileErrorText(reason)), {}};
         });
 }
 
 void HandOver::tellSaved(const QString& path)
 {
     if (bar_)
-        bar_->tellNews(kHandedOver, [shown = QDir::toNativeSeparators(QDir::cleanPath(path))] {
-            return Notice{Mark::right, translated("rec_170").arg(shown), {}};
+        bar_->tellNews(HandedOverNotice, [shown = QDir::toNativeSeparators(QDir::cleanPath(path))] {
+            return Notice{Mark::Right, translated("rec_170").arg(shown), {}};
         });
 }
 
@@ -137,10 +137,10 @@ void HandOver::tellPrinted(const QPrinter& printer)
     if (!bar_)
         return;
     if (printer.printerState() == QPrinter::Error)
-        return bar_->tell(kHandedOver, [] { return Notice{Mark::invalid, translated("rec_172"), {}}; });
-    bar_->tellNews(kHandedOver, [file = QDir::toNativeSeparators(printer.outputFileName())] {
+        return bar_->tell(HandedOverNotice, [] { return Notice{Mark::Invalid, translated("rec_172"), {}}; });
+    bar_->tellNews(HandedOverNotice, [file = QDir::toNativeSeparators(printer.outputFileName())] {
         return Notice{
-            Mark::right, file.isEmpty() ? translated("rec_464") : translated("rec_170").arg(file), {}};
+            Mark::Right, file.isEmpty() ? translated("rec_464") : translated("rec_170").arg(file), {}};
     });
 }
 
@@ -154,8 +154,8 @@ void HandOver::print(const PaintPicture& paint)
     if (painter.begin(&printer)) {
         // The picture as it is on a screen, as large as the page.
         const QRect page = painter.viewport();
-        const double scale = std::min(double(page.width()) / kPictureSize.width(),
-                                      double(page.height()) / kPictureSize.height());
+        const double scale = std::min(static_cast<double>(page.width()) / kPictureSize.width(),
+                                      static_cast<double>(page.height()) / kPictureSize.height());
         painter.scale(scale, scale);
         paintInPixels(painter, paint, kPictureSize);
         painter.end();

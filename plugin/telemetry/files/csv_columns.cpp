@@ -60,7 +60,7 @@ constexpr std::array<CsvColumn, kCsvColumnCount> kColumns = [] {
 }();
 
 static_assert(std::ranges::none_of(kColumns, [](const CsvColumn& column) {
-    return kItems[column.item].rule().shape == Shape::special;
+    return kItems[column.item].rule().shape == Shape::Special;
 }));
 
 // With a number it takes the place of the marker, or stands behind a text that has none; without one the text

@@ -66,7 +66,7 @@ void ExportAhead::add(const RecordStore& store, std::span<const int> records, Ex
         hasPackets = hasPackets || layout.isPacket();
         fields = fields | layout.mask;
     }
-    if (form == ExportForm::tmi)
+    if (form == ExportForm::Tmi)
         crc = binaryCrc(crc, store, records);
 }
 
@@ -74,22 +74,22 @@ std::unique_ptr<ExportWriter> exportWriter(ExportForm form, const ExportAhead& a
                                            const ExportOptions& options)
 {
     switch (form) {
-    case ExportForm::csv:
-    case ExportForm::tsv:
+    case ExportForm::Csv:
+    case ExportForm::Tsv:
         return numberTableWriter(form, ahead, options);
-    case ExportForm::csvText:
+    case ExportForm::CsvText:
         return textTableWriter(ahead, options);
-    case ExportForm::ndjson:
+    case ExportForm::Ndjson:
         return jsonWriter(options);
-    case ExportForm::gpx:
+    case ExportForm::Gpx:
         return gpxWriter(options);
-    case ExportForm::kml:
+    case ExportForm::Kml:
         return kmlWriter(options);
-    case ExportForm::geojson:
+    case ExportForm::Geojson:
         return geoJsonWriter(options);
-    case ExportForm::xml:
+    case ExportForm::Xml:
         return xmlWriter(ahead, options.origin);
-    case ExportForm::tmi:
+    case ExportForm::Tmi:
         return binaryWriter(ahead, options.origin);
     }
     return nullptr;

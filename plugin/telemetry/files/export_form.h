@@ -19,7 +19,7 @@ namespace vlk {
 
 struct CsvColumn;
 
-enum class ExportForm : std::uint8_t { csv, csvText, tsv, ndjson, gpx, kml, geojson, xml, tmi };
+enum class ExportForm : std::uint8_t { Csv, CsvText, Tsv, Ndjson, Gpx, Kml, Geojson, Xml, Tmi };
 
 struct ExportFormRow
 {
@@ -34,15 +34,15 @@ struct ExportFormRow
 
 // In the order in which they are offered.
 inline constexpr ExportFormRow kExportForms[] = {
-    {"csv", "rec_120", "csv", ExportForm::csv, true, true, true},
-    {"csv-text", "rec_121", "csv", ExportForm::csvText, true, true, false},
-    {"tsv", "rec_122", "tsv", ExportForm::tsv, true, true, true},
-    {"gpx", "rec_123", "gpx", ExportForm::gpx, false, false, false},
-    {"kml", "rec_124", "kml", ExportForm::kml, false, false, false},
-    {"geojson", "rec_125", "geojson", ExportForm::geojson, false, false, false},
-    {"ndjson", "rec_126", "ndjson", ExportForm::ndjson, false, true, false},
-    {"xml", "rec_127", "xml", ExportForm::xml, true, true, false},
-    {"tmi", "rec_128", "tmi", ExportForm::tmi, true, true, false},
+    {"csv", "rec_120", "csv", ExportForm::Csv, true, true, true},
+    {"csv-text", "rec_121", "csv", ExportForm::CsvText, true, true, false},
+    {"tsv", "rec_122", "tsv", ExportForm::Tsv, true, true, true},
+    {"gpx", "rec_123", "gpx", ExportForm::Gpx, false, false, false},
+    {"kml", "rec_124", "kml", ExportForm::Kml, false, false, false},
+    {"geojson", "rec_125", "geojson", ExportForm::Geojson, false, false, false},
+    {"ndjson", "rec_126", "ndjson", ExportForm::Ndjson, false, true, false},
+    {"xml", "rec_127", "xml", ExportForm::Xml, true, true, false},
+    {"tmi", "rec_128", "tmi", ExportForm::Tmi, true, true, false},
 };
 
 const ExportFormRow& rowOf(ExportForm form);

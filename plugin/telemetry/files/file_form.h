@@ -19,7 +19,7 @@ inline constexpr std::array<FileForm, kElementCount> kFileForms = [] {
     std::array<FileForm, kElementCount> forms{};
     for (int i = 0; i < kElementCount; ++i)
         forms[i] = {kElements[i].type, 1};
-    forms[element("CAN_TimeTO")].type = ValueType::i16;
+    forms[element("CAN_TimeTO")].type = ValueType::I16;
     forms[element("NaviHDop")].divisor = 10;
     forms[element("NaviPDop")].divisor = 10;
     forms[element("NaviAltitude")].divisor = 1000;

@@ -20,17 +20,17 @@ struct SignRow
 };
 
 // Longer ones first.
-constexpr SignRow kSigns[] = {{"!=", Comparison::notEqual},
-                              {"<>", Comparison::notEqual},
-                              {"<=", Comparison::lessOrEqual},
-                              {">=", Comparison::greaterOrEqual},
-                              {"==", Comparison::equal},
-                              {"=", Comparison::equal},
-                              {"<", Comparison::less},
-                              {">", Comparison::greater},
-                              {"\u2264", Comparison::lessOrEqual},
-                              {"\u2265", Comparison::greaterOrEqual},
-                              {"\u2260", Comparison::notEqual}};
+constexpr SignRow kSigns[] = {{"!=", Comparison::NotEqual},
+                              {"<>", Comparison::NotEqual},
+                              {"<=", Comparison::LessOrEqual},
+                              {">=", Comparison::GreaterOrEqual},
+                              {"==", Comparison::Equal},
+                              {"=", Comparison::Equal},
+                              {"<", Comparison::Less},
+                              {">", Comparison::Greater},
+                              {"\u2264", Comparison::LessOrEqual},
+                              {"\u2265", Comparison::GreaterOrEqual},
+                              {"\u2260", Comparison::NotEqual}};
 
 struct QuoteRow
 {
@@ -52,7 +52,7 @@ const QStringList& wordsOf(FilterNode::Kind kind)
     static const QStringList all{QStringLiteral("and"), QStringLiteral("и")};
     static const QStringList any{QStringLiteral("or"), QStringLiteral("или")};
     static const QStringList negation{QStringLiteral("not"), foldedForFilter(QStringLiteral("не"))};
-    return kind == FilterNode::all ? all : kind == FilterNode::any ? any : negation;
+    return kind == FilterNode::All ? all : kind == FilterNode::Any ? any : negation;
 }
 
 } // namespace
@@ -74,7 +74,7 @@ QString FilterGrammar::unit() const
     const bool isUnit = std::ranges::any_of(names_.foldedNames(),
                                             [&ending](const QString& name) { return name.endsWith(ending); });
     const bool isAtValue =
-        expected_ == Expected::joint || expected_ == Expected::number || expected_ == Expected::word;
+        expected_ == Expected::Joint || expected_ == Expected::Number || expected_ == Expected::Word;
     return isAtValue && match.hasMatch() && isUnit ? match.captured() : QString();
 }
 
@@ -90,7 +90,7 @@ std::optional<Filter> FilterGrammar::parse()
         return Filter();
     std::optional<FilterNode> root = alternatives();
     if (root && position_ < text_.size())
-        root = fault(Expected::joint);
+        root = fault(Expected::Joint);
     return root ? std::optional(Filter{std::move(root)}) : std::nullopt;
 }
 
@@ -131,7 +131,7 @@ bool FilterGrammar::takeWord(FilterNode::Kind kind)
 
 std::optional<FilterNode> FilterGrammar::alternatives()
 {
-    return chain(FilterNode::any, [this] { return chain(FilterNode::all, [this] { return primary(); }); });
+    return chain(FilterNode::Any, [this] { return chain(FilterNode::All, [this] { return primary(); }); });
 }
 
 template <class Part>
@@ -153,18 +153,18 @@ std::optional<FilterNode> FilterGrammar::primary()
         return deeper([this] { return bracket(); });
     int end = position_;
     const std::optional<FilterColumn> column = nameHere(&end);
-    if (const int behind = behindWord(FilterNode::negation); behind > end) {
+    if (const int behind = behindWord(FilterNode::Negation); behind > end) {
         position_ = behind;
         passBlanks();
         return deeper([this]() -> std::optional<FilterNode> {
             std::optional<FilterNode> part = primary();
             if (!part)
                 return std::nullopt;
-            return FilterNode{.kind = FilterNode::negation, .parts = {std::move(*part)}};
+            return FilterNode{.kind = FilterNode::Negation, .parts = {std::move(*part)}};
         });
     }
     if (!column)
-        return fault(Expected::name);
+        return fault(Expected::Name);
     column_ = *column;
     nameBegin_ = position_;
     nameEnd_ = end;
@@ -177,7 +177,7 @@ template <class Parse>
 std::optional<FilterNode> FilterGrammar::deeper(Parse parse)
 {
     if (depth_ == kDeepest)
-        return fault(Expected::flatter);
+        return fault(Expected::Flatter);
     ++depth_;
     std::optional<FilterNode> node = parse();
     --depth_;
@@ -192,7 +192,7 @@ std::optional<FilterNode> FilterGrammar::bracket()
     if (!node)
         return std::nullopt;
     if (position_ == text_.size() || text_[position_] != QLatin1Char(')'))
-        return fault(position_ == text_.size() ? Expected::closing : Expected::joint);
+        return fault(position_ == text_.size() ? Expected::Closing : Expected::Joint);
     ++position_;
     passBlanks();
     return node;
@@ -228,14 +228,14 @@ std::optional<FilterNode> FilterGrammar::comparison()
         passBlanks();
         return node;
     }
-    return fault(Expected::sign);
+    return fault(Expected::Sign);
 }
 
 FilterGrammar::Expected FilterGrammar::expectedValue() const
 {
     if (holdsTimes(column_))
-        return Expected::moment;
-    return names_.hasWords(column_) ? Expected::word : Expected::number;
+        return Expected::Moment;
+    return names_.hasWords(column_) ? Expected::Word : Expected::Number;
 }
 
 std::optional<FilterNode> FilterGrammar::value(Comparison comparison)
@@ -245,13 +245,13 @@ std::optional<FilterNode> FilterGrammar::value(Comparison comparison)
     if (quoteAt(text_, begin)) {
         const std::optional<QString> quoted = quotedHere(&end);
         if (!quoted)
-            return fault(names_.hasWords(column_) ? Expected::word : Expected::quote, begin);
+            return fault(names_.hasWords(column_) ? Expected::Word : Expected::Quote, begin);
         if (const std::vector<CodeRange> codes = names_.codesOf(column_, *quoted); !codes.empty())
             return wordNode(comparison, codes, begin, end);
         int used = 0;
         std::optional<FilterNode> node = plainValue(comparison, quoted->trimmed(), 0, &used);
         if (!node || used != quoted->trimmed().size()) {
-            if (expectedValue() == Expected::word)
+            if (expectedValue() == Expected::Word)
                 unknownWord_ = quoted->trimmed();
             return fault(expectedValue(), begin);
         }
@@ -270,15 +270,15 @@ std::optional<FilterNode> FilterGrammar::value(Comparison comparison)
 std::optional<FilterNode> FilterGrammar::wordNode(Comparison comparison, const std::vector<CodeRange>& codes,
                                                   int begin, int end)
 {
-    const bool isEqual = comparison == Comparison::equal;
-    if (!isEqual && comparison != Comparison::notEqual)
-        return fault(Expected::equality, begin);
+    const bool isEqual = comparison == Comparison::Equal;
+    if (!isEqual && comparison != Comparison::NotEqual)
+        return fault(Expected::Equality, begin);
     std::vector<FilterNode> parts;
     parts.reserve(codes.size());
     for (const CodeRange& range : codes)
         parts.push_back(isEqual ? inside(column_, range) : outside(column_, range));
     position_ = end;
-    return joined(isEqual ? FilterNode::any : FilterNode::all, std::move(parts));
+    return joined(isEqual ? FilterNode::Any : FilterNode::All, std::move(parts));
 }
 
 std::optional<FilterNode> FilterGrammar::plainValue(Comparison comparison, const QString& text, int position,

@@ -12,16 +12,16 @@ class FilterGrammar
 {
 public:
     enum class Expected : std::uint8_t {
-        name,
-        sign,
-        number,
-        word,
-        moment,
-        joint,
-        closing,
-        quote,
-        flatter,
-        equality
+        Name,
+        Sign,
+        Number,
+        Word,
+        Moment,
+        Joint,
+        Closing,
+        Quote,
+        Flatter,
+        Equality
     };
 
     // The text and the names have to stay.
@@ -81,7 +81,7 @@ private:
     int nameEnd_ = -1;
     int faultAt_ = 0;
     QString unknownWord_;
-    Expected expected_ = Expected::name;
+    Expected expected_ = Expected::Name;
 };
 
 } // namespace vlk

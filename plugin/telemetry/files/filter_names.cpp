@@ -45,14 +45,14 @@ QString keyOf(const QString& text)
 // The word that a code of the item shows; null where it shows none.
 const Word* wordOf(const Rule& rule, quint32 code)
 {
-    if (rule.shape == Shape::twoState)
+    if (rule.shape == Shape::TwoState)
         return code > 1 ? nullptr : code == 1 ? &rule.set : &rule.clear;
-    if (rule.shape != Shape::enumeration)
+    if (rule.shape != Shape::Enumeration)
         return nullptr;
     const auto covers = [code](const NamedValue& row) { return code >= row.first && code <= row.last; };
     if (const auto row = std::ranges::find_if(rule.names, covers); row != rule.names.end())
         return &row->word;
-    return rule.other == Other::word ? &rule.set : nullptr;
+    return rule.other == Other::Word ? &rule.set : nullptr;
 }
 
 } // namespace
@@ -77,7 +77,7 @@ QString wordOfCode(ItemIndex item, quint32 code)
 FilterNames::FilterNames()
 {
     for (int index = 0; index < kItemCount; ++index) {
-        if (kItems[index].rule().shape != Shape::special && index != item("Time.local"))
+        if (kItems[index].rule().shape != Shape::Special && index != item("Time.local"))
             add(latin1(kItems[index].name), static_cast<ItemIndex>(index));
     }
     // Those that an item of their name shows are there already.
@@ -148,11 +148,11 @@ void FilterNames::addTexts()
 void FilterNames::addWordsOf(ItemIndex item)
 {
     const Rule& rule = kItems[item].rule();
-    if (rule.shape == Shape::twoState) {
+    if (rule.shape == Shape::TwoState) {
         addWord(rule.set.text(), item, {1, 1});
         addWord(rule.clear.text(), item, {0, 0});
     }
-    if (rule.shape != Shape::enumeration)
+    if (rule.shape != Shape::Enumeration)
         return;
     // Rows name codes of one byte; whatever lies above is shown like the last of them that has no row.
     const int bits = rule.bits.count != 0 ? rule.bits.count : 8 * kElements[kItems[item].element].width;

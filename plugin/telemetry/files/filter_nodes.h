@@ -34,36 +34,36 @@ inline FilterNode joined(FilterNode::Kind kind, std::vector<FilterNode> parts)
 inline FilterNode inside(const FilterColumn& column, const CodeRange& codes)
 {
     if (codes.first == codes.last)
-        return condition(column, Comparison::equal, codes.first);
-    FilterNode from = condition(column, Comparison::greaterOrEqual, codes.first);
+        return condition(column, Comparison::Equal, codes.first);
+    FilterNode from = condition(column, Comparison::GreaterOrEqual, codes.first);
     if (codes.last == std::numeric_limits<double>::infinity())
         return from;
-    return joined(FilterNode::all, {from, condition(column, Comparison::lessOrEqual, codes.last)});
+    return joined(FilterNode::All, {from, condition(column, Comparison::LessOrEqual, codes.last)});
 }
 
 inline FilterNode outside(const FilterColumn& column, const CodeRange& codes)
 {
     if (codes.first == codes.last)
-        return condition(column, Comparison::notEqual, codes.first);
-    FilterNode below = condition(column, Comparison::less, codes.first);
+        return condition(column, Comparison::NotEqual, codes.first);
+    FilterNode below = condition(column, Comparison::Less, codes.first);
     if (codes.last == std::numeric_limits<double>::infinity())
         return below;
-    return joined(FilterNode::any, {below, condition(column, Comparison::greater, codes.last)});
+    return joined(FilterNode::Any, {below, condition(column, Comparison::Greater, codes.last)});
 }
 
 inline FilterNode compared(const FilterColumn& column, Comparison comparison, const MomentSpan& moment)
 {
     const CodeRange range{static_cast<double>(moment.first), static_cast<double>(moment.last)};
     switch (comparison) {
-    case Comparison::equal:
+    case Comparison::Equal:
         return inside(column, range);
-    case Comparison::notEqual:
+    case Comparison::NotEqual:
         return outside(column, range);
-    case Comparison::less:
-    case Comparison::greaterOrEqual:
+    case Comparison::Less:
+    case Comparison::GreaterOrEqual:
         return condition(column, comparison, range.first);
-    case Comparison::greater:
-    case Comparison::lessOrEqual:
+    case Comparison::Greater:
+    case Comparison::LessOrEqual:
         break;
     }
     return condition(column, comparison, range.last);

@@ -53,7 +53,7 @@ QString faultText(const FilterGrammar& parser, const QString& text)
     const auto isInWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == QLatin1Char('_'); };
     const auto end = std::ranges::find_if_not(text.begin() + position, text.end(), isInWord);
     const QString word = text.mid(position, static_cast<int>(end - text.begin()) - position);
-    return expected == Expected::name && !word.isEmpty() ? translated("rec_298").arg(needed, word) : needed;
+    return expected == Expected::Name && !word.isEmpty() ? translated("rec_298").arg(needed, word) : needed;
 }
 
 QString inQuotes(const QString& word)
@@ -97,7 +97,7 @@ std::vector<FilterCompletion> completions(const QString& text, int cursor, const
     const QString before = text.left(cursor);
     FilterGrammar parser(before, names, 0);
     const bool isWhole = parser.parse().has_value();
-    const Expected expected = isWhole && !before.trimmed().isEmpty() ? Expected::joint : parser.expected();
+    const Expected expected = isWhole && !before.trimmed().isEmpty() ? Expected::Joint : parser.expected();
     int from = isWhole ? before.size() : parser.position();
     QString typed = foldedForFilter(before.mid(from));
     const bool isQuoted = FilterGrammar::beginsQuoted(typed);
@@ -110,11 +110,11 @@ std::vector<FilterCompletion> completions(const QString& text, int cursor, const
             all.push_back({begin, offered});
     };
     switch (expected) {
-    case Expected::name:
+    case Expected::Name:
         for (const QString& name : matching(names.names(), names.foldedNames(), typed))
             all.push_back({from, isQuoted ? inQuotes(name) : name});
         break;
-    case Expected::sign: {
+    case Expected::Sign: {
         // The name may be the beginning of a longer one.
         if (parser.nameEnd() == before.size())
             offer(
@@ -126,14 +126,14 @@ std::vector<FilterCompletion> completions(const QString& text, int cursor, const
         }
         break;
     }
-    case Expected::word:
-    case Expected::moment:
-    case Expected::number:
+    case Expected::Word:
+    case Expected::Moment:
+    case Expected::Number:
         for (const QString& word : matching(names.words(parser.column()), typed))
             all.push_back({from, inQuotes(word)});
         break;
-    case Expected::joint:
-    case Expected::closing:
+    case Expected::Joint:
+    case Expected::Closing:
         // Only behind a blank.
         if (before.endsWith(QLatin1Char(' ')) || !typed.isEmpty())
             offer(matching({translated("rec_110"), translated("rec_111")}, typed), from);

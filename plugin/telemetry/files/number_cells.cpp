@@ -58,24 +58,24 @@ NumberCell numberCell(ElementIndex index, std::string_view userTypes)
     const Element& element = kElements[index];
     const Measure& measure = element.measure;
     NumberCell cell{.element = index, .unit = measure.unit, .userType = letterOf(element.field, userTypes)};
-    if ((cell.userType == 'f' && element.width >= 4) || element.type == ValueType::f32) {
-        cell.kind = NumberCell::single;
-    } else if (measure.unit == Unit::unixSeconds) {
-        cell.kind = NumberCell::moment;
-        cell.unit = Unit::none;
-    } else if (measure.unit == Unit::degree && measure.divisor > 1000) {
+    if ((cell.userType == 'f' && element.width >= 4) || element.type == ValueType::F32) {
+        cell.kind = NumberCell::Single;
+    } else if (measure.unit == Unit::UnixSeconds) {
+        cell.kind = NumberCell::Moment;
+        cell.unit = Unit::None;
+    } else if (measure.unit == Unit::Degree && measure.divisor > 1000) {
         const auto divisor = static_cast<std::int64_t>(measure.divisor);
         const std::int64_t units = powerOfTen(kDecimalsOfDegrees);
         const std::int64_t common = std::gcd(divisor, units);
-        cell.kind = NumberCell::fixed;
+        cell.kind = NumberCell::Fixed;
         cell.decimals = kDecimalsOfDegrees;
         cell.multiplier = units / common;
         cell.divisor = divisor / common;
     } else if (const auto decimals = decimalsOf(measure.multiplier / measure.divisor)) {
-        cell.kind = *decimals == 0 ? NumberCell::whole : NumberCell::fixed;
+        cell.kind = *decimals == 0 ? NumberCell::Whole : NumberCell::Fixed;
         cell.decimals = *decimals;
     } else {
-        cell.kind = NumberCell::real;
+        cell.kind = NumberCell::Real;
     }
     return cell;
 }
@@ -85,13 +85,13 @@ NumberCell numberCell(ItemIndex index)
     const Item& item = kItems[index];
     return {.element = item.element,
             .item = index,
-            .kind = NumberCell::ofItem,
+            .kind = NumberCell::OfItem,
             .unit = measureOf(item, item.rule()).unit};
 }
 
 NumberCell rawCell(ElementIndex element)
 {
-    return {.element = element, .kind = NumberCell::asFile};
+    return {.element = element, .kind = NumberCell::AsFile};
 }
 
 char* NumberCells::withSign(char* from, char* end) const
@@ -133,7 +133,7 @@ char* NumberCells::put(char* to, const NumberCell& cell, std::uint64_t raw)
     constexpr int digits = 9;
     const ValueType type = kElements[cell.element].type;
     const Measure& measure = kElements[cell.element].measure;
-    if (cell.kind == NumberCell::asFile) {
+    if (cell.kind == NumberCell::AsFile) {
         withFileNumber(cell.element, raw, [&](auto number) {
             if constexpr (std::is_floating_point_v<decltype(number)>) {
                 const QByteArray text = shortestText(number);
@@ -148,25 +148,25 @@ char* NumberCells::put(char* to, const NumberCell& cell, std::uint64_t raw)
     if (measure.noValue == integer || (measure.belowZeroIsNone && numberOf(raw, type) < 0))
         return to;
     switch (cell.kind) {
-    case NumberCell::whole:
+    case NumberCell::Whole:
         if (isSigned(type) || cell.userType == 's') {
             const int unused = 64 - 8 * kElements[cell.element].width;
             return std::to_chars(to, to + kLongest, static_cast<std::int64_t>(raw << unused) >> unused).ptr;
         }
         return std::to_chars(to, to + kLongest, raw).ptr;
-    case NumberCell::fixed:
+    case NumberCell::Fixed:
         return putFixed(to, cell, integer);
-    case NumberCell::real:
+    case NumberCell::Real:
         return putReal(to, measure.of(numberOf(raw, type)), digits);
-    case NumberCell::single:
+    case NumberCell::Single:
         if (kElements[cell.element].width == 8)
             return putShortest(to, std::bit_cast<double>(raw));
         return putShortest(to, std::bit_cast<float>(static_cast<quint32>(raw)));
-    case NumberCell::moment:
+    case NumberCell::Moment:
         return times_.put(to, static_cast<quint32>(raw));
-    case NumberCell::ofItem:
+    case NumberCell::OfItem:
         return putReal(to, itemNumber(raw, cell.item), digits);
-    case NumberCell::asFile:
+    case NumberCell::AsFile:
         break;
     }
     return to;

@@ -15,19 +15,19 @@ namespace vlk {
 struct NumberCell
 {
     enum Kind : std::uint8_t {
-        whole,
-        fixed,  // `decimals` digits behind the point
-        real,   // up to nine digits
-        single, // a float
-        moment,
-        ofItem, // the number of the item
-        asFile, // as the XML form has it
+        Whole,
+        Fixed,  // `decimals` digits behind the point
+        Real,   // up to nine digits
+        Single, // a float
+        Moment,
+        OfItem, // the number of the item
+        AsFile, // as the XML form has it
     };
 
     ElementIndex element{};
     ItemIndex item{};
-    Kind kind = whole;
-    Unit unit = Unit::none;
+    Kind kind = Whole;
+    Unit unit = Unit::None;
     std::int64_t multiplier = 1; // to units of the last decimal
     std::int64_t divisor = 1;
     int decimals = 0;

@@ -58,19 +58,19 @@ const CsvColumn* columnOf(const NumberCell& cell)
 {
     const CsvColumn* found = nullptr;
     for (const CsvColumn& column : csvColumns()) {
-        if (cell.kind == NumberCell::ofItem ? column.item != cell.item : column.element() != cell.element)
+        if (cell.kind == NumberCell::OfItem ? column.item != cell.item : column.element() != cell.element)
             continue;
         if (found)
             return nullptr;
         found = &column;
     }
-    if (!found || cell.kind == NumberCell::asFile)
+    if (!found || cell.kind == NumberCell::AsFile)
         return nullptr;
     const Item& item = kItems[found->item];
     const Rule& rule = item.rule();
     const bool isWhole =
-        cell.kind == NumberCell::ofItem || (rule.bits.count == 0 && rule.shape != Shape::twoState);
-    const bool isInItsUnit = cell.kind == NumberCell::moment || measureOf(item, rule).unit == cell.unit;
+        cell.kind == NumberCell::OfItem || (rule.bits.count == 0 && rule.shape != Shape::TwoState);
+    const bool isInItsUnit = cell.kind == NumberCell::Moment || measureOf(item, rule).unit == cell.unit;
     return isWhole && isInItsUnit ? found : nullptr;
 }
 
@@ -78,7 +78,7 @@ class NumberTableWriter : public ExportWriter
 {
 public:
     NumberTableWriter(ExportForm form, const ExportAhead& ahead, const ExportOptions& options)
-        : isCsv_(form == ExportForm::csv), separator_(!isCsv_                ? '\t'
+        : isCsv_(form == ExportForm::Csv), separator_(!isCsv_                ? '\t'
                                                       : options.decimalComma ? ';'
                                                                              : ','),
           isMarked_(options.isMarked), heading_(options.heading), isArchive_(options.archive),

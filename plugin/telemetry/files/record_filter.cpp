@@ -29,8 +29,8 @@ void addText(QString& text, const FilterNode& node, const FilterWording& wording
 // A part that binds less than what it stands in has brackets.
 void addPart(QString& text, const FilterNode& part, FilterNode::Kind inside, const FilterWording& wording)
 {
-    const bool isJoined = part.kind == FilterNode::all || part.kind == FilterNode::any;
-    const bool inBrackets = isJoined && !(inside == FilterNode::any && part.kind == FilterNode::all);
+    const bool isJoined = part.kind == FilterNode::All || part.kind == FilterNode::Any;
+    const bool inBrackets = isJoined && !(inside == FilterNode::Any && part.kind == FilterNode::All);
     if (inBrackets)
         text += QLatin1Char('(');
     addText(text, part, wording);
@@ -41,19 +41,19 @@ void addPart(QString& text, const FilterNode& part, FilterNode::Kind inside, con
 void addText(QString& text, const FilterNode& node, const FilterWording& wording)
 {
     switch (node.kind) {
-    case FilterNode::condition:
+    case FilterNode::Condition:
         text += wording.name(node.column) + QLatin1String(kSignTexts[static_cast<int>(node.comparison)]) +
                 wording.number(node.column, node.number);
         return;
-    case FilterNode::negation:
+    case FilterNode::Negation:
         text += wording.negation + QLatin1Char(' ');
         addPart(text, node.parts.front(), node.kind, wording);
         return;
-    case FilterNode::all:
-    case FilterNode::any:
+    case FilterNode::All:
+    case FilterNode::Any:
         for (std::size_t part = 0; part < node.parts.size(); ++part) {
             if (part > 0)
-                text += QLatin1Char(' ') + (node.kind == FilterNode::all ? wording.all : wording.any) +
+                text += QLatin1Char(' ') + (node.kind == FilterNode::All ? wording.all : wording.any) +
                         QLatin1Char(' ');
             addPart(text, node.parts[part], node.kind, wording);
         }
@@ -64,7 +64,7 @@ void addText(QString& text, const FilterNode& node, const FilterWording& wording
 double tolerance(const FilterColumn& column, double number)
 {
     const Element& element = kElements[elementOf(column)];
-    if (element.type == ValueType::f32)
+    if (element.type == ValueType::F32)
         return std::abs(number) * 1e-7;
     const auto* const item = std::get_if<ItemIndex>(&column);
     const Measure* const measure = item ? &measureOf(kItems[*item], kItems[*item].rule()) : nullptr;
@@ -111,7 +111,7 @@ bool isNoneAtZero(const FilterColumn& column)
 Bound bind(const FilterNode& node, RecordColumns& columns)
 {
     Bound bound{node.kind, node.comparison, 0, 0, {}, false, {}};
-    if (node.kind == FilterNode::condition) {
+    if (node.kind == FilterNode::Condition) {
         const double slack = tolerance(node.column, node.number);
         bound.low = node.number - slack;
         bound.high = node.number + slack;
@@ -146,24 +146,24 @@ void compare(const Bound& bound, const Number* numbers, int count, Passes& passe
     const double low = bound.low;
     const double high = bound.high;
     switch (bound.comparison) {
-    case Comparison::equal:
+    case Comparison::Equal:
         return fill(passes, numbers, count, [=](double number) { return number >= low && number <= high; });
-    case Comparison::notEqual:
+    case Comparison::NotEqual:
         return fill(passes, numbers, count, [=](double number) { return number < low || number > high; });
-    case Comparison::less:
+    case Comparison::Less:
         return fill(passes, numbers, count, [=](double number) { return number < low; });
-    case Comparison::greater:
+    case Comparison::Greater:
         return fill(passes, numbers, count, [=](double number) { return number > high; });
-    case Comparison::lessOrEqual:
+    case Comparison::LessOrEqual:
         return fill(passes, numbers, count, [=](double number) { return number <= high; });
-    case Comparison::greaterOrEqual:
+    case Comparison::GreaterOrEqual:
         return fill(passes, numbers, count, [=](double number) { return number >= low; });
     }
 }
 
 void evaluate(const Bound& bound, int first, int count, Passes& passes)
 {
-    if (bound.kind == FilterNode::condition) {
+    if (bound.kind == FilterNode::Condition) {
         std::visit([&](const auto* numbers) { compare(bound, numbers + first, count, passes); },
                    bound.numbers);
         if (bound.zeroIsNone)
@@ -171,12 +171,12 @@ void evaluate(const Bound& bound, int first, int count, Passes& passes)
         return;
     }
     evaluate(bound.parts.front(), first, count, passes);
-    if (bound.kind == FilterNode::negation) {
+    if (bound.kind == FilterNode::Negation) {
         for (int i = 0; i < count; ++i)
             passes[i] = !passes[i];
         return;
     }
-    const bool isAll = bound.kind == FilterNode::all;
+    const bool isAll = bound.kind == FilterNode::All;
     Passes more;
     for (std::size_t part = 1; part < bound.parts.size(); ++part) {
         evaluate(bound.parts[part], first, count, more);
@@ -203,7 +203,7 @@ ElementIndex elementOf(const FilterColumn& column)
 
 bool holdsTimes(const FilterColumn& column)
 {
-    return kElements[elementOf(column)].measure.unit == Unit::unixSeconds;
+    return kElements[elementOf(column)].measure.unit == Unit::UnixSeconds;
 }
 
 QString Filter::text() const
@@ -227,7 +227,7 @@ std::vector<FilterColumn> Filter::columns() const
 {
     std::vector<FilterColumn> columns;
     const std::function<void(const FilterNode&)> take = [&](const FilterNode& node) {
-        if (node.kind == FilterNode::condition && std::ranges::find(columns, node.column) == columns.end())
+        if (node.kind == FilterNode::Condition && std::ranges::find(columns, node.column) == columns.end())
             columns.push_back(node.column);
         std::ranges::for_each(node.parts, take);
     };

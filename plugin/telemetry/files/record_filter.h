@@ -26,18 +26,18 @@ ElementIndex elementOf(const FilterColumn& column);
 // Whether the column holds moments, in seconds since 1970.
 bool holdsTimes(const FilterColumn& column);
 
-enum class Comparison : std::uint8_t { equal, notEqual, less, greater, lessOrEqual, greaterOrEqual };
+enum class Comparison : std::uint8_t { Equal, NotEqual, Less, Greater, LessOrEqual, GreaterOrEqual };
 
 struct FilterNode
 {
     enum Kind : std::uint8_t {
-        condition, // of the column with the number
-        all,       // of the parts
-        any,
-        negation, // of the one part
+        Condition, // of the column with the number
+        All,       // of the parts
+        Any,
+        Negation, // of the one part
     };
 
-    Kind kind = condition;
+    Kind kind = Condition;
     FilterColumn column{};
     Comparison comparison{};
     double number = 0;

@@ -148,7 +148,7 @@ bool writeTelemetryBinary(QIODevice& device, const RecordStore& records, const T
 {
     ExportOptions options;
     options.origin = origin;
-    return exportRecords(device, records, ExportForm::tmi, options);
+    return exportRecords(device, records, ExportForm::Tmi, options);
 }
 
 } // namespace vlk

@@ -44,8 +44,8 @@ struct FileDamage
 
 // What is read of a damaged file.
 enum class TelemetryReading : std::uint8_t {
-    asTold,  // a page without an end hides the next one, and gives what there is of it; a line is one element
-    salvage, // every whole record, and no other, whatever stands on its lines
+    AsTold,  // a page without an end hides the next one, and gives what there is of it; a line is one element
+    Salvage, // every whole record, and no other, whatever stands on its lines
 };
 
 // What a file gives. Titles, zone and vendor come from the XML form only, the tracker's number from none; the

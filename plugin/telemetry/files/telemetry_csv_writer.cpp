@@ -11,7 +11,7 @@ bool writeTelemetryCsv(QIODevice& device, const RecordStore& records, const Tele
     options.origin.titles = titles;
     options.utcOffset = records.utcOffset();
     options.eventText = eventText;
-    return exportRecords(device, records, ExportForm::csvText, options);
+    return exportRecords(device, records, ExportForm::CsvText, options);
 }
 
 } // namespace vlk

@@ -12,11 +12,11 @@ bool write(QIODevice& device, TelemetryForm form, const RecordStore& records, co
            const EventText& eventText)
 {
     switch (form) {
-    case TelemetryForm::xml:
+    case TelemetryForm::Xml:
         return writeTelemetryXml(device, records, origin);
-    case TelemetryForm::csv:
+    case TelemetryForm::Csv:
         return writeTelemetryCsv(device, records, origin.titles, eventText);
-    case TelemetryForm::binary:
+    case TelemetryForm::Binary:
         return writeTelemetryBinary(device, records, origin);
     }
     return false;

@@ -6,7 +6,7 @@
 
 namespace vlk {
 
-enum class TelemetryForm { xml, csv, binary };
+enum class TelemetryForm { Xml, Csv, Binary };
 
 // True when the file at `path` now holds the records in that form. Otherwise, on a full disk say, it holds
 // what it held before, and the log of failed saves (base/save_log.h) says why. Only the CSV form asks for the

@@ -20,7 +20,7 @@ public:
     // The form is told by the first bytes; where they say nothing, by `name`. The device stays open as long
     // as it is read.
     TelemetryReader(QIODevice& device, const QString& name,
-                    TelemetryReading reading = TelemetryReading::asTold);
+                    TelemetryReading reading = TelemetryReading::AsTold);
 
     // Some records, a damage or a line; false at the end.
     bool step();

@@ -70,7 +70,7 @@ void TelemetryXmlReader::goOnAt(qint64 at)
 
 std::string_view TelemetryXmlReader::nextLine(std::size_t most)
 {
-    const bool salvages = reading_ == TelemetryReading::salvage;
+    const bool salvages = reading_ == TelemetryReading::Salvage;
     const std::string_view line = input_.line(most);
     const std::size_t first = areLinesShared_ && !salvages ? line.size() : sizeOfFirst(line);
     if (first == line.size())
@@ -158,7 +158,7 @@ void TelemetryXmlReader::readPage(std::string pageLine, qint64 at)
             break;
         if (endsPage(line)) {
             page.finish(line, lineAt);
-            if (reading_ == TelemetryReading::salvage && startsPage(line))
+            if (reading_ == TelemetryReading::Salvage && startsPage(line))
                 input_.giveBack(static_cast<std::size_t>(input_.position() - lineAt));
             break;
         }
@@ -191,7 +191,7 @@ bool TelemetryXmlReader::hasDamagedMask(const XmlPage& page) const
 
 void TelemetryXmlReader::endPage(const XmlPage& page)
 {
-    const bool salvages = reading_ == TelemetryReading::salvage;
+    const bool salvages = reading_ == TelemetryReading::Salvage;
     const bool isIntact =
         page.isSound() && !hasDamagedMask(page) && (page.isWhole() || mayLackElements(page));
     const bool isKept = page.isRecord() && (isIntact || !salvages);
@@ -222,7 +222,7 @@ void TelemetryXmlReader::endPage(const XmlPage& page)
 // The first line of the next page was taken with its end, or for it.
 void TelemetryXmlReader::endWithNext(const XmlPage& page, bool isKept)
 {
-    if (reading_ != TelemetryReading::salvage) {
+    if (reading_ != TelemetryReading::Salvage) {
         loseFrom(page.endAt);
         isHidden_ = XmlPage(page.nextLine, page.endAt).isRecord();
         return;

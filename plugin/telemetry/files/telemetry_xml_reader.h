@@ -22,7 +22,7 @@ class XmlPage;
 class TelemetryXmlReader
 {
 public:
-    explicit TelemetryXmlReader(QIODevice& device, TelemetryReading reading = TelemetryReading::asTold);
+    explicit TelemetryXmlReader(QIODevice& device, TelemetryReading reading = TelemetryReading::AsTold);
 
     // A page, or a line between pages; false at the end.
     bool step();

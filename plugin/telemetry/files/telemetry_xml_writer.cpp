@@ -128,7 +128,7 @@ bool writeTelemetryXml(QIODevice& device, const RecordStore& records, const Tele
 {
     ExportOptions options;
     options.origin = origin;
-    return exportRecords(device, records, ExportForm::xml, options);
+    return exportRecords(device, records, ExportForm::Xml, options);
 }
 
 } // namespace vlk

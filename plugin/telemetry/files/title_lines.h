@@ -10,7 +10,7 @@
 
 namespace vlk {
 
-enum class TitleGroup { input, output, temperature };
+enum class TitleGroup { Input, Output, Temperature };
 
 struct TitleLine
 {
@@ -20,11 +20,11 @@ struct TitleLine
 };
 
 inline constexpr TitleLine kTitleLines[] = {
-    {"IN1", TitleGroup::input, 0},         {"IN2", TitleGroup::input, 1},
-    {"IN3", TitleGroup::input, 2},         {"OUT1", TitleGroup::output, 0},
-    {"OUT2", TitleGroup::output, 1},       {"TEMP1", TitleGroup::temperature, 0},
-    {"TEMP2", TitleGroup::temperature, 1}, {"TEMP3", TitleGroup::temperature, 2},
-    {"TEMP4", TitleGroup::temperature, 3},
+    {"IN1", TitleGroup::Input, 0},         {"IN2", TitleGroup::Input, 1},
+    {"IN3", TitleGroup::Input, 2},         {"OUT1", TitleGroup::Output, 0},
+    {"OUT2", TitleGroup::Output, 1},       {"TEMP1", TitleGroup::Temperature, 0},
+    {"TEMP2", TitleGroup::Temperature, 1}, {"TEMP3", TitleGroup::Temperature, 2},
+    {"TEMP4", TitleGroup::Temperature, 3},
 };
 
 // The title that a line holds, of `const TelemetryTitles` too.
@@ -32,11 +32,11 @@ template <class Titles>
 auto& titleOf(Titles& titles, const TitleLine& line)
 {
     switch (line.group) {
-    case TitleGroup::input:
+    case TitleGroup::Input:
         return titles.inputs[line.index];
-    case TitleGroup::output:
+    case TitleGroup::Output:
         return titles.outputs[line.index];
-    case TitleGroup::temperature:
+    case TitleGroup::Temperature:
         break;
     }
     return titles.temperatures[line.index];

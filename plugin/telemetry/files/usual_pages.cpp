@@ -89,7 +89,7 @@ bool take(std::string_view text, ElementIndex index, std::uint8_t* to)
 {
     const FileForm& form = kFileForms[index];
     const bool isTaken = !text.empty() && form.divisor == 1 &&
-                         (form.type == ValueType::f32 ? takeFraction(text, to)
+                         (form.type == ValueType::F32 ? takeFraction(text, to)
                                                       : takeWhole(text, form, kElements[index].width, to));
     return isTaken || readValue(index, text, to);
 }

@@ -38,28 +38,28 @@ bool readValue(ElementIndex index, std::string_view text, std::uint8_t* to)
 {
     const FileForm& form = kFileForms[index];
     if (form.divisor != 1) {
-        if (form.type == ValueType::u8)
+        if (form.type == ValueType::U8)
             return putScaled<quint8>(text, form.divisor, to);
         return putScaled<qint32>(text, form.divisor, to);
     }
     switch (form.type) {
-    case ValueType::u8:
+    case ValueType::U8:
         return put<quint8>(text, to);
-    case ValueType::u16:
+    case ValueType::U16:
         return put<quint16>(text, to);
-    case ValueType::u32:
+    case ValueType::U32:
         return put<quint32>(text, to);
-    case ValueType::u64:
+    case ValueType::U64:
         return put<quint64>(text, to);
-    case ValueType::i8:
+    case ValueType::I8:
         return put<qint8>(text, to);
-    case ValueType::i16:
+    case ValueType::I16:
         return put<qint16>(text, to);
-    case ValueType::i32:
+    case ValueType::I32:
         return put<qint32>(text, to);
-    case ValueType::i64:
+    case ValueType::I64:
         return put<qint64>(text, to);
-    case ValueType::f32:
+    case ValueType::F32:
         return put<float>(text, to);
     }
     return false;

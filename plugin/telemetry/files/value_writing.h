@@ -18,9 +18,9 @@ void withFileNumber(ElementIndex index, std::uint64_t raw, Put put)
     const ValueType type = kElements[index].type;
     if (form.divisor != 1)
         put(numberOf(raw, type) / form.divisor);
-    else if (form.type == ValueType::f32)
+    else if (form.type == ValueType::F32)
         put(numberOf(raw, type));
-    else if (form.type == ValueType::i16)
+    else if (form.type == ValueType::I16)
         put(static_cast<std::int16_t>(raw));
     else if (isSigned(form.type))
         put(integerOf(raw, type));

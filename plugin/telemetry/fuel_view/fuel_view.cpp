@@ -71,7 +71,7 @@ FuelView::FuelView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
     table_->setModel(model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->installEventFilter(this);
-    dressTable(table_, TableUse::read);
+    dressTable(table_, TableUse::Read);
     table_->horizontalHeader()->setStretchLastSection(true);
     empty_ = new EmptyNote(table_);
     const auto rowOf = [](const QWidgetList& left, const QWidgetList& right) {
@@ -320,7 +320,7 @@ QStringList FuelView::markLowThresholds() const
         QString text;
         if (box->value() < noise_)
             text = tr("rec_400").arg(label->text(), numberText(box->value(), 1), numberText(noise_, 1));
-        markField(box, MarkReason::advice, Mark::advice, text);
+        markField(box, MarkReason::Advice, Mark::Advice, text);
         if (!text.isEmpty())
             texts << text;
     }
@@ -365,9 +365,9 @@ QStringList FuelView::news() const
     if (tanks_->tanks().empty())
         return news;
     if (const auto damaged = records_.columns().damaged().size(); damaged > 0)
-        news << tr("rec_462").arg(QLocale().toString(qulonglong(damaged)));
+        news << tr("rec_462").arg(QLocale().toString(static_cast<qulonglong>(damaged)));
     if (const auto strayed = records_.strayed().size(); strayed > 0)
-        news << tr("rec_602").arg(QLocale().toString(qulonglong(strayed)));
+        news << tr("rec_602").arg(QLocale().toString(static_cast<qulonglong>(strayed)));
     return news;
 }
 

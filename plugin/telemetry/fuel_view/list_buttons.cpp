@@ -53,7 +53,7 @@ void ListButtons::refresh()
 void ListButtons::copy() const
 {
     const bool areSeveral = table_->selectionModel()->selectedRows().size() > 1;
-    QApplication::clipboard()->setText(tableText(*table_, areSeveral ? CopiedRows::chosen : CopiedRows::all));
+    QApplication::clipboard()->setText(tableText(*table_, areSeveral ? CopiedRows::Chosen : CopiedRows::All));
 }
 
 void ListButtons::save()

@@ -36,7 +36,7 @@ SummaryView::SummaryView(ShownRecords* records, QWidget* parent, NoticeBar* bar)
         over_->addItem(QLatin1String(key));
     table_->setModel(model_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    dressTable(table_, TableUse::read);
+    dressTable(table_, TableUse::Read);
     empty_ = new EmptyNote(table_);
     auto* head = new QHBoxLayout;
     head->setSpacing(vlk::grid::kColumn);

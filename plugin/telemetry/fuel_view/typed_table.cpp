@@ -35,7 +35,7 @@ TypedTable::TypedTable(const LevelSensor& sensor, const FuelRows& rows, const QS
                        QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint), sensor_(sensor),
       vehicle_(vehicle), given_(rows),
-      form_(new VLK_Form_Fuel_Sensor(fuelKindOf(sensor.kind), sensor.tableName(), lineIcon(LineIcon::plus),
+      form_(new VLK_Form_Fuel_Sensor(fuelKindOf(sensor.kind), sensor.tableName(), lineIcon(LineIcon::Plus),
                                      this)),
       fault_(namedWidget<QLabel>("label_TypedTable", this))
 {

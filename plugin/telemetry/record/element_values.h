@@ -47,7 +47,7 @@ constexpr std::int64_t integerOf(std::uint64_t raw, ValueType type)
 // The value as a number, whatever its type; above 53 bits it is rounded.
 constexpr double numberOf(std::uint64_t raw, ValueType type)
 {
-    if (type == ValueType::f32)
+    if (type == ValueType::F32)
         return std::bit_cast<float>(static_cast<std::uint32_t>(raw));
     return isSigned(type) ? static_cast<double>(integerOf(raw, type)) : static_cast<double>(raw);
 }
@@ -61,7 +61,7 @@ public:
     CppValue<kElements[index].type> value() const
     {
         constexpr ValueType type = kElements[index].type;
-        if constexpr (type == ValueType::f32)
+        if constexpr (type == ValueType::F32)
             return std::bit_cast<float>(static_cast<std::uint32_t>(raw(index)));
         else
             return static_cast<CppValue<type>>(raw(index));

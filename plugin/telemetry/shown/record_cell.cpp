@@ -16,7 +16,7 @@ constexpr int kFloatDecimals = 2; // of a number that could have any
 // As many as a step of the raw value needs.
 int decimalsOfStep(const Element& element, const Measure& measure)
 {
-    if (element.type == ValueType::f32)
+    if (element.type == ValueType::F32)
         return kFloatDecimals;
     double step = measure.of(1);
     int decimals = 0;
@@ -48,37 +48,37 @@ const QString* titleOf(const CsvColumn& column, const TelemetryTitles& titles)
 CellKind kindOf(const CsvColumn& column)
 {
     if (column.element() == element("Code"))
-        return CellKind::event;
+        return CellKind::Event;
     switch (kItems[column.item].rule().shape) {
-    case Shape::decimal:
-    case Shape::fixed:
-    case Shape::general:
-    case Shape::coordinate:
-        return CellKind::number;
-    case Shape::zonedTime:
-    case Shape::localTime:
-    case Shape::dateTime:
-        return CellKind::time;
-    case Shape::userParameter:
-    case Shape::special:
-        return CellKind::characters;
-    case Shape::word:
-    case Shape::twoState:
-    case Shape::enumeration:
+    case Shape::Decimal:
+    case Shape::Fixed:
+    case Shape::General:
+    case Shape::Coordinate:
+        return CellKind::Number;
+    case Shape::ZonedTime:
+    case Shape::LocalTime:
+    case Shape::DateTime:
+        return CellKind::Time;
+    case Shape::UserParameter:
+    case Shape::Special:
+        return CellKind::Characters;
+    case Shape::Word:
+    case Shape::TwoState:
+    case Shape::Enumeration:
         break;
     }
-    return CellKind::words;
+    return CellKind::Words;
 }
 
 int decimalsOf(const CsvColumn& column)
 {
     const Rule& rule = kItems[column.item].rule();
     switch (rule.shape) {
-    case Shape::coordinate:
+    case Shape::Coordinate:
         return kDegreeDecimals;
-    case Shape::fixed:
+    case Shape::Fixed:
         return rule.decimals;
-    case Shape::general:
+    case Shape::General:
         return decimalsOfStep(kElements[column.element()], measureOf(kItems[column.item], rule));
     default:
         return 0;
@@ -91,7 +91,7 @@ QString headText(const CsvColumn& column, const TelemetryTitles& titles)
     const QString* const title = titleOf(column, titles);
     if (title && !title->isEmpty())
         text = QStringLiteral("%1 (%2)").arg(*title, text);
-    if (kindOf(column) != CellKind::number)
+    if (kindOf(column) != CellKind::Number)
         return text;
     const Word& unit = unitWord(measureOf(kItems[column.item], kItems[column.item].rule()).unit);
     const QString ending = unit ? QStringLiteral(", ") + unit.text() : QString();

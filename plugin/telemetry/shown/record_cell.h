@@ -11,11 +11,11 @@ namespace vlk {
 inline constexpr int kDegreeDecimals = 6; // a tenth of a metre
 
 enum class CellKind {
-    number,
-    time,
-    event,
-    words,     // one of a few, by a code
-    characters // of a user parameter, or what packets hold
+    Number,
+    Time,
+    Event,
+    Words,     // one of a few, by a code
+    Characters // of a user parameter, or what packets hold
 };
 
 CellKind kindOf(const CsvColumn& column);

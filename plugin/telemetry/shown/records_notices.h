@@ -5,12 +5,12 @@
 namespace vlk {
 
 enum RecordsNotice {
-    kDamage,  // or that reading was cancelled
-    kPart,    // of a period that was not saved to its end
-    kStrayed, // times that cannot be right
-    kGrown,   // by records that came since
-    kTooMany,
-    kHandedOver, // what was exported, saved or printed last
+    DamageNotice,  // or that reading was cancelled
+    PartNotice,    // of a period that was not saved to its end
+    StrayedNotice, // times that cannot be right
+    GrownNotice,   // by records that came since
+    TooManyNotice,
+    HandedOverNotice, // what was exported, saved or printed last
 };
 
 } // namespace vlk

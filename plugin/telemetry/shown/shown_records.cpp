@@ -56,7 +56,7 @@ void ShownRecords::append(std::span<const std::uint8_t> record, Current current)
 {
     steps_->finish();
     const int added = records().size();
-    const bool isFollowed = current_ == added - 1 && (current == Current::follows || added == 0);
+    const bool isFollowed = current_ == added - 1 && (current == Current::Follows || added == 0);
     const TimeSpan inSight = inSight_;
     const bool showedLatest = byTime_.empty() || inSight_.to >= wholeTime_.to;
     const bool showedAll = showedLatest && inSight_.from <= wholeTime_.from;

@@ -65,13 +65,13 @@ public:
     void prepare(const std::shared_ptr<TelemetryContents>& contents);
     // All of them pass, the first one is looked at, all of their time is in sight.
     // While a file is read there are none yet.
-    enum class Reading { done, underway };
-    void setContents(std::shared_ptr<TelemetryContents> contents, Reading reading = Reading::done);
+    enum class Reading { Done, Underway };
+    void setContents(std::shared_ptr<TelemetryContents> contents, Reading reading = Reading::Done);
     void setContents(TelemetryContents contents)
     {
         setContents(std::make_shared<TelemetryContents>(std::move(contents)));
     }
-    bool isBeingRead() const { return reading_ == Reading::underway; }
+    bool isBeingRead() const { return reading_ == Reading::Underway; }
     // For other windows that show the same records.
     std::shared_ptr<const TelemetryContents> contents() const { return contents_; }
     const RecordStore& records() const { return contents_->records; }
@@ -79,8 +79,8 @@ public:
     RecordColumns& columns() { return *columns_; }
     // Puts one that came meanwhile behind the others, from its type byte on. What showed the latest time
     // shows it now; where the last record was looked at, it is this one now if the looking follows.
-    enum class Current { stays, follows };
-    void append(std::span<const std::uint8_t> record, Current current = Current::follows);
+    enum class Current { Stays, Follows };
+    void append(std::span<const std::uint8_t> record, Current current = Current::Follows);
     // What a part does about new contents, some milliseconds of work on a million records: at once where they
     // are few, else when the event loop comes to it. Other contents end what is left of it.
     void later(std::function<void()> step);
@@ -142,7 +142,7 @@ private:
     std::optional<Prepared> prepared_;
     std::shared_ptr<TelemetryContents> contents_ = std::make_shared<TelemetryContents>();
     std::unique_ptr<RecordColumns> columns_ = std::make_unique<RecordColumns>(contents_->records);
-    Reading reading_ = Reading::done;
+    Reading reading_ = Reading::Done;
     StepQueue* steps_;
     TimeSpan wholeTime_;
     std::vector<int> passing_;

@@ -31,20 +31,20 @@ inline constexpr Rule kWithUnit = {.withUnit = true};
 // The state of the modem is the first thing that it lacks.
 inline constexpr Rule kModemSession = bitAt(6, "tmizta_017", "tmizta_016");
 inline constexpr Rule kModemNetwork = {
-    .shape = word, .when = {5, false}, .otherwise = &kModemSession, .set = "tmizta_015"};
+    .shape = Word, .when = {5, false}, .otherwise = &kModemSession, .set = "tmizta_015"};
 inline constexpr Rule kModem = {
-    .shape = word, .when = {0, false}, .otherwise = &kModemNetwork, .set = "tmizta_013"};
+    .shape = Word, .when = {0, false}, .otherwise = &kModemNetwork, .set = "tmizta_013"};
 
 // A fuel level is percent or litres, by its highest bit.
-inline constexpr Measure kLitres = in(Unit::litre).per(10).none(0x7FFF);
-inline constexpr Measure kPercent = in(Unit::percent);
+inline constexpr Measure kLitres = in(Unit::Litre).per(10).none(0x7FFF);
+inline constexpr Measure kPercent = in(Unit::Percent);
 inline constexpr Measure kPercentOrNone = kPercent.none(0xFFFF);
 inline constexpr Rule kFuelLitres = {
-    .shape = general, .when = {15, false}, .measure = &kLitres, .withUnit = true};
+    .shape = General, .when = {15, false}, .measure = &kLitres, .withUnit = true};
 inline constexpr Rule kFuelPercent = {
     .when = {15, true}, .measure = &kPercentOrNone, .bits = {0, 15}, .withUnit = true};
 inline constexpr Rule kFilteredLitres = {
-    .shape = general, .when = {15, false}, .measure = &kLitres, .withUnit = true, .unit = ""};
+    .shape = General, .when = {15, false}, .measure = &kLitres, .withUnit = true, .unit = ""};
 inline constexpr Rule kFilteredPercent = {
     .when = {15, true}, .measure = &kPercent, .bits = {0, 7}, .withUnit = true};
 
@@ -58,8 +58,8 @@ constexpr Rule orElse(Rule rule, const Rule& otherwise)
 inline constexpr ItemRow kItemRows[] = {
     // The record and the device
     {"NumPage Code",                            kPlain},
-    {"Time LastTime LbsTime",                   {.shape = zonedTime}},
-    {"Time.local",                              {.shape = dateTime}},
+    {"Time LastTime LbsTime",                   {.shape = ZonedTime}},
+    {"Time.local",                              {.shape = DateTime}},
     {"State.0",                                 bit("tmizta_001", "")},                         // Test mode
     {"State.1",                                 bit("tmizta_002", "tmizta_003")},               // Backup / Main
     {"State.2",                                 bit("tmizta_004", "")},                         // Alarm
@@ -93,19 +93,19 @@ inline constexpr ItemRow kItemRows[] = {
     {"StateNGauge.fix",                                             bitAt(1, "tmizta_030", "tmizta_031")},  // Valid / Not valid
     {"StateNGauge.fixOfPacket",                                     bitAt(1, "tmizta_122", "tmizta_121")},  // Valid / Not valid
     {"StateNGauge.satellites NaviState.satellites",                 {.bits = {2, 6}}},
-    {"Latitude Longitude",                                          {.shape = coordinate, .decimals = 4}},
+    {"Latitude Longitude",                                          {.shape = Coordinate, .decimals = 4}},
     {"Altitude",                                                    {.cut = true}},
-    {"Speed Run Way NaviSpeed",                                     {.shape = fixed, .decimals = 2}},
+    {"Speed Run Way NaviSpeed",                                     {.shape = Fixed, .decimals = 2}},
     {"Course AllSeconds SecondsLast",                               kPlain},
-    {"SecondsLast.reliability",                                     {.shape = special, .special = segmentReliability, .always = true}},
+    {"SecondsLast.reliability",                                     {.shape = Special, .special = segmentReliability, .always = true}},
     {"NaviInfoGlonass NaviInfoGPS NaviInfoGalileo NaviInfoCompass", kPlain},
     {"NaviInfoBeidou NaviInfoDoris NaviInfoIrnss NaviInfoQzss",     kPlain},
-    {"NaviHDop NaviPDop",                                           {.shape = fixed, .decimals = 1}},
+    {"NaviHDop NaviPDop",                                           {.shape = Fixed, .decimals = 1}},
     {"NaviState.0",                                                 bit("fixed point", "float point")},
     {"NaviState.1",                                                 bit("tmizta_034", "tmizta_035")},       // Valid / Not valid
-    {"NaviLatitude NaviLongitude",                                  {.shape = coordinate, .decimals = 7}},
-    {"NaviAltitude",                                                {.shape = fixed, .decimals = 3}},
-    {"NaviCourse",                                                  {.shape = fixed, .decimals = 2}},
+    {"NaviLatitude NaviLongitude",                                  {.shape = Coordinate, .decimals = 7}},
+    {"NaviAltitude",                                                {.shape = Fixed, .decimals = 3}},
+    {"NaviCourse",                                                  {.shape = Fixed, .decimals = 2}},
     {"LbsCellID LbsLac LbsMcc LbsMnc",                              kPlain},
     {"LbsCellID_1 LbsLac_1 LbsMcc_1 LbsMnc_1",                      kPlain},
     {"LbsCellID_2 LbsLac_2 LbsMcc_2 LbsMnc_2",                      kPlain},
@@ -113,16 +113,16 @@ inline constexpr ItemRow kItemRows[] = {
     {"GeozoneInfo.0..9",                                            bit("tmizta_075", "tmizta_074")},       // Inside / Outside
 
     // Lines and sensors
-    {"Power Reserv StateU_Ain1..8",                                {.shape = fixed, .decimals = 2}},
+    {"Power Reserv StateU_Ain1..8",                                {.shape = Fixed, .decimals = 2}},
     {"StateIn1..3.0..7",                                           bit("tmizta_033", "tmizta_032")},  // Active / Inactive
     {"StateOut1..2.0..7",                                          bit("tmizta_028", "tmizta_029")},  // On / Off
     {"StateIn_Imp1..8 Frequency1..8",                              kPlain},
     {"LevelRS232 LevelRS485_1..16 TempRS485_1..16 RS485Freq1..16", kPlain},
     {"Temp1..8",                                                   kWithUnit},
-    {"HPrecisionTemp1..4",                                         {.shape = fixed, .decimals = 2, .withUnit = true}},
-    {"HPrecisionHumidity1..4",                                     {.shape = fixed, .decimals = 1, .withUnit = true}},
+    {"HPrecisionTemp1..4",                                         {.shape = Fixed, .decimals = 2, .withUnit = true}},
+    {"HPrecisionHumidity1..4",                                     {.shape = Fixed, .decimals = 1, .withUnit = true}},
     {"TiresNum1..30",                                              kPlain},
-    {"TiresPres1..30",                                             {.shape = fixed, .decimals = 1}},
+    {"TiresPres1..30",                                             {.shape = Fixed, .decimals = 1}},
     {"TiresTemp1..30",                                             kPlain},
     {"Passager_1..16",                                             {.none = "tmizta_073"}},           // No data
 
@@ -133,13 +133,13 @@ inline constexpr ItemRow kItemRows[] = {
     {"CAN_LevelFiltr",                                                            orElse(kFilteredPercent, kFilteredLitres)},
     {"CAN_LevelFiltr.percent",                                                    kFilteredPercent},
     {"CAN_LevelFiltr.litres",                                                     kFilteredLitres},
-    {"CAN_FuelConsumption CAN_FullRun",                                           {.shape = general, .withUnit = true}},
+    {"CAN_FuelConsumption CAN_FullRun",                                           {.shape = General, .withUnit = true}},
     {"CAN_EngineTurns",                                                           kPlain},
     {"CAN_EngineLoad CAN_PedalAccel CAN_PedalStop CAN_Speed CAN_Temp CAN_TimeTO", kWithUnit},
-    {"CAN_EngineTime",                                                            {.shape = general, .withUnit = true}},
+    {"CAN_EngineTime",                                                            {.shape = General, .withUnit = true}},
     {"CAN_AxleLoad_1..5",                                                         kWithUnit},
     {"CAN3State.0..15 CAN3Crash.0..31 CAN3FailureLamp.0..7",                      bit("wrd_001", "wrd_002")},                                   // Yes / No
-    {"CAN3Event",                                                                 namedOr("tmizta_009", kCanEvent, {}, Other::wordAndNumber)},  // Unknown
+    {"CAN3Event",                                                                 namedOr("tmizta_009", kCanEvent, {}, Other::WordAndNumber)},  // Unknown
     {"CAN3FailureCode",                                                           kPlain},
 
     // Tachograph and driver display
@@ -150,25 +150,25 @@ inline constexpr ItemRow kItemRows[] = {
     {"TahoMode",            namedOr("tmizta_009", kTachographMode)},                           // Unknown
     {"TahoFlags.0..4",      bit("tmizta_028", "tmizta_029")},                                  // On / Off
     {"TahoFlags.5",         bit("tmizta_026", "wrd_004")},                                     // Present / Error
-    {"TahoFlags.group1",    namedOr("tmizta_054", kTimeGroup, {6, 3}, Other::wordAndNumber)},  // Other
-    {"TahoFlags.group2",    namedOr("tmizta_054", kTimeGroup, {9, 3}, Other::wordAndNumber)},  // Other
+    {"TahoFlags.group1",    namedOr("tmizta_054", kTimeGroup, {6, 3}, Other::WordAndNumber)},  // Other
+    {"TahoFlags.group2",    namedOr("tmizta_054", kTimeGroup, {9, 3}, Other::WordAndNumber)},  // Other
     {"TahoSpeed",           kPlain},
-    {"TahoOdometer",        {.shape = general}},
-    {"TahoTime",            {.shape = localTime}},
+    {"TahoOdometer",        {.shape = General}},
+    {"TahoTime",            {.shape = LocalTime}},
     {"DispCur",             namedOr("tmizta_009", kDriverState)},                              // Unknown
     {"DispLastIndex",       {.none = "tmizta_070"}},                                           // No messages
 
     // Accelerometer and driving
-    {"AccelDelta",                                                   {.shape = general, .none = "tmizta_071"}},  // Out of range
+    {"AccelDelta",                                                   {.shape = General, .none = "tmizta_071"}},  // Out of range
     {"AccelLinearX AccelLinearY AccelLinearZ AccelAngularPlus AccelAngularMinus AccelAngularCorner",
-     {.shape = fixed, .decimals = 3, .none = "tmizta_072"}},                                                     // Not measured
-    {"AccelLinearX.axes",                                            {.shape = special, .special = linearAxes}},
-    {"AccelModule",                                                  {.shape = fixed, .decimals = 2, .none = "> 655.34"}},
+     {.shape = Fixed, .decimals = 3, .none = "tmizta_072"}},                                                     // Not measured
+    {"AccelLinearX.axes",                                            {.shape = Special, .special = linearAxes}},
+    {"AccelModule",                                                  {.shape = Fixed, .decimals = 2, .none = "> 655.34"}},
     {"VAccelState.0..4",                                             bit("tmizta_091", "tmizta_090")},           // Triggered / Not triggered
-    {"VAccelVertical",                                               {.shape = fixed, .decimals = 2}},
+    {"VAccelVertical",                                               {.shape = Fixed, .decimals = 2}},
     {"VAccelLineTang VAccelAxelsX VAccelAxelsY VAccelAxelsZ",        kPlain},
-    {"VAccelLineRoll",                                               {.shape = fixed, .decimals = 1}},
-    {"EcoDrvAccelMax",                                               {.shape = fixed, .decimals = 3}},
+    {"VAccelLineRoll",                                               {.shape = Fixed, .decimals = 1}},
+    {"EcoDrvAccelMax",                                               {.shape = Fixed, .decimals = 3}},
     {"EcoDrvSpeedMax",                                               kPlain},
     {"EcoDrvSpeedState.0..5 EcoDrvAccel1..2.0..7 EcoDrvAccel3.0..3", bit("tmizta_091", "tmizta_092")},           // Triggered / Not exceeded
 
@@ -194,7 +194,7 @@ inline constexpr ItemRow kItemRows[] = {
     {"FfsFuel FfsFuelTrip FfsSubmisVolume FfsReversVolume FfsSpeed FfsSubmisSpeed FfsSubmisTemp "
      "FfsReversSpeed "
      "FfsReversTemp",
-     {.shape = general}},
+     {.shape = General}},
 
     // Refrigerator
     {"RefrState1.0",                                           bit("tmizta_099", "tmizta_087")},                 // Running / Inactive
@@ -202,9 +202,9 @@ inline constexpr ItemRow kItemRows[] = {
     {"RefrState1.vendor",                                      named(kRefrigeratorVendor, {2, 3})},
     {"RefrState2",                                             named(kRefrigeratorMode)},
     {"RefrState2.vendor",                                      namedOr("tmizta_073", kRefrigeratorVendorMode)},  // No data
-    {"RefrTemp1..3 RefrSetTemp1..3 RefrTempAir RefrTempWater", {.shape = general, .withUnit = true}},
+    {"RefrTemp1..3 RefrSetTemp1..3 RefrTempAir RefrTempWater", {.shape = General, .withUnit = true}},
     {"RefrTension RefrIntensity",                              kWithUnit},
-    {"RefrPowerEngine RefrPowerNetwork",                       {.shape = fixed, .decimals = 2, .cut = true, .withUnit = true}},
+    {"RefrPowerEngine RefrPowerNetwork",                       {.shape = Fixed, .decimals = 2, .cut = true, .withUnit = true}},
     {"RefrErrorCount RefrErrorCode1..6",                       kPlain},
     {"RefrEngineMode",                                         named(kRefrigeratorEngine)},
     {"RefrEngineTurns",                                        kWithUnit},
@@ -212,7 +212,7 @@ inline constexpr ItemRow kItemRows[] = {
     {"RefrCompressor.vendor",                                  named(kCompressorVendor)},
 
     // User parameters, in the order of their type letters
-    {"User1Byte_1..16 User2Byte_1..15 User4Byte_1..15 User8Byte_1..3", {.shape = userParameter}},
+    {"User1Byte_1..16 User2Byte_1..15 User4Byte_1..15 User8Byte_1..3", {.shape = UserParameter}},
 };
 // clang-format on
 

@@ -25,7 +25,7 @@ struct Value
 // A range of bits is an unsigned number of its own.
 Value cutBits(const Value& value, BitRange bits)
 {
-    return {value.raw >> bits.first & ((std::uint64_t{1} << bits.count) - 1), ValueType::u64};
+    return {value.raw >> bits.first & ((std::uint64_t{1} << bits.count) - 1), ValueType::U64};
 }
 
 double scaled(const Value& value, const Rule& rule, const Measure& measure)
@@ -53,11 +53,11 @@ void addNamed(TextParts& parts, const Value& value, const Rule& rule, const Meas
         parts.word = &row->word;
         return;
     }
-    if (rule.other != Other::number)
+    if (rule.other != Other::Number)
         parts.word = &rule.set;
-    if (rule.other == Other::wordAndNumber)
+    if (rule.other == Other::WordAndNumber)
         parts.characters << ": ";
-    if (rule.other != Other::word)
+    if (rule.other != Other::Word)
         addDecimal(parts.characters, value, rule, measure);
 }
 
@@ -96,34 +96,34 @@ void addShape(TextParts& parts, const Value& value, const Rule& rule, const Meas
         return options.zone ? options.zone->offsetAt(seconds) : LocalZone().offsetAt(seconds);
     };
     switch (rule.shape) {
-    case Shape::decimal:
+    case Shape::Decimal:
         return addDecimal(parts.characters, value, rule, measure);
-    case Shape::fixed:
+    case Shape::Fixed:
         parts.characters.addFixed(scaled(value, rule, measure), rule.decimals);
         return;
-    case Shape::general:
+    case Shape::General:
         parts.characters.addGeneral(scaled(value, rule, measure));
         return;
-    case Shape::word:
+    case Shape::Word:
         parts.word = &rule.set;
         return;
-    case Shape::twoState:
+    case Shape::TwoState:
         parts.word =
             value.testBit(rule.bits.count == 0 ? item.bit : rule.bits.first) ? &rule.set : &rule.clear;
         return;
-    case Shape::enumeration:
+    case Shape::Enumeration:
         return addNamed(parts, value, rule, measure);
-    case Shape::zonedTime:
+    case Shape::ZonedTime:
         return addZonedTime(parts.characters, seconds, shownOffset(options));
-    case Shape::localTime:
+    case Shape::LocalTime:
         return addClockAndDate(parts.characters, seconds, offsetThen());
-    case Shape::dateTime:
+    case Shape::DateTime:
         return addDateAndClock(parts.characters, seconds, offsetThen());
-    case Shape::coordinate:
+    case Shape::Coordinate:
         return addCoordinate(parts.characters, value, rule, measure);
-    case Shape::userParameter:
+    case Shape::UserParameter:
         return addUserValue(parts.characters, value, item.element, options);
-    case Shape::special:
+    case Shape::Special:
         return;
     }
 }
@@ -150,7 +150,7 @@ void addValue(TextParts& parts, const Value& whole, const Item& item, const Text
     if (measure.belowZeroIsNone && whole.number() < 0)
         return;
     // A bit of two states counts from the whole value.
-    const bool ranged = rule->bits.count != 0 && rule->shape != Shape::twoState;
+    const bool ranged = rule->bits.count != 0 && rule->shape != Shape::TwoState;
     addShape(parts, ranged ? cutBits(whole, rule->bits) : whole, *rule, measure, item, options);
     if (rule->withUnit)
         parts.unit = rule->unit ? &rule->unit : &unitWord(measure.unit);
@@ -182,18 +182,18 @@ double itemNumber(std::uint64_t raw, ItemIndex index, std::string_view userTypes
     const Measure& measure = measureOf(item, *rule);
     if (measure.noValue == whole.integer() || (measure.belowZeroIsNone && whole.number() < 0))
         return kNone;
-    if (rule->shape == Shape::twoState)
+    if (rule->shape == Shape::TwoState)
         return whole.testBit(rule->bits.count == 0 ? item.bit : rule->bits.first) ? 1 : 0;
     const Value value = rule->bits.count != 0 ? cutBits(whole, rule->bits) : whole;
     switch (rule->shape) {
-    case Shape::fixed:
-    case Shape::general:
+    case Shape::Fixed:
+    case Shape::General:
         return scaled(value, *rule, measure);
-    case Shape::decimal:
+    case Shape::Decimal:
         return rule->cut ? scaled(value, *rule, measure) : value.number();
-    case Shape::coordinate:
+    case Shape::Coordinate:
         return measure.of(value.number());
-    case Shape::userParameter:
+    case Shape::UserParameter:
         return userNumber(value, item.element, userTypes);
     default:
         return value.number();
@@ -205,10 +205,10 @@ ItemNumbers::ItemNumbers(ItemIndex item, std::string_view userTypes)
 {
     const Rule& rule = kItems[item].rule();
     const bool isPlain = rule.when.bit == Condition::kNone && rule.bits.count == 0 && !rule.cut;
-    if (!isPlain || rule.shape == Shape::twoState || rule.shape == Shape::userParameter)
+    if (!isPlain || rule.shape == Shape::TwoState || rule.shape == Shape::UserParameter)
         return;
     measure_ = &measureOf(kItems[item], rule);
-    isScaled_ = rule.shape == Shape::fixed || rule.shape == Shape::general || rule.shape == Shape::coordinate;
+    isScaled_ = rule.shape == Shape::Fixed || rule.shape == Shape::General || rule.shape == Shape::Coordinate;
 }
 
 TextParts textParts(std::uint64_t raw, ItemIndex index, const TextOptions& options)
@@ -234,7 +234,7 @@ QString text(const TmiPage_Zeta3& page, ItemIndex index, const TextOptions& opti
 {
     const Item& item = kItems[index];
     const Rule& rule = item.rule();
-    if (rule.shape == Shape::special)
+    if (rule.shape == Shape::Special)
         return rule.always || page.has(item.element) ? rule.special(page) : QString();
     const TextParts parts = textParts(page, index, options);
     QString text = parts.word ? parts.word->text() : QString();

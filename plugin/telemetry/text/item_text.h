@@ -28,7 +28,7 @@ struct TextOptions
 // translator; times are in the zone of the page.
 QString text(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
-// The text in parts, for those who look the words up themselves. Not for items of Shape::special.
+// The text in parts, for those who look the words up themselves. Not for items of Shape::Special.
 TextParts textParts(const TmiPage_Zeta3& page, ItemIndex item, const TextOptions& options = {});
 
 // The parts from the bytes of the element alone, as an unsigned number.

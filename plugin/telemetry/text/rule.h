@@ -18,18 +18,18 @@ class TmiPage_Zeta3;
 namespace vlk {
 
 enum class Shape : std::uint8_t {
-    decimal,       // a whole number, with the sign of its type; the default
-    fixed,         // `decimals` digits behind the point
-    general,       // up to 6 significant digits, whichever of 1234.5 and 1.2345e+06 is shorter
-    word,          // `set`, always
-    twoState,      // `set` or `clear`, by the bit that the item names or the first of `bits`
-    enumeration,   // a word of `names`, or what `other` says
-    zonedTime,     // "15:00:00 01.02.2025 (UTC +3)" in the zone of the record
-    localTime,     // "15:00:00 01.02.2025" in the zone of this machine
-    dateTime,      // "01.02.2025 15:00:00" in the zone of this machine
-    coordinate,    // "56 30.0000'": minutes with `decimals` digits
-    userParameter, // by its type letter
-    special,       // a function of the record
+    Decimal,       // a whole number, with the sign of its type; the default
+    Fixed,         // `decimals` digits behind the point
+    General,       // up to 6 significant digits, whichever of 1234.5 and 1.2345e+06 is shorter
+    Word,          // `set`, always
+    TwoState,      // `set` or `clear`, by the bit that the item names or the first of `bits`
+    Enumeration,   // a word of `names`, or what `other` says
+    ZonedTime,     // "15:00:00 01.02.2025 (UTC +3)" in the zone of the record
+    LocalTime,     // "15:00:00 01.02.2025" in the zone of this machine
+    DateTime,      // "01.02.2025 15:00:00" in the zone of this machine
+    Coordinate,    // "56 30.0000'": minutes with `decimals` digits
+    UserParameter, // by its type letter
+    Special,       // a function of the record
 };
 
 // The values from `first` to `last` share a word; rows of a single value leave `last` out.
@@ -63,14 +63,14 @@ struct Condition
 };
 
 enum class Other : std::uint8_t {
-    number,        // the number in decimal
-    word,          // `set`
-    wordAndNumber, // "<set>: <number>"
+    Number,        // the number in decimal
+    Word,          // `set`
+    WordAndNumber, // "<set>: <number>"
 };
 
 struct Rule
 {
-    Shape shape = Shape::decimal;
+    Shape shape = Shape::Decimal;
     std::uint8_t decimals = 0;
     Condition when = {};
     const Rule* otherwise = nullptr;
@@ -81,7 +81,7 @@ struct Rule
     Word set = {};
     Word clear = {};
     std::span<const NamedValue> names = {};
-    Other other = Other::number;
+    Other other = Other::Number;
     bool withUnit = false;
     Word unit = {}; // in place of the unit's own text
     QString (*special)(const TmiPage_Zeta3& page) = nullptr;
@@ -91,24 +91,24 @@ struct Rule
 
 constexpr Rule bit(Word set, Word clear)
 {
-    return {.shape = Shape::twoState, .set = set, .clear = clear};
+    return {.shape = Shape::TwoState, .set = set, .clear = clear};
 }
 
 constexpr Rule bitAt(std::uint8_t number, Word set, Word clear)
 {
-    return {.shape = Shape::twoState, .bits = {number, 1}, .set = set, .clear = clear};
+    return {.shape = Shape::TwoState, .bits = {number, 1}, .set = set, .clear = clear};
 }
 
 // What no row of `names` covers is shown in decimal.
 constexpr Rule named(std::span<const NamedValue> names, BitRange bits = {})
 {
-    return {.shape = Shape::enumeration, .bits = bits, .names = names};
+    return {.shape = Shape::Enumeration, .bits = bits, .names = names};
 }
 
 constexpr Rule namedOr(Word other, std::span<const NamedValue> names, BitRange bits = {},
-                       Other kind = Other::word)
+                       Other kind = Other::Word)
 {
-    return {.shape = Shape::enumeration, .bits = bits, .set = other, .names = names, .other = kind};
+    return {.shape = Shape::Enumeration, .bits = bits, .set = other, .names = names, .other = kind};
 }
 
 } // namespace vlk

@@ -10,25 +10,25 @@
 namespace vlk {
 
 inline constexpr auto kUnitWords = [] {
-    std::array<Word, static_cast<std::size_t>(Unit::decibelMilliwatt) + 1> words;
+    std::array<Word, static_cast<std::size_t>(Unit::DecibelMilliwatt) + 1> words;
     const auto say = [&](Unit unit, Word word) { words[static_cast<std::size_t>(unit)] = word; };
-    say(Unit::percent, "%");
-    say(Unit::humidity, "abbr_008");
-    say(Unit::volt, "abbr_011");
-    say(Unit::millivolt, "abbr_012");
-    say(Unit::milliampere, "abbr_027");
-    say(Unit::hertz, "abbr_013");
-    say(Unit::degree, "abbr_016");
-    say(Unit::celsius, "abbr_017");
-    say(Unit::turnsPerMinute, "abbr_018");
-    say(Unit::metre, "abbr_022");
-    say(Unit::kilometre, "abbr_023");
-    say(Unit::kilometrePerHour, "abbr_024");
-    say(Unit::litre, "abbr_026");
-    say(Unit::kilogram, "abbr_009");
-    say(Unit::second, "abbr_003");
-    say(Unit::hour, "abbr_001");
-    say(Unit::decibelMilliwatt, "dBm");
+    say(Unit::Percent, "%");
+    say(Unit::Humidity, "abbr_008");
+    say(Unit::Volt, "abbr_011");
+    say(Unit::Millivolt, "abbr_012");
+    say(Unit::Milliampere, "abbr_027");
+    say(Unit::Hertz, "abbr_013");
+    say(Unit::Degree, "abbr_016");
+    say(Unit::Celsius, "abbr_017");
+    say(Unit::TurnsPerMinute, "abbr_018");
+    say(Unit::Metre, "abbr_022");
+    say(Unit::Kilometre, "abbr_023");
+    say(Unit::KilometrePerHour, "abbr_024");
+    say(Unit::Litre, "abbr_026");
+    say(Unit::Kilogram, "abbr_009");
+    say(Unit::Second, "abbr_003");
+    say(Unit::Hour, "abbr_001");
+    say(Unit::DecibelMilliwatt, "dBm");
     return words;
 }();
 

@@ -229,7 +229,7 @@ QString TrackView::caption(const TimeSpan& span) const
     const std::vector<quint32>& times = records_->columns().times();
     QStringList stands;
     for (const Stop& stop : model_->stops()) {
-        const TimeSpan stood{double(times[stop.first]), double(times[stop.last])};
+        const TimeSpan stood{static_cast<double>(times[stop.first]), static_cast<double>(times[stop.last])};
         if (stood.to >= span.from && stood.from <= span.to)
             stands << told(stood);
     }

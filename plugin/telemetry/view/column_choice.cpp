@@ -58,7 +58,7 @@ bool ColumnChoice::isFixed(int column) const
 ColumnGroup ColumnChoice::groupOf(int column) const
 {
     const CsvColumn* const shown = model_->columnAt(column);
-    return shown ? groupOfField(shown->field()) : ColumnGroup::record;
+    return shown ? groupOfField(shown->field()) : ColumnGroup::Record;
 }
 
 void ColumnChoice::takeColumns(const RecordStore& records)

@@ -114,7 +114,7 @@ void showAll(QWidget* window, const Damage& damage)
 
 void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::function<void(int record)>& goTo)
 {
-    bar->end(kPart);
+    bar->end(PartNotice);
     const int last = contents.records.size() - 1;
     if (last < 1 || !contents.damaged.empty() || contents.hidden > 0 || contents.mayHideMore)
         return;
@@ -122,9 +122,9 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
     const auto hole = holeOfPart(last + 1, numberAt(0), numberAt(last - 1), numberAt(last));
     if (!hole)
         return;
-    bar->tell(kPart, [goTo, last, hole = *hole] {
+    bar->tell(PartNotice, [goTo, last, hole = *hole] {
         return Notice{
-            Mark::advice,
+            Mark::Advice,
             translated("rec_472").arg(number(hole.missing()), number(hole.before), number(hole.behind)),
             {{translated("tmiw_200"), [goTo, last] { goTo(last - 1); }}}};
     });
@@ -133,9 +133,9 @@ void tellPart(NoticeBar* bar, const TelemetryContents& contents, const std::func
 void tellStrayed(NoticeBar* bar, const std::vector<int>& records, const std::function<void(int record)>& goTo)
 {
     if (records.empty())
-        return bar->end(kStrayed);
-    bar->tell(kStrayed, [goTo, first = records.front(), count = std::ssize(records)] {
-        return Notice{Mark::advice,
+        return bar->end(StrayedNotice);
+    bar->tell(StrayedNotice, [goTo, first = records.front(), count = std::ssize(records)] {
+        return Notice{Mark::Advice,
                       translated("rec_601").arg(number(count)),
                       {{translated("tmiw_200"), [goTo, first] { goTo(first); }}}};
     });
@@ -144,7 +144,7 @@ void tellStrayed(NoticeBar* bar, const std::vector<int>& records, const std::fun
 void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageActions& actions)
 {
     if (contents.damages.empty()) {
-        bar->end(kDamage);
+        bar->end(DamageNotice);
         return;
     }
     // Damage of the header, or somewhere among the records, has no place to go to.
@@ -157,11 +157,11 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
     const int record =
         place == contents.damages.end() || records == 0 ? mixed : std::min(place->record, records - 1);
     const QString mixedNumber = mixed < 0 ? QString() : number(recordNumberOf(*contents.records.at(mixed)));
-    bar->tell(kDamage, [bar, actions, record, mixedNumber, damage = found] {
+    bar->tell(DamageNotice, [bar, actions, record, mixedNumber, damage = found] {
         QStringList said = sentences(damage, kInBar);
         if (!mixedNumber.isEmpty())
             said << translated("rec_682").arg(mixedNumber, number(damage.announced - damage.whole));
-        Notice notice{Mark::advice, said.join(QLatin1Char(' ')), {}};
+        Notice notice{Mark::Advice, said.join(QLatin1Char(' ')), {}};
         if (damage.hidden > 0 || damage.mayHideMore)
             notice.actions.push_back({translated("rec_077"), actions.bringBack});
         if (record >= 0)
@@ -176,8 +176,8 @@ void tellDamage(NoticeBar* bar, const TelemetryContents& contents, const DamageA
 
 void tellCancelled(NoticeBar* bar, const std::function<void()>& again)
 {
-    bar->tell(kDamage, [again] {
-        return Notice{Mark::advice, translated("rec_074"), {{translated("rec_075"), again}}};
+    bar->tell(DamageNotice, [again] {
+        return Notice{Mark::Advice, translated("rec_074"), {{translated("rec_075"), again}}};
     });
 }
 

@@ -103,14 +103,14 @@ QString ExportDialog::askPath(ExportForm form, const QString& proposed, QWidget*
 {
     const ExportFormRow& row = rowOf(form);
     const QString suffix = QLatin1String(row.suffix);
-    const QString folder = lastFolder(FileKind::records, vlkDevice ? vlkDevice->tmiFolder() : QString());
+    const QString folder = lastFolder(FileKind::Records, vlkDevice ? vlkDevice->tmiFolder() : QString());
     SaveDialog dialog(parent, tr("rec_085"), folder, QStringLiteral("%1 (*.%2)").arg(tr(row.key), suffix),
                       suffix);
     dialog.setObjectName(QStringLiteral("fileDialog_Told")); // by the bar: the host need not
     dialog.selectFile(QStringLiteral("%1.%2").arg(proposed, suffix));
     QString path = dialog.ask();
     if (!path.isEmpty())
-        rememberFolder(FileKind::records, path);
+        rememberFolder(FileKind::Records, path);
     return path;
 }
 

@@ -14,10 +14,10 @@ namespace vlk {
 
 struct ExportChoice
 {
-    enum What { shown, selected, whole };
+    enum What { Shown, Selected, Whole };
 
-    What what = shown;
-    ExportForm form = ExportForm::csv;
+    What what = Shown;
+    ExportForm form = ExportForm::Csv;
     bool decimalComma = false;
     bool onlyShownColumns = true;
 };

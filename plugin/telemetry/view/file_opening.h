@@ -22,7 +22,7 @@ public:
     explicit FileOpening(WorkProgress* progress);
 
     // In place of what is being read.
-    void start(const QString& path, TelemetryReading reading = TelemetryReading::asTold);
+    void start(const QString& path, TelemetryReading reading = TelemetryReading::AsTold);
     // Gives it up without a word.
     void stop();
 

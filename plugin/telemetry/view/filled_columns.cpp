@@ -17,7 +17,7 @@ bool showsSomething(quint64 raw, ItemIndex item)
 {
     const double number = itemNumber(raw, item);
     const Rule& rule = kItems[item].rule();
-    if (rule.shape != Shape::twoState)
+    if (rule.shape != Shape::TwoState)
         return !std::isnan(number);
     return !(number != 0 ? rule.set : rule.clear).source().empty();
 }

@@ -94,7 +94,7 @@ FilterField::FilterField(ShownRecords* shown, RecordsModel* model, QWidget* pare
     // By the button in the line, which empties it behind the action.
     if (const auto* emptied = line_->findChild<QAction*>(QStringLiteral("_q_qlineeditclearaction")))
         connect(emptied, &QAction::triggered, this, &FilterField::applyTyped, Qt::QueuedConnection);
-    latest_->setIcon(lineIcon(LineIcon::down));
+    latest_->setIcon(lineIcon(LineIcon::Down));
     line_->addAction(latest_, QLineEdit::TrailingPosition);
     caption_->setBuddy(line_);
     setFocusProxy(line_);
@@ -156,7 +156,7 @@ const FilterNames& FilterField::names()
         const CsvColumn* const known = model_->columnAt(column);
         if (!known)
             continue;
-        heads << (model_->kind(column) == CellKind::time
+        heads << (model_->kind(column) == CellKind::Time
                       ? headingText(*known)
                       : model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
         names_->add(heads.last(), known->item);
@@ -313,8 +313,8 @@ QString FilterField::conditionOf(int record, int column)
     const double number = itemNumber(*raw, known->item, shown_->columns().userTypes());
     if (std::isnan(number))
         return {};
-    const ItemIndex item = model_->kind(column) == CellKind::time ? vlk::item("Time") : known->item;
-    return inWords({nodes::condition(item, Comparison::equal, number)});
+    const ItemIndex item = model_->kind(column) == CellKind::Time ? vlk::item("Time") : known->item;
+    return inWords({nodes::condition(item, Comparison::Equal, number)});
 }
 
 QString FilterField::hourAround(int record)
@@ -330,8 +330,8 @@ void FilterField::tell(const std::function<QString()>& sentence, Mark mark)
     told_ = sentence;
     mark_ = mark;
     fault_->setText(sentence ? sentence() : QString());
-    fault_->setVisible(bool(sentence));
-    markField(line_, MarkReason::typing, mark, fault_->text());
+    fault_->setVisible(static_cast<bool>(sentence));
+    markField(line_, MarkReason::Typing, mark, fault_->text());
 }
 
 // Columns that no record holds: nothing meets a condition on them, which is not what a value says.
@@ -352,7 +352,7 @@ void FilterField::tellAbsent(const Filter& filter)
                 words << columnInWords(column, names(), *model_);
             return tr("rec_512").arg(words.join(QStringLiteral(", ")));
         },
-        Mark::advice);
+        Mark::Advice);
 }
 
 void FilterField::retranslate()

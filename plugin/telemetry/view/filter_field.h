@@ -52,7 +52,7 @@ private:
     void applyTyped();
     void offerLatest();
     QString faultText(const QString& text);
-    void tell(const std::function<QString()>& sentence, Mark mark = Mark::invalid);
+    void tell(const std::function<QString()>& sentence, Mark mark = Mark::Invalid);
     void tellAbsent(const Filter& filter);
     const FilterNames& names();
     void addEvent(quint32 code);
@@ -73,7 +73,7 @@ private:
     std::optional<FilterNames> names_; // of this file, made when they are asked for
     bool hasAllEvents_ = false;
     std::function<QString()> told_;
-    Mark mark_ = Mark::invalid;
+    Mark mark_ = Mark::Invalid;
     QString applied_;
     Filter appliedFilter_;
 };

@@ -48,7 +48,7 @@ QString columnInWords(const FilterColumn& column, const FilterNames& names, cons
     }
     const int place = model.columnOf(known->item);
     // The head of times has their zone.
-    const QString heading = place < 0 || model.kind(place) == CellKind::time
+    const QString heading = place < 0 || model.kind(place) == CellKind::Time
                                 ? headingText(*known)
                                 : model.headerData(place, Qt::Horizontal, Qt::DisplayRole).toString();
     const QString withoutUnit = heading.section(QLatin1String(", "), 0, -2);

@@ -35,7 +35,7 @@ FindBar::FindBar(RecordFinder* finder, QWidget* parent)
     row->addWidget(caption_);
     row->addWidget(words_, 1);
     const std::tuple<QToolButton*, const char*, LineIcon, int> steps[] = {
-        {back_, "toolButton_FindBack", LineIcon::up, -1}, {forward_, "toolButton_FindOn", LineIcon::down, 1}};
+        {back_, "toolButton_FindBack", LineIcon::Up, -1}, {forward_, "toolButton_FindOn", LineIcon::Down, 1}};
     for (const auto& [button, name, icon, step] : steps) {
         button->setObjectName(QLatin1String(name));
         button->setIcon(lineIcon(icon));
@@ -47,7 +47,7 @@ FindBar::FindBar(RecordFinder* finder, QWidget* parent)
     row->addWidget(told_);
     row->addStretch(1);
     close_->setObjectName(QStringLiteral("toolButton_FindClose"));
-    close_->setIcon(lineIcon(LineIcon::cross));
+    close_->setIcon(lineIcon(LineIcon::Cross));
     close_->setAutoRaise(true);
     close_->setFocusPolicy(Qt::TabFocus);
     row->addWidget(close_);

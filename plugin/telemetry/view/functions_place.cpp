@@ -73,7 +73,7 @@ void FunctionsPlace::arrange()
     };
     constexpr Place inColumns[] = {{0, 0, 1}, {0, 1, 2}, {1, 0, 2}, {2, 1, 1}};
     const auto groups = this->groups();
-    for (int i = 0; i < int(groups.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(groups.size()); ++i) {
         const Place place = takesPlace ? inColumns[i] : Place{0, i, 1};
         ui_.gridLayout_Func->addWidget(groups[i], place.row, place.column, place.rows, 1);
     }

@@ -19,7 +19,8 @@ GrowingRecords::GrowingRecords(ShownRecords* shown, NoticeBar* bar, std::functio
                                QObject* parent)
     : QObject(parent), shown_(shown), bar_(bar), keep_(std::move(keep))
 {
-    connect(bar, &NoticeBar::closed, this, [this](int number) { isClosed_ = isClosed_ || number == kGrown; });
+    connect(bar, &NoticeBar::closed, this,
+            [this](int number) { isClosed_ = isClosed_ || number == GrownNotice; });
 }
 
 void GrowingRecords::begin()
@@ -40,7 +41,7 @@ void GrowingRecords::forget()
 {
     isGrowing_ = isClosed_ = isKept_ = false;
     records_ = states_ = 0;
-    bar_->end(kGrown);
+    bar_->end(GrownNotice);
 }
 
 void GrowingRecords::end()
@@ -82,14 +83,14 @@ void GrowingRecords::count(quint32 number)
 
 void GrowingRecords::tell()
 {
-    bar_->tell(kGrown, [this] {
+    bar_->tell(GrownNotice, [this] {
         const QLocale locale;
         QStringList said{translated("rec_543").arg(locale.toString(records_ + states_))};
         if (const qint64 missing = qint64{known_} - before_ - records_; missing > 0)
             said << translated("rec_544").arg(locale.toString(missing));
         if (!isGrowing_)
             said << translated("rec_545");
-        return Notice{Mark::advice,
+        return Notice{Mark::Advice,
                       said.join(QLatin1Char(' ')),
                       {{translated("rec_007").remove(QLatin1Char('&')), keep_}}};
     });
@@ -97,7 +98,7 @@ void GrowingRecords::tell()
 
 bool GrowingRecords::mayGo(QWidget* window, Going going)
 {
-    const bool closes = going == Going::close;
+    const bool closes = going == Going::Close;
     if ((closes && isGrowing_) || isKept_ || records_ + states_ == 0)
         return true;
     QMessageBox box(QMessageBox::Question, window->windowTitle(),

@@ -43,7 +43,7 @@ public:
     void setKept() { isKept_ = true; }
     // Before the window closes or shows other records: asks where records would go that are in no file.
     // Closed it keeps them as long as the tracker is there.
-    enum class Going { close, others };
+    enum class Going { Close, Others };
     bool mayGo(QWidget* window, Going going);
 
 private:

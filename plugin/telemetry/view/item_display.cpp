@@ -54,7 +54,7 @@ void showItem(ValueLabel& label, const TmiPage_Zeta3& page, ItemIndex item)
         label.setValue(value);
     else
         label.setAbsent(isHeld ? kNoValue : kNotInRecord);
-    if (kItems[item].rule().shape == Shape::coordinate)
+    if (kItems[item].rule().shape == Shape::Coordinate)
         label.setToolTip(isHeld ? positionText(page, item) : QString());
 }
 

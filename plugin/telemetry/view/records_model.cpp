@@ -90,7 +90,7 @@ void RecordsModel::makeHeads()
     const QString zone = QStringLiteral(", ") + zoneText(shown_->utcOffset());
     for (Column& column : columns_) {
         column.head = headText(column.shown, shown_->titles());
-        if (column.kind == CellKind::time)
+        if (column.kind == CellKind::Time)
             column.head += zone;
     }
     packetHead_ = Word("tmizta_359").text();
@@ -169,7 +169,7 @@ int RecordsModel::columnOf(ItemIndex item) const
 
 CellKind RecordsModel::kind(int column) const
 {
-    return columnAt(column) ? columns_[column].kind : CellKind::characters;
+    return columnAt(column) ? columns_[column].kind : CellKind::Characters;
 }
 
 QVariant RecordsModel::data(const QModelIndex& index, int role) const
@@ -194,7 +194,7 @@ QVariant RecordsModel::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole)
         return shownText;
     const CsvColumn* const shown = columnAt(column);
-    const bool isPlace = shown && kItems[shown->item].rule().shape == Shape::coordinate;
+    const bool isPlace = shown && kItems[shown->item].rule().shape == Shape::Coordinate;
     return role == Qt::ToolTipRole && isPlace ? positionText(decoded(record), shown->item) : QVariant();
 }
 
@@ -229,7 +229,7 @@ QVariant RecordsModel::absentData(int record, int column, int role) const
 // A head stands as its column does.
 int RecordsModel::alignment(int column) const
 {
-    const bool toTheRight = kind(column) == CellKind::number;
+    const bool toTheRight = kind(column) == CellKind::Number;
     return static_cast<int>(Qt::AlignVCenter | (toTheRight ? Qt::AlignRight : Qt::AlignLeft));
 }
 
@@ -304,11 +304,11 @@ QString RecordsModel::text(int record, int column) const
     if (!value)
         return {};
     switch (columns_[column].kind) {
-    case CellKind::number:
+    case CellKind::Number:
         return numberText(record, column, QLocale());
-    case CellKind::time:
+    case CellKind::Time:
         return momentText(static_cast<quint32>(*value), shown_->utcOffset());
-    case CellKind::event:
+    case CellKind::Event:
         if (QString event = eventText(static_cast<quint16>(*value)); !event.isEmpty())
             return event;
         break;
@@ -323,13 +323,13 @@ QString RecordsModel::textToCopy(int record, int column) const
     if (isDamaged(record))
         return {};
     const bool isHeld = raw(record, column).has_value();
-    if (isHeld && kind(column) == CellKind::number) {
+    if (isHeld && kind(column) == CellKind::Number) {
         QLocale locale;
         locale.setNumberOptions(QLocale::OmitGroupSeparator);
         return numberText(record, column, locale);
     }
     // English spreadsheets know no days before months with points between them.
-    if (isHeld && kind(column) == CellKind::time && QLocale().language() != QLocale::Russian)
+    if (isHeld && kind(column) == CellKind::Time && QLocale().language() != QLocale::Russian)
         return momentText(static_cast<quint32>(*raw(record, column)), shown_->utcOffset(),
                           "yyyy-MM-dd HH:mm:ss");
     return text(record, column).simplified();
@@ -346,7 +346,7 @@ std::vector<double> RecordsModel::keys(int column) const
         return alphabetical(std::move(packets), [this](int record) { return packetText(record); });
     }
     const std::vector<double>& numbers = shown_->columns().numbers(columns_[column].shown.item);
-    if (kind(column) != CellKind::event && kind(column) != CellKind::words)
+    if (kind(column) != CellKind::Event && kind(column) != CellKind::Words)
         return numbers;
     return alphabetical(numbers, [this, column](int record) { return text(record, column); });
 }

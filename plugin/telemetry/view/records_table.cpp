@@ -49,7 +49,7 @@ RecordsTable::RecordsTable(RecordsModel* model, QWidget* parent)
     : QTableView(parent), model_(model), frozen_(new QTableView(this)), edge_(new QWidget(this))
 {
     setModel(model);
-    dressTable(this, TableUse::show);
+    dressTable(this, TableUse::Show);
     dress(this);
     QHeaderView* const heads = horizontalHeader();
     heads->setMinimumHeight(kHeadLines * fontMetrics().lineSpacing() + kHeadPadding);
@@ -79,7 +79,7 @@ void RecordsTable::setUpFrozen()
     frozen_->setObjectName(QStringLiteral("tableWidget_Frozen"));
     frozen_->setModel(model_);
     frozen_->setSelectionModel(selectionModel());
-    dressTable(frozen_, TableUse::show);
+    dressTable(frozen_, TableUse::Show);
     dress(frozen_);
     edge_->setAutoFillBackground(true);
     edge_->setBackgroundRole(QPalette::Mid);

@@ -36,9 +36,9 @@ struct SavedFileKind
 
 // By mode, from Xml on.
 constexpr SavedFileKind kFileKinds[] = {
-    {"tmiw_179", "xml", TelemetryForm::xml},
-    {"tmiw_180", "csv", TelemetryForm::csv},
-    {"tmiw_181", "tmi", TelemetryForm::binary},
+    {"tmiw_179", "xml", TelemetryForm::Xml},
+    {"tmiw_180", "csv", TelemetryForm::Csv},
+    {"tmiw_181", "tmi", TelemetryForm::Binary},
 };
 
 const SavedFileKind& kindOf(SaveSequence::Mode mode)

@@ -48,7 +48,7 @@ QString selectionText(const RecordsModel& model, const RecordsTable& table)
 
 QString sumsText(const RecordsModel& model, int column, ShownRecords& shown)
 {
-    if (!model.columnAt(column) || model.kind(column) != CellKind::number)
+    if (!model.columnAt(column) || model.kind(column) != CellKind::Number)
         return {};
     const NumberColumn& numbers = shown.columns().numbers(model.columnAt(column)->item);
     double least = std::numeric_limits<double>::infinity();

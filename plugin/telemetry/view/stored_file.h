@@ -13,7 +13,7 @@ namespace vlk {
 class StoredFile
 {
 public:
-    explicit StoredFile(const QString& path, TelemetryReading reading = TelemetryReading::asTold);
+    explicit StoredFile(const QString& path, TelemetryReading reading = TelemetryReading::AsTold);
 
     // True when all is read.
     bool readFor(int milliseconds) { return !reader_ || reader_->readFor(milliseconds); }

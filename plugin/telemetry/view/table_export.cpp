@@ -30,7 +30,7 @@ TableExport::TableExport(ShownRecords* shown, RecordsModel* model, RecordsTable*
     connect(export_, &RecordsExport::written, this, &TableExport::tellWritten);
     connect(export_, &RecordsExport::failed, this, &TableExport::tellFailed);
     connect(export_, &RecordsExport::cancelled, this, [this] {
-        notices_->tell(kHandedOver, [] { return Notice{Mark::advice, tr("rec_097"), {}}; });
+        notices_->tell(HandedOverNotice, [] { return Notice{Mark::Advice, tr("rec_097"), {}}; });
     });
 }
 
@@ -70,12 +70,12 @@ void TableExport::start(const QString& path)
     const ExportForm form = formOfEnding(path, choice_.form);
     isFormOfEnding_ = form != choice_.form;
     choice_.form = form;
-    notices_->end(kHandedOver);
+    notices_->end(HandedOverNotice);
     std::vector<int> records(shown_->records().size());
-    if (choice_.what == ExportChoice::whole)
+    if (choice_.what == ExportChoice::Whole)
         std::iota(records.begin(), records.end(), 0);
     else
-        records = choice_.what == ExportChoice::selected ? table_->selectedRecords() : model_->records();
+        records = choice_.what == ExportChoice::Selected ? table_->selectedRecords() : model_->records();
     // As the command line does.
     leftOut_ =
         static_cast<int>(std::erase_if(records, [this](int record) { return model_->isDamaged(record); }));
@@ -110,11 +110,12 @@ ExportOptions TableExport::options() const
 
 void TableExport::tellWritten(const QString& path, qint64 withoutPlace)
 {
-    const bool holdsAll = choice_.form == ExportForm::xml || choice_.form == ExportForm::tmi;
+    const bool holdsAll = choice_.form == ExportForm::Xml || choice_.form == ExportForm::Tmi;
     if (holdsAll && exported_ == shown_->records().size())
         Q_EMIT allKept();
-    notices_->tellNews(kHandedOver, [path, withoutPlace, count = exported_ - withoutPlace, leftOut = leftOut_,
-                                     form = choice_.form, isFormOfEnding = isFormOfEnding_] {
+    notices_->tellNews(HandedOverNotice, [path, withoutPlace, count = exported_ - withoutPlace,
+                                          leftOut = leftOut_, form = choice_.form,
+                                          isFormOfEnding = isFormOfEnding_] {
         const QString ending = QFileInfo(path).suffix();
         QStringList told{tr("rec_096").arg(QLocale().toString(count), QDir::toNativeSeparators(path))};
         if (isFormOfEnding)
@@ -128,14 +129,14 @@ void TableExport::tellWritten(const QString& path, qint64 withoutPlace)
             told << tr("rec_651").arg(QLocale().toString(withoutPlace));
         if (told.size() > 1) // more sentences behind the name of the file
             told.front() += QLatin1Char('.');
-        return Notice{told.size() > 1 ? Mark::advice : Mark::right, told.join(QLatin1Char(' ')), {}};
+        return Notice{told.size() > 1 ? Mark::Advice : Mark::Right, told.join(QLatin1Char(' ')), {}};
     });
 }
 
 void TableExport::tellFailed(const QString& path, const QString& reason)
 {
-    notices_->tell(kHandedOver, [this, path, reason] {
-        return Notice{Mark::invalid,
+    notices_->tell(HandedOverNotice, [this, path, reason] {
+        return Notice{Mark::Invalid,
                       tr("tmiw_187").arg(QDir::toNativeSeparators(path), fileErrorText(reason)),
                       // The button of the window has the letter.
                       {{tr("rec_007").remove(QLatin1Char('&')), [this] { ask(); }}}};

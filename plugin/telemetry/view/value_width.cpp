@@ -13,7 +13,7 @@ namespace {
 QString longestNumber(const Item& item, const Rule& rule, int decimals)
 {
     const Element& element = kElements[item.element];
-    const bool isFloat = element.type == ValueType::f32;
+    const bool isFloat = element.type == ValueType::F32;
     const int bits = rule.bits.count != 0 ? rule.bits.count : 8 * element.width;
     const double highest = isFloat ? 999'999 : std::pow(2, bits) - 1;
     return QLatin1String(isFloat || isSigned(element.type) ? "-" : "") +
@@ -24,36 +24,36 @@ QStringList longTexts(const Item& item, const Rule& rule)
 {
     QStringList texts;
     switch (rule.shape) {
-    case Shape::decimal:
-    case Shape::userParameter:
+    case Shape::Decimal:
+    case Shape::UserParameter:
         texts << longestNumber(item, rule, 0);
         break;
-    case Shape::fixed:
+    case Shape::Fixed:
         texts << longestNumber(item, rule, rule.decimals);
         break;
-    case Shape::general:
+    case Shape::General:
         texts << QStringLiteral("-0.00000e+00");
         break;
-    case Shape::word:
-    case Shape::twoState:
+    case Shape::Word:
+    case Shape::TwoState:
         texts << rule.set.text() << rule.clear.text();
         break;
-    case Shape::enumeration:
+    case Shape::Enumeration:
         for (const NamedValue& row : rule.names)
             texts << row.word.text();
         texts << rule.set.text() << longestNumber(item, rule, 0);
         break;
-    case Shape::zonedTime:
+    case Shape::ZonedTime:
         texts << QStringLiteral("00:00:00 00.00.0000 (UTC +00)");
         break;
-    case Shape::localTime:
-    case Shape::dateTime:
+    case Shape::LocalTime:
+    case Shape::DateTime:
         texts << QStringLiteral("00:00:00 00.00.0000");
         break;
-    case Shape::coordinate:
+    case Shape::Coordinate:
         texts << QStringLiteral("-000 -") + QString::number(59., 'f', rule.decimals) + QLatin1Char('\'');
         break;
-    case Shape::special:
+    case Shape::Special:
         texts << QStringLiteral("-00.000 | -00.000 | -00.000");
         break;
     }

@@ -64,8 +64,8 @@ VLK_Widget_Tmi_Page::VLK_Widget_Tmi_Page(QWidget* parent)
     ui_->pushButton_Go->hide();
     ui_->label_NoRecord->hide();
     // The texts of the two buttons are numbers; arrows tell where they lead.
-    ui_->pushButton_Begin->setIcon(lineIcon(LineIcon::begin));
-    ui_->pushButton_End->setIcon(lineIcon(LineIcon::end));
+    ui_->pushButton_Begin->setIcon(lineIcon(LineIcon::Begin));
+    ui_->pushButton_End->setIcon(lineIcon(LineIcon::End));
     connectControls();
     vlk::keepOnScreen(this);
     stack_.showNothing();
@@ -150,7 +150,7 @@ void VLK_Widget_Tmi_Page::takeContents(std::shared_ptr<const TelemetryContents> 
     contents_ = std::move(contents);
     tellDamage(damageNotice_, *contents_,
                {[this](int record) { ui_->horizontalSlider->setValue(record); },
-                [this] { opening_->start(path_, TelemetryReading::salvage); }});
+                [this] { opening_->start(path_, TelemetryReading::Salvage); }});
     tellPart(damageNotice_, *contents_, [this](int record) { ui_->horizontalSlider->setValue(record); });
     ui_->label_NoRecord->hide();
     if (records().empty())

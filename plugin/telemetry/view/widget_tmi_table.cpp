@@ -124,7 +124,7 @@ VLK_Widget_Tmi_Table::VLK_Widget_Tmi_Table(QWidget* parent)
     connect(opening_, &FileOpening::opened, this, [this](const auto& contents) {
         // Rows of what no file holds help nobody.
         if (areTornBySharedLines(*contents))
-            opening_->start(path_, TelemetryReading::salvage);
+            opening_->start(path_, TelemetryReading::Salvage);
         else
             showContents(contents);
     });
@@ -201,7 +201,7 @@ void VLK_Widget_Tmi_Table::addKeys()
 
 void VLK_Widget_Tmi_Table::open(const QString& path)
 {
-    if (!growing_->mayGo(this, GrowingRecords::Going::others))
+    if (!growing_->mayGo(this, GrowingRecords::Going::Others))
         return;
     // A file may be large: two of them need not be in memory.
     open(std::make_shared<TelemetryContents>(), QFileInfo(path).fileName());
@@ -213,15 +213,15 @@ void VLK_Widget_Tmi_Table::open(const QString& path)
 void VLK_Widget_Tmi_Table::read()
 {
     if (shown_->records().empty())
-        shown_->setContents(std::make_shared<TelemetryContents>(), ShownRecords::Reading::underway);
+        shown_->setContents(std::make_shared<TelemetryContents>(), ShownRecords::Reading::Underway);
     opening_->start(path_);
 }
 
 void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& contents, const QString& name,
                                 Growth growth)
 {
-    const bool areSame = growth == Growth::live && contents == growsFrom_ && growing_->isGrowing();
-    if (!areSame && !growing_->mayGo(this, GrowingRecords::Going::others))
+    const bool areSame = growth == Growth::Live && contents == growsFrom_ && growing_->isGrowing();
+    if (!areSame && !growing_->mayGo(this, GrowingRecords::Going::Others))
         return;
     opening_->stop();
     filter_->setFocus();
@@ -236,15 +236,15 @@ void VLK_Widget_Tmi_Table::open(const std::shared_ptr<TelemetryContents>& conten
     }
     name_ = name;
     growing_->forget();
-    for (const int notice : {kTooMany, kHandedOver})
+    for (const int notice : {TooManyNotice, HandedOverNotice})
         notices_->end(notice);
-    growsFrom_ = growth == Growth::live ? contents : nullptr;
+    growsFrom_ = growth == Growth::Live ? contents : nullptr;
     grown_ = growsFrom_ ? std::make_shared<TelemetryContents>(*contents) : nullptr;
     showContents(grown_ ? grown_ : contents);
     places_->setName(name);
     export_->setName(name);
     showTitle();
-    if (growth == Growth::live)
+    if (growth == Growth::Live)
         growing_->begin();
 }
 
@@ -268,8 +268,8 @@ void VLK_Widget_Tmi_Table::takePresent(const QByteArray& state, quint32 number)
 void VLK_Widget_Tmi_Table::append(const QByteArray& record)
 {
     shown_->append(bytesAt(record.constData(), record.size()), table_->areSeveralSelected()
-                                                                   ? ShownRecords::Current::stays
-                                                                   : ShownRecords::Current::follows);
+                                                                   ? ShownRecords::Current::Stays
+                                                                   : ShownRecords::Current::Follows);
 }
 
 void VLK_Widget_Tmi_Table::follow(const std::shared_ptr<const TelemetryContents>& contents, int record)
@@ -285,7 +285,7 @@ void VLK_Widget_Tmi_Table::showContents(const std::shared_ptr<TelemetryContents>
                 [this] {
                     // The bar would give the keyboard to its cross.
                     table_->setFocus();
-                    opening_->start(path_, TelemetryReading::salvage);
+                    opening_->start(path_, TelemetryReading::Salvage);
                 }});
     tellPart(notices_, *contents, [this](int record) { shown_->setCurrent(record); });
     shown_->setContents(contents);
@@ -336,7 +336,7 @@ void VLK_Widget_Tmi_Table::closeEvent(QCloseEvent* event)
 // By Esc and by the cross.
 void VLK_Widget_Tmi_Table::reject()
 {
-    if (growing_->mayGo(this, GrowingRecords::Going::close))
+    if (growing_->mayGo(this, GrowingRecords::Going::Close))
         QDialog::reject();
 }
 
@@ -383,7 +383,8 @@ void VLK_Widget_Tmi_Table::showCount()
         areAllShown ? tr("rec_051").arg(all) : tr("rec_052").arg(locale.toString(model_->rowCount()), all);
     const auto damaged = std::ranges::count_if(shown_->contents()->damaged,
                                                [this](int record) { return model_->rowOf(record) >= 0; });
-    count_->setText(damaged > 0 ? tr("rec_297").arg(count, locale.toString(qlonglong(damaged))) : count);
+    count_->setText(damaged > 0 ? tr("rec_297").arg(count, locale.toString(static_cast<qlonglong>(damaged)))
+                                : count);
     count_->setHidden(shown_->isBeingRead());
     exportButton_->setEnabled(!shown_->records().empty());
     columnsButton_->setEnabled(model_->columnCount() > 0);
@@ -410,12 +411,14 @@ void VLK_Widget_Tmi_Table::showMenu(const QPoint& globalPlace)
 void VLK_Widget_Tmi_Table::copy()
 {
     if (table_->selectedRecords().size() > kMostCopied) {
-        notices_->tell(kTooMany, [] {
-            return Notice{Mark::advice, tr("rec_055").arg(QLocale().toString(qulonglong(kMostCopied))), {}};
+        notices_->tell(TooManyNotice, [] {
+            return Notice{Mark::Advice,
+                          tr("rec_055").arg(QLocale().toString(static_cast<qulonglong>(kMostCopied))),
+                          {}};
         });
         return;
     }
-    notices_->end(kTooMany);
+    notices_->end(TooManyNotice);
     QApplication::clipboard()->setText(selectionText(*model_, *table_));
 }
 

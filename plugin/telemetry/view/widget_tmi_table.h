@@ -38,9 +38,9 @@ public:
     void open(const QString& path);
     // Shows records that are there already, under that name. Records of a tracker that are still being made
     // grow, in a copy, by those that it sends; asked for again they stay on show as they have grown.
-    enum class Growth { none, live };
+    enum class Growth { None, Live };
     void open(const std::shared_ptr<vlk::TelemetryContents>& contents, const QString& name,
-              Growth growth = Growth::none);
+              Growth growth = Growth::None);
     // From its type byte on; takes part where it is newer than all on show, until the growth ends.
     void takeLive(const QByteArray& record, quint32 number);
     // A present state, which came under the number of the latest record.

@@ -25,7 +25,7 @@ using namespace vlk;
 namespace {
 
 constexpr int kFirstProductionMode = 1;
-enum NoticeNumber { kSavedInPart, kNoServer, kSaved, kNotTaken, kCancelled };
+enum NoticeNumber { SavedInPartNotice, NoServerNotice, SavedNotice, NotTakenNotice, CancelledNotice };
 
 // Both ends of a name, which tell the vehicle and the end of the period: the bar has two lines.
 QString nameForBar(const QString& name)
@@ -78,7 +78,7 @@ VLK_Widget_Tmi_View::VLK_Widget_Tmi_View(QWidget* parent)
     keepOnScreen(this);
     connect(eventPanel_, &vlk::EventPanel::signal_OperatingMode, this, &VLK_Widget_Tmi_View::setGuardButtons);
     connect(&save_, &vlk::SaveSequence::runningChanged, this, &VLK_Widget_Tmi_View::showSaving);
-    connect(&save_, &vlk::SaveSequence::writing, this, [this] { notices_->end(kCancelled); });
+    connect(&save_, &vlk::SaveSequence::writing, this, [this] { notices_->end(CancelledNotice); });
     connect(&save_, &vlk::SaveSequence::saved, this, &VLK_Widget_Tmi_View::showSaved);
     connect(&save_, &vlk::SaveSequence::savedInPart, this, &VLK_Widget_Tmi_View::showPart);
     connect(&save_, &vlk::SaveSequence::targetChosen, &times_, &vlk::ZonedTimes::remember);
@@ -160,11 +160,11 @@ void VLK_Widget_Tmi_View::showSaving(bool running)
     ui_->checkBox_Get_Auto_TMI->setEnabled(!running);
     setManualBlocked(running ? "tmiw_176" : nullptr);
     ui_->pushButton_Close->setToolTip(running ? tr("tmiw_313") : QString());
-    notices_->end(kCancelled);
+    notices_->end(CancelledNotice);
     if (running) {
         age_.await(false);
-        notices_->end(kSavedInPart);
-        notices_->end(kSaved);
+        notices_->end(SavedInPartNotice);
+        notices_->end(SavedNotice);
         // A key that is pressed once more must not get to the control that comes next.
         focusBeforeSave_ = focused && !focused->isEnabled() ? focused : nullptr;
         if (focusBeforeSave_)
@@ -186,9 +186,9 @@ void VLK_Widget_Tmi_View::showSaved(const std::shared_ptr<TelemetryContents>& pe
     };
     // The only way to the table that grows: a click that was meant for the host's notice above must not
     // close it.
-    notices_->tell(kSaved, [count = period->records.size(), show = showPeriod_] {
+    notices_->tell(SavedNotice, [count = period->records.size(), show = showPeriod_] {
         return Notice{
-            Mark::right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}, false};
+            Mark::Right, tr("rec_081").arg(QLocale().toString(count)), {{tr("rec_080"), show}}, false};
     });
 }
 
@@ -206,26 +206,26 @@ void VLK_Widget_Tmi_View::showPart(const vlk::PartOfPeriod& part)
     };
     // Some are missing in front of its last record already.
     growing_.reset();
-    notices_->end(kSaved);
-    notices_->tell(kSavedInPart, [text, show = showPeriod_] {
-        return Notice{Mark::advice, text(), {{tr("rec_080"), show}}};
+    notices_->end(SavedNotice);
+    notices_->tell(SavedInPartNotice, [text, show = showPeriod_] {
+        return Notice{Mark::Advice, text(), {{tr("rec_080"), show}}};
     });
 }
 
 void VLK_Widget_Tmi_View::tellNoServer(bool isNone)
 {
     if (isNone)
-        notices_->tell(kNoServer, [] { return Notice{Mark::advice, tr("tmiw_267"), {}}; });
+        notices_->tell(NoServerNotice, [] { return Notice{Mark::Advice, tr("tmiw_267"), {}}; });
     else
-        notices_->end(kNoServer);
+        notices_->end(NoServerNotice);
 }
 
 void VLK_Widget_Tmi_View::tellNotTaken(const QString& news)
 {
     if (news.isEmpty())
-        notices_->end(kNotTaken);
+        notices_->end(NotTakenNotice);
     else
-        notices_->tell(kNotTaken, [news] { return Notice{Mark::invalid, news, {}}; });
+        notices_->tell(NotTakenNotice, [news] { return Notice{Mark::Invalid, news, {}}; });
 }
 
 void VLK_Widget_Tmi_View::deviceDisconnected()
@@ -233,7 +233,7 @@ void VLK_Widget_Tmi_View::deviceDisconnected()
     const QScopedValueRollback going(isDetached_, true);
     close();
     // The next tracker may be another one. What was saved in part is told until it is closed.
-    notices_->end(kSaved);
+    notices_->end(SavedNotice);
 }
 
 void VLK_Widget_Tmi_View::keyPressEvent(QKeyEvent* event)
@@ -271,8 +271,8 @@ void VLK_Widget_Tmi_View::cancelSave()
 {
     save_.cancel();
     if (save_.isCancelled())
-        notices_->tell(kCancelled, [this] {
-            return Notice{Mark::advice, tr("tmiw_302"), {{tr("tmiw_303"), [this] { save_.endNow(); }}}};
+        notices_->tell(CancelledNotice, [this] {
+            return Notice{Mark::Advice, tr("tmiw_302"), {{tr("tmiw_303"), [this] { save_.endNow(); }}}};
         });
 }
 

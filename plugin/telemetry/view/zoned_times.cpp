@@ -33,7 +33,7 @@ ZonedTimes::ZonedTimes(const Ui::VLK_Designer_Widget_Tmi_View& ui) : ui_(ui)
         // Already shifted by the zone; the machine's own must not shift it again.
         edit->setTimeSpec(Qt::UTC);
     }
-    ui_.toolButton_LastPeriod->setIcon(lineIcon(LineIcon::back));
+    ui_.toolButton_LastPeriod->setIcon(lineIcon(LineIcon::Back));
     connect(ui_.toolButton_LastPeriod, &QToolButton::clicked, this, &ZonedTimes::callBack);
 }
 

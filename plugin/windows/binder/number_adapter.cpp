@@ -84,7 +84,7 @@ void NumberAdapter::doubt(const QString& complaint)
     if (complaint == complaint_)
         return;
     complaint_ = complaint;
-    markField(box_.widget(), MarkReason::value, Mark::invalid, complaint);
+    markField(box_.widget(), MarkReason::Value, Mark::Invalid, complaint);
 }
 
 void NumberAdapter::take()

@@ -81,14 +81,14 @@ QWidget* makeInput(const Setting& setting)
 void RowLines::add(const Setting& setting)
 {
     QWidget* input = makeInput(setting);
-    if (look_ == Look::simple && setting.is<Flag>()) {
+    if (look_ == Look::Simple && setting.is<Flag>()) {
         grid_->addWidget(input, line_++, 0, 1, 3);
         return;
     }
     auto* label = new QLabel;
     label->setObjectName(QStringLiteral("label_") + input->objectName().section(QLatin1Char('_'), 1));
     label->setBuddy(input);
-    if (look_ == Look::paired) {
+    if (look_ == Look::Paired) {
         addPaired(setting, label, input);
         return;
     }

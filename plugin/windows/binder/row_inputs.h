@@ -24,8 +24,8 @@ class RowLines
 {
 public:
     enum class Look {
-        simple, // flags are check boxes that carry their text
-        paired, // lists take a line, everything else half of one; flags have labels, too
+        Simple, // flags are check boxes that carry their text
+        Paired, // lists take a line, everything else half of one; flags have labels, too
     };
 
     RowLines(QGridLayout* grid, Look look) : grid_(grid), look_(look) {}

@@ -30,7 +30,7 @@ void RuledWidgets::add(QWidget* widget, QLabel* label, const Enable& rule)
         return;
     }
     targets_.push_back({widget, label, rule.effect, {&rule}});
-    if (rule.effect == Enable::Effect::shown)
+    if (rule.effect == Enable::Effect::Shown)
         return;
     widget->installEventFilter(this);
     if (label)
@@ -46,7 +46,7 @@ void RuledWidgets::evaluate() const
             std::ranges::all_of(target.rules, [&](const auto* rule) { return values_.holds(*rule); });
         for (QWidget* widget : {target.widget.data(), static_cast<QWidget*>(target.label.data())}) {
             if (widget)
-                target.effect == Enable::Effect::shown ? widget->setVisible(allowed)
+                target.effect == Enable::Effect::Shown ? widget->setVisible(allowed)
                                                        : widget->setEnabled(allowed);
         }
     }
@@ -89,7 +89,7 @@ const When* RuledWidgets::hiddenBy(const QWidget* widget) const
 {
     for (const QWidget* outer = widget; outer && !outer->isWindow(); outer = outer->parentWidget()) {
         for (const Target& target : targets_) {
-            if (target.widget != outer || target.effect != Enable::Effect::shown)
+            if (target.widget != outer || target.effect != Enable::Effect::Shown)
                 continue;
             const auto unmet = std::ranges::find_if_not(
                 target.rules, [&](const auto* rule) { return values_.holds(*rule); });
@@ -104,7 +104,7 @@ QString RuledWidgets::whyDisabled(const QWidget* widget) const
 {
     for (const QWidget* outer = widget; !outer->isWindow(); outer = outer->parentWidget()) {
         for (const Target& target : targets_) {
-            if (target.widget == outer && target.effect == Enable::Effect::enabled && !outer->isEnabled())
+            if (target.widget == outer && target.effect == Enable::Effect::Enabled && !outer->isEnabled())
                 return whyDisabled(target);
         }
         const auto* box = qobject_cast<const QGroupBox*>(outer);
