@@ -2,15 +2,9 @@
 
 #include "review/setting_words.h"
 #include "typing/typed_entry.h"
-#include "windows/binder/boxes_adapter.h"
+#include "windows/binder/adapters.h"
 #include "windows/binder/cell_adapter.h"
-#include "windows/binder/choice_adapter.h"
-#include "windows/binder/flag_adapter.h"
 #include "windows/binder/handles_adapter.h"
-#include "windows/binder/mask_adapter.h"
-#include "windows/binder/number_adapter.h"
-#include "windows/binder/period_adapter.h"
-#include "windows/binder/text_adapter.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QApplication>
