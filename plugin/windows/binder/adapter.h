@@ -62,7 +62,7 @@ public:
     virtual QStringList news() const { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
-    // The value as the widgets hold it, for checks that they can hold what the configuration does.
+    // The value as the widgets hold it.
     virtual QString held() const = 0;
 
 protected:
