@@ -11,6 +11,7 @@
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -260,6 +261,21 @@ bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 bool ConfigurationReview::isUnedited(int key) const
 {
     return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
+}
+
+review::DifferenceText ConfigurationReview::textOf(const Differences& differences,
+                                                   const review::Difference& difference) const
+{
+    const Values* values = difference.key < 0 ? nullptr : valuesOf(FileKeys::all()[difference.key].table);
+    review::DifferenceText text =
+        values ? review::textOf(differences, difference, *values) : review::textOf(difference);
+    const bool isOfFile = &differences == &edited_ || against_ == Against::File;
+    const bool isOfQuick = isOfFile && isQuick() && isUnedited(difference);
+    if (isOfQuick && (!difference.byLoad || text.note.isEmpty()))
+        text.note = QCoreApplication::translate("vlk", difference.after.isNull() ? "rev_700" : "rev_701");
+    else if (difference.isAlong && !difference.byLoad && (isOfFile || otherName_))
+        text.note = QCoreApplication::translate("vlk", "rev_702");
+    return text;
 }
 
 QString ConfigurationReview::quickBefore(const PageSettings& page, int row) const

@@ -303,6 +303,8 @@ void VLK_Widget_Config::write(const QString& path)
     file.close();
     vlk::TextEntry::settleIn(this);
     history_.keepState();
+    history_.settle();
+    handedOver_ = vlk::handedOver(review_, content);
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())

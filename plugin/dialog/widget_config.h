@@ -7,6 +7,7 @@
 
 #include "dialog/configuration_review.h"
 #include "dialog/edit_keeper.h"
+#include "dialog/handed_over.h"
 #include "dialog/setting_places.h"
 
 #include <QDialog>
@@ -60,6 +61,8 @@ public:
     void trackerHolds(const QByteArray& content);
 
     vlk::ConfigurationReview& review() { return review_; }
+    // The last one.
+    const vlk::HandedOver& handedOver() const { return handedOver_; }
     // Opens the panel with what the preset would change. False when there is nothing open or no such file.
     bool showPreset(const QString& path);
 
@@ -101,5 +104,6 @@ private:
     vlk::ReportDialog* report_ = nullptr; // made when it is first wanted
     QString file_;                        // that the user opened, without its folder
     bool isOfTracker_ = false;
+    vlk::HandedOver handedOver_;
     vlk::SettingMarks* marks_ = nullptr;
 };

@@ -231,9 +231,11 @@ constexpr Entry kTable[] = {
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
-     [](VLK_Device_R7106&, const Parameters& parameters) {
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         const VLK_Widget_Config* window = device.configDialog();
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
-             vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
+             vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1),
+                               window ? &window->handedOver() : nullptr);
      }},
     {Message::ConfirmWrite,
      [](VLK_Device_R7106& device, const Parameters& parameters) {

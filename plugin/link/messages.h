@@ -224,6 +224,12 @@ struct FileDifference
     const QString* after = nullptr;
     const QString* beforeText = nullptr;
     const QString* afterText = nullptr;
+    // Where `after` is what the window of the configuration handed over last: whether its user has edited the
+    // setting, or it changes with a load, quick setup or another setting, as the note says in words, or it
+    // stands in the window as it was opened.
+    enum Cause : std::uint32_t { Unknown, Edited, Unedited, Opened };
+    const QString* note = nullptr;
+    std::uint32_t cause = Unknown;
 };
 
 // The plug-in calls `take` with each difference, during the message; the texts are valid during the call.

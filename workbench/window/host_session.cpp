@@ -55,7 +55,7 @@ HostSession::HostSession(const QString& trackerFolder, const QString& backupsFol
       backups_(backupsFolder), road_(
                                    port_, backups_,
                                    [this](const QByteArray& before, const QByteArray& after) {
-                                       return comparer_.compare(before, after);
+                                       return comparer_.compareWritten(before, after);
                                    },
                                    [this](const QByteArray& document) { return comparer_.advise(document); })
 {
