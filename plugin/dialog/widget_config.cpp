@@ -322,6 +322,11 @@ void VLK_Widget_Config::trackerHolds(const QByteArray& content)
     unsaved_->tellReplaced(review_.setReplaced(content));
 }
 
+bool VLK_Widget_Config::hasTakenOver() const
+{
+    return unsaved_->hasTakenOver();
+}
+
 void VLK_Widget_Config::fileSaved(const QString& path)
 {
     vlk::TextEntry::settleIn(this);

@@ -59,6 +59,8 @@ public:
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
     // The tracker holds this now, and not by a write of what is open here.
     void trackerHolds(const QByteArray& content);
+    // Whether the user has taken it over since.
+    bool hasTakenOver() const;
 
     vlk::ConfigurationReview& review() { return review_; }
     // The last one.
