@@ -1,5 +1,6 @@
 #include "dialog/configuration_review.h"
 
+#include "base/translated.h"
 #include "document/values_document.h"
 #include "review/compare_files.h"
 #include "review/quick_reach.h"
@@ -11,7 +12,6 @@
 #include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -263,18 +263,23 @@ bool ConfigurationReview::isUnedited(int key) const
     return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
 }
 
+const char* ConfigurationReview::noteKey(const Differences& differences,
+                                         const review::Difference& difference) const
+{
+    const char* key = review::noteKey(difference);
+    const bool isOfFile = &differences == &edited_ || against_ == Against::File;
+    if (isOfFile && isQuick() && isUnedited(difference) && (!difference.byLoad || !key))
+        return difference.after.isNull() ? "rev_700" : "rev_701";
+    return difference.isAlong && !difference.byLoad && (isOfFile || otherName_) ? "rev_702" : key;
+}
+
 review::DifferenceText ConfigurationReview::textOf(const Differences& differences,
                                                    const review::Difference& difference) const
 {
     const Values* values = difference.key < 0 ? nullptr : valuesOf(FileKeys::all()[difference.key].table);
     review::DifferenceText text =
         values ? review::textOf(differences, difference, *values) : review::textOf(difference);
-    const bool isOfFile = &differences == &edited_ || against_ == Against::File;
-    const bool isOfQuick = isOfFile && isQuick() && isUnedited(difference);
-    if (isOfQuick && (!difference.byLoad || text.note.isEmpty()))
-        text.note = QCoreApplication::translate("vlk", difference.after.isNull() ? "rev_700" : "rev_701");
-    else if (difference.isAlong && !difference.byLoad && (isOfFile || otherName_))
-        text.note = QCoreApplication::translate("vlk", "rev_702");
+    text.note = translated(noteKey(differences, difference));
     return text;
 }
 

@@ -77,8 +77,10 @@ public:
     // Whether a write from the window on show would change it without any edit.
     bool isUnedited(int key) const;
     bool isUnedited(const review::Difference& difference) const;
-    // In words, with a note on what nobody has edited: what the load has done, the quick window, or another
-    // setting.
+    // The key of a note on what nobody has edited: what the load has done, the quick window, or another
+    // setting. Null where there is none.
+    const char* noteKey(const review::Differences& differences, const review::Difference& difference) const;
+    // In words, with that note.
     review::DifferenceText textOf(const review::Differences& differences,
                                   const review::Difference& difference) const;
     // Whether it would stay as it is if all were taken from the other side now: the quick window decides it.

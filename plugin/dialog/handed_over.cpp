@@ -1,7 +1,6 @@
 #include "dialog/handed_over.h"
 
 #include "dialog/configuration_review.h"
-#include "review/difference_text.h"
 
 namespace vlk {
 
@@ -10,7 +9,7 @@ HandedOver handedOver(const ConfigurationReview& review, const QByteArray& docum
     HandedOver told{document, {}};
     for (const review::Difference& difference : review.edits().all()) {
         if (review.isUnedited(difference) || difference.isAlong)
-            told.notes.insert(difference.path, review.textOf(review.edits(), difference).note);
+            told.notes.insert(difference.path, review.noteKey(review.edits(), difference));
         else
             told.edited.insert(difference.path);
     }

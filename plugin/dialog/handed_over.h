@@ -15,8 +15,8 @@ class ConfigurationReview;
 struct HandedOver
 {
     QByteArray document;
-    QSet<QString> edited;            // paths
-    QHash<QString, QString> notes{}; // by path, of what nobody has edited
+    QSet<QString> edited;                // paths
+    QHash<QString, const char*> notes{}; // keys by path, of what nobody has edited
 };
 
 HandedOver handedOver(const ConfigurationReview& review, const QByteArray& document);

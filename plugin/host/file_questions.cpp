@@ -1,5 +1,6 @@
 #include "host/file_questions.h"
 
+#include "base/translated.h"
 #include "dialog/handed_over.h"
 #include "review/bring_settings.h"
 #include "review/check_file.h"
@@ -47,11 +48,12 @@ FileComparison::Outcome outcomeOf(review::Comparison comparison)
     return FileComparison::Done;
 }
 
-void tellCause(FileDifference& told, const HandedOver& written)
+// The note's text has to stay.
+void tellCause(FileDifference& told, const HandedOver& written, QString* note)
 {
-    const auto note = written.notes.constFind(*told.path);
-    const bool isUnedited = note != written.notes.constEnd();
-    told.note = isUnedited ? &*note : nullptr;
+    const bool isUnedited = written.notes.contains(*told.path);
+    *note = translated(written.notes.value(*told.path));
+    told.note = note->isEmpty() ? nullptr : note;
     told.cause = isUnedited                            ? FileDifference::Unedited
                  : written.edited.contains(*told.path) ? FileDifference::Edited
                                                        : FileDifference::Opened;
@@ -84,8 +86,9 @@ void compareFiles(FileComparison& asked, const HandedOver* written)
         review::compareFiles(asked.before ? *asked.before : QString(), *asked.after, secretsOf(asked),
                              [&](const review::Difference& difference, const review::DifferenceText& text) {
                                  FileDifference row = toldDifference(difference, text);
+                                 QString note;
                                  if (isWritten)
-                                     tellCause(row, *written);
+                                     tellCause(row, *written, &note);
                                  ++asked.differences;
                                  asked.take(asked.context, &row);
                              }));

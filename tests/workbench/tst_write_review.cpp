@@ -137,6 +137,12 @@ private Q_SLOTS:
             if (auto* full = Bench::find<QAbstractButton>("pushButton_Light_ConfigFull"))
                 full->click();
         }
+        // The next try of the last one may come in another language.
+        bench.session().link().send(vlk::Message::CloseWindows);
+        bench.window.setLanguage("ru");
+        const auto changes = bench.session().comparer().compareWritten(
+            bench.session().backups().document(2), bench.session().tracker().readConfiguration().document);
+        QVERIFY(changes && changes->last().note.startsWith("В файле этого не было"));
     }
 
     // However long the values are, and however narrow the window.
