@@ -202,6 +202,24 @@ private Q_SLOTS:
         Bench::enter("pushButton_Close");
     }
 
+    // One that was given up may still be there when the next one comes.
+    void givesUpOneReviewAtATime()
+    {
+        Bench bench;
+        bench.action("action_Read")->trigger();
+        bench.editName("Van 1");
+        QVERIFY(Bench::isReviewed());
+        Bench::press("pushButton_Cancel");
+        bench.editName("Van 1");
+        const QDeadlineTimer deadline(Bench::kPatienceMs);
+        while (!bench.session().road().isInReview() && !deadline.hasExpired())
+            QCoreApplication::processEvents();
+        QVERIFY(bench.session().road().isInReview());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(bench.session().road().isInReview());
+        Bench::press("pushButton_Cancel");
+    }
+
     // What was brought back under the open window does not come back unseen, and what was written there is
     // what Esc goes back to.
     void knowsThatTheTrackerWasBroughtBack()
