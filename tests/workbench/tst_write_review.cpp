@@ -140,9 +140,15 @@ private Q_SLOTS:
         // The next try of the last one may come in another language.
         bench.session().link().send(vlk::Message::CloseWindows);
         bench.window.setLanguage("ru");
-        const auto changes = bench.session().comparer().compareWritten(
-            bench.session().backups().document(2), bench.session().tracker().readConfiguration().document);
+        const workbench::FileComparer& comparer = bench.session().comparer();
+        const QByteArray before = bench.session().backups().document(2);
+        const QByteArray after = bench.session().tracker().readConfiguration().document;
+        const auto changes = comparer.compareWritten(before, after);
+        const auto plain = comparer.compare(before, after);
+        bench.window.setLanguage("en"); // the plug-in stays in the process
         QVERIFY(changes && changes->last().note.startsWith("В файле этого не было"));
+        // What is looked at in the history is nobody's edit.
+        QVERIFY(plain && plain->last().note.isEmpty());
     }
 
     // However long the values are, and however narrow the window.

@@ -131,7 +131,9 @@ QByteArray FileComparer::bring(const QByteArray& document, const QByteArray& oth
 std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const
 {
     auto changes = compareWritten(before, after);
-    for (SettingChange& change : changes ? *changes : SettingChanges()) {
+    if (!changes)
+        return {};
+    for (SettingChange& change : *changes) {
         change.cause = SettingChange::Cause::Unknown;
         change.note.clear();
     }
