@@ -36,6 +36,8 @@ public:
     void endFile();
     // The tracker holds other values of these settings than before, which can be taken over.
     void tellReplaced(std::vector<int> keys);
+    // Whether nothing of that stands as it did when it was told, and the user has not declined it.
+    bool hasTakenOver() const { return !replaced_.empty() && replaced().empty(); }
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
     void tellKeptAgain();
@@ -68,7 +70,7 @@ private:
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
     void tellSensors(int number, std::vector<Sentence> sentences);
-    // Settings that the tracker was brought back to and that stand otherwise in the window.
+    // Settings that the tracker was brought back to and that stand in the window as they did then.
     std::vector<int> replaced() const;
     Notice noticeOfReplaced();
     void refresh();
@@ -82,7 +84,8 @@ private:
     ConfigurationReview& review_;
     QStringList damaged_;            // what is left of changes that cannot be offered; the last one is told
     std::map<int, QString> sensors_; // that a notice told last
-    std::vector<int> replaced_;      // by the tracker, and not taken over
+    std::vector<int> replaced_;      // by the tracker
+    review::FileState unreplaced_;   // the window when it was told
     std::size_t toldReplaced_ = 0;   // how many of them
     std::vector<Offer> offers_;      // a notice has the number of its place, from 1 on
 };

@@ -303,6 +303,8 @@ void VLK_Widget_Config::write(const QString& path)
     file.close();
     vlk::TextEntry::settleIn(this);
     history_.keepState();
+    history_.settle();
+    handedOver_ = vlk::handedOver(review_, content);
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())
@@ -318,6 +320,11 @@ void VLK_Widget_Config::trackerHolds(const QByteArray& content)
         page->binder().finishTyping();
     history_.settle();
     unsaved_->tellReplaced(review_.setReplaced(content));
+}
+
+bool VLK_Widget_Config::hasTakenOver() const
+{
+    return unsaved_->hasTakenOver();
 }
 
 void VLK_Widget_Config::fileSaved(const QString& path)
