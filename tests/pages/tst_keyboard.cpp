@@ -85,11 +85,12 @@ std::vector<Typed> codesForCell()
 std::vector<Typed> textsFor(const vlk::Text& setting)
 {
     if (setting.mask)
-        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
+        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {QString::fromUtf8("٣0"), "0:::::"}};
     const QString pattern = QString::fromLatin1(setting.pattern ? setting.pattern : "");
     if (pattern.contains("\\d"))
         return {{"12345", "12345"}};
-    return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&\"2\""), QString::fromUtf8("Гр&\"2\"").left(6)}};
+    return {{QString::fromUtf8("aB☃1.x中😀"), "aB1.x"},
+            {QString::fromUtf8("Гр&\"2\""), QString::fromUtf8("Гр&\"2\"").left(6)}};
 }
 
 // What is typed into a setting of any kind, and the widgets that take it; nothing where a person chooses.

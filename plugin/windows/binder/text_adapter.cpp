@@ -1,11 +1,11 @@
 #include "windows/binder/text_adapter.h"
 
 #include "typing/text_entry.h"
+#include "windows/carried_text.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QRegularExpressionValidator>
 
 #include <map>
 #include <string_view>
@@ -31,9 +31,10 @@ TextAdapter::TextAdapter(const Text& text, const Joint& joint, QLineEdit* edit)
 {
     if (text_.maxLength > 0)
         edit->setMaxLength(text_.maxLength);
+    auto* carried = new CarriedText(edit);
     if (text_.pattern)
-        edit->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QLatin1String(text_.pattern)), edit));
+        carried->setRegularExpression(QRegularExpression(QLatin1String(text_.pattern)));
+    edit->setValidator(carried);
     if (text_.mask)
         edit->setInputMask(QLatin1String(text_.mask));
     TextEntry::join(edit);
