@@ -97,6 +97,7 @@ public:
     bool isQuick() const { return open_.isQuick(); }
     Configuration written() const { return open_.written(); }
     QByteArray document() const { return open_.document(); }
+    QByteArray rewritten(const QByteArray& document) const { return open_.rewritten(document); }
     QMap<QString, QString> quickValues() const { return open_.quickValues(); }
     PageSettings* pageOf(int table) const { return open_.pageOf(table); }
     const Values* valuesOf(int table) const { return open_.valuesOf(table); }

@@ -233,7 +233,19 @@ void EditKeeper::switched()
     const bool isQuick = review_.isQuick();
     // shown_ is what was kept last, before the change.
     for (Beginning* state : {&beginning_, &inFile_, &opened_})
-        (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
+        (*state)[isQuick] = inOtherWindow((*state)[!isQuick]);
+}
+
+// What this window makes of a document of the other one, from which shown_ was edited, is no edit. Its pages
+// may do more than their tables say, as for a tracker that lacks something.
+QByteArray EditKeeper::inOtherWindow(const QByteArray& document) const
+{
+    const QByteArray now = review_.document();
+    if (document.isEmpty() || document == shown_)
+        return document.isEmpty() ? document : now;
+    const QByteArray unedited = review_.rewritten(document);
+    const QByteArray edited = review_.rewritten(shown_);
+    return edited == now ? unedited : review_.rewritten(review::withEdits(unedited, {{}, {}, edited, now}));
 }
 
 void EditKeeper::saved(const QString& path)

@@ -81,6 +81,7 @@ private:
     void beginWith(const QByteArray& document);
     // The tracker has that.
     void beginOpened(const QByteArray& document);
+    QByteArray inOtherWindow(const QByteArray& document) const;
     void setFailure(const QString& reason);
     // What the disk refused goes with the window. False when nothing does.
     bool tellLost() const;

@@ -282,12 +282,23 @@ private Q_SLOTS:
         window->close();
         QCOMPARE(files().size(), 0);
         open("file");
-        edit();
-        toQuick();
-        press("pushButton_Light_ConfigFull");
-        window->close();
-        open("file");
-        QVERIFY(!offer().isEmpty());
+        const auto differences = [this] {
+            return child<QToolButton>("toolButton_Differences")->text().toInt();
+        };
+        const int count = differences(); // this tracker knows no Bluetooth
+        for (const bool isBackInFull : {true, false}) {
+            edit();
+            toQuick();
+            if (isBackInFull)
+                press("pushButton_Light_ConfigFull");
+            window->close();
+            open("file");
+            QCOMPARE(offer(), QString("rev_345: 2"));
+            press("label_Unsaved_Action2");
+            // With nothing that the other window makes of what nobody edited.
+            QCOMPARE(differences(), count + 2);
+            press("toolButton_Undo");
+        }
     }
 
     // Lists begin anew with it; behind the closed window that is nobody's edit.
