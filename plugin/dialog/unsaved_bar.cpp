@@ -110,12 +110,16 @@ int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
         std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
-// It was brought back and has not been taken back since, whatever else became of its keys.
-bool UnsavedBar::isBroughtBack(const Offer& offer) const
+// Once it was brought back it is over, whatever else becomes of its keys; but where that was taken back it
+// waits until all of it stands there again.
+void UnsavedBar::follow(Offer& offer) const
 {
     const review::FileState& now = review_.differences().after();
-    return offer.replaced &&
-           !std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); });
+    if (changes(offer, offer.keys) == 0)
+        offer.isTakenBack = false;
+    else if (offer.replaced &&
+             std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); }))
+        offer.isTakenBack = true;
 }
 
 // An offer whose changes are there is over, and comes again when they are taken back.
@@ -123,7 +127,8 @@ void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
-        const bool isOver = offer.isClosed || isBroughtBack(offer) || changes(offer, offer.keys) == 0;
+        follow(offer);
+        const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
         const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
         if (count == offer.told)
             continue;
@@ -228,6 +233,7 @@ void UnsavedBar::bringBack(int number)
 {
     Offer& offer = offers_[number - 1];
     offer.replaced = review_.differences().after();
+    offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
     endComparison();
 }
@@ -248,7 +254,7 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || isBroughtBack(offer) || changes(offer, offer.keys) == 0)
+        if (offer.isDiscarded || offer.isBroughtBack() || changes(offer, offer.keys) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -57,13 +57,16 @@ private:
         bool isDiscarded = false;
         bool isClosed = false;
         std::optional<review::FileState> replaced{}; // by bringing it back
+        bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
+
+        bool isBroughtBack() const { return replaced && !isTakenBack; }
     };
 
     bool isInNewer(const Offer& offer) const;
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
-    bool isBroughtBack(const Offer& offer) const;
+    void follow(Offer& offer) const;
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
