@@ -14,6 +14,8 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace vlk {
 
@@ -222,10 +224,16 @@ bool EditKeeper::tellKept() const
     if (kept_.isEmpty())
         return false;
     const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
-    if (!own.empty())
-        qCWarning(lcKept).noquote().nospace()
-            << own.size() << " changes are kept: " << nameOfSubject(subject_);
-    return !own.empty();
+    if (own.empty())
+        return false;
+    // With what was kept of it earlier and still waits.
+    std::set<int> keys(own.begin(), own.end());
+    for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
+        if (kept.path != path_)
+            std::ranges::copy(review::ownKeys(kept.unsaved), std::inserter(keys, keys.end()));
+    }
+    qCWarning(lcKept).noquote().nospace() << keys.size() << " changes are kept: " << nameOfSubject(subject_);
+    return true;
 }
 
 void EditKeeper::switched()

@@ -1,5 +1,6 @@
 #include "dialog/unsaved_bar.h"
 
+#include "review/setting_words.h"
 #include "typing/file_error.h"
 #include "xml/xml_document.h"
 
@@ -122,6 +123,21 @@ void UnsavedBar::follow(Offer& offer) const
         offer.isTakenBack = true;
 }
 
+// What has been edited since, in this window or by a newer offer, and would be lost: captions, or how many.
+QString UnsavedBar::replacedBy(const Offer& offer) const
+{
+    const review::Differences& edits = review_.edits();
+    QStringList names;
+    for (const int key : offer.own) {
+        if (!review_.isOwn(key) || offer.after.at(key) == edits.after().at(key))
+            continue;
+        const review::FileKey& place = review::FileKeys::all()[key];
+        names << placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
+    }
+    constexpr int most = 2;
+    return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
+}
+
 // An offer whose changes are there is over, and comes again when they are taken back.
 void UnsavedBar::refresh()
 {
@@ -130,9 +146,11 @@ void UnsavedBar::refresh()
         follow(offer);
         const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
         const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
-        if (count == offer.told)
+        const QString replaces = isOver ? QString() : replacedBy(offer);
+        if (count == offer.told && replaces == offer.replaces)
             continue;
         offer.told = count;
+        offer.replaces = replaces;
         if (count > 0)
             tellOffer(number);
         else
@@ -205,6 +223,8 @@ Notice UnsavedBar::noticeOf(int number)
     const review::Unsaved& unsaved = offer.kept.unsaved;
     QString text = QStringLiteral("%1: %2 (%3)")
                        .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    if (!offer.replaces.isEmpty())
+        text += QStringLiteral(". ") + words("rev_721").arg(offer.replaces);
     if (unsaved.inFile > 0 && QFile::exists(unsaved.file))
         text += QStringLiteral(". ") + words("rev_434").arg(QDir::toNativeSeparators(unsaved.file),
                                                             QLocale().toString(unsaved.inFile));

@@ -59,6 +59,7 @@ private:
         std::optional<review::FileState> replaced{}; // by bringing it back
         bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
+        QString replaces{};                          // and which of those that were edited later
 
         bool isBroughtBack() const { return replaced && !isTakenBack; }
     };
@@ -67,6 +68,7 @@ private:
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     void follow(Offer& offer) const;
+    QString replacedBy(const Offer& offer) const;
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;

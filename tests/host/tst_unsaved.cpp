@@ -281,6 +281,24 @@ private Q_SLOTS:
         QCOMPARE(offer(), QString("rev_345: 3"));
     }
 
+    // The host counts both; the older one says what it would replace.
+    void olderAndNewer()
+    {
+        edit();
+        open("file");
+        press("label_Unsaved_Close");
+        type(child<QWidget>("page_Full")->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"), "<All>77<Tab>");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^2 changes are kept: "));
+        window->close();
+        open("file");
+        for (const char* offered : {"rev_345: 1", "rev_345: 2"}) {
+            QCOMPARE(offer(), QString(offered));
+            QCOMPARE(child<QLabel>("label_Unsaved")->text().endsWith(". rev_721"), offered[9] == '2');
+            press("label_Unsaved_Action2");
+        }
+        QVERIFY(offer().isEmpty());
+    }
+
     // A change of windows alone is no edit.
     void switchedWindows()
     {
@@ -382,7 +400,7 @@ private Q_SLOTS:
         }
         port("<All>6004<Tab>");
         QTRY_COMPARE(offer(), QString("rev_502"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^1 changes are kept: factory.xml$"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^2 changes are kept: factory.xml$"));
         window->close();
     }
 
