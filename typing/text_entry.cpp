@@ -50,6 +50,7 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
             tell({});
         beginsAnew_ = false;
         shown_ = line_->text();
+        follow();
         mark();
         keepInMask();
     });
@@ -79,6 +80,31 @@ void TextEntry::doubt(std::function<QString(const QString&)> complaint)
 QString TextEntry::complaint() const
 {
     return complaint_ ? complaint_(line_->text()) : QString();
+}
+
+void TextEntry::forget()
+{
+    cutNews_.clear();
+    tell({});
+}
+
+// A text that was taken back and is set again is still not the one that was meant.
+void TextEntry::follow()
+{
+    if (line_->isModified())
+        cutNews_ = news_;
+    else if (!cutNews_.isEmpty() && line_->text() == cut_)
+        return remind();
+    if (!news_.isEmpty())
+        cut_ = line_->text();
+}
+
+void TextEntry::remind()
+{
+    tell(cutNews_);
+    isKeyOnly_ = false;
+    if (!line_->hasFocus())
+        markField(line_, MarkReason::Typing, Mark::Advice, news_);
 }
 
 void TextEntry::mark()
@@ -120,6 +146,8 @@ void TextEntry::rejected()
     isKeyOnly_ = (isKeyOnly_ || !isMarked_) && !isTooLong && !isPasted_;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
                    : QCoreApplication::translate("vlk", "typed_sign"));
+    cut_ = line_->text();
+    cutNews_ = news_;
     beginsAnew_ = false;
 }
 

@@ -75,7 +75,12 @@ void TextAdapter::show(const QString& value)
     if (edit_->text() != value)
         edit_->setText(value);
     else
-        TextEntry::join(edit_)->giveUp();
+        TextEntry::join(edit_)->forget();
+}
+
+void TextAdapter::forgetTyping()
+{
+    TextEntry::join(edit_)->forget();
 }
 
 // A line that is given its own text keeps what was typed into it before, which Ctrl+Z would bring back.
