@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 #include <QValidator>
 
 #include <algorithm>
@@ -36,7 +37,8 @@ void TextEntry::settleIn(const QWidget* window)
         entry->before_ = entry->line_->text();
 }
 
-TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line->text())
+TextEntry::TextEntry(QLineEdit* line)
+    : QObject(line), line_(line), before_(line->text()), shown_(line->text())
 {
     line->installEventFilter(this);
     connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
@@ -141,7 +143,8 @@ int TextEntry::room() const
 void TextEntry::rejected()
 {
     const int fit = room();
-    const int wanted = line_->text().size() - line_->selectedText().size() + std::max(1, typed_.size());
+    // The line may hold the refused text still.
+    const int wanted = shown_.size() - chosen_ + std::max(1, typed_.size());
     const bool isTooLong = line_->inputMask().isEmpty() && wanted > fit;
     isKeyOnly_ = (isKeyOnly_ || !isMarked_) && !isTooLong && !isPasted_;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
@@ -149,6 +152,41 @@ void TextEntry::rejected()
     cut_ = line_->text();
     cutNews_ = news_;
     beginsAnew_ = false;
+    // By the menu: a key has been through here before.
+    if (isPasted_)
+        QTimer::singleShot(0, this, [this] {
+            if (pastesTrimmed())
+                forget();
+        });
+}
+
+void TextEntry::comes(const QString& text, bool isPasted)
+{
+    beginsAnew_ = beginsAnew_ || isBlank();
+    isPasted_ = isPasted;
+    typed_ = isPasted ? QApplication::clipboard()->text() : text;
+    chosen_ = line_->selectedText().size();
+}
+
+bool TextEntry::takes(const QString& text) const
+{
+    QString whole = line_->text();
+    int place = line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();
+    whole.replace(place, line_->selectedText().size(), text);
+    const QValidator* validator = line_->validator();
+    return whole.size() <= line_->maxLength() &&
+           (!validator || validator->validate(whole, place) != QValidator::Invalid);
+}
+
+// Blanks and ends of lines that come along with a text from elsewhere are not meant.
+bool TextEntry::pastesTrimmed()
+{
+    const QString trimmed = typed_.trimmed();
+    if (line_->isReadOnly() || !line_->inputMask().isEmpty() || trimmed.isEmpty() || takes(typed_) ||
+        !takes(trimmed))
+        return false;
+    line_->insert(trimmed);
+    return true;
 }
 
 // The text that stands there is taken; but where a key was left out of it, it is not the one that was meant.
@@ -171,9 +209,9 @@ bool TextEntry::keyPressed(QKeyEvent* event)
 {
     if (isMnemonic(*event))
         return true;
-    beginsAnew_ = beginsAnew_ || isBlank();
-    isPasted_ = event->matches(QKeySequence::Paste);
-    typed_ = isPasted_ ? QApplication::clipboard()->text() : event->text();
+    comes(event->text(), event->matches(QKeySequence::Paste));
+    if (isPasted_ && pastesTrimmed())
+        return true;
     switch (event->key()) {
     case Qt::Key_Escape:
         // Where there is nothing to give up the key is the window's.
@@ -219,6 +257,9 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
             reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             leave();
+        break;
+    case QEvent::ContextMenu:
+        comes({}, true);
         break;
     case QEvent::ShortcutOverride:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -53,6 +53,10 @@ private:
     void remind();
     void keepInMask();
     bool isBlank() const;
+    // The next text that comes, by a key or the menu.
+    void comes(const QString& text, bool isPasted);
+    bool takes(const QString& text) const;
+    bool pastesTrimmed();
     // How many characters fit, as far as the line limits them.
     int room() const;
     void mark();
@@ -71,6 +75,7 @@ private:
     bool beginsAnew_ = false; // nothing was left out of what is typed next
     bool isPasted_ = false;   // by the key being pressed
     QString typed_;           // that comes with it
+    int chosen_ = 0;          // signs that it takes the place of
     std::function<QString(const QString&)> complaint_;
 };
 
