@@ -1817,6 +1817,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
     <message id="rev_720"><translation>Letters that a configuration cannot hold, left out</translation></message>
     <message id="rev_721"><translation>It would replace what was edited later: %1</translation></message>
+    <message id="rev_722"><translation>Save to file…</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>

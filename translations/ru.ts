@@ -1817,6 +1817,7 @@
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
     <message id="rev_720"><translation>Есть буквы, которых в конфигурации быть не может, пропущен</translation></message>
     <message id="rev_721"><translation>Заменит изменённое позже: %1</translation></message>
+    <message id="rev_722"><translation>Сохранить в файл…</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>

@@ -211,10 +211,18 @@ bool EditKeeper::tellLost() const
     if (failure_.isEmpty())
         return false;
     const QByteArray& before = kept_.isEmpty() ? beginning_[review_.isQuick()] : kept_;
-    const std::size_t count =
-        std::max<std::size_t>(review::ownKeys({subject_, {}, before, shown_}).size(), 1);
+    std::vector<int> lost = review::ownKeys({subject_, {}, before, shown_});
+    // What was brought back from an earlier time is kept there.
+    for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
+        const std::vector<int> all = review::editedKeys(kept.unsaved);
+        const std::vector<int> others = review::editedKeys({subject_, {}, kept.unsaved.after, shown_});
+        std::erase_if(lost, [&](int key) {
+            return std::ranges::find(all, key) != all.end() && std::ranges::find(others, key) == others.end();
+        });
+    }
     qCWarning(lcLost).noquote().nospace()
-        << count << " changes are lost: " << nameOfSubject(subject_) << ": " << failure_;
+        << std::max<std::size_t>(lost.size(), 1) << " changes are lost: " << nameOfSubject(subject_) << ": "
+        << failure_;
     return true;
 }
 

@@ -297,9 +297,18 @@ void UnsavedBar::tellFailure(const QString& reason)
     if (reason.isEmpty())
         end(kFailure);
     else
-        tell(kFailure, [reason] {
-            return Notice{Mark::Invalid, words("rev_145").arg(fileErrorText(reason)), {}};
+        tell(kFailure, [this, reason] {
+            const Notice::Action save{words("rev_722"), [this] { Q_EMIT saveWanted(); }};
+            return Notice{Mark::Invalid, words("rev_145").arg(fileErrorText(reason)), {save}};
         });
+}
+
+bool UnsavedBar::escape()
+{
+    if (!isOnShow(kFailure) || isAncestorOf(window()->focusWidget()) || review_.edited() == 0)
+        return false;
+    takeFocus();
+    return true;
 }
 
 void UnsavedBar::tellKeptAgain()

@@ -39,8 +39,12 @@ public:
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
     void tellKeptAgain();
+    // Whether Esc is the bar's, once: the window would go with what cannot be kept.
+    bool escape();
 
 Q_SIGNALS:
+    // What cannot be kept is to go to a file.
+    void saveWanted();
     // The review compares with an offer.
     void shown();
     // What the tracker was brought back to.
