@@ -155,6 +155,7 @@ private:
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
+    bool isChosenInFull(int key) const;
     std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
