@@ -294,6 +294,14 @@ void EditKeeper::beginAnew()
     keep();
 }
 
+void EditKeeper::beginFrom(const QByteArray& content)
+{
+    if (!savedTo_.isEmpty())
+        return; // where all of it is
+    beginOpened(review_.rewritten(content));
+    keep();
+}
+
 void EditKeeper::confirmed(const QByteArray& content)
 {
     const auto found =

@@ -321,7 +321,10 @@ void VLK_Widget_Config::trackerHolds(const QByteArray& content)
     for (vlk::PageSettings* page : history_.pages())
         page->binder().finishTyping();
     history_.settle();
-    unsaved_->tellReplaced(review_.setReplaced(content));
+    const std::vector<int> replaced = review_.setReplaced(content);
+    unsaved_->tellReplaced(replaced);
+    if (replaced.empty())
+        keeper_.beginFrom(content);
 }
 
 void VLK_Widget_Config::fileSaved(const QString& path)
