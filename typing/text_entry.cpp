@@ -255,8 +255,12 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusOut:
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
             leave();
+            // Of a text that is too long for the line its beginning says most.
+            if (line_->fontMetrics().horizontalAdvance(line_->displayText()) > line_->contentsRect().width())
+                line_->home(false);
+        }
         break;
     case QEvent::ContextMenu:
         comes({}, true);

@@ -348,6 +348,15 @@ private Q_SLOTS:
         QCOMPARE(line_->toolTip().left(mark.isEmpty() ? -1 : mark.size()), mark);
     }
 
+    void beginningOfALongText()
+    {
+        line_->setFixedWidth(60);
+        type(line_, QString(40, 'W'));
+        QCOMPARE(line_->cursorPosition(), 40);
+        type(line_, "<Tab>");
+        QCOMPARE(line_->cursorPosition(), 0);
+    }
+
     // What was left out counts until the line is entered again and edited.
     void refusedOnAnEarlierVisit()
     {
