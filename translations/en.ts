@@ -1815,6 +1815,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
     <message id="rev_434"><translation>%2 more: in %1</translation></message>
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
+    <message id="rev_720"><translation>Letters that a configuration cannot hold, left out</translation></message>
+    <message id="rev_721"><translation>It would replace what was edited later: %1</translation></message>
+    <message id="rev_722"><translation>Save to file…</translation></message>
     <message id="rev_700"><translation>Quick setup removes it</translation></message>
     <message id="rev_701"><translation>Quick setup sets it anew</translation></message>
     <message id="rev_702"><translation>Changes along with another setting</translation></message>

@@ -1815,6 +1815,9 @@
     <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
+    <message id="rev_720"><translation>Есть буквы, которых в конфигурации быть не может, пропущен</translation></message>
+    <message id="rev_721"><translation>Заменит изменённое позже: %1</translation></message>
+    <message id="rev_722"><translation>Сохранить в файл…</translation></message>
     <message id="rev_700"><translation>Удаляет быстрая настройка</translation></message>
     <message id="rev_701"><translation>Задаёт заново быстрая настройка</translation></message>
     <message id="rev_702"><translation>Меняется вместе с другим параметром</translation></message>

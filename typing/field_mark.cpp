@@ -2,8 +2,11 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QStringList>
@@ -118,6 +121,18 @@ protected:
     {
         QPainter painter(this);
         paintMark(painter, worst(), palette());
+    }
+    // Its menu is that of the field; what is around it has one of its own.
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        event->setAccepted(event->button() == Qt::RightButton);
+    }
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        QContextMenuEvent ofField(event->reason(), field_->rect().center(), event->globalPos(),
+                                  event->modifiers());
+        QCoreApplication::sendEvent(field_, &ofField);
+        event->setAccepted(ofField.isAccepted());
     }
 
 private:

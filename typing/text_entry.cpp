@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTimer>
 #include <QValidator>
 
 #include <algorithm>
@@ -36,7 +37,8 @@ void TextEntry::settleIn(const QWidget* window)
         entry->before_ = entry->line_->text();
 }
 
-TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line->text())
+TextEntry::TextEntry(QLineEdit* line)
+    : QObject(line), line_(line), before_(line->text()), shown_(line->text())
 {
     line->installEventFilter(this);
     connect(line, &QLineEdit::inputRejected, this, &TextEntry::rejected);
@@ -50,6 +52,7 @@ TextEntry::TextEntry(QLineEdit* line) : QObject(line), line_(line), before_(line
             tell({});
         beginsAnew_ = false;
         shown_ = line_->text();
+        follow();
         mark();
         keepInMask();
     });
@@ -79,6 +82,31 @@ void TextEntry::doubt(std::function<QString(const QString&)> complaint)
 QString TextEntry::complaint() const
 {
     return complaint_ ? complaint_(line_->text()) : QString();
+}
+
+void TextEntry::forget()
+{
+    cutNews_.clear();
+    tell({});
+}
+
+// A text that was taken back and is set again is still not the one that was meant.
+void TextEntry::follow()
+{
+    if (line_->isModified())
+        cutNews_ = news_;
+    else if (!cutNews_.isEmpty() && line_->text() == cut_)
+        return remind();
+    if (!news_.isEmpty())
+        cut_ = line_->text();
+}
+
+void TextEntry::remind()
+{
+    tell(cutNews_);
+    isKeyOnly_ = false;
+    if (!line_->hasFocus())
+        markField(line_, MarkReason::Typing, Mark::Advice, news_);
 }
 
 void TextEntry::mark()
@@ -115,12 +143,50 @@ int TextEntry::room() const
 void TextEntry::rejected()
 {
     const int fit = room();
-    const int wanted = line_->text().size() - line_->selectedText().size() + std::max(1, typed_.size());
+    // The line may hold the refused text still.
+    const int wanted = shown_.size() - chosen_ + std::max(1, typed_.size());
     const bool isTooLong = line_->inputMask().isEmpty() && wanted > fit;
     isKeyOnly_ = (isKeyOnly_ || !isMarked_) && !isTooLong && !isPasted_;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
                    : QCoreApplication::translate("vlk", "typed_sign"));
+    cut_ = line_->text();
+    cutNews_ = news_;
     beginsAnew_ = false;
+    // By the menu: a key has been through here before.
+    if (isPasted_)
+        QTimer::singleShot(0, this, [this] {
+            if (pastesTrimmed())
+                forget();
+        });
+}
+
+void TextEntry::comes(const QString& text, bool isPasted)
+{
+    beginsAnew_ = beginsAnew_ || isBlank();
+    isPasted_ = isPasted;
+    typed_ = isPasted ? QApplication::clipboard()->text() : text;
+    chosen_ = line_->selectedText().size();
+}
+
+bool TextEntry::takes(const QString& text) const
+{
+    QString whole = line_->text();
+    int place = line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();
+    whole.replace(place, line_->selectedText().size(), text);
+    const QValidator* validator = line_->validator();
+    return whole.size() <= line_->maxLength() &&
+           (!validator || validator->validate(whole, place) != QValidator::Invalid);
+}
+
+// Blanks and ends of lines that come along with a text from elsewhere are not meant.
+bool TextEntry::pastesTrimmed()
+{
+    const QString trimmed = typed_.trimmed();
+    if (line_->isReadOnly() || !line_->inputMask().isEmpty() || trimmed.isEmpty() || takes(typed_) ||
+        !takes(trimmed))
+        return false;
+    line_->insert(trimmed);
+    return true;
 }
 
 // The text that stands there is taken; but where a key was left out of it, it is not the one that was meant.
@@ -143,9 +209,9 @@ bool TextEntry::keyPressed(QKeyEvent* event)
 {
     if (isMnemonic(*event))
         return true;
-    beginsAnew_ = beginsAnew_ || isBlank();
-    isPasted_ = event->matches(QKeySequence::Paste);
-    typed_ = isPasted_ ? QApplication::clipboard()->text() : event->text();
+    comes(event->text(), event->matches(QKeySequence::Paste));
+    if (isPasted_ && pastesTrimmed())
+        return true;
     switch (event->key()) {
     case Qt::Key_Escape:
         // Where there is nothing to give up the key is the window's.
@@ -189,8 +255,15 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusOut:
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
             leave();
+            // Of a text that is too long for the line its beginning says most.
+            if (line_->fontMetrics().horizontalAdvance(line_->displayText()) > line_->contentsRect().width())
+                line_->home(false);
+        }
+        break;
+    case QEvent::ContextMenu:
+        comes({}, true);
         break;
     case QEvent::ShortcutOverride:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

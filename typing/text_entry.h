@@ -34,6 +34,8 @@ public:
     QString news() const { return news_; }
     // Takes that mark away: the text is to be shown as it is.
     void giveUp() { tell({}); }
+    // The same; it does not come again either, with the text beside which it was told, when that is set.
+    void forget();
 
     // What is doubtful about the text that stands there; empty if nothing is.
     QString complaint() const;
@@ -47,8 +49,14 @@ private:
     bool leavesToWindow(QKeyEvent* event) const;
     void rejected();
     void leave();
+    void follow();
+    void remind();
     void keepInMask();
     bool isBlank() const;
+    // The next text that comes, by a key or the menu.
+    void comes(const QString& text, bool isPasted);
+    bool takes(const QString& text) const;
+    bool pastesTrimmed();
     // How many characters fit, as far as the line limits them.
     int room() const;
     void mark();
@@ -58,6 +66,8 @@ private:
     QString before_;
     QString shown_; // the text before a change
     QString news_;
+    QString cut_; // the text that was told of last, and what was
+    QString cutNews_;
     bool isMarked_ = false;   // for what was typed
     bool isKeyOnly_ = false;  // for no more than keys that did not fit
     bool wasTyped_ = false;   // on this visit, or on the one that the mark is of
@@ -65,6 +75,7 @@ private:
     bool beginsAnew_ = false; // nothing was left out of what is typed next
     bool isPasted_ = false;   // by the key being pressed
     QString typed_;           // that comes with it
+    int chosen_ = 0;          // signs that it takes the place of
     std::function<QString(const QString&)> complaint_;
 };
 

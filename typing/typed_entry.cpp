@@ -35,6 +35,7 @@ QString TypedEntry::typed() const
 void TypedEntry::typedOn()
 {
     setTyping(true);
+    told_.reset();
     news_.clear();
     mark(Mark::Invalid, complaint(typed()));
 }
@@ -62,6 +63,8 @@ void TypedEntry::finish()
     const std::optional<News> news = take(typed());
     restore();
     taking_ = false;
+    taken_ = line_->text();
+    told_ = news;
     news_ = news ? news->text : QString();
     mark(news ? news->mark : Mark::Advice, news_);
 }
@@ -73,6 +76,20 @@ void TypedEntry::giveUp()
     setTyping(false);
     news_.clear();
     mark(Mark::Advice, {});
+}
+
+void TypedEntry::forget()
+{
+    told_.reset();
+    giveUp();
+}
+
+void TypedEntry::retell()
+{
+    if (!told_ || line_->text() != taken_)
+        return;
+    news_ = told_->text;
+    mark(told_->mark, news_);
 }
 
 QString TypedEntry::takeNews()
@@ -104,9 +121,10 @@ bool TypedEntry::ends(QEvent* event)
     case QEvent::Wheel:
         if (box_->hasFocus())
             finish();
+        told_.reset();
         return false;
     case QEvent::LocaleChange:
-        giveUp();
+        forget();
         restore();
         return false;
     default:
@@ -157,11 +175,14 @@ bool TypedEntry::eventFilter(QObject* watched, QEvent* event)
         return true;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
+        finish();
+        return false;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         finish();
+        told_.reset();
         return false;
     default:
         return !box_->isReadOnly() && keyPressed(key);

@@ -37,6 +37,10 @@ public:
     void finish();
     // Shows the value of the box, whatever was typed, and takes the mark away.
     void giveUp();
+    // The same; and retell() finds nothing.
+    void forget();
+    // Marks the box again where a value is set again beside which something else was typed.
+    void retell();
     // What was typed last and not taken as it was, as the box is marked for it; empty if it was.
     QString news() const { return news_; }
     // The same, once.
@@ -82,6 +86,8 @@ private:
     bool taking_ = false;
     bool isMarked_ = false;
     QString news_;
+    QString taken_; // what stood there when news were told last
+    std::optional<News> told_;
 };
 
 } // namespace vlk

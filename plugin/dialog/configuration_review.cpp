@@ -315,19 +315,24 @@ QStringList ConfigurationReview::takenForUsed() const
     return captions;
 }
 
+bool ConfigurationReview::isChosenInFull(int key) const
+{
+    const review::FileKey& place = FileKeys::all()[key];
+    const Values& full = present_.tables()[place.table];
+    const int row = place.rows.front();
+    return full.isWritten(row) && full.value(row) != full.row(row).loadDefault();
+}
+
 std::vector<int> ConfigurationReview::leftOutKeys() const
 {
     std::vector<int> keys;
     for (const int key : isQuick() ? deciders() : std::vector<int>()) {
         const review::FileKey& place = FileKeys::all()[key];
-        const Values& full = present_.tables()[place.table];
-        const int row = place.rows.front();
         const review::Held& after = edited_.after().at(key);
-        const bool isKept = after.isThere && after.meaning == full.value(row);
-        if (!full.isWritten(row) || full.value(row) == full.row(row).loadDefault() || isKept ||
-            !isUnedited(key))
-            continue;
-        keys.push_back(key);
+        const bool isKept =
+            after.isThere && after.meaning == present_.tables()[place.table].value(place.rows.front());
+        if (isChosenInFull(key) && !isKept && isUnedited(key))
+            keys.push_back(key);
     }
     return keys;
 }
@@ -445,8 +450,8 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     const bool isOther = isQuick != wasQuick_;
     const bool isWhole = isQuick || isOther || pages.size() == static_cast<int>(history_.pages().size());
     wasQuick_ = isQuick;
-    if (!isQuick)
-        gone_.clear(); // chosen again, they would go again
+    if (!isQuick) // chosen again, they would go again
+        std::erase_if(gone_, [this](int key) { return isChosenInFull(key); });
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame(), state);

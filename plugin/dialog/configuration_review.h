@@ -104,6 +104,7 @@ public:
     bool isQuick() const { return open_.isQuick(); }
     Configuration written() const { return open_.written(); }
     QByteArray document() const { return open_.document(); }
+    QByteArray rewritten(const QByteArray& document) const { return open_.rewritten(document); }
     QMap<QString, QString> quickValues() const { return open_.quickValues(); }
     PageSettings* pageOf(int table) const { return open_.pageOf(table); }
     const Values* valuesOf(int table) const { return open_.valuesOf(table); }
@@ -161,6 +162,7 @@ private:
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
+    bool isChosenInFull(int key) const;
     std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);

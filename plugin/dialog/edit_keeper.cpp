@@ -14,6 +14,8 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace vlk {
 
@@ -209,10 +211,18 @@ bool EditKeeper::tellLost() const
     if (failure_.isEmpty())
         return false;
     const QByteArray& before = kept_.isEmpty() ? beginning_[review_.isQuick()] : kept_;
-    const std::size_t count =
-        std::max<std::size_t>(review::ownKeys({subject_, {}, before, shown_}).size(), 1);
+    std::vector<int> lost = review::ownKeys({subject_, {}, before, shown_});
+    // What was brought back from an earlier time is kept there.
+    for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
+        const std::vector<int> all = review::editedKeys(kept.unsaved);
+        const std::vector<int> others = review::editedKeys({subject_, {}, kept.unsaved.after, shown_});
+        std::erase_if(lost, [&](int key) {
+            return std::ranges::find(all, key) != all.end() && std::ranges::find(others, key) == others.end();
+        });
+    }
     qCWarning(lcLost).noquote().nospace()
-        << count << " changes are lost: " << nameOfSubject(subject_) << ": " << failure_;
+        << std::max<std::size_t>(lost.size(), 1) << " changes are lost: " << nameOfSubject(subject_) << ": "
+        << failure_;
     return true;
 }
 
@@ -222,10 +232,16 @@ bool EditKeeper::tellKept() const
     if (kept_.isEmpty())
         return false;
     const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
-    if (!own.empty())
-        qCWarning(lcKept).noquote().nospace()
-            << own.size() << " changes are kept: " << nameOfSubject(subject_);
-    return !own.empty();
+    if (own.empty())
+        return false;
+    // With what was kept of it earlier and still waits.
+    std::set<int> keys(own.begin(), own.end());
+    for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
+        if (kept.path != path_)
+            std::ranges::copy(review::ownKeys(kept.unsaved), std::inserter(keys, keys.end()));
+    }
+    qCWarning(lcKept).noquote().nospace() << keys.size() << " changes are kept: " << nameOfSubject(subject_);
+    return true;
 }
 
 void EditKeeper::switched()
@@ -233,7 +249,19 @@ void EditKeeper::switched()
     const bool isQuick = review_.isQuick();
     // shown_ is what was kept last, before the change.
     for (Beginning* state : {&beginning_, &inFile_, &opened_})
-        (*state)[isQuick] = (*state)[!isQuick] == shown_ ? review_.document() : (*state)[!isQuick];
+        (*state)[isQuick] = inOtherWindow((*state)[!isQuick]);
+}
+
+// What this window makes of a document of the other one, from which shown_ was edited, is no edit. Its pages
+// may do more than their tables say, as for a tracker that lacks something.
+QByteArray EditKeeper::inOtherWindow(const QByteArray& document) const
+{
+    const QByteArray now = review_.document();
+    if (document.isEmpty() || document == shown_)
+        return document.isEmpty() ? document : now;
+    const QByteArray unedited = review_.rewritten(document);
+    const QByteArray edited = review_.rewritten(shown_);
+    return edited == now ? unedited : review_.rewritten(review::withEdits(unedited, {{}, {}, edited, now}));
 }
 
 void EditKeeper::saved(const QString& path)
@@ -263,6 +291,14 @@ void EditKeeper::handedOver(const QByteArray& content)
 void EditKeeper::beginAnew()
 {
     beginWith(review_.document());
+    keep();
+}
+
+void EditKeeper::beginFrom(const QByteArray& content)
+{
+    if (!savedTo_.isEmpty())
+        return; // where all of it is
+    beginOpened(review_.rewritten(content));
     keep();
 }
 

@@ -48,6 +48,8 @@ public:
     void handedOver(const QByteArray& content);
     // What there is now is no edit: it has come from the tracker.
     void beginAnew();
+    // The tracker has taken so much of what was edited.
+    void beginFrom(const QByteArray& content);
     // The tracker has that, or what was handed over last, or nobody will say whether it has.
     void confirmed(const QByteArray& content);
 
@@ -81,6 +83,7 @@ private:
     void beginWith(const QByteArray& document);
     // The tracker has that.
     void beginOpened(const QByteArray& document);
+    QByteArray inOtherWindow(const QByteArray& document) const;
     void setFailure(const QString& reason);
     // What the disk refused goes with the window. False when nothing does.
     bool tellLost() const;

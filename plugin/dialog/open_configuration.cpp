@@ -4,6 +4,7 @@
 #include "review/file_keys.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "xml/xml_document.h"
 
 #include <algorithm>
@@ -58,6 +59,22 @@ QByteArray OpenConfiguration::document() const
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     write(*document.root());
     return document.text();
+}
+
+QByteArray OpenConfiguration::rewritten(const QByteArray& document) const
+{
+    XmlDocument read(document, QStringLiteral("DEVICE"));
+    XmlDocument written(QString(), QStringLiteral("DEVICE"));
+    Configuration all(allSettings());
+    all.read(*read.root());
+    all.write(*written.root());
+    if (isQuick()) {
+        Values quick(kQuickSettings);
+        readFrom(*read.root(), quick);
+        writeTo(*written.root(), quick);
+    }
+    written.root()->commit();
+    return written.text();
 }
 
 QMap<QString, QString> OpenConfiguration::quickValues() const

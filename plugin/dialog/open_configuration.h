@@ -40,6 +40,8 @@ public:
     Configuration written() const;
     // What a save would write of the settings now.
     QByteArray document() const;
+    // What the window on show would write had it been given this document.
+    QByteArray rewritten(const QByteArray& document) const;
 
     // `quick`: values of that window that stand whatever the configuration makes of them.
     void put(const Configuration& changed, const QMap<QString, QString>& quick,

@@ -1,5 +1,6 @@
 #include "dialog/unsaved_bar.h"
 
+#include "review/setting_words.h"
 #include "typing/file_error.h"
 #include "xml/xml_document.h"
 
@@ -112,12 +113,31 @@ int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
         std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
-// It was brought back and has not been taken back since, whatever else became of its keys.
-bool UnsavedBar::isBroughtBack(const Offer& offer) const
+// Once it was brought back it is over, whatever else becomes of its keys; but where that was taken back it
+// waits until all of it stands there again.
+void UnsavedBar::follow(Offer& offer) const
 {
     const review::FileState& now = review_.differences().after();
-    return offer.replaced &&
-           !std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); });
+    if (changes(offer, offer.keys) == 0)
+        offer.isTakenBack = false;
+    else if (offer.replaced &&
+             std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); }))
+        offer.isTakenBack = true;
+}
+
+// What has been edited since, in this window or by a newer offer, and would be lost: captions, or how many.
+QString UnsavedBar::replacedBy(const Offer& offer) const
+{
+    const review::Differences& edits = review_.edits();
+    QStringList names;
+    for (const int key : offer.own) {
+        if (!review_.isOwn(key) || offer.after.at(key) == edits.after().at(key))
+            continue;
+        const review::FileKey& place = review::FileKeys::all()[key];
+        names << placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
+    }
+    constexpr int most = 2;
+    return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
 }
 
 // An offer whose changes are there is over, and comes again when they are taken back.
@@ -125,11 +145,14 @@ void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
-        const bool isOver = offer.isClosed || isBroughtBack(offer) || changes(offer, offer.keys) == 0;
+        follow(offer);
+        const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
         const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
-        if (count == offer.told)
+        const QString replaces = isOver ? QString() : replacedBy(offer);
+        if (count == offer.told && replaces == offer.replaces)
             continue;
         offer.told = count;
+        offer.replaces = replaces;
         if (count > 0)
             tellOffer(number);
         else
@@ -210,6 +233,8 @@ Notice UnsavedBar::noticeOf(int number)
     const review::Unsaved& unsaved = offer.kept.unsaved;
     QString text = QStringLiteral("%1: %2 (%3)")
                        .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    if (!offer.replaces.isEmpty())
+        text += QStringLiteral(". ") + words("rev_721").arg(offer.replaces);
     if (unsaved.inFile > 0 && QFile::exists(unsaved.file))
         text += QStringLiteral(". ") + words("rev_434").arg(QDir::toNativeSeparators(unsaved.file),
                                                             QLocale().toString(unsaved.inFile));
@@ -238,6 +263,7 @@ void UnsavedBar::bringBack(int number)
 {
     Offer& offer = offers_[number - 1];
     offer.replaced = review_.differences().after();
+    offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
     endComparison();
 }
@@ -258,7 +284,7 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || isBroughtBack(offer) || changes(offer, offer.keys) == 0)
+        if (offer.isDiscarded || offer.isBroughtBack() || changes(offer, offer.keys) == 0)
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }
@@ -281,9 +307,18 @@ void UnsavedBar::tellFailure(const QString& reason)
     if (reason.isEmpty())
         end(kFailure);
     else
-        tell(kFailure, [reason] {
-            return Notice{Mark::Invalid, words("rev_145").arg(fileErrorText(reason)), {}};
+        tell(kFailure, [this, reason] {
+            const Notice::Action save{words("rev_722"), [this] { Q_EMIT saveWanted(); }};
+            return Notice{Mark::Invalid, words("rev_145").arg(fileErrorText(reason)), {save}};
         });
+}
+
+bool UnsavedBar::escape()
+{
+    if (!isOnShow(kFailure) || isAncestorOf(window()->focusWidget()) || review_.edited() == 0)
+        return false;
+    takeFocus();
+    return true;
 }
 
 void UnsavedBar::tellKeptAgain()

@@ -41,8 +41,12 @@ public:
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
     void tellKeptAgain();
+    // Whether Esc is the bar's, once: the window would go with what cannot be kept.
+    bool escape();
 
 Q_SIGNALS:
+    // What cannot be kept is to go to a file.
+    void saveWanted();
     // The review compares with an offer.
     void shown();
     // What the tracker was brought back to.
@@ -59,13 +63,18 @@ private:
         bool isDiscarded = false;
         bool isClosed = false;
         std::optional<review::FileState> replaced{}; // by bringing it back
+        bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
+        QString replaces{};                          // and which of those that were edited later
+
+        bool isBroughtBack() const { return replaced && !isTakenBack; }
     };
 
     bool isInNewer(const Offer& offer) const;
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
-    bool isBroughtBack(const Offer& offer) const;
+    void follow(Offer& offer) const;
+    QString replacedBy(const Offer& offer) const;
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;

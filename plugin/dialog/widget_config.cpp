@@ -171,6 +171,10 @@ void VLK_Widget_Config::addKeeper()
         if (review_.edited() == 0)
             keeper_.beginAnew();
     });
+    connect(unsaved_, &vlk::UnsavedBar::saveWanted, this, [this] {
+        const char* name = isQuick() ? "pushButton_Light_SaveToFile" : "pushButton_SaveToFile";
+        findChild<QPushButton*>(QLatin1String(name))->click();
+    });
     connect(unsaved_, &vlk::UnsavedBar::shown, this, [this] { area_->show(vlk::ReviewBar::Differences); });
 }
 
@@ -203,7 +207,7 @@ std::vector<QWidgetList> VLK_Widget_Config::areas() const
 
 void VLK_Widget_Config::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Escape || !area_->escape())
+    if (event->key() != Qt::Key_Escape || !(area_->escape() || unsaved_->escape()))
         QDialog::keyPressEvent(event);
 }
 
@@ -319,7 +323,10 @@ void VLK_Widget_Config::trackerHolds(const QByteArray& content)
     for (vlk::PageSettings* page : history_.pages())
         page->binder().finishTyping();
     history_.settle();
-    unsaved_->tellReplaced(review_.setReplaced(content));
+    const std::vector<int> replaced = review_.setReplaced(content);
+    unsaved_->tellReplaced(replaced);
+    if (replaced.empty())
+        keeper_.beginFrom(content);
 }
 
 bool VLK_Widget_Config::hasTakenOver() const

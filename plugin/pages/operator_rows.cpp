@@ -1,7 +1,10 @@
 #include "pages/operator_rows.h"
 
 #include "typing/field_mark.h"
+#include "typing/text_entry.h"
+#include "windows/carried_text.h"
 
+#include <QLineEdit>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 
@@ -35,6 +38,17 @@ class ListedDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override
+    {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+            line->setValidator(new CarriedText(line));
+            TextEntry::join(line);
+        }
+        return editor;
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override

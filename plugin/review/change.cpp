@@ -1,6 +1,7 @@
 #include "review/change.h"
 
 #include "base/number_text.h"
+#include "xml/xml_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -76,6 +77,8 @@ Change why(const Number& row, const Reading& reading, const QString& value)
 // A line with a mask takes its signs from the mask, and drops what has no place in it.
 Change why(const Text& row, const Reading& reading, const QString& value)
 {
+    if (reading.text.size() <= kSectionTextLimit && sectionText(reading.text) != reading.text)
+        return Change::NotCarried;
     if (!row.mask)
         return Change::TooLong;
     const auto filled = [](const QString& text) {

@@ -3,7 +3,6 @@
 #include "review/document_walk.h"
 #include "settings/all_settings.h"
 #include "xml/xml_section.h"
-#include "xml/xml_text.h"
 
 namespace vlk::review {
 
@@ -117,9 +116,7 @@ void FileState::takeText(int key, const QString& text, const Configuration& load
     if (held.row < 0)
         held.row = FileKeys::all()[key].rows.front();
     const Values& values = loaded.tables()[FileKeys::all()[key].table];
-    Taken taken = takenAs(values, held.row, text);
-    if (isWhole(taken.change) && sectionText(text) != text)
-        taken.change = Change::NotCarried;
+    const Taken taken = takenAs(values, held.row, text);
     held.isThere = true;
     held.text = text;
     held.isWhole = isWhole(taken.change);

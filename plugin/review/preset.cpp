@@ -7,7 +7,6 @@
 #include "review/value_text.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
-#include "xml/xml_text.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -47,6 +46,8 @@ const char* noteKey(const PresetProblem& problem)
         return "rev_189";
     case Change::TooLong:
         return "rev_190";
+    case Change::NotCarried:
+        return "rev_720";
     case Change::ByRule:
         return problem.cause < 0 ? "rev_286" : "rev_285";
     default:
@@ -67,7 +68,7 @@ Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
         else if (seen.contains(key))
             problems->push_back({What::Doubled, path, text});
         else
-            texts.emplace_back(key, sectionText(text));
+            texts.emplace_back(key, text);
         seen.insert(key);
     });
     return texts;

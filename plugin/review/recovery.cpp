@@ -37,7 +37,7 @@ QByteArray sumOf(const QByteArray& bytes)
 // Dialogs that choose a configuration show no such folder.
 QString keptFolder(const QString& folder)
 {
-    return folder + QStringLiteral("/.unsaved");
+    return QDir(folder).filePath(QStringLiteral(".unsaved"));
 }
 
 // What the names of all files of a configuration begin with.

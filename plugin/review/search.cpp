@@ -155,7 +155,8 @@ void Search::add(int table, int row, int part)
         }
         words[Caption] = folded(told.caption);
         words[Group] = folded(told.group);
-        words[Page] = folded(told.page);
+        words[Page] =
+            folded(told.page + QLatin1Char('\n') + otherNames(path.section(QLatin1Char('/'), 0, 0)));
         words[Choices] = folded(choiceTexts(setting));
         words[Names] = folded(otherNames(named));
     }

@@ -8,7 +8,7 @@ namespace vlk::review {
 struct SearchWords
 {
     // In the file, without all digits: of all lines, sensors and servers alike; of a part of a mask with the
-    // name of its widget behind it.
+    // name of its widget behind it. A section alone: of all its settings.
     const char* path;
     const char* text; // translation key of what it is called, by commas
 };
@@ -45,6 +45,7 @@ inline constexpr SearchWords kSearchWords[] = {
     {"SENSORS/IN/ign", "find_029"},
     {"OUTPUTS/LINE/mode", "find_030"},
     {"OUTPUTS/LINE/safeBlock", "find_030"},
+    {"BLUETOOTH", "find_031"},
     {"BLUETOOTH/GLOBAL/use", "find_031"},
     {"BLUETOOTH/SENS/type", "find_032"},
     {"BLUETOOTH/SENS/macaddr", "find_033"},

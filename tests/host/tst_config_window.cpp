@@ -425,6 +425,8 @@ private Q_SLOTS:
         const QStringList after = write();
         QVERIFY(after.contains(field[0]) && after.filter(": typed_range").isEmpty());
         QCOMPARE(after.filter(": typed_port"), port);
+        child<QToolButton>("toolButton_Redo")->click();
+        QCOMPARE(write().filter(": typed_range").size(), 1);
     }
 
     // Of a key alone no longer than the field has the keyboard, of all else no longer than the configuration
@@ -445,6 +447,15 @@ private Q_SLOTS:
                                              {"<Tab>", true}}) {
             type(pin, keys);
             QCOMPARE(pin->accessibleDescription().contains("typed_sign"), isMarked);
+        }
+        // Nor with a step of another field, and what a step takes away the next one brings again.
+        auto* name = full()->findChild<QLineEdit*>("lineEdit_Name");
+        type(name, "<All>" + QString(70, 'x') + "<Tab>");
+        QApplication::processEvents();
+        for (const char* step : {"toolButton_Undo", "toolButton_Redo", "toolButton_Undo"}) {
+            child<QToolButton>(step)->click();
+            QVERIFY(pin->accessibleDescription().contains("typed_sign"));
+            QCOMPARE(name->accessibleDescription().contains("typed_long"), step[11] == 'R');
         }
         host_.open(path);
         QVERIFY(pin->text().isEmpty() && !pin->accessibleDescription().contains("typed_sign"));

@@ -99,6 +99,24 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 0);
     }
 
+    // What the tracker has taken in part is edited no longer.
+    void takenInPart()
+    {
+        open("tracker");
+        vlk::WriteConfirmation told;
+        told.size = sizeof told;
+        host_.send(Message::ConfirmWrite, &told);
+        edit();
+        const QByteArray taken = written().replace("10.0.0.1", "telemetry.example.com");
+        told.step = vlk::WriteConfirmation::Held;
+        told.content = &taken;
+        host_.send(Message::ConfirmWrite, &told);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^1 changes are kept: "));
+        window->close();
+        open("tracker");
+        window->close();
+    }
+
     // A write that its run did not see the end of is tried again by the next run, which knows of it by what
     // the tracker has now alone.
     void confirmedInTheNextRun_data()

@@ -18,7 +18,7 @@ using vlk::Message;
 
 inline void useFolder(ScriptedHost& host, const QString& folder)
 {
-    const vlk::Paths paths{{}, folder, {}, {}};
+    const vlk::Paths paths{{}, folder + '/', {}, {}};
     host.send(Message::SetPaths, &paths);
 }
 

@@ -36,6 +36,7 @@ private Q_SLOTS:
         QVERIFY(history().undoText().startsWith("rev_166: "));
         QVERIFY(choose(port, "action_CopyKey") > 5);
         QCOMPARE(QApplication::clipboard()->text(), QString("TRANS/SRV1/port"));
+        QVERIFY(choose(mark, "action_CopyKey") > 5);
         auto* caption = captionOf(port);
         QCOMPARE(choose(caption, "action_BringBack"), 3);
         QCOMPARE(saved(), before);

@@ -326,6 +326,8 @@ private Q_SLOTS:
         QVERIFY(!told->isVisible() && dialog_->review().leftOut().isEmpty());
         dialog_->switchToFull();
         QVERIFY(!told->isVisible());
+        history().undo();
+        QVERIFY(dialog_->review().isQuick() && !told->isVisible());
     }
 
     // What is not chosen stays, in quick setup too.

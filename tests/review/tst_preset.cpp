@@ -78,6 +78,8 @@ private Q_SLOTS:
             .row("what a window would not take",
                  "<TRANS><SRV1 addr=\"a b\"/></TRANS><TRACK><POINTS useDist=\"7\"/></TRACK>", "",
                  "2 TRANS/SRV1/addr 2 TRACK/POINTS/useDist")
+            .row("signs that no file holds", "<TRANS><OBJECT name=\"Truck \u2603\"/></TRANS>", "",
+                 "2 TRANS/OBJECT/name")
             .row("a period of a day and one beyond its range",
                  "<TRANS><RULES blockTimer=\"86700\" cnctTimer=\"999999999\"/></TRANS>",
                  "TRANS/RULES/blockTimer=86700", "2 TRANS/RULES/cnctTimer")

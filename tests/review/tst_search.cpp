@@ -60,6 +60,9 @@ private Q_SLOTS:
             .row("SIM card in Russian", "сим карта", "TRANS/AP1/operator")
             .row("SIM card for short", "симка", "TRANS/AP1/operator")
             .row("Bluetooth in Russian", "блютуз", "BLUETOOTH/GLOBAL/use")
+            .row("sensors of Bluetooth for short", "ble топливо", "BLUETOOTH/SENS1/type")
+            .row("the same in English", "ble fuel", "BLUETOOTH/SENS1/type")
+            .row("the same by letters", "адрес блютуз", "BLUETOOTH/SENS1/macaddr")
             .row("fuel sensor for short", "дут", "RS485/OPTIONS/owner1")
             .row("an end of a range", "температура максимум", "TEMPSENS/SENS1/max")
             .row("speed limit", "speed limit", "TRACK/POINTS/maxSpeed")
@@ -101,7 +104,7 @@ private Q_SLOTS:
         for (const vlk::Values* values : tables()) {
             for (int row = 0; row < values->count(); ++row) {
                 const QString path = QString(values->row(row).filePath).remove(QRegularExpression("\\d"));
-                paths << path;
+                paths << path << path.section('/', 0, 0);
                 if (const auto* mask = values->setting(row).as<vlk::Mask>()) {
                     for (const vlk::MaskField& field : mask->fields)
                         paths << path + '/' + field.widget;

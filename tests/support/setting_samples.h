@@ -110,10 +110,10 @@ inline QStringList samplesOf(const vlk::Text&)
 inline std::vector<Typed> typedInto(const vlk::Text& text, const vlk::Limits&, QLatin1Char)
 {
     if (text.mask)
-        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
+        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"٣0", "0:::::"}};
     if (QString(text.pattern).contains("\\d"))
         return {{"12345", "12345"}};
-    return {{"aB1.x", "aB1.x"}, {"Гр&\"2\"", QString("Гр&\"2\"").left(6)}};
+    return {{"aB☃1.x中😀", "aB1.x"}, {"Гр&\"2\"", QString("Гр&\"2\"").left(6)}};
 }
 
 inline QString nameOf(const vlk::Choice&)

@@ -320,6 +320,43 @@ private Q_SLOTS:
         QVERIFY(!window_->isVisible());
     }
 
+    void pasted_data()
+    {
+        DataTable<QString, QString, QString>({"clipboard", "text", "mark"})
+            .row("blank inside", "12 34", "", "typed_sign")
+            .row("blank behind", "1234 ", "1234", "")
+            .row("lines around", "\r\n 1234\n", "1234", "")
+            .row("blank behind, and too long", "123456789 ", "", "typed_long 8");
+    }
+    void pasted()
+    {
+        QFETCH(QString, clipboard);
+        QFETCH(QString, mark);
+        line_->setValidator(new QRegularExpressionValidator(QRegularExpression("^\\d{0,8}$"), line_));
+        line_->clear();
+        QApplication::clipboard()->setText(clipboard);
+        type(line_, "<Paste><Tab>");
+        QTEST(line_->text(), "text");
+        QCOMPARE(line_->toolTip().left(mark.isEmpty() ? -1 : mark.size()), mark);
+        line_->clear();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, {});
+        QApplication::sendEvent(line_, &menu);
+        QApplication::activePopupWidget()->close();
+        line_->paste();
+        QApplication::processEvents();
+        QTEST(line_->text(), "text");
+        QCOMPARE(line_->toolTip().left(mark.isEmpty() ? -1 : mark.size()), mark);
+    }
+
+    void beginningOfALongText()
+    {
+        line_->setFixedWidth(60);
+        type(line_, QString(40, 'W'));
+        QCOMPARE(line_->cursorPosition(), 40);
+        type(line_, "<Tab>");
+        QCOMPARE(line_->cursorPosition(), 0);
+    }
+
     // What was left out counts until the line is entered again and edited.
     void refusedOnAnEarlierVisit()
     {

@@ -3,6 +3,7 @@
 #include "base/masked_text.h"
 #include "base/model_text.h"
 #include "base/translated.h"
+#include "xml/xml_text.h"
 
 namespace vlk {
 
@@ -16,9 +17,10 @@ QString fileText(const Text&, const DefaultText& text)
 
 QString normalised(const Text& row, const Reading& reading)
 {
+    const QString carried = sectionText(reading.text);
     if (row.mask)
-        return maskedText(QString::fromLatin1(row.mask), reading.text);
-    return row.maxLength > 0 ? reading.text.left(row.maxLength) : reading.text;
+        return maskedText(QString::fromLatin1(row.mask), carried);
+    return row.maxLength > 0 ? carried.left(row.maxLength) : carried;
 }
 
 } // namespace vlk

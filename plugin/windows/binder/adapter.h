@@ -55,6 +55,8 @@ public:
     virtual void show(const QString& value) = 0;
     // Other values come, which are not those that the user left: what was remembered of them goes.
     virtual void forget() {}
+    // What was typed beside a value does not come back with that either.
+    virtual void forgetTyping() {}
     // Takes what is being typed into the widgets.
     virtual void finishTyping() {}
     // What was typed last and not taken as it was, and what is doubtful about the value; empty texts where

@@ -183,7 +183,7 @@ void Binder::show()
 
 void Binder::showRow(int row)
 {
-    if (adapters_[row])
+    if (adapters_[row] && !std::ranges::binary_search(stay_, row))
         adapters_[row]->show(values_.value(row));
 }
 
@@ -330,9 +330,30 @@ void Binder::forget()
 {
     takeBackNews();
     for (const auto& adapter : adapters_) {
-        if (adapter)
+        if (adapter) {
+            adapter->forget();
+            adapter->forgetTyping();
+        }
+    }
+}
+
+void Binder::putBack(const std::vector<QString>& held)
+{
+    for (const auto& adapter : adapters_) {
+        const int row = adapter ? adapter->row() : -1;
+        const int holder = row < 0 ? row : values_.holder(row);
+        if (row < 0)
+            continue;
+        QStringList news = adapter->news();
+        news.removeAll(QString());
+        if (!news.isEmpty() && held[holder] == values_.held()[holder])
+            stay_.push_back(row);
+        else
             adapter->forget();
     }
+    values_.putBack(held);
+    show();
+    stay_.clear();
 }
 
 void Binder::selectFirstItems()

@@ -55,6 +55,9 @@ public:
     void takeBackNews();
     // Other values come: what the widgets remember of those before goes.
     void forget();
+    // Shows other values, row by row. What is told of how a value was typed stays as long as it does, and
+    // comes back with it.
+    void putBack(const std::vector<QString>& held);
     // Takes the first item of every combo box as an edit.
     void selectFirstItems();
 
@@ -111,6 +114,7 @@ private:
     RuledWidgets ruled_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
     std::map<int, QString> told_; // rows of which something was logged, with their names
+    std::vector<int> stay_;       // rows that are not shown anew
     int showing_ = 0;
 };
 

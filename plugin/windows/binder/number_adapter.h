@@ -19,6 +19,7 @@ public:
     QString held() const override;
     void doubt(const QString& complaint) override;
     void forget() override { remembered_ = 0; }
+    void forgetTyping() override { box_.forgetTyping(); }
     void finishTyping() override { box_.finishTyping(); }
     QStringList news() const override { return {box_.news(), complaint_}; }
 

@@ -59,6 +59,14 @@ void NumberBox::setValue(double value)
         whole_->setValue(static_cast<int>(value));
     else if (slider_)
         slider_->setValue(position(value));
+    if (entry_)
+        entry_->retell();
+}
+
+void NumberBox::forgetTyping()
+{
+    if (entry_)
+        entry_->forget();
 }
 
 void NumberBox::finishTyping()

@@ -32,6 +32,7 @@ public:
     void setValue(double value);
     // Takes what is being typed.
     void finishTyping();
+    void forgetTyping();
     // What was not taken as it was typed since this was asked the last time, empty if all was.
     QString news() const;
     void setRange(double least, double most);

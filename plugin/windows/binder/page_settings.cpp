@@ -75,8 +75,8 @@ void PageSettings::putBack(const std::vector<QString>& held)
 {
     if (held == values_.held())
         return;
-    values_.putBack(held);
-    showOthers();
+    binder_->putBack(held);
+    Q_EMIT shown();
 }
 
 void PageSettings::retranslate()

@@ -57,6 +57,12 @@ void PeriodAdapter::limitLast()
     boxes_.back().setRange(std::max(last.least, least), last.most);
 }
 
+void PeriodAdapter::forgetTyping()
+{
+    for (NumberBox& box : boxes_)
+        box.forgetTyping();
+}
+
 void PeriodAdapter::finishTyping()
 {
     for (NumberBox& box : boxes_)

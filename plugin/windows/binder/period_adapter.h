@@ -18,6 +18,7 @@ public:
     void dress() override;
     void show(const QString& value) override;
     QString held() const override;
+    void forgetTyping() override;
     void finishTyping() override;
     QStringList news() const override;
 

@@ -1,11 +1,11 @@
 #include "windows/binder/text_adapter.h"
 
 #include "typing/text_entry.h"
+#include "windows/carried_text.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QRegularExpressionValidator>
 
 #include <map>
 #include <string_view>
@@ -31,9 +31,10 @@ TextAdapter::TextAdapter(const Text& text, const Joint& joint, QLineEdit* edit)
 {
     if (text_.maxLength > 0)
         edit->setMaxLength(text_.maxLength);
+    auto* carried = new CarriedText(edit);
     if (text_.pattern)
-        edit->setValidator(
-            new QRegularExpressionValidator(QRegularExpression(QLatin1String(text_.pattern)), edit));
+        carried->setRegularExpression(QRegularExpression(QLatin1String(text_.pattern)));
+    edit->setValidator(carried);
     if (text_.mask)
         edit->setInputMask(QLatin1String(text_.mask));
     TextEntry::join(edit);
@@ -74,7 +75,12 @@ void TextAdapter::show(const QString& value)
     if (edit_->text() != value)
         edit_->setText(value);
     else
-        TextEntry::join(edit_)->giveUp();
+        TextEntry::join(edit_)->forget();
+}
+
+void TextAdapter::forgetTyping()
+{
+    TextEntry::join(edit_)->forget();
 }
 
 // A line that is given its own text keeps what was typed into it before, which Ctrl+Z would bring back.

@@ -16,6 +16,7 @@ public:
     void dress() override;
     void show(const QString& value) override;
     void forget() override;
+    void forgetTyping() override;
     QString held() const override;
     QStringList news() const override;
 
