@@ -160,7 +160,8 @@ void UnsavedBar::tellReplaced(std::vector<int> keys)
 Notice UnsavedBar::noticeOfReplaced()
 {
     const Notice::Action take{words("rev_761"), [this] {
-                                  review_.bringBack(replaced_, [] { return words("rev_762"); });
+                                  const std::vector<int> keys = std::exchange(replaced_, {});
+                                  review_.bringBack(keys, [] { return words("rev_762"); });
                                   Q_EMIT tookOver();
                               }};
     const Notice::Action show{words("rev_141"), [this] {

@@ -34,7 +34,8 @@ public:
     void tellFile(const std::function<Notice()>& notice);
     // What it told is of the other window.
     void endFile();
-    // The tracker holds other values of these settings than before, which can be taken over.
+    // The tracker holds other values of these settings than before, which can be taken over; none, once it
+    // has what the window holds.
     void tellReplaced(std::vector<int> keys);
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
