@@ -16,14 +16,15 @@ namespace vlk {
 
 namespace {
 
-// Numbers of notices that are no offers.
+// Numbers of notices that are no offers. Behind what the last press has led to, what a write would remove
+// comes before what can be brought back.
 constexpr int kFailure = 0;
-constexpr int kFile = -1;
-constexpr int kDamaged = -2;
-constexpr int kReplaced = -3;
+constexpr int kReplaced = -1;
+constexpr int kLeftOut = -2;
+constexpr int kFile = -3;
+constexpr int kDamaged = -4;
 // Behind the offers.
 constexpr int kTakenForUsed = std::numeric_limits<int>::max();
-constexpr int kLeftOut = kTakenForUsed - 1;
 
 QString words(const char* key)
 {
@@ -42,7 +43,7 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
-        if (number > kFailure && number < kLeftOut)
+        if (number > kFailure && number < kTakenForUsed)
             offers_[number - 1].isClosed = true;
         if (number == kReplaced)
             tellReplaced({});
