@@ -1815,6 +1815,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
     <message id="rev_434"><translation>%2 more: in %1</translation></message>
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
+    <message id="rev_740"><translation>%1 Left out.</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>

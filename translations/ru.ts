@@ -1815,6 +1815,7 @@
     <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
+    <message id="rev_740"><translation>%1 Пропущен.</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>

@@ -84,6 +84,10 @@ private Q_SLOTS:
                  "a.xml: TRANS/SRV1/port cannot be 65536; expected: a whole number, 1 to 65535\n", a)
             .row("no port beside an address", "set TRANS/SRV1/port=0 factory.xml", 2, "",
                  "factory.xml: TRANS/SRV1/port cannot be 0; expected: a whole number, 1 to 65535\n", a)
+            .row("an error by itself", "set TRANS/AP1/pin=12 a.xml", 2, "",
+                 "a.xml: TRANS/AP1/pin cannot be •••: The SIM card PIN has fewer than 4 digits. A wrong PIN "
+                 "blocks the SIM card.\n",
+                 a)
             .row("out of all ranges, and too exact",
                  "set TRACK/POINTS/maxSpeed=99999999999 TRACK/COORDFLT/maxHDOP=2.55 a.xml", 2, "",
                  "a.xml: TRACK/POINTS/maxSpeed: 99999999999 is out of range; expected: a whole number, 1 to "
