@@ -462,6 +462,7 @@ private Q_SLOTS:
                 qobject_cast<vlk::DifferenceModel*>(child<QTableView>("tableView_Differences")->model());
             for (int line = 0; line < model->rowCount(); ++line)
                 paths << model->at(line).path;
+            paths = paths.filter("/"); // without what was filled in on loading, behind a line for each page
             paths.sort();
             return paths;
         };
@@ -475,6 +476,13 @@ private Q_SLOTS:
         advice.sort();
         QCOMPARE(toldPaths({"check", bad}, "advice"), advice);
         QVERIFY(!advice.isEmpty());
+
+        open(factory, 0);
+        const QString quick = folder.filePath("quick.xml");
+        QVERIFY(dialog_->saveQuickToFile(quick));
+        open(quick);
+        QCOMPARE(toldPaths({"check", quick}, "finding"), shown());
+        QVERIFY(shown().contains("TRANS/SRV1/format"));
 
         open(good);
         QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, factory));
