@@ -1207,7 +1207,7 @@
     <message id="cli_081"><translation>предупреждение</translation></message>
     <message id="cli_082"><translation>подсказка</translation></message>
     <message id="cli_100"><translation>Замечания: что изменит или отбросит чтение и что противоречит само себе</translation></message>
-    <message id="cli_101"><translation>Отличия двух конфигураций словами</translation></message>
+    <message id="cli_101"><translation>Отличия двух конфигураций словами, файлы как они есть: ключ, которого в одном из них нет, тоже отличие</translation></message>
     <message id="cli_102"><translation>Парк рядом: параметры, в которых файлы расходятся</translation></message>
     <message id="cli_103"><translation>Значение одного параметра</translation></message>
     <message id="cli_104"><translation>Задаёт отдельные параметры; всё остальное в файле остаётся</translation></message>
@@ -1816,6 +1816,7 @@
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
     <message id="rev_740"><translation>%1 Пропущен.</translation></message>
+    <message id="rev_741"><translation>Сравнивается то, что даст запись. Параметров, которые и без правок отличаются от открытого: %1.</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>

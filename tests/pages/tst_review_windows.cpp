@@ -483,6 +483,10 @@ private Q_SLOTS:
         open(quick);
         QCOMPARE(toldPaths({"check", quick}, "finding"), shown());
         QVERIFY(shown().contains("TRANS/SRV1/format"));
+        // With another file it is compared as it would be saved, which the panel says.
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, bad));
+        QCOMPARE(child<QLabel>("label_UneditedSummary")->text(), QString("rev_741"));
+        QCOMPARE(toldPaths({"diff", bad, writeFile(folder.filePath("full.xml"), saved())}, {}), shown());
 
         open(good);
         QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, factory));
