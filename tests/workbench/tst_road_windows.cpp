@@ -506,6 +506,7 @@ private Q_SLOTS:
             QVERIFY(Bench::isReviewed());
             const QString said = Bench::find<QLabel>("label_Origin")->text();
             QVERIFY2(said.contains("has to be seen: the tracker holds something else"), qPrintable(said));
+            QCOMPARE(said.count("holds something else"), 1);
             QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
             Bench::press("pushButton_Cancel");
             QVERIFY(Bench::goes("dialog_Review"));
