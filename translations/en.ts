@@ -2925,6 +2925,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_780"><translation>a field did not take what was typed</translation></message>
     <message id="wb_781"><translation>Not taken as typed: %1</translation></message>
     <message id="wb_782"><translation>Removed from the tracker: %1</translation></message>
+    <message id="wb_820"><translation>Written and confirmed: %1 of %2 setting</translation></message>
+    <message id="wb_821"><translation>Not taken: %1 of %2 setting</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

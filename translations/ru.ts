@@ -2925,6 +2925,8 @@
     <message id="wb_780"><translation>поле не приняло то, что набрано</translation></message>
     <message id="wb_781"><translation>Не принято из набранного: %1</translation></message>
     <message id="wb_782"><translation>Удалено из трекера: %1</translation></message>
+    <message id="wb_820"><translation>Записано и подтверждено: %1 из %2 параметра</translation></message>
+    <message id="wb_821"><translation>Не принято: %1 из %2 параметра</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>
