@@ -9,6 +9,7 @@
 #include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "support/device.h"
+#include "support/disagreements.h"
 #include "support/setting_samples.h"
 
 #include <QApplication>
@@ -32,7 +33,7 @@ QByteArray throughTheWindow(VLK_Widget_Config_Full& window, const QByteArray& fi
     window.pages().forEach([&](auto& page) {
         page.loadFromXml(in.root());
         page.saveToXml(out.root());
-        require(page.settings().binder().disagreements().isEmpty());
+        require(disagreements(page.settings().binder()).isEmpty());
     });
     return out.text();
 }
@@ -44,7 +45,7 @@ QByteArray throughTheWindow(VLK_Form_Config_Light& form, const QByteArray& file)
     vlk::XmlDocument out(QString(), "DEVICE");
     form.loadFromXml(in.root());
     form.saveToXml(out.root());
-    require(form.settings().binder().disagreements().isEmpty());
+    require(disagreements(form.settings().binder()).isEmpty());
     return out.text();
 }
 

@@ -1815,6 +1815,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
     <message id="rev_434"><translation>%2 more: in %1</translation></message>
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
+    <message id="rev_700"><translation>Quick setup removes it</translation></message>
+    <message id="rev_701"><translation>Quick setup sets it anew</translation></message>
+    <message id="rev_702"><translation>Changes along with another setting</translation></message>
     <message id="rev_740"><translation>%1 Left out.</translation></message>
     <message id="rev_741"><translation>Compared is what a write would bring. Settings that differ from what was opened without any edit: %1.</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
@@ -2924,6 +2927,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_740"><translation>XML holds whole litres: %1. Excel (CSV) keeps the fractions.</translation></message>
     <message id="wb_780"><translation>a field did not take what was typed</translation></message>
     <message id="wb_781"><translation>Not taken as typed: %1</translation></message>
+    <message id="wb_790"><translation>Not edited in this window</translation></message>
+    <message id="wb_791"><translation>Only &amp;your changes: %1</translation></message>
     <message id="wb_782"><translation>Removed from the tracker: %1</translation></message>
     <message id="wb_820"><translation>Written and confirmed: %1 of %2 setting</translation></message>
     <message id="wb_821"><translation>Not taken: %1 of %2 setting</translation></message>

@@ -1815,6 +1815,9 @@
     <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
+    <message id="rev_700"><translation>Удаляет быстрая настройка</translation></message>
+    <message id="rev_701"><translation>Задаёт заново быстрая настройка</translation></message>
+    <message id="rev_702"><translation>Меняется вместе с другим параметром</translation></message>
     <message id="rev_740"><translation>%1 Пропущен.</translation></message>
     <message id="rev_741"><translation>Сравнивается то, что даст запись. Параметров, которые и без правок отличаются от открытого: %1.</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
@@ -2924,6 +2927,8 @@
     <message id="wb_740"><translation>В XML только целые литры: %1. Дробные части сохранит Excel (CSV).</translation></message>
     <message id="wb_780"><translation>поле не приняло то, что набрано</translation></message>
     <message id="wb_781"><translation>Не принято из набранного: %1</translation></message>
+    <message id="wb_790"><translation>В этом окне не меняли</translation></message>
+    <message id="wb_791"><translation>Только &amp;ваши изменения: %1</translation></message>
     <message id="wb_782"><translation>Удалено из трекера: %1</translation></message>
     <message id="wb_820"><translation>Записано и подтверждено: %1 из %2 параметра</translation></message>
     <message id="wb_821"><translation>Не принято: %1 из %2 параметра</translation></message>

@@ -1,5 +1,6 @@
 #include "dialog/configuration_review.h"
 
+#include "base/translated.h"
 #include "document/values_document.h"
 #include "review/compare_files.h"
 #include "review/quick_reach.h"
@@ -260,6 +261,26 @@ bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 bool ConfigurationReview::isUnedited(int key) const
 {
     return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
+}
+
+const char* ConfigurationReview::noteKey(const Differences& differences,
+                                         const review::Difference& difference) const
+{
+    const char* key = review::noteKey(difference);
+    const bool isOfFile = &differences == &edited_ || against_ == Against::File;
+    if (isOfFile && isQuick() && isUnedited(difference) && (!difference.byLoad || !key))
+        return difference.after.isNull() ? "rev_700" : "rev_701";
+    return difference.isAlong && !difference.byLoad && (isOfFile || otherName_) ? "rev_702" : key;
+}
+
+review::DifferenceText ConfigurationReview::textOf(const Differences& differences,
+                                                   const review::Difference& difference) const
+{
+    const Values* values = difference.key < 0 ? nullptr : valuesOf(FileKeys::all()[difference.key].table);
+    review::DifferenceText text =
+        values ? review::textOf(differences, difference, *values) : review::textOf(difference);
+    text.note = translated(noteKey(differences, difference));
+    return text;
 }
 
 QString ConfigurationReview::quickBefore(const PageSettings& page, int row) const

@@ -6,6 +6,7 @@
 
 #include "dialog/open_configuration.h"
 #include "review/advice.h"
+#include "review/difference_text.h"
 #include "review/preset.h"
 #include "review/recovery.h"
 #include "review/search.h"
@@ -76,6 +77,12 @@ public:
     // Whether a write from the window on show would change it without any edit.
     bool isUnedited(int key) const;
     bool isUnedited(const review::Difference& difference) const;
+    // The key of a note on what nobody has edited: what the load has done, the quick window, or another
+    // setting. Null where there is none.
+    const char* noteKey(const review::Differences& differences, const review::Difference& difference) const;
+    // In words, with that note.
+    review::DifferenceText textOf(const review::Differences& differences,
+                                  const review::Difference& difference) const;
     // Whether it would stay as it is if all were taken from the other side now: the quick window decides it.
     // Worked out when it is asked for first after another side was chosen or an open preset followed an edit.
     bool isBeyond(int key) const;

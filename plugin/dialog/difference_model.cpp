@@ -74,10 +74,7 @@ DifferenceModel::Kind DifferenceModel::kindOf(const review::Difference& differen
 DifferenceModel::Line DifferenceModel::lineOf(const review::Difference& difference) const
 {
     const review::Differences& differences = review_.differences();
-    const Values* values =
-        difference.key < 0 ? nullptr : review_.valuesOf(review::FileKeys::all()[difference.key].table);
-    Line line{difference,
-              values ? review::textOf(differences, difference, *values) : review::textOf(difference)};
+    Line line{difference, review_.textOf(differences, difference)};
     const auto& [missing, surplus] = kOnOneSide[static_cast<int>(review_.against())];
     if (missing && !difference.byLoad && (difference.before.isNull() || difference.after.isNull()))
         line.text.note = text(difference.after.isNull() ? missing : surplus);

@@ -46,7 +46,7 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
         if (number > kFailure && number < kTakenForUsed)
             offers_[number - 1].isClosed = true;
         if (number == kReplaced)
-            tellReplaced({});
+            endReplaced();
         if (number == kDamaged) {
             review::setKnown(damaged_.takeLast());
             tellDamaged();
@@ -148,21 +148,34 @@ void UnsavedBar::refresh()
 std::vector<int> UnsavedBar::replaced() const
 {
     std::vector<int> keys = replaced_;
-    std::erase_if(keys, [this](int key) { return !review_.isOwn(key); });
+    const review::FileState& now = review_.edits().after();
+    std::erase_if(keys,
+                  [&](int key) { return !review_.isOwn(key) || !(now.at(key) == unreplaced_.at(key)); });
     return keys;
 }
 
 void UnsavedBar::tellReplaced(std::vector<int> keys)
 {
+    // What was told before and not taken over still stands here.
+    for (const int key : replaced()) {
+        if (std::ranges::find(keys, key) == keys.end())
+            keys.push_back(key);
+    }
     replaced_ = std::move(keys);
+    unreplaced_ = review_.edits().after();
+    refresh();
+}
+
+void UnsavedBar::endReplaced()
+{
+    replaced_.clear();
     refresh();
 }
 
 Notice UnsavedBar::noticeOfReplaced()
 {
     const Notice::Action take{words("rev_761"), [this] {
-                                  const std::vector<int> keys = std::exchange(replaced_, {});
-                                  review_.bringBack(keys, [] { return words("rev_762"); });
+                                  review_.bringBack(replaced(), [] { return words("rev_762"); });
                                   Q_EMIT tookOver();
                               }};
     const Notice::Action show{words("rev_141"), [this] {

@@ -34,9 +34,12 @@ public:
     void tellFile(const std::function<Notice()>& notice);
     // What it told is of the other window.
     void endFile();
-    // The tracker holds other values of these settings than before, which can be taken over; none, once it
-    // has what the window holds.
+    // The tracker holds other values of these settings than before, which can be taken over.
     void tellReplaced(std::vector<int> keys);
+    // It has what the window has written.
+    void endReplaced();
+    // Whether nothing of that stands as it did when it was told, and the user has not declined it.
+    bool hasTakenOver() const { return !replaced_.empty() && replaced().empty(); }
     // That the disk keeps nothing; an empty reason ends it.
     void tellFailure(const QString& reason);
     void tellKeptAgain();
@@ -69,7 +72,7 @@ private:
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
     void tellSensors(int number, std::vector<Sentence> sentences);
-    // Settings that the tracker was brought back to and that stand otherwise in the window.
+    // Settings that the tracker was brought back to and that stand in the window as they did then.
     std::vector<int> replaced() const;
     Notice noticeOfReplaced();
     void refresh();
@@ -83,7 +86,8 @@ private:
     ConfigurationReview& review_;
     QStringList damaged_;            // what is left of changes that cannot be offered; the last one is told
     std::map<int, QString> sensors_; // that a notice told last
-    std::vector<int> replaced_;      // by the tracker, and not taken over
+    std::vector<int> replaced_;      // by the tracker
+    review::FileState unreplaced_;   // the window when it was told
     std::size_t toldReplaced_ = 0;   // how many of them
     std::vector<Offer> offers_;      // a notice has the number of its place, from 1 on
 };

@@ -162,7 +162,7 @@ void VLK_Widget_Config::addKeeper()
                 if (!file_.isEmpty())
                     return;
                 review_.setWritten(content, quick);
-                unsaved_->tellReplaced({});
+                unsaved_->endReplaced();
             });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failed, this, [this] { unsaved_->tellFailure(keeper_.failure()); });
@@ -305,6 +305,8 @@ void VLK_Widget_Config::write(const QString& path)
     file.close();
     vlk::TextEntry::settleIn(this);
     history_.keepState();
+    history_.settle();
+    handedOver_ = vlk::handedOver(review_, content);
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())
@@ -320,6 +322,11 @@ void VLK_Widget_Config::trackerHolds(const QByteArray& content)
         page->binder().finishTyping();
     history_.settle();
     unsaved_->tellReplaced(review_.setReplaced(content));
+}
+
+bool VLK_Widget_Config::hasTakenOver() const
+{
+    return unsaved_->hasTakenOver();
 }
 
 void VLK_Widget_Config::fileSaved(const QString& path)

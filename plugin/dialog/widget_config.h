@@ -7,6 +7,7 @@
 
 #include "dialog/configuration_review.h"
 #include "dialog/edit_keeper.h"
+#include "dialog/handed_over.h"
 #include "dialog/setting_places.h"
 
 #include <QDialog>
@@ -58,8 +59,12 @@ public:
     VLK_Widget_Config_Full* fullWindow() const { return fullWindow_; }
     // The tracker holds this now, and not by a write of what is open here.
     void trackerHolds(const QByteArray& content);
+    // Whether the user has taken it over since.
+    bool hasTakenOver() const;
 
     vlk::ConfigurationReview& review() { return review_; }
+    // The last one.
+    const vlk::HandedOver& handedOver() const { return handedOver_; }
     // Opens the panel with what the preset would change. False when there is nothing open or no such file.
     bool showPreset(const QString& path);
 
@@ -101,5 +106,6 @@ private:
     vlk::ReportDialog* report_ = nullptr; // made when it is first wanted
     QString file_;                        // that the user opened, without its folder
     bool isOfTracker_ = false;
+    vlk::HandedOver handedOver_;
     vlk::SettingMarks* marks_ = nullptr;
 };

@@ -202,6 +202,11 @@ void VLK_Device_R7106::confirmWrite(const vlk::WriteConfirmation& told)
         vlk::dropWrittenEdits(pathXml_, *told.content);
 }
 
+bool VLK_Device_R7106::hasTakenOver() const
+{
+    return configDialog_ && configDialog_->hasTakenOver();
+}
+
 void VLK_Device_R7106::openTelemetry(const QString& configurationPath)
 {
     ensureTelemetryView()->open(configurationPath);

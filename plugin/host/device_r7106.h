@@ -64,6 +64,7 @@ public:
     void retranslate();
     void closeWindows();
     void confirmWrite(const vlk::WriteConfirmation& told);
+    bool hasTakenOver() const;
 
     // Null until the first message that opens them.
     VLK_Widget_Config* configDialog() const { return configDialog_; }

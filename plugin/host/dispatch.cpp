@@ -231,19 +231,24 @@ constexpr Entry kTable[] = {
          fillRecord(parameters.p1, extensions);
      }},
     {Message::CompareFiles,
-     [](VLK_Device_R7106&, const Parameters& parameters) {
+     [](VLK_Device_R7106& device, const Parameters& parameters) {
+         const VLK_Widget_Config* window = device.configDialog();
          if (sizeOf(parameters.p1) >= sizeof(vlk::FileComparison))
-             vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1));
+             vlk::compareFiles(*static_cast<vlk::FileComparison*>(parameters.p1),
+                               window ? &window->handedOver() : nullptr);
      }},
     {Message::ConfirmWrite,
      [](VLK_Device_R7106& device, const Parameters& parameters) {
          constexpr std::size_t withoutContent = offsetof(vlk::WriteConfirmation, content);
+         constexpr std::size_t withContent = offsetof(vlk::WriteConfirmation, takenOver);
          const std::size_t size = sizeOf(parameters.p1);
          if (size < withoutContent)
              return;
          vlk::WriteConfirmation told;
-         std::memcpy(&told, parameters.p1, size < sizeof told ? withoutContent : sizeof told);
+         std::memcpy(&told, parameters.p1, size < withContent ? withoutContent : withContent);
          device.confirmWrite(told);
+         told.takenOver = told.step == vlk::WriteConfirmation::Asked && device.hasTakenOver() ? 1 : 0;
+         fillRecord(parameters.p1, told);
      }},
     {Message::CheckFile,
      [](VLK_Device_R7106&, const Parameters& parameters) {

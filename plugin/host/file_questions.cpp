@@ -1,5 +1,7 @@
 #include "host/file_questions.h"
 
+#include "base/translated.h"
+#include "dialog/handed_over.h"
 #include "review/bring_settings.h"
 #include "review/check_file.h"
 #include "review/compare_files.h"
@@ -46,6 +48,17 @@ FileComparison::Outcome outcomeOf(review::Comparison comparison)
     return FileComparison::Done;
 }
 
+// The note's text has to stay.
+void tellCause(FileDifference& told, const HandedOver& written, QString* note)
+{
+    const bool isUnedited = written.notes.contains(*told.path);
+    *note = translated(written.notes.value(*told.path));
+    told.note = note->isEmpty() ? nullptr : note;
+    told.cause = isUnedited                            ? FileDifference::Unedited
+                 : written.edited.contains(*told.path) ? FileDifference::Edited
+                                                       : FileDifference::Opened;
+}
+
 } // namespace
 
 FileDifference toldDifference(const review::Difference& difference, const review::DifferenceText& text)
@@ -62,15 +75,20 @@ FileDifference toldDifference(const review::Difference& difference, const review
     return told;
 }
 
-void compareFiles(FileComparison& asked)
+void compareFiles(FileComparison& asked, const HandedOver* written)
 {
     if (!asked.after || !asked.take)
         return;
     asked.differences = 0;
+    const bool isWritten = written && !written->document.isEmpty() &&
+                           written->document == review::configurationText(*asked.after);
     asked.outcome = outcomeOf(
         review::compareFiles(asked.before ? *asked.before : QString(), *asked.after, secretsOf(asked),
                              [&](const review::Difference& difference, const review::DifferenceText& text) {
-                                 const FileDifference row = toldDifference(difference, text);
+                                 FileDifference row = toldDifference(difference, text);
+                                 QString note;
+                                 if (isWritten)
+                                     tellCause(row, *written, &note);
                                  ++asked.differences;
                                  asked.take(asked.context, &row);
                              }));

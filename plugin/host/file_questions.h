@@ -9,7 +9,10 @@
 
 namespace vlk {
 
-void compareFiles(FileComparison& asked);
+struct HandedOver;
+
+// `written`: what the window of the configuration has handed over; null where there is none.
+void compareFiles(FileComparison& asked, const HandedOver* written);
 void checkFile(FileCheck& asked);
 void reportFile(FileReport& asked);
 void bringSettings(BroughtSettings& asked);

@@ -224,6 +224,12 @@ struct FileDifference
     const QString* after = nullptr;
     const QString* beforeText = nullptr;
     const QString* afterText = nullptr;
+    // Where `after` is what the window of the configuration handed over last: whether its user has edited the
+    // setting, or it changes with a load, quick setup or another setting, as the note says in words, or it
+    // stands in the window as it was opened.
+    enum Cause : std::uint32_t { Unknown, Edited, Unedited, Opened };
+    const QString* note = nullptr;
+    std::uint32_t cause = Unknown;
 };
 
 // The plug-in calls `take` with each difference, during the message; the texts are valid during the call.
@@ -245,16 +251,17 @@ struct FileComparison
 // what the tracker holds then says so once, after SetHostMode, and then of each configuration that came out
 // right. Of a host that says nothing WriteConfiguration itself is taken for that. `held` tells of a tracker
 // that has been brought back, or has taken something else than was sent: what it holds now, while a
-// configuration of it is open.
+// configuration of it is open. `asked` asks whether that window has taken over what was told last by `held`.
 struct WriteConfirmation
 {
-    enum Step : std::uint32_t { WillConfirm, Confirmed, Held };
+    enum Step : std::uint32_t { WillConfirm, Confirmed, Held, Asked };
 
     std::uint32_t size = sizeof(WriteConfirmation);
     std::uint32_t step = WillConfirm;
     // What the file of WriteConfiguration held; null: that of the last one. A host that refuses some of them
     // says it, since otherwise one that was refused behind the one in work would count as written.
     const QByteArray* content = nullptr;
+    std::uint32_t takenOver = 0; // filled when asked: 1 where it starts from that now
 };
 
 // CheckFile: what a load and a save would not leave of a configuration file as it stands, and advice on it.
@@ -534,7 +541,7 @@ inline constexpr MessageInfo kMessages[] = {
     detail::in(Message::GetRunningWork,         "GetRunningWork",              Parameter::RecordAddress, Parameter::None,          true),
     detail::in(Message::GetExtensions,          "GetExtensions",               Parameter::RecordAddress, Parameter::None,          true),
     detail::in(Message::CompareFiles,           "CompareFiles",                Parameter::RecordAddress, Parameter::None,          true),
-    detail::in(Message::ConfirmWrite,           "ConfirmWrite",                Parameter::RecordAddress),
+    detail::in(Message::ConfirmWrite,           "ConfirmWrite",                Parameter::RecordAddress, Parameter::None,          true),
     detail::in(Message::CheckFile,              "CheckFile",                   Parameter::RecordAddress, Parameter::None,          true),
     detail::in(Message::ReportFile,             "ReportFile",                  Parameter::RecordAddress, Parameter::None,          true),
     detail::in(Message::ApplyPreset,            "ApplyPreset",                 Parameter::RecordAddress, Parameter::None,          true),

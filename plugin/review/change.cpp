@@ -35,21 +35,21 @@ bool isSameNumber(const Number& row, const QString& text, const QString& other)
     return leadingLong(text) == leadingLong(other);
 }
 
-// Why a row takes the text for `value`, which is another one: one function a kind.
-Change why(const Group&, const Reading&, const QString&)
+// Whether it is the limits that make the text another value.
+bool isLimited(const auto& row, const Reading& reading, const QString& value)
 {
-    return Change::OtherForm;
+    constexpr double most = std::numeric_limits<double>::max();
+    const Limits none{.least = -most, .most = most};
+    return normalised(row, {reading.text, reading.before, none, reading.source}) != value;
 }
+
+// Why a row takes the text for `value`, which is another one: kinds that know it better than changeOf(). A
+// function here whose parameters are not those of its call is unused, and does not compile.
 
 // A window always writes the same there, whatever it reads.
 Change why(const Constant&, const Reading&, const QString&)
 {
     return Change::NotOffered;
-}
-
-Change why(const Link&, const Reading&, const QString&)
-{
-    return Change::OtherForm;
 }
 
 Change why(const Flag&, const Reading& reading, const QString& value)
@@ -65,16 +65,12 @@ Change why(const Number& row, const Reading& reading, const QString& value)
         return Change::NotANumber;
     if (isSameNumber(row, reading.text, value))
         return Change::OtherForm;
-    constexpr double most = std::numeric_limits<double>::max();
-    const Limits none{.least = -most, .most = most};
     // Digits that the widget has no place for, or more than those.
     const double place = (row.isText ? 1 : row.factor) * std::pow(10, -row.decimals);
     const double lost = row.hexadecimal ? 0 : reading.text.toDouble() - value.toDouble();
     const bool isOff = row.zeroIsOff && value == QLatin1String("0");
-    return isOff || std::abs(lost) >= place ||
-                   normalised(row, {reading.text, reading.before, none, reading.source}) != value
-               ? Change::OutOfRange
-               : Change::Rounded;
+    return isOff || std::abs(lost) >= place || isLimited(row, reading, value) ? Change::OutOfRange
+                                                                              : Change::Rounded;
 }
 
 // A line with a mask takes its signs from the mask, and drops what has no place in it.
@@ -166,15 +162,25 @@ Change why(const Mask& row, const Reading& reading, const QString& value)
     return change;
 }
 
+// A kind without a why() has limited the text where other limits would make another value of it, else
+// replaced it.
+Change changeOf(const auto& row, const Reading& reading, const QString& value)
+{
+    if (value == reading.text)
+        return Change::None;
+    if constexpr (requires { why(row, reading, value); })
+        return why(row, reading, value);
+    else
+        return isLimited(row, reading, value) ? Change::OutOfRange : Change::UnknownCode;
+}
+
 } // namespace
 
 Taken takenAs(const Setting& setting, const Reading& reading)
 {
     QString value = setting.is<Constant>() ? loadDefault(setting) : normalise(setting, reading);
     const Change change =
-        value == reading.text
-            ? Change::None
-            : std::visit([&](const auto& row) { return why(row, reading, value); }, setting.kind);
+        std::visit([&](const auto& row) { return changeOf(row, reading, value); }, setting.kind);
     return {std::move(value), change};
 }
 

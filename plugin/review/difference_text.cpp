@@ -23,44 +23,6 @@ const char* noteOnLost(const Difference& difference)
     return layoutOf(kQuickSettings).rowAt(difference.path) < 0 ? "rev_003" : "rev_299";
 }
 
-const char* noteKey(const Difference& difference)
-{
-    if (difference.before.isNull())
-        return difference.byLoad ? "rev_001" : "rev_002";
-    if (difference.after.isNull())
-        return difference.byLoad ? noteOnLost(difference) : "rev_005";
-    if (!difference.byLoad)
-        return nullptr;
-    switch (difference.change) {
-    case Change::NotANumber:
-        return "rev_006";
-    case Change::OutOfRange:
-        return "rev_007";
-    case Change::Wrapped:
-        return "rev_008";
-    case Change::Rounded:
-        return "rev_009";
-    case Change::TooLong:
-        return "rev_010";
-    case Change::UnknownCode:
-        return "rev_011";
-    case Change::NotOffered:
-        return "rev_012";
-    case Change::ByRule:
-        return "rev_013";
-    case Change::NotCarried:
-        return "rev_021";
-    case Change::Completed:
-        return "rev_355";
-    case Change::None:
-    case Change::Missing:
-    case Change::OtherForm:
-    case Change::LooseForm:
-        break;
-    }
-    return nullptr;
-}
-
 // A text that a load would change, so that the change can be seen.
 QString rawText(const Setting& setting, const QString& text, const char* unit)
 {
@@ -138,6 +100,44 @@ void mask(DifferenceText* text)
 }
 
 } // namespace
+
+const char* noteKey(const Difference& difference)
+{
+    if (difference.before.isNull())
+        return difference.byLoad ? "rev_001" : "rev_002";
+    if (difference.after.isNull())
+        return difference.byLoad ? noteOnLost(difference) : "rev_005";
+    if (!difference.byLoad)
+        return nullptr;
+    switch (difference.change) {
+    case Change::NotANumber:
+        return "rev_006";
+    case Change::OutOfRange:
+        return "rev_007";
+    case Change::Wrapped:
+        return "rev_008";
+    case Change::Rounded:
+        return "rev_009";
+    case Change::TooLong:
+        return "rev_010";
+    case Change::UnknownCode:
+        return "rev_011";
+    case Change::NotOffered:
+        return "rev_012";
+    case Change::ByRule:
+        return "rev_013";
+    case Change::NotCarried:
+        return "rev_021";
+    case Change::Completed:
+        return "rev_355";
+    case Change::None:
+    case Change::Missing:
+    case Change::OtherForm:
+    case Change::LooseForm:
+        break;
+    }
+    return nullptr;
+}
 
 QString textBeside(const Setting& setting, const Held& held, const std::vector<Held>& others,
                    const char* unit)

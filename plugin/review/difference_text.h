@@ -23,6 +23,8 @@ struct DifferenceText : SettingWords
 // `values`: those of the difference's table, which know the units of now.
 DifferenceText textOf(const Differences& differences, const Difference& difference, const Values& values,
                       Secrets secrets = Secrets::Masked);
+// The key of its note, null where there is none.
+const char* noteKey(const Difference& difference);
 // The text of a difference whose key is -1.
 DifferenceText textOf(const Difference& difference, Secrets secrets = Secrets::Masked);
 

@@ -20,13 +20,9 @@ bool isHalfOn(const MaskField& field, const QString& part)
     return field.anyReads && part.contains(QLatin1Char('0')) && part.contains(QLatin1Char('1'));
 }
 
-// One function a kind.
-template <IsStructure Row>
-QString told(const Row&, const QString& value, const char* /*unit*/)
-{
-    return value;
-}
-
+// Kinds whose values are told in words of their own; those of any other kind are told as they stand, with
+// their unit. A function here whose parameters are not those of the call below is unused, and does not
+// compile.
 QString told(const Flag&, const QString& value, const char* /*unit*/)
 {
     return yesNo(value != QLatin1String("0"));
@@ -154,7 +150,14 @@ QStringList codeTexts(const Setting& setting, const char* codes)
 
 QString valueText(const Setting& setting, const QString& value, const char* unit)
 {
-    return std::visit([&](const auto& row) { return told(row, value, unit); }, setting.kind);
+    return std::visit(
+        [&](const auto& row) {
+            if constexpr (requires { told(row, value, unit); })
+                return told(row, value, unit);
+            else
+                return withUnit(value, unit);
+        },
+        setting.kind);
 }
 
 QString valueText(const Values& values, int row)

@@ -38,7 +38,7 @@ constexpr const char* vendorNumber(std::size_t n)
 template <std::size_t i>
 struct Names
 {
-    static constexpr const BluetoothSensorType& kType = kBluetoothSensorTypes[i];
+    static constexpr BluetoothSensorType kType = kBluetoothSensorTypes[i];
     static constexpr bool kHasIndex = kType.index.list != BluetoothList::None;
 
     static constexpr Path kTypePath{kType.section, "type"};

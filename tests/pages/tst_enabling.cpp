@@ -7,6 +7,7 @@
 #include "settings/lines_out_settings.h"
 #include "support/data_table.h"
 #include "support/device.h"
+#include "support/disagreements.h"
 #include "support/files.h"
 #include "support/window_parts.h"
 
@@ -112,7 +113,7 @@ private Q_SLOTS:
                      qPrintable(name));
         for (const QString& pull : pulled)
             comparePull(pull);
-        QCOMPARE(settings_->binder().disagreements(), QStringList());
+        QCOMPARE(disagreements(settings_->binder()), QStringList());
     }
 
 private:

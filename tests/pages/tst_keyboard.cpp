@@ -21,108 +21,7 @@
 #include <QTreeWidget>
 #include <QtTest>
 
-#include <cmath>
 #include <memory>
-#include <optional>
-
-namespace {
-
-// What is typed into the field or the boxes of a setting, and the value that the setting is to have then;
-// none where it is refused.
-struct Typed
-{
-    QString keys;
-    std::optional<QString> value;
-};
-
-// A number as a person of the other language would type it.
-QString spelled(const vlk::Number& setting, double number, QLatin1Char sign)
-{
-    if (setting.hexadecimal)
-        return QString::number(static_cast<int>(number), 16);
-    return QString::number(number, 'f', setting.decimals).replace('.', sign);
-}
-
-std::vector<Typed> numbersFor(const vlk::Number& setting, const vlk::Limits& limits, QLatin1Char sign)
-{
-    const double unit = std::pow(10, -setting.decimals);
-    const double inside = limits.least + std::floor((limits.most - limits.least) / 3 / unit) * unit;
-    const auto typed = [&](double number) {
-        return Typed{spelled(setting, number, sign),
-                     vlk::fileNumber(setting, std::clamp(number, limits.least, limits.most))};
-    };
-    std::vector<Typed> all{typed(inside), typed(limits.least), typed(limits.most), typed(limits.most + 1)};
-    if (limits.least != 0)
-        all.push_back(typed(limits.least > 0 ? limits.least - unit : limits.least - 1));
-    if (limits.least >= 0 || setting.hexadecimal)
-        all.push_back({"-5", {}});
-    all.push_back({setting.decimals > 0 ? QString("1.5,5") : QString("2") + sign + '5', {}});
-    return all;
-}
-
-// One number a box, with bars between them.
-std::vector<Typed> periodsFor(const vlk::Period& setting)
-{
-    std::vector<Typed> all;
-    for (const int share : {1, 2, 3}) {
-        QStringList keys;
-        qint64 seconds = 0;
-        for (const vlk::PeriodPart& part : setting.parts) {
-            const int count = part.most * share / 3;
-            keys << QString::number(count);
-            seconds += static_cast<qint64>(count) * part.seconds;
-        }
-        all.push_back({keys.join('|'), QString::number(seconds)});
-    }
-    return all;
-}
-
-std::vector<Typed> codesForCell()
-{
-    return {{"25001", "25001"}, {"2.5", "0"}, {"2,5", "0"}, {"abc", "0"}};
-}
-
-std::vector<Typed> textsFor(const vlk::Text& setting)
-{
-    if (setting.mask)
-        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
-    const QString pattern = QString::fromLatin1(setting.pattern ? setting.pattern : "");
-    if (pattern.contains("\\d"))
-        return {{"12345", "12345"}};
-    return {{"aB1.x", "aB1.x"}, {QString::fromUtf8("Гр&\"2\""), QString::fromUtf8("Гр&\"2\"").left(6)}};
-}
-
-// What is typed into a setting of any kind, and the widgets that take it; nothing where a person chooses.
-struct Keyboard
-{
-    vlk::Limits limits;
-    QLatin1Char sign;
-    QVector<vlk::Name> widgets{};
-
-    std::vector<Typed> operator()(const vlk::Number& setting)
-    {
-        widgets = {setting.widget};
-        return setting.blankIsZero ? codesForCell() : numbersFor(setting, limits, sign);
-    }
-    std::vector<Typed> operator()(const vlk::Period& setting)
-    {
-        for (const vlk::PeriodPart& part : setting.parts)
-            widgets << part.widget;
-        return periodsFor(setting);
-    }
-    std::vector<Typed> operator()(const vlk::Text& setting)
-    {
-        widgets = {setting.widget};
-        return textsFor(setting);
-    }
-    std::vector<Typed> operator()(const vlk::Flag&) const { return {}; }
-    std::vector<Typed> operator()(const vlk::Choice&) const { return {}; }
-    std::vector<Typed> operator()(const vlk::Digits&) const { return {}; }
-    std::vector<Typed> operator()(const vlk::Mask&) const { return {}; }
-    std::vector<Typed> operator()(const vlk::IsStructure auto&) const { return {}; }
-};
-
-} // namespace
 
 class KeyboardTest : public QObject
 {
@@ -176,16 +75,13 @@ private:
         vlk::Values core(settings.values().table());
         for (int index = 0; index < core.count(); ++index) {
             const vlk::Setting& setting = core.setting(index);
-            if (std::visit(Keyboard{{}, sign_}, setting.kind).empty())
+            if (typedInto(setting, {}).empty())
                 continue;
             const int key = keyOf(core, index);
             const QByteArray file = fileFor(core, key);
             load(page, core, file);
-            Keyboard keyboard{core.limits(index), sign_};
-            const std::vector<Typed> samples = std::visit(keyboard, setting.kind);
-            QList<QWidget*> fields;
-            for (const vlk::Name& name : std::as_const(keyboard.widgets))
-                fields << settings.binder().forms().find(name, setting.base().numbers);
+            const std::vector<Typed> samples = typedInto(setting, core.limits(index));
+            const QList<QWidget*> fields = fieldsOf(settings.binder(), setting);
             if (fields.contains(nullptr) || !core.isWritten(key) || isReadOnly(fields[0]))
                 continue;
             ++fields_;
@@ -211,6 +107,29 @@ private:
                                        differing(written, expected), differing(expected, written));
             }
         }
+    }
+
+    std::vector<Typed> typedInto(const vlk::Setting& setting, const vlk::Limits& limits) const
+    {
+        return std::visit([&](const auto& row) { return ::typedInto(row, limits, sign_); }, setting.kind);
+    }
+
+    // Its boxes, or else its widget; null for one whose form is not there.
+    static QList<QWidget*> fieldsOf(const vlk::Binder& binder, const vlk::Setting& setting)
+    {
+        QList<QWidget*> fields;
+        const auto add = [&](const vlk::Name& name) {
+            fields << binder.forms().find(name, setting.base().numbers);
+        };
+        std::visit(
+            [&](const auto& row) {
+                if constexpr (requires { eachBox(row, add); })
+                    eachBox(row, add);
+                else
+                    add(setting.shown()->widget);
+            },
+            setting.kind);
+        return fields;
     }
 
     // The key in which a file of this tracker holds the value; a value may go into another one with each use

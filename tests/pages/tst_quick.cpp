@@ -4,6 +4,7 @@
 #include "dialog/form_config_light.h"
 #include "settings_page.h"
 #include "support/data_table.h"
+#include "support/disagreements.h"
 #include "support/typing.h"
 
 #include <QSpinBox>
@@ -119,7 +120,7 @@ private Q_SLOTS:
         }
         for (const QString& widget : state)
             QVERIFY2(isOn(widget.mid(1)) == widget.startsWith('+'), qPrintable(widget));
-        QCOMPARE(page().settings().binder().disagreements(), QStringList());
+        QCOMPARE(disagreements(page().settings().binder()), QStringList());
     }
 
     // Three sections are made anew, the others keep what this window does not know. A mask keeps its length.

@@ -136,14 +136,11 @@ private Q_SLOTS:
     // away.
     void counterFamilies()
     {
-        vlk::PageSettings settings(vlk::kRsSettings, nullptr);
-        VLK_Form_Config_RS_Param_Pcnt form;
-        form.setObjectName("PCNT");
-        form.setSettings(&settings);
-        settings.edit("OPTIONS/owner1", "PCNT");
+        edit({"OPTIONS/owner1=PCNT"});
+        vlk::PageSettings& settings = test_.page().settings();
+        auto& form = *test_.get<VLK_Form_Config_RS_Param_Pcnt>("PCNT");
         QSignalSpy added(&form, &VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Add);
         QSignalSpy deleted(&form, &VLK_Form_Config_RS_Param_Pcnt::signal_UserParam_Del);
-        settings.join(&form);
         form.retranslate();
         QCOMPARE(added.count() + deleted.count(), 0);
         form.slot_currentIndexChanged_Type("ACOND");

@@ -3,6 +3,7 @@
 
 #include "support/answers.h"
 #include "support/data_table.h"
+#include "support/disagreements.h"
 #include "support/typing.h"
 #include "transfer_page.h"
 
@@ -183,7 +184,7 @@ private Q_SLOTS:
         QVERIFY(isOn("frame_RBlock"));
         QVERIFY(!isOn("frame_RPerion"));
         QVERIFY(!isOn("pushButton_AutoAPN_1"));
-        QCOMPARE(page().settings().binder().disagreements(), QStringList());
+        QCOMPARE(disagreements(page().settings().binder()), QStringList());
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "pages/opened_configuration.h"
 #include "review/recovery.h"
+#include "support/disagreements.h"
 #include "support/setting_samples.h"
 
 #include <QtTest>
@@ -49,7 +50,7 @@ private Q_SLOTS:
             QCOMPARE(saved(), before);
             history().redo();
             QCOMPARE(saved(), after);
-            QCOMPARE(page.binder().disagreements(), QStringList());
+            QCOMPARE(disagreements(page.binder()), QStringList());
             before = after;
         }
         vlk::review::Unsaved unsaved;

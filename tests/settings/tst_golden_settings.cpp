@@ -230,23 +230,6 @@ private:
         const vlk::Setting& own = row.is<vlk::Link>() ? holder : row;
         return std::visit([](const auto& kind) { return nameOf(kind); }, own.kind);
     }
-    static QString nameOf(const vlk::Constant&) { return "constant"; }
-    static QString nameOf(const vlk::Flag&) { return "flag"; }
-    static QString nameOf(const vlk::Choice&) { return "choice"; }
-    static QString nameOf(const vlk::Period&) { return "period"; }
-    static QString nameOf(const vlk::Digits&) { return "digits"; }
-    static QString nameOf(const vlk::Mask&) { return "mask"; }
-    static QString nameOf(const vlk::Text&) { return "text"; }
-    static QString nameOf(const vlk::Number& number)
-    {
-        return number.isText ? QString("real%1").arg(number.decimals) : QString("integer");
-    }
-    // No key of a file.
-    template <vlk::IsStructure Row>
-    static QString nameOf(const Row&)
-    {
-        return "structure";
-    }
 
     // What a save writes after a load of a file that lacks the key, the row's own conditions met.
     QString loaded(int index)

@@ -1,11 +1,17 @@
 #pragma once
 
-// Texts that a file may hold for a setting, well formed and not, by its kind: ends of the range and what lies
-// beyond them, every code, strings too short and too long, what is no number. And documents that hold them.
+// The samples of each kind of row: its name in golden tables, texts that a file may hold for a setting of it,
+// well formed and not, and what a person types into it. And documents that hold them.
 
 #include "document/configuration.h"
 #include "document/values_document.h"
 #include "xml/xml_document.h"
+
+#include <algorithm>
+#include <cmath>
+#include <concepts>
+#include <optional>
+#include <vector>
 
 inline QStringList hostileTexts()
 {
@@ -13,15 +19,52 @@ inline QStringList hostileTexts()
             " 12", "+3", "0x10"};
 }
 
-// Each kind of row has its own beside those.
-template <vlk::IsStructure Row>
-QStringList samplesOf(const Row&)
+// What is typed into the field of a setting, or into its boxes with bars between them, and the value that the
+// setting is to have then; none where it is refused.
+struct Typed
+{
+    QString keys;
+    std::optional<QString> value;
+};
+
+// A person chooses there, or does nothing at all, in place of typing.
+template <class Row>
+concept IsNotTyped = vlk::IsStructure<Row> || std::same_as<Row, vlk::Flag> ||
+    std::same_as<Row, vlk::Choice> || std::same_as<Row, vlk::Digits> || std::same_as<Row, vlk::Mask>;
+
+std::vector<Typed> typedInto(const IsNotTyped auto&, const vlk::Limits&, QLatin1Char)
 {
     return {};
+}
+
+// Beside the hostile ones: ends of the range and what lies beyond them, every code, strings too short and too
+// long.
+QStringList samplesOf(const vlk::IsStructure auto&)
+{
+    return {};
+}
+
+QString nameOf(const vlk::IsStructure auto&)
+{
+    return "structure"; // no key of a file
+}
+inline QString nameOf(const vlk::Constant&)
+{
+    return "constant";
+}
+
+inline QString nameOf(const vlk::Flag&)
+{
+    return "flag";
 }
 inline QStringList samplesOf(const vlk::Flag& flag)
 {
     return {QString::number(flag.on)};
+}
+
+inline QString nameOf(const vlk::Number& number)
+{
+    return number.isText ? QString("real%1").arg(number.decimals) : QString("integer");
 }
 inline QStringList samplesOf(const vlk::Number& number)
 {
@@ -34,9 +77,48 @@ inline QStringList samplesOf(const vlk::Number& number)
     add((number.least + number.most) / 2);
     return texts;
 }
+// With the decimal sign of the other language.
+inline std::vector<Typed> typedInto(const vlk::Number& number, const vlk::Limits& limits, QLatin1Char sign)
+{
+    if (number.blankIsZero)
+        return {{"25001", "25001"}, {"2.5", "0"}, {"2,5", "0"}, {"abc", "0"}};
+    const double unit = std::pow(10, -number.decimals);
+    const double inside = limits.least + std::floor((limits.most - limits.least) / 3 / unit) * unit;
+    const auto typed = [&](double value) {
+        const QString keys = number.hexadecimal ? QString::number(static_cast<int>(value), 16)
+                                                : QString::number(value, 'f', number.decimals);
+        return Typed{QString(keys).replace('.', sign),
+                     vlk::fileNumber(number, std::clamp(value, limits.least, limits.most))};
+    };
+    std::vector<Typed> all{typed(inside), typed(limits.least), typed(limits.most), typed(limits.most + 1)};
+    if (limits.least != 0)
+        all.push_back(typed(limits.least > 0 ? limits.least - unit : limits.least - 1));
+    if (limits.least >= 0 || number.hexadecimal)
+        all.push_back({"-5", {}});
+    all.push_back({number.decimals > 0 ? QString("1.5,5") : QString("2") + sign + '5', {}});
+    return all;
+}
+
+inline QString nameOf(const vlk::Text&)
+{
+    return "text";
+}
 inline QStringList samplesOf(const vlk::Text&)
 {
     return {QString(200, '1'), "a <b> & \"c\" 'd'", "Грузовик №1", "%1"};
+}
+inline std::vector<Typed> typedInto(const vlk::Text& text, const vlk::Limits&, QLatin1Char)
+{
+    if (text.mask)
+        return {{"a1B2c3D4e5F6", "a1:B2:c3:D4:e5:F6"}, {"0", "0:::::"}};
+    if (QString(text.pattern).contains("\\d"))
+        return {{"12345", "12345"}};
+    return {{"aB1.x", "aB1.x"}, {"Гр&\"2\"", QString("Гр&\"2\"").left(6)}};
+}
+
+inline QString nameOf(const vlk::Choice&)
+{
+    return "choice";
 }
 inline QStringList samplesOf(const vlk::Choice& choice)
 {
@@ -44,6 +126,11 @@ inline QStringList samplesOf(const vlk::Choice& choice)
     for (const vlk::Code& code : choice.codes)
         texts << code.code << QString(code.code).toLower() << QString(code.code) + ' ';
     return texts;
+}
+
+inline QString nameOf(const vlk::Period&)
+{
+    return "period";
 }
 inline QStringList samplesOf(const vlk::Period& period)
 {
@@ -54,9 +141,34 @@ inline QStringList samplesOf(const vlk::Period& period)
     }
     return texts;
 }
+inline std::vector<Typed> typedInto(const vlk::Period& period, const vlk::Limits&, QLatin1Char)
+{
+    std::vector<Typed> all;
+    for (const int share : {1, 2, 3}) {
+        QStringList keys;
+        qint64 seconds = 0;
+        for (const vlk::PeriodPart& part : period.parts) {
+            const int count = part.most * share / 3;
+            keys << QString::number(count);
+            seconds += static_cast<qint64>(count) * part.seconds;
+        }
+        all.push_back({keys.join('|'), QString::number(seconds)});
+    }
+    return all;
+}
+
+inline QString nameOf(const vlk::Digits&)
+{
+    return "digits";
+}
 inline QStringList samplesOf(const vlk::Digits&)
 {
     return {"1", "0102", "111111111111111111111", "2222", "x1x1", "99"};
+}
+
+inline QString nameOf(const vlk::Mask&)
+{
+    return "mask";
 }
 // Every length matters, and so does each position on its own.
 inline QStringList samplesOf(const vlk::Mask& mask)
@@ -68,6 +180,7 @@ inline QStringList samplesOf(const vlk::Mask& mask)
         texts << QString(field.positions[0], '0') + '9';
     return texts;
 }
+
 inline QStringList samplesOfAnyKind(const vlk::Setting& setting)
 {
     QStringList texts =

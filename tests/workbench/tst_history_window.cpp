@@ -66,13 +66,17 @@ private Q_SLOTS:
         QVERIFY(Bench::find("dialog_History") && !QApplication::activeModalWidget());
         QVERIFY(!Bench::find("pushButton_BringChosen")->isEnabled());
         table->model()->setData(table->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
-        // It comes back with the two that it was chosen of.
+        // It comes back with the two that it was chosen of, also when they could not be read in between.
         auto* sides = Bench::find<QComboBox>("comboBox_Against");
         sides->setFocus();
         const QString now = sides->currentText();
-        for (const int key : {Qt::Key_Up, Qt::Key_Down}) {
-            QTest::keyClick(sides, Qt::Key(key));
-            QCOMPARE(Bench::find("pushButton_BringChosen")->isEnabled(), key == Qt::Key_Down);
+        for (const auto& [key, isSilent, isChosen] : {std::tuple(Qt::Key_Up, true, false),
+                                                      {Qt::Key_Down, true, false},
+                                                      {Qt::Key_Up, false, false},
+                                                      {Qt::Key_Down, false, true}}) {
+            bench.session().tracker().setFaults({.silence = isSilent});
+            QTest::keyClick(sides, key);
+            QCOMPARE(Bench::find("pushButton_BringChosen")->isEnabled(), isChosen);
         }
         QCOMPARE(sides->currentText(), now);
         // Neither a file that is not chosen after all nor a review that is given up changes what is looked

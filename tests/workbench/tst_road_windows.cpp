@@ -2,8 +2,6 @@
 
 #include "answered_dialogs.h"
 #include "road_bench.h"
-#include "support/files.h"
-#include "support/full_disk.h"
 #include "support/letters.h"
 
 using workbench::RoadReport;
@@ -81,77 +79,6 @@ private Q_SLOTS:
         QTRY_VERIFY(line().first() != english.first());
         bench.window.setLanguage("en");
         QTRY_COMPARE(line(), english);
-    }
-
-    // Only a fresh key counts, and the box skips what loses nothing.
-    void reviewsByKeys()
-    {
-        Bench bench;
-        bench.action("action_Read")->trigger();
-        bench.editName("Van 1");
-        QVERIFY(Bench::comes("dialog_Review"));
-        QWidget* review = Bench::find("dialog_Review");
-        QTest::keyClick(review, Qt::Key_Return);
-        QVERIFY(Bench::isReviewed());
-        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-        QApplication::sendEvent(Bench::find("pushButton_Write"), &held);
-        QVERIFY(Bench::find("dialog_Review") == review && bench.session().road().isInReview());
-        QCOMPARE(bench.text("label_Report"), QString());
-        QCOMPARE(Bench::find<QLabel>("label_Counts")->text(), QString("1 changed, 0 added"));
-        QTest::keyClick(Bench::find("checkBox_ReviewAlways"), Qt::Key_Space);
-        QTest::keyClick(review, Qt::Key_Return);
-        QVERIFY(Bench::comes("dialog_Report"));
-        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
-        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
-        bench.editName("Van 2");
-        QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), QString("Van 2"), Bench::kPatienceMs);
-        QVERIFY(Bench::comes("dialog_Report"));
-        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
-        // The menu brings it back.
-        bench.action("action_ReviewAlways")->trigger();
-        bench.editName("Van 3");
-        QVERIFY(Bench::isReviewed());
-        QVERIFY(Bench::find<QCheckBox>("checkBox_ReviewAlways")->isChecked());
-        QTest::keyClick(Bench::find("checkBox_ReviewAlways"), Qt::Key_Space);
-        Bench::press("pushButton_Cancel");
-        auto* tools = qobject_cast<QMenu*>(bench.action("action_ReviewAlways")->parentWidget());
-        Q_EMIT tools->aboutToShow();
-        QVERIFY(!bench.action("action_ReviewAlways")->isChecked());
-        bench.session().link().send(vlk::Message::CloseWindows);
-
-        // A file that removes what the tracker holds is shown all the same, and Enter leaves all as it is.
-        bench.window.openFile(writeFile(bench.root.filePath("bare.xml"),
-                                        "<DEVICE model=\"R-7106\"><TRACK bend=\"1\"/><X/></DEVICE>"));
-        bench.editName("Van 3");
-        QVERIFY(Bench::isReviewed());
-        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("bare.xml"));
-        QVERIFY(Bench::find<QLabel>("label_Origin")->text().contains("not written: TRACK/bend; X."));
-        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
-        QVERIFY(Bench::goes("dialog_Review"));
-        QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
-        QCOMPARE(bench.nameInTracker(), QString("Van 2"));
-    }
-
-    // Whoever wants no review gets one where there is no room to look for errors.
-    void showsWhatCouldNotBeChecked()
-    {
-        Bench bench;
-        bench.action("action_Read")->trigger();
-        bench.action("action_ReviewAlways")->trigger();
-        bench.editName("Van 1");
-        {
-            const FullDisk disk(10);
-            QVERIFY(Bench::isReviewed());
-        }
-        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
-        const QString said = Bench::find<QLabel>("label_Origin")->text();
-        QVERIFY2(said.startsWith("The configuration could not be checked for errors: no temporary file") &&
-                     said.contains("has to be seen: the configuration could not be checked for errors."),
-                 qPrintable(said));
-        Bench::press("pushButton_Cancel");
-        bench.editName("Van 1");
-        QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), QString("Van 1"), Bench::kPatienceMs);
-        QVERIFY(Bench::comes("dialog_Report"));
     }
 
     // The field is red, and what is written is not what was typed into it.
@@ -362,63 +289,6 @@ private Q_SLOTS:
         }
     }
 
-    // However long the values are, and however narrow the window.
-    void keepsNamesReadable()
-    {
-        Bench bench;
-        bench.action("action_Read")->trigger();
-        const auto isReadable = [](const char* dialog, const char* name) {
-            const int width = 720;
-            Bench::find(dialog)->resize(width, 400);
-            const auto* table = Bench::find<QTableView>(name);
-            return table->viewport()->width() < width && table->horizontalScrollBar()->maximum() == 0 &&
-                   table->columnWidth(0) * 3 > table->viewport()->width();
-        };
-        bench.editName("A lorry of the third column, with a trailer");
-        QVERIFY(Bench::isReviewed());
-        QTRY_VERIFY(isReadable("dialog_Review", "tableView_Review"));
-        QTest::keyClick(Bench::find("dialog_Review"), Qt::Key_Return);
-        QVERIFY(Bench::comes("dialog_Report"));
-        QTRY_VERIFY(isReadable("dialog_Report", "tableView_Report"));
-        QTest::keyClick(Bench::find("dialog_Report"), Qt::Key_Return);
-    }
-
-    // Enter presses the button that has the keyboard, whichever is the first choice.
-    void entersTheButtonInFocus()
-    {
-        Bench bench;
-        bench.action("action_Read")->trigger();
-        const QString before = bench.nameInTracker();
-        bench.editName("Van 1");
-        QVERIFY(Bench::isReviewed());
-        Bench::enter("pushButton_Cancel");
-        QVERIFY(Bench::goes("dialog_Review"));
-        QTRY_VERIFY(bench.text("label_Status").contains("write was cancelled"));
-        QCOMPARE(bench.nameInTracker(), before);
-
-        bench.editName("Van 1");
-        QVERIFY(Bench::isReviewed());
-        QTest::keyClick(Bench::find("tableView_Review"), Qt::Key_Return);
-        QVERIFY(Bench::comes("dialog_Report"));
-        QCOMPARE(bench.nameInTracker(), QString("Van 1"));
-        Bench::enter("pushButton_BringBack");
-        QVERIFY(Bench::isReviewed());
-        Bench::press("pushButton_Write");
-        QVERIFY(Bench::comes("dialog_Report"));
-        QCOMPARE(bench.nameInTracker(), before);
-        Bench::enter("pushButton_Close");
-
-        // What is there already is written only on demand.
-        bench.session().bringBack(1);
-        QVERIFY(Bench::isReviewed());
-        QCOMPARE(Bench::find<QLabel>("label_Counts")->text(), QString("The tracker holds the same already"));
-        QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
-        Bench::enter("pushButton_Write");
-        QVERIFY(Bench::comes("dialog_Report"));
-        QCOMPARE(bench.session().backups().all().size(), 3);
-        Bench::enter("pushButton_Close");
-    }
-
     void tellsTheStep()
     {
         Bench bench;
@@ -461,78 +331,6 @@ private Q_SLOTS:
         QVERIFY2(bench.text("label_Status").contains(since), qPrintable(bench.text("label_Status") + since));
         QTRY_VERIFY_WITH_TIMEOUT(Bench::find("dialog_Report"), 10'000);
         Bench::enter("pushButton_Close");
-    }
-
-    // What was brought back under the open window does not come back unseen, and what was written there is
-    // what Esc goes back to.
-    void knowsThatTheTrackerWasBroughtBack()
-    {
-        Bench bench;
-        bench.action("action_Read")->trigger();
-        bench.action("action_ReviewAlways")->trigger();
-        const QString before = bench.nameInTracker();
-        auto* field = Bench::find<QLineEdit>("lineEdit_Name");
-        const auto* differences = Bench::find<QAbstractButton>("toolButton_Differences");
-        const auto write = [field] {
-            QApplication::setActiveWindow(field->window());
-            QTest::keyClick(field->window(), Qt::Key_W, Qt::AltModifier);
-        };
-        for (const bool isPrevious : {false, true}) {
-            field->setFocus();
-            field->selectAll();
-            QTest::keyClicks(field, "Van 1");
-            QTRY_COMPARE(differences->text(), QString("1"));
-            QVERIFY(!Bench::find("label_Unsaved")); // what was taken over before is over
-            write();
-            if (isPrevious) {
-                QVERIFY(Bench::isReviewed());
-                Bench::press("pushButton_Write");
-            }
-            QVERIFY(Bench::comes("dialog_Report"));
-            QCOMPARE(bench.nameInTracker(), QString("Van 1"));
-            if (isPrevious) {
-                Bench::press("pushButton_Close");
-                QVERIFY(!bench.session().bringBackPrevious());
-            } else {
-                Bench::press("pushButton_BringBack");
-            }
-            QVERIFY(Bench::isReviewed());
-            Bench::press("pushButton_Write");
-            QTRY_COMPARE_WITH_TIMEOUT(bench.nameInTracker(), before, Bench::kPatienceMs);
-            QVERIFY(Bench::comes("dialog_Report"));
-            Bench::press("pushButton_Close");
-            QCOMPARE(field->text(), QString("Van 1"));
-            write();
-            QVERIFY(Bench::isReviewed());
-            const QString said = Bench::find<QLabel>("label_Origin")->text();
-            QVERIFY2(said.contains("has to be seen: the tracker holds something else"), qPrintable(said));
-            QCOMPARE(said.count("holds something else"), 1);
-            QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
-            Bench::press("pushButton_Cancel");
-            QVERIFY(Bench::goes("dialog_Review"));
-            // One button takes over what the tracker has, as one step.
-            auto* told = Bench::find<QLabel>("label_Unsaved");
-            QVERIFY(told && told->text().contains("was brought back to another"));
-            QCOMPARE(differences->text(), QString("1"));
-            if (isPrevious)
-                break;
-            Bench::press("label_Unsaved_Action1");
-            QCOMPARE(field->text(), before);
-            QVERIFY(!Bench::find("label_Unsaved"));
-        }
-        field->setFocus();
-        QTest::keyClicks(field, "x");
-        write();
-        QVERIFY(Bench::isReviewed());
-        Bench::press("pushButton_Write");
-        QVERIFY(Bench::comes("dialog_Report"));
-        Bench::press("pushButton_Close");
-        // A write ends what could be taken over.
-        QTest::keyClicks(field, "y");
-        QTRY_COMPARE(differences->text(), QString("1"));
-        QVERIFY(!Bench::find("label_Unsaved"));
-        QTest::keyClick(field, Qt::Key_Escape);
-        QCOMPARE(field->text(), bench.nameInTracker());
     }
 
     // Nobody is there who could cancel.

@@ -14,13 +14,8 @@ namespace {
 using vlk::Change;
 using vlk::Limits;
 
-// One function a kind.
-template <vlk::IsStructure Row>
-QString expected(const Row&, const Limits&)
-{
-    return {};
-}
-
+// Kinds that say what they take; of any other kind the sentence stands alone. A function here whose
+// parameters are not those of the call below is unused, and does not compile.
 QString expected(const vlk::Flag& row, const Limits&)
 {
     return text("cli_254").arg(row.on);
@@ -111,8 +106,14 @@ QString withExpected(const QString& sentence, const vlk::review::PresetProblem& 
         return QStringLiteral("%1: %2").arg(sentence, text(line->unexpectedKey));
     if (line && problem.change != Change::TooLong)
         return text("cli_253").arg(sentence, expectedSigns(*line, problem.text));
-    const QString said =
-        std::visit([&](const auto& row) { return expected(row, problem.limits); }, problem.setting->kind);
+    const QString said = std::visit(
+        [&](const auto& row) {
+            if constexpr (requires { expected(row, problem.limits); })
+                return expected(row, problem.limits);
+            else
+                return QString();
+        },
+        problem.setting->kind);
     return said.isEmpty() ? sentence : text("cli_253").arg(sentence, said);
 }
 

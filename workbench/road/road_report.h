@@ -11,6 +11,8 @@
 #include <QMetaType>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace workbench {
 
 struct WriteRequest
@@ -32,7 +34,8 @@ struct WriteReview
 {
     TrackerIdentity tracker;
     WriteRequest request;
-    SettingChanges changes; // what is removed comes first
+    // What is removed comes first, then what the user has edited, then what goes along.
+    SettingChanges changes;
     QVector<SettingAdvice> advice;
     QStringList keptSections; // of the tracker, which the file does not have
     int added = 0;
@@ -56,6 +59,12 @@ struct WriteReview
         BringsBack
     };
 
+    // How many of them the user has edited in the window that wants them written.
+    int edited() const
+    {
+        return static_cast<int>(
+            std::ranges::count(changes, SettingChange::Cause::Edited, &SettingChange::cause));
+    }
     int changed() const { return static_cast<int>(changes.size()) - added - removed; }
     // What was not asked for and comes along, since the chosen settings need it.
     SettingChanges alongside() const

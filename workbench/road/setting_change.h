@@ -24,6 +24,11 @@ struct SettingChange
     // The values in words and units.
     QString beforeText;
     QString afterText;
+    // Of what a window wants to be written: whether its user has edited the setting, or it changes without an
+    // edit, for the reason that the note tells in words, or stands there as it was opened.
+    enum class Cause { Unknown, Edited, Unedited, Opened };
+    Cause cause = Cause::Unknown;
+    QString note{};
 
     bool isAdded() const { return before.isNull(); }
     bool isRemoved() const { return after.isNull(); }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace workbench {
 
@@ -19,6 +20,12 @@ void leaveKeptSections(SettingChanges& changes, const QSet<QString>& sent, QStri
                                             !sent.contains(sectionOf(change.path));
                                  }),
                   changes.end());
+}
+
+// In the review: what is removed, what the user has edited, what goes along.
+std::pair<bool, bool> placeInReview(const SettingChange& change)
+{
+    return {!change.isRemoved(), change.cause != SettingChange::Cause::Edited};
 }
 
 RoadReport::Fault faultOf(PortAnswer::Outcome outcome)
@@ -211,8 +218,7 @@ void WriteRoad::presentCame(const QByteArray& document)
     }
     const QSet<QString> sent = sectionsOf(wanted);
     leaveKeptSections(*changes, sent, &SettingChange::after);
-    std::stable_partition(changes->begin(), changes->end(),
-                          [](const SettingChange& change) { return change.isRemoved(); });
+    std::ranges::stable_sort(*changes, {}, placeInReview);
     review_.changes = *changes;
     const auto count = [&](bool (SettingChange::*is)() const) {
         return static_cast<int>(std::ranges::count_if(*changes, is));

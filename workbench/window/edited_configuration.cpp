@@ -13,6 +13,7 @@ void EditedConfiguration::readFromTracker(const QByteArray& document, const QStr
 {
     seenIn_ = number;
     known_ = document;
+    offered_.reset();
     source_ = Source::Tracker;
     unknown_.clear();
     document_ = document;
@@ -28,6 +29,7 @@ void EditedConfiguration::openFile(const QString& path, const QByteArray& docume
     source_ = Source::File;
     seenIn_.clear();
     known_.clear();
+    offered_.reset();
     file_ = QFileInfo(path).fileName();
     document_ = document;
     asRead_ = ConfigurationValues(document);
@@ -39,6 +41,7 @@ void EditedConfiguration::beginNew()
     source_ = Source::New;
     seenIn_.clear();
     known_.clear();
+    offered_.reset();
     unknown_.clear();
     asRead_ = ConfigurationValues();
     written_.reset();
@@ -53,6 +56,7 @@ void EditedConfiguration::written(const QByteArray& document, const QString& num
     }
     seenIn_ = number;
     known_ = held;
+    offered_.reset();
     unknown_.clear();
     written_ = changesIn(document);
     trackerHolds(document);
@@ -68,6 +72,12 @@ void EditedConfiguration::writtenInPart(const QString& number, const QByteArray&
 void EditedConfiguration::trackerHolds(const QByteArray& document)
 {
     tracker_ = ConfigurationValues(document);
+}
+
+void EditedConfiguration::tookOver()
+{
+    if (offered_)
+        known_ = *offered_;
 }
 
 void EditedConfiguration::close()

@@ -27,6 +27,10 @@ public:
     void writtenInPart(const QString& number, const QByteArray& held);
     // The tracker took one that was open before, or has been brought back.
     void trackerHolds(const QByteArray& document);
+    // The window has been told that the tracker holds this, and may take it over.
+    void offered(const QByteArray& held) { offered_ = held; }
+    bool isOffered() const { return offered_.has_value(); }
+    void tookOver();
     // The window is closed.
     void close();
     // The tracker is gone with what it holds.
@@ -57,6 +61,7 @@ private:
     QString file_; // without its folder
     QString seenIn_;
     QByteArray known_;
+    std::optional<QByteArray> offered_;
     QStringList unknown_;
     Compare compare_;
     QByteArray document_; // that was read

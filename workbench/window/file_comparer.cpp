@@ -47,6 +47,21 @@ QString orNull(const QString* text)
     return text ? there(*text) : QString();
 }
 
+SettingChange::Cause causeOf(const FileDifference& told)
+{
+    using Cause = SettingChange::Cause;
+    switch (told.cause) {
+    case FileDifference::Edited:
+        return Cause::Edited;
+    case FileDifference::Unedited:
+        return Cause::Unedited;
+    case FileDifference::Opened:
+        return Cause::Opened;
+    default:
+        return Cause::Unknown;
+    }
+}
+
 } // namespace
 
 QString FileComparer::put(const char* name, const QByteArray& document) const
@@ -115,6 +130,19 @@ QByteArray FileComparer::bring(const QByteArray& document, const QByteArray& oth
 
 std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, const QByteArray& after) const
 {
+    auto changes = compareWritten(before, after);
+    if (!changes)
+        return {};
+    for (SettingChange& change : *changes) {
+        change.cause = SettingChange::Cause::Unknown;
+        change.note.clear();
+    }
+    return changes;
+}
+
+std::optional<SettingChanges> FileComparer::compareWritten(const QByteArray& before,
+                                                           const QByteArray& after) const
+{
     const QString first = put("before.xml", before);
     const QString second = put("after.xml", after);
     SettingChanges changes;
@@ -123,9 +151,19 @@ std::optional<SettingChanges> FileComparer::compare(const QByteArray& before, co
     asked.after = &second;
     asked.context = &changes;
     asked.take = [](void* context, const FileDifference* told) {
-        static_cast<SettingChanges*>(context)->append({*told->path, *told->page, *told->group, *told->caption,
-                                                       orNull(told->before), orNull(told->after),
-                                                       orNull(told->beforeText), orNull(told->afterText)});
+        SettingChange change{*told->path,
+                             *told->page,
+                             *told->group,
+                             *told->caption,
+                             orNull(told->before),
+                             orNull(told->after),
+                             orNull(told->beforeText),
+                             orNull(told->afterText)};
+        if (told->size >= sizeof(FileDifference)) {
+            change.cause = causeOf(*told);
+            change.note = orNull(told->note);
+        }
+        static_cast<SettingChanges*>(context)->append(change);
     };
     if (!first.isEmpty() && !second.isEmpty())
         link_.send(vlk::Message::CompareFiles, &asked);

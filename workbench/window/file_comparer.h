@@ -23,6 +23,9 @@ public:
     explicit FileComparer(PluginLink& link) : link_(link) {}
 
     std::optional<SettingChanges> compare(const QByteArray& before, const QByteArray& after) const;
+    // The same, with the cause of each change where the window that is open wants the other one to be
+    // written.
+    std::optional<SettingChanges> compareWritten(const QByteArray& before, const QByteArray& after) const;
     // None when the document cannot be put where the plug-in would look at it.
     std::optional<QVector<SettingAdvice>> advise(const QByteArray& document) const;
     // Paths of keys and sections that no setting reads: what is opened loses them.

@@ -302,11 +302,13 @@ void HistoryWindow::compare()
     const std::optional<QByteArray> before = any && !why ? other(why) : std::nullopt;
     if (before)
         changes = session_.comparer().compare(*before, session_.backups().document(backup));
-    // What was chosen comes back with the same two.
+    // What was chosen comes back with the same two, however long one of them cannot be read.
     const int against = other_->currentIndex() < 0 ? 0 : other_->currentData().toInt();
     const Sides sides{backup, against, against == AFile ? file_ : QString()};
-    chosenOf(compared_) = model_.chosen();
+    if (isCompared_)
+        chosenOf(compared_) = model_.chosen();
     compared_ = sides;
+    isCompared_ = changes.has_value();
     model_.setChanges(changes.value_or(SettingChanges()), chosenOf(sides));
     model_.retranslate();
     columns_->fit();

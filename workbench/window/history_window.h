@@ -94,6 +94,7 @@ private:
     QPushButton* whole_ = nullptr;
     QString file_; // that was chosen to compare with
     Sides compared_;
+    bool isCompared_ = false; // both could be read
     std::vector<std::pair<Sides, QStringList>> chosenOf_;
 };
 

@@ -55,7 +55,7 @@ HostSession::HostSession(const QString& trackerFolder, const QString& backupsFol
       backups_(backupsFolder), road_(
                                    port_, backups_,
                                    [this](const QByteArray& before, const QByteArray& after) {
-                                       return comparer_.compare(before, after);
+                                       return comparer_.compareWritten(before, after);
                                    },
                                    [this](const QByteArray& document) { return comparer_.advise(document); })
 {
@@ -230,6 +230,8 @@ void HostSession::takeWritten(const QString& path)
     request.document = contentOf(file);
     request.name = edited_.file();
     request.readFrom = edited_.seenIn();
+    if (edited_.isOffered() && link_.hasTakenOver())
+        edited_.tookOver();
     request.known = edited_.known();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
@@ -281,8 +283,11 @@ void HostSession::finish(const RoadReport& report)
     } else if (isOfOpen && !report.readBack.isEmpty()) {
         edited_.writtenInPart(report.tracker.number, report.readBack);
     }
-    if (!report.readBack.isEmpty() && !(isConfirmed && isOfOpen) && edited_.seenIn() == report.tracker.number)
+    if (!report.readBack.isEmpty() && !(isConfirmed && isOfOpen) &&
+        edited_.seenIn() == report.tracker.number) {
         link_.tellHeld(report.readBack);
+        edited_.offered(report.readBack);
+    }
     if (isGivenUp)
         removeKept(request.file);
     Q_EMIT editedChanged();

@@ -143,7 +143,10 @@ constexpr RecordRow kRecords[] = {
          return numbers(p, "outcome=%1 differences=%2", &FileComparison::outcome,
                         &FileComparison::differences);
      }},
-    {Message::ConfirmWrite, [](const void* p) { return numbers(p, "step=%1", &WriteConfirmation::step); }},
+    {Message::ConfirmWrite,
+     [](const void* p) {
+         return numbers(p, "step=%1 takenOver=%2", &WriteConfirmation::step, &WriteConfirmation::takenOver);
+     }},
     {Message::CheckFile,
      [](const void* p) {
          return numbers(p, "outcome=%1 remarks=%2", &FileCheck::outcome, &FileCheck::remarks);

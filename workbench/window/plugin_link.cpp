@@ -189,6 +189,14 @@ void PluginLink::tellHeld(const QByteArray& content)
     send(vlk::Message::ConfirmWrite, &record);
 }
 
+bool PluginLink::hasTakenOver()
+{
+    vlk::WriteConfirmation record;
+    record.step = vlk::WriteConfirmation::Asked;
+    send(vlk::Message::ConfirmWrite, &record);
+    return record.takenOver == 1;
+}
+
 void PluginLink::offerTexts(Languages& languages)
 {
     vlk::OfferedTexts offered;

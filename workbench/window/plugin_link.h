@@ -52,6 +52,8 @@ public:
     void confirmWrite(const QByteArray& content);
     // What the tracker of the open configuration holds, where no write of that has come out right.
     void tellHeld(const QByteArray& content);
+    // Whether its window has taken that over.
+    bool hasTakenOver();
     // Offers the texts of every language, until they are withdrawn; `languages` lives as long.
     void offerTexts(Languages& languages);
     void withdrawTexts();

@@ -23,6 +23,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <vector>
 
 namespace workbench {
 
@@ -31,6 +32,8 @@ namespace {
 // Nobody has read anything before.
 constexpr int kUnseenMs = 300;
 constexpr QSize kUsualSize(760, 420);
+constexpr int kWidthWithNotes = 980;
+constexpr int kWidestNote = 30;   // letters
 constexpr int kLongestNote = 240; // signs; all of it is in the tool tip
 constexpr int kRoomAround = 130;  // what stands above and below the table
 
@@ -91,6 +94,21 @@ QString whyShown(const WriteReview& review)
     return text("wb_review_why").arg(reasons.join(QStringLiteral("; ")));
 }
 
+// With the reason for each change that nobody has edited. As it was opened is one only beside others: where
+// all of it stands as it was opened, its origin is told above.
+SettingChanges shownChanges(const WriteReview& review)
+{
+    using Cause = SettingChange::Cause;
+    SettingChanges changes = review.changes;
+    const bool isOpened = std::ranges::all_of(
+        changes, [](Cause cause) { return cause == Cause::Opened; }, &SettingChange::cause);
+    for (SettingChange& change : changes) {
+        if (change.cause == Cause::Opened && !isOpened)
+            change.note = text("wb_790");
+    }
+    return changes;
+}
+
 // What the numbers in the counts do not tell.
 QStringList notesOf(const WriteReview& review, bool isUnasked)
 {
@@ -132,8 +150,9 @@ ReviewWindow::ReviewWindow(const WriteReview& review, Settings& settings, QWidge
     addAdvice(column);
     addButtons(column);
     const auto* table = findChild<QTableView*>(QStringLiteral("tableView_Review"));
-    resizeWithin(this,
-                 {kUsualSize.width(), std::min(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
+    const bool hasNotes = table->model()->columnCount() > SettingChangeModel::Note;
+    resizeWithin(this, {hasNotes ? kWidthWithNotes : kUsualSize.width(),
+                        std::min(kUsualSize.height(), kRoomAround + heightOfRows(*table))});
 }
 
 void ReviewWindow::addOrigin(QVBoxLayout* column)
@@ -209,12 +228,12 @@ void ReviewWindow::addTable(QVBoxLayout* column)
 {
     auto* model = new SettingChangeModel(
         [](int column) {
-            static constexpr const char* keys[] = {"wb_review_setting", "wb_review_before",
-                                                   "wb_review_after"};
+            static constexpr const char* keys[] = {"wb_review_setting", "wb_review_before", "wb_review_after",
+                                                   "rev_105"};
             return text(keys[column]);
         },
         false, this);
-    model->setChanges(review_.changes);
+    model->setChanges(shownChanges(review_));
     auto* table = new QTableView(this);
     table->setObjectName(QStringLiteral("tableView_Review"));
     table->setAccessibleName(text("wb_review_table"));
@@ -225,9 +244,28 @@ void ReviewWindow::addTable(QVBoxLayout* column)
     table->setIconSize({kMarkSize, kMarkSize});
     auto* empty = new EmptyNote(table);
     empty->tell(text("wb_review_none"));
-    new SettingColumns(table, {{SettingChangeModel::Before}, {SettingChangeModel::After}});
+    std::vector<SettingColumns::Column> columns{{SettingChangeModel::Before}, {SettingChangeModel::After}};
+    if (model->columnCount() > SettingChangeModel::Note)
+        columns.push_back({SettingChangeModel::Note, kWidestNote});
+    new SettingColumns(table, columns);
     wrapTexts(table);
+    addOwnAlone(column, table);
     column->addWidget(table, 1);
+}
+
+// Many may go along with a few that were edited.
+void ReviewWindow::addOwnAlone(QVBoxLayout* column, QTableView* table)
+{
+    const int edited = review_.edited();
+    if (edited == 0 || edited == review_.changes.size())
+        return;
+    auto* box = new QCheckBox(text("wb_791").arg(number(edited)), this);
+    box->setObjectName(QStringLiteral("checkBox_OwnAlone"));
+    connect(box, &QCheckBox::toggled, this, [this, table](bool on) {
+        for (int row = 0; row < review_.changes.size(); ++row)
+            table->setRowHidden(row, on && review_.changes[row].cause != SettingChange::Cause::Edited);
+    });
+    column->addWidget(box);
 }
 
 void ReviewWindow::addAdvice(QVBoxLayout* column)

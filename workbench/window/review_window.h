@@ -35,6 +35,7 @@ private:
     void addCounts(QVBoxLayout* column);
     void addCount(QHBoxLayout* line, int mark, const QString& text, const char* name);
     void addTable(QVBoxLayout* column);
+    void addOwnAlone(QVBoxLayout* column, QTableView* table);
     void addAdvice(QVBoxLayout* column);
     void addButtons(QVBoxLayout* column);
 

@@ -71,11 +71,12 @@ void RoadWindows::review(const WriteReview& review)
     auto* window = new ReviewWindow(review, settings_, windowInFront(mainWindow_));
     connect(window, &QDialog::accepted, road, &WriteRoad::approve);
     connect(window, &QDialog::rejected, road, &WriteRoad::cancel);
-    // The window below may take it away.
-    connect(window, &QObject::destroyed, road, [road] {
+    // The window below may take it away. One that was answered may go after the next one has come.
+    const auto taken = connect(window, &QObject::destroyed, road, [road] {
         if (road->isInReview())
             road->cancel();
     });
+    connect(window, &QDialog::finished, road, [taken] { disconnect(taken); });
     if (QWidget* below = window->parentWidget())
         connect(window, &QDialog::finished, below, &QWidget::activateWindow);
     window->open();

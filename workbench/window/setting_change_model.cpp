@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QPixmap>
 #include <QStringList>
 #include <QTableView>
 
@@ -24,6 +25,23 @@ QString shownValue(const QString& value, const QString& words)
     return value.isNull() ? QStringLiteral("–") : words;
 }
 
+namespace {
+
+// Nothing, in the size of a mark, where nobody has edited it.
+QPixmap markOf(const SettingChange& change)
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    if (change.isRemoved() || change.note.isEmpty())
+        return markPixmap(change.isRemoved() ? Mark::Invalid : Mark::Changed, QGuiApplication::palette(),
+                          kMarkSize, ratio);
+    QPixmap none(QSize(kMarkSize, kMarkSize) * ratio);
+    none.setDevicePixelRatio(ratio);
+    none.fill(Qt::transparent);
+    return none;
+}
+
+} // namespace
+
 int heightOfRows(const QTableView& table)
 {
     constexpr int atLeast = 4;
@@ -39,6 +57,8 @@ void SettingChangeModel::setChanges(const SettingChanges& changes, const QString
 {
     beginResetModel();
     changes_ = changes;
+    hasNotes_ =
+        std::ranges::any_of(changes, [](const SettingChange& change) { return !change.note.isEmpty(); });
     chosen_ = {chosen.begin(), chosen.end()};
     endResetModel();
 }
@@ -65,7 +85,7 @@ int SettingChangeModel::rowCount(const QModelIndex& parent) const
 
 int SettingChangeModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    return parent.isValid() ? 0 : hasNotes_ ? ColumnCount : Note;
 }
 
 QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
@@ -74,8 +94,7 @@ QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole && index.column() == Setting)
         return settingName(change) + QLatin1Char('\n') + change.path;
     if (role == Qt::DecorationRole && index.column() == Setting)
-        return markPixmap(change.isRemoved() ? Mark::Invalid : Mark::Changed, QGuiApplication::palette(),
-                          kMarkSize, qApp->devicePixelRatio());
+        return markOf(change);
     if (role == Qt::CheckStateRole && index.column() == Setting && canBeChosen_)
         return chosen_.contains(change.path) ? Qt::Checked : Qt::Unchecked;
     if (role != Qt::DisplayRole)
@@ -85,8 +104,10 @@ QVariant SettingChangeModel::data(const QModelIndex& index, int role) const
         return settingName(change);
     case Before:
         return shownValue(change.before, change.beforeText);
-    default:
+    case After:
         return shownValue(change.after, change.afterText);
+    default:
+        return change.note;
     }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 // Settings in which two configurations differ, in words, one a row: which setting, and what either side
-// holds. Where rows can be chosen each has a check mark.
+// holds. Where rows can be chosen each has a check mark. Where some change that nobody has edited, a last
+// column tells why, and the others alone have the mark of a change.
 
 #include "road/setting_change.h"
 
@@ -25,7 +26,7 @@ class SettingChangeModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Setting, Before, After, ColumnCount };
+    enum Column { Setting, Before, After, Note, ColumnCount };
     using Heads = std::function<QString(int column)>;
 
     SettingChangeModel(Heads heads, bool canBeChosen, QObject* parent = nullptr);
@@ -45,6 +46,7 @@ public:
 private:
     Heads heads_;
     bool canBeChosen_;
+    bool hasNotes_ = false;
     SettingChanges changes_;
     QSet<QString> chosen_; // paths
 };

@@ -17,7 +17,9 @@ namespace vlk {
 
 class Adapter;
 
-// What an adapter is made of; each kind of row has its adapterFor() beside its adapter.
+// What an adapter is made of. Each kind of row has two functions beside its adapter: adapterFor(), which
+// makes it, and inputOf(), the widget that a form made from rows gets for it; null where several show a
+// value.
 struct Joint
 {
     Edits& edits;
@@ -31,8 +33,11 @@ struct Joint
     }
 };
 
-template <IsStructure Row>
-std::unique_ptr<Adapter> adapterFor(const Row&, const Joint&)
+std::unique_ptr<Adapter> adapterFor(const IsStructure auto&, const Joint&)
+{
+    return nullptr;
+}
+QWidget* inputOf(const IsStructure auto&)
 {
     return nullptr;
 }
@@ -57,7 +62,7 @@ public:
     virtual QStringList news() const { return {}; }
     // Marks the value as doubtful; an empty text takes the mark away.
     virtual void doubt(const QString& /*complaint*/) {}
-    // The value as the widgets hold it, for checks that they can hold what the configuration does.
+    // The value as the widgets hold it.
     virtual QString held() const = 0;
 
 protected:

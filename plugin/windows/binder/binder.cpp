@@ -2,25 +2,16 @@
 
 #include "review/setting_words.h"
 #include "typing/typed_entry.h"
-#include "windows/binder/boxes_adapter.h"
+#include "windows/binder/adapters.h"
 #include "windows/binder/cell_adapter.h"
-#include "windows/binder/choice_adapter.h"
-#include "windows/binder/flag_adapter.h"
 #include "windows/binder/handles_adapter.h"
-#include "windows/binder/mask_adapter.h"
-#include "windows/binder/number_adapter.h"
-#include "windows/binder/period_adapter.h"
-#include "windows/binder/text_adapter.h"
 #include "windows/vlk_dblslider2.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QHash>
-#include <QLabel>
-#include <QLineEdit>
 #include <QLoggingCategory>
-#include <QSpinBox>
+#include <QStringList>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -65,16 +56,16 @@ bool Binder::isLate(const Setting& setting) const
     return late;
 }
 
+// A row without its widget and a rule without its target are faults of the program, at which a development
+// build stops.
 std::unique_ptr<Adapter> Binder::makeAdapter(int row)
 {
     const Setting& setting = values_.setting(row);
-    const QString& path = layout_.rows[row].path;
     bool found = false;
     const auto find = [&](const Name& name) {
         QWidget* widget = forms_.find(name, setting.base().numbers);
+        Q_ASSERT_X(widget || !name, qPrintable(layout_.rows[row].path), name.tail);
         found = found || widget;
-        if (!widget && name)
-            problems_ << QStringLiteral("%1: no widget %2").arg(path, QLatin1String(name.tail));
         return widget;
     };
     const Joint joint{*this, row, find};
@@ -83,36 +74,38 @@ std::unique_ptr<Adapter> Binder::makeAdapter(int row)
         return tree ? std::make_unique<CellAdapter>(joint, tree) : nullptr;
     }
     auto adapter = std::visit([&](const auto& kind) { return adapterFor(kind, joint); }, setting.kind);
-    if (!adapter && found)
-        problems_ << QStringLiteral("%1: its widget is of another kind").arg(path);
+    Q_ASSERT_X(adapter || !found, qPrintable(layout_.rows[row].path), "its widget is of another kind");
     return adapter;
 }
 
 void Binder::bind()
 {
     const Showing showing(showing_);
-    problems_.clear();
     for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        if (!adapters_[row] && !isLate(*layout_.rows[row].setting))
-            adapters_[row] = makeAdapter(static_cast<int>(row));
+        if (adapters_[row] || isLate(*layout_.rows[row].setting))
+            continue;
+        adapters_[row] = makeAdapter(static_cast<int>(row));
+        // What a row is joined to is found among the binder's children.
+        if (adapters_[row])
+            adapters_[row]->setParent(this);
     }
     handles_.clear();
     for (const Distance& rule : values_.table().all<Distance>()) {
         if (!rule.slider)
             continue;
-        if (auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, rule.numbers)))
+        auto* slider = qobject_cast<VLK_DblSlider2*>(forms_.find(rule.slider, rule.numbers));
+        Q_ASSERT_X(slider, "slider", rule.slider.tail);
+        if (slider)
             handles_.push_back(std::make_unique<HandlesAdapter>(*this, rule, slider));
-        else
-            problems_ << QStringLiteral("no slider %1").arg(QLatin1String(rule.slider.tail));
     }
     ruled_.clear();
     for (const Enable& rule : values_.table().all<Enable>()) {
         const QString form = numberedName(rule.targets.form(), rule.numbers);
         for (const QString& name : targetNames(rule)) {
-            if (QWidget* widget = forms_.find(form, name, rule.numbers.outer))
+            QWidget* widget = forms_.find(form, name, rule.numbers.outer);
+            Q_ASSERT_X(widget || forms_.isLate(form), "enable", qPrintable(name));
+            if (widget)
                 ruled_.add(widget, forms_.labelOf(widget), rule);
-            else if (!forms_.isLate(form))
-                problems_ << QStringLiteral("no widget %1 to enable").arg(name);
         }
     }
 }
@@ -354,18 +347,6 @@ void Binder::selectFirstItems()
         if (const auto* choice = dynamic_cast<ChoiceAdapter*>(adapter.get()))
             set(choice->row(), choice->firstItem());
     }
-}
-
-QStringList Binder::disagreements() const
-{
-    QStringList all;
-    for (std::size_t row = 0; row < adapters_.size(); ++row) {
-        const QString& value = values_.value(static_cast<int>(row));
-        if (adapters_[row] && adapters_[row]->held() != value)
-            all << QStringLiteral("%1 is %2, shown %3")
-                       .arg(layout_.rows[row].path, value, adapters_[row]->held());
-    }
-    return all;
 }
 
 } // namespace vlk

@@ -13,7 +13,6 @@
 #include "windows/binder/ruled_widgets.h"
 
 #include <QObject>
-#include <QStringList>
 
 #include <map>
 #include <memory>
@@ -60,12 +59,6 @@ public:
     void forget();
     // Takes the first item of every combo box as an edit.
     void selectFirstItems();
-
-    // What is wrong between the table and the forms, in words: a row without its widget, a rule without its
-    // target. Empty when all is well.
-    const QStringList& problems() const { return problems_; }
-    // Rows whose widgets hold another value than the settings.
-    QStringList disagreements() const;
 
     // The widgets that show a setting, each with the part of it that it shows, counted as in review::Hit; -1
     // for the whole. Those whose forms are not there are left out.
@@ -119,7 +112,6 @@ private:
     std::vector<std::unique_ptr<HandlesAdapter>> handles_;
     RuledWidgets ruled_;
     std::map<int, Range> ranges_; // of the rows that rules give ranges
-    QStringList problems_;
     std::map<int, QString> told_; // rows of which something was logged, with their names
     int showing_ = 0;
 };

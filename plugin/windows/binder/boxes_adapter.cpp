@@ -153,4 +153,9 @@ std::unique_ptr<Adapter> adapterFor(const Digits& row, const Joint& joint)
     return std::make_unique<PositionsAdapter>(row, joint);
 }
 
+QWidget* inputOf(const Digits&)
+{
+    return nullptr;
+}
+
 } // namespace vlk

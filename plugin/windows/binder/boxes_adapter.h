@@ -44,5 +44,6 @@ private:
 };
 
 std::unique_ptr<Adapter> adapterFor(const Digits& row, const Joint& joint);
+QWidget* inputOf(const Digits&);
 
 } // namespace vlk

@@ -3,6 +3,7 @@
 #include "windows/binder/boxes_adapter.h"
 #include "windows/binder/code_list.h"
 
+#include <QComboBox>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -58,6 +59,11 @@ std::unique_ptr<Adapter> adapterFor(const Choice& row, const Joint& joint)
         return std::make_unique<ExclusiveAdapter>(row, joint);
     auto* box = joint.findAs<QComboBox>(row.widget);
     return box ? std::make_unique<ChoiceAdapter>(row, joint, box) : nullptr;
+}
+
+QWidget* inputOf(const Choice&)
+{
+    return new QComboBox;
 }
 
 } // namespace vlk

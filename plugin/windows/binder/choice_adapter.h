@@ -33,5 +33,6 @@ private:
 
 // In a list, or over boxes.
 std::unique_ptr<Adapter> adapterFor(const Choice& row, const Joint& joint);
+QWidget* inputOf(const Choice&);
 
 } // namespace vlk

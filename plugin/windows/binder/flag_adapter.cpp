@@ -2,6 +2,8 @@
 
 #include "windows/binder/checkable.h"
 
+#include <QCheckBox>
+
 namespace vlk {
 
 FlagAdapter::FlagAdapter(const Flag& flag, const Joint& joint, QWidget* box)
@@ -29,6 +31,11 @@ std::unique_ptr<Adapter> adapterFor(const Flag& row, const Joint& joint)
 {
     QWidget* box = joint.find(row.widget);
     return box ? std::make_unique<FlagAdapter>(row, joint, box) : nullptr;
+}
+
+QWidget* inputOf(const Flag&)
+{
+    return new QCheckBox;
 }
 
 } // namespace vlk

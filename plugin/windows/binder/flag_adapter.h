@@ -23,5 +23,6 @@ private:
 };
 
 std::unique_ptr<Adapter> adapterFor(const Flag& row, const Joint& joint);
+QWidget* inputOf(const Flag&);
 
 } // namespace vlk

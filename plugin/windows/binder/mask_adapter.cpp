@@ -40,4 +40,9 @@ std::unique_ptr<Adapter> adapterFor(const Mask& row, const Joint& joint)
     return mask ? std::make_unique<MaskAdapter>(joint, widget, mask) : nullptr;
 }
 
+QWidget* inputOf(const Mask&)
+{
+    return nullptr;
+}
+
 } // namespace vlk

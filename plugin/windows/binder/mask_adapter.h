@@ -28,5 +28,6 @@ private:
 };
 
 std::unique_ptr<Adapter> adapterFor(const Mask& row, const Joint& joint);
+QWidget* inputOf(const Mask&);
 
 } // namespace vlk

@@ -4,6 +4,8 @@
 
 #include <QAbstractSlider>
 #include <QCoreApplication>
+#include <QDoubleSpinBox>
+#include <QSpinBox>
 
 namespace vlk {
 
@@ -97,6 +99,21 @@ void NumberAdapter::take()
 QString NumberAdapter::held() const
 {
     return fileNumber(number_, isOn() ? box_.value() : 0);
+}
+
+std::unique_ptr<Adapter> adapterFor(const Number& row, const Joint& joint)
+{
+    QWidget* box = joint.find(row.widget);
+    Name companion = row.widget;
+    companion.tail = row.companion;
+    return box ? std::make_unique<NumberAdapter>(row, joint, box, joint.find(companion)) : nullptr;
+}
+
+QWidget* inputOf(const Number& row)
+{
+    if (row.decimals > 0)
+        return new QDoubleSpinBox;
+    return new QSpinBox;
 }
 
 } // namespace vlk

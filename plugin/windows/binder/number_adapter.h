@@ -6,8 +6,6 @@
 #include "windows/binder/adapter.h"
 #include "windows/binder/number_box.h"
 
-#include <concepts>
-
 namespace vlk {
 
 class NumberAdapter : public Adapter
@@ -38,13 +36,7 @@ private:
     QString complaint_; // about a value that is doubtful
 };
 
-template <std::derived_from<Number> Row>
-std::unique_ptr<Adapter> adapterFor(const Row& row, const Joint& joint)
-{
-    QWidget* box = joint.find(row.widget);
-    Name companion = row.widget;
-    companion.tail = row.companion;
-    return box ? std::make_unique<NumberAdapter>(row, joint, box, joint.find(companion)) : nullptr;
-}
+std::unique_ptr<Adapter> adapterFor(const Number& row, const Joint& joint);
+QWidget* inputOf(const Number& row);
 
 } // namespace vlk

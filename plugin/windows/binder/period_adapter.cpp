@@ -88,4 +88,9 @@ std::unique_ptr<Adapter> adapterFor(const Period& row, const Joint& joint)
     return isWhole ? std::make_unique<PeriodAdapter>(row, joint, boxes) : nullptr;
 }
 
+QWidget* inputOf(const Period&)
+{
+    return nullptr;
+}
+
 } // namespace vlk

@@ -30,5 +30,6 @@ private:
 };
 
 std::unique_ptr<Adapter> adapterFor(const Period& row, const Joint& joint);
+QWidget* inputOf(const Period&);
 
 } // namespace vlk

@@ -2,60 +2,12 @@
 
 #include "settings/table_layout.h"
 #include "typing/grid.h"
+#include "windows/binder/adapters.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QSpinBox>
-
-#include <concepts>
 
 namespace vlk {
-
-namespace {
-
-// One function a kind that a single widget shows.
-QWidget* inputOf(const Flag&)
-{
-    return new QCheckBox;
-}
-
-QWidget* inputOf(const Choice&)
-{
-    return new QComboBox;
-}
-
-QWidget* inputOf(const Text&)
-{
-    return new QLineEdit;
-}
-
-QWidget* inputOf(const Number& row)
-{
-    if (row.decimals > 0)
-        return new QDoubleSpinBox;
-    return new QSpinBox;
-}
-
-template <class Row>
-constexpr bool kHasInput =
-    !IsStructure<Row> && !std::same_as<Row, Period> && !std::same_as<Row, Digits> && !std::same_as<Row, Mask>;
-
-QWidget* newInput(const Setting& setting)
-{
-    return std::visit(
-        []<class Row>(const Row& row) -> QWidget* {
-            if constexpr (kHasInput<Row>)
-                return inputOf(row);
-            else
-                qFatal("%s has no widget of its own", row.pathName());
-        },
-        setting.kind);
-}
-
-} // namespace
 
 std::vector<const Setting*> rowsOfForm(const SettingsTable& table, std::string_view form, Numbers numbers)
 {
@@ -73,7 +25,9 @@ std::vector<const Setting*> rowsOfForm(const SettingsTable& table, std::string_v
 QWidget* makeInput(const Setting& setting)
 {
     const Shown* shown = setting.shown();
-    QWidget* input = newInput(setting);
+    QWidget* input = std::visit([](const auto& row) { return inputOf(row); }, setting.kind);
+    if (!input)
+        qFatal("%s has no widget of its own", setting.base().pathName());
     input->setObjectName(numberedName(shown->widget.tail, shown->numbers));
     return input;
 }

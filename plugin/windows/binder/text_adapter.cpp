@@ -94,4 +94,9 @@ std::unique_ptr<Adapter> adapterFor(const Text& row, const Joint& joint)
     return edit ? std::make_unique<TextAdapter>(row, joint, edit) : nullptr;
 }
 
+QWidget* inputOf(const Text&)
+{
+    return new QLineEdit;
+}
+
 } // namespace vlk

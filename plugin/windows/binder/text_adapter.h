@@ -28,5 +28,6 @@ private:
 };
 
 std::unique_ptr<Adapter> adapterFor(const Text& row, const Joint& joint);
+QWidget* inputOf(const Text&);
 
 } // namespace vlk
