@@ -1207,7 +1207,7 @@
     <message id="cli_081"><translation>warning</translation></message>
     <message id="cli_082"><translation>hint</translation></message>
     <message id="cli_100"><translation>Findings and advice: what a load would change or drop, and what contradicts itself</translation></message>
-    <message id="cli_101"><translation>Differences of two configurations in words</translation></message>
+    <message id="cli_101"><translation>Differences of two configurations in words, as the files stand: a key that one of them lacks is told too</translation></message>
     <message id="cli_102"><translation>A fleet side by side: settings in which files do not agree</translation></message>
     <message id="cli_103"><translation>The value of one setting</translation></message>
     <message id="cli_104"><translation>Sets single settings; all the rest of a file stays as it is</translation></message>
@@ -1821,6 +1821,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_700"><translation>Quick setup removes it</translation></message>
     <message id="rev_701"><translation>Quick setup sets it anew</translation></message>
     <message id="rev_702"><translation>Changes along with another setting</translation></message>
+    <message id="rev_740"><translation>%1 Left out.</translation></message>
+    <message id="rev_741"><translation>Compared is what a write would bring. Settings that differ from what was opened without any edit: %1.</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>
@@ -2931,6 +2933,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_790"><translation>Not edited in this window</translation></message>
     <message id="wb_791"><translation>Only &amp;your changes: %1</translation></message>
     <message id="wb_782"><translation>Removed from the tracker: %1</translation></message>
+    <message id="wb_820"><translation>Written and confirmed: %1 of %2 setting</translation></message>
+    <message id="wb_821"><translation>Not taken: %1 of %2 setting</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

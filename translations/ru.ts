@@ -1207,7 +1207,7 @@
     <message id="cli_081"><translation>предупреждение</translation></message>
     <message id="cli_082"><translation>подсказка</translation></message>
     <message id="cli_100"><translation>Замечания: что изменит или отбросит чтение и что противоречит само себе</translation></message>
-    <message id="cli_101"><translation>Отличия двух конфигураций словами</translation></message>
+    <message id="cli_101"><translation>Отличия двух конфигураций словами, файлы как они есть: ключ, которого в одном из них нет, тоже отличие</translation></message>
     <message id="cli_102"><translation>Парк рядом: параметры, в которых файлы расходятся</translation></message>
     <message id="cli_103"><translation>Значение одного параметра</translation></message>
     <message id="cli_104"><translation>Задаёт отдельные параметры; всё остальное в файле остаётся</translation></message>
@@ -1821,6 +1821,8 @@
     <message id="rev_700"><translation>Удаляет быстрая настройка</translation></message>
     <message id="rev_701"><translation>Задаёт заново быстрая настройка</translation></message>
     <message id="rev_702"><translation>Меняется вместе с другим параметром</translation></message>
+    <message id="rev_740"><translation>%1 Пропущен.</translation></message>
+    <message id="rev_741"><translation>Сравнивается то, что даст запись. Параметров, которые и без правок отличаются от открытого: %1.</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
@@ -2931,6 +2933,8 @@
     <message id="wb_790"><translation>В этом окне не меняли</translation></message>
     <message id="wb_791"><translation>Только &amp;ваши изменения: %1</translation></message>
     <message id="wb_782"><translation>Удалено из трекера: %1</translation></message>
+    <message id="wb_820"><translation>Записано и подтверждено: %1 из %2 параметра</translation></message>
+    <message id="wb_821"><translation>Не принято: %1 из %2 параметра</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>

@@ -188,6 +188,9 @@ QString DifferenceModel::summary() const
     int own = 0;
     int filledIn = 0;
     QStringList pages;
+    // The other file is looked at as it stands.
+    if (review_.against() == ConfigurationReview::Against::OtherFile && review_.unedited() > 0)
+        return text("rev_741").arg(QLocale().toString(review_.unedited()));
     if (review_.against() != ConfigurationReview::Against::File)
         return {};
     for (const Line& line : lines_) {

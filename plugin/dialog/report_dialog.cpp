@@ -6,6 +6,9 @@
 #include "dialog/report_sheet.h"
 #include "link/device.h"
 #include "review/report.h"
+#include "review/setting_words.h"
+#include "review/value_text.h"
+#include "settings/quick_settings.h"
 #include "typing/grid.h"
 #include "typing/notice_bar.h"
 #include "windows/fit_to_screen.h"
@@ -43,6 +46,28 @@ QPalette ofPaper(QPalette palette)
 QByteArray asText(const QString& html, bool /*isOnePage*/)
 {
     return html.toUtf8();
+}
+
+// What the fields on show did not take as it was typed, where advice does not name them already.
+QStringList notTaken(const ConfigurationReview& review, review::Secrets secrets)
+{
+    QStringList advised;
+    for (const review::Finding& finding : review.advice())
+        advised << finding.paths;
+    QStringList told;
+    for (PageSettings* page : review.history().pages()) {
+        const Values& values = page->values();
+        if ((&values.table() == &kQuickSettings) != review.isQuick())
+            continue;
+        for (const auto& [row, news] : page->binder().news()) {
+            if (advised.contains(values.row(row).filePath))
+                continue;
+            const bool isHidden = values.row(row).base->secret && secrets == review::Secrets::Masked;
+            told << QStringLiteral("%1: %2").arg(review::placeText(review::wordsOf(values.layout(), row)),
+                                                 isHidden ? QString::fromUtf8(kSecretDots) : news.first());
+        }
+    }
+    return told;
 }
 
 } // namespace
@@ -163,8 +188,10 @@ void ReportDialog::refresh()
     const review::ReportChoice choice{contents != All, onePage_->isChecked(),
                                       secrets_->isChecked() ? review::Secrets::Shown
                                                             : review::Secrets::Masked};
-    html_ = toHtml(configuration, reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
-                                           review_.advice(), about_(), choice));
+    review::Report report = reportOf(configuration, contents == Edited ? sinceOpened : notDefault,
+                                     review_.advice(), about_(), choice);
+    report.advice << notTaken(review_, choice.secrets);
+    html_ = toHtml(configuration, report);
     preview_->setHtml(html_);
     const int pages = onePage_->isChecked() ? leastPages(html_) : 1;
     if (pages > 1)

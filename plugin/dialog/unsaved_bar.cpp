@@ -17,14 +17,15 @@ namespace vlk {
 
 namespace {
 
-// Numbers of notices that are no offers.
+// Numbers of notices that are no offers. Behind what the last press has led to, what a write would remove
+// comes before what can be brought back.
 constexpr int kFailure = 0;
-constexpr int kFile = -1;
-constexpr int kDamaged = -2;
-constexpr int kReplaced = -3;
+constexpr int kReplaced = -1;
+constexpr int kLeftOut = -2;
+constexpr int kFile = -3;
+constexpr int kDamaged = -4;
 // Behind the offers.
 constexpr int kTakenForUsed = std::numeric_limits<int>::max();
-constexpr int kLeftOut = kTakenForUsed - 1;
 
 QString words(const char* key)
 {
@@ -43,12 +44,10 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
-        if (number > kFailure && number < kLeftOut)
+        if (number > kFailure && number < kTakenForUsed)
             offers_[number - 1].isClosed = true;
-        if (number == kReplaced) {
-            replaced_.clear();
-            refresh();
-        }
+        if (number == kReplaced)
+            endReplaced();
         if (number == kDamaged) {
             review::setKnown(damaged_.takeLast());
             tellDamaged();
@@ -187,6 +186,12 @@ void UnsavedBar::tellReplaced(std::vector<int> keys)
     }
     replaced_ = std::move(keys);
     unreplaced_ = review_.edits().after();
+    refresh();
+}
+
+void UnsavedBar::endReplaced()
+{
+    replaced_.clear();
     refresh();
 }
 

@@ -36,6 +36,8 @@ public:
     void endFile();
     // The tracker holds other values of these settings than before, which can be taken over.
     void tellReplaced(std::vector<int> keys);
+    // It has what the window has written.
+    void endReplaced();
     // Whether nothing of that stands as it did when it was told, and the user has not declined it.
     bool hasTakenOver() const { return !replaced_.empty() && replaced().empty(); }
     // That the disk keeps nothing; an empty reason ends it.

@@ -159,8 +159,10 @@ void VLK_Widget_Config::addKeeper()
     // A file that was opened stays as it is.
     connect(&keeper_, &vlk::EditKeeper::written, this,
             [this](const QByteArray& content, const QMap<QString, QString>& quick) {
-                if (file_.isEmpty())
-                    review_.setWritten(content, quick);
+                if (!file_.isEmpty())
+                    return;
+                review_.setWritten(content, quick);
+                unsaved_->endReplaced();
             });
     connect(&keeper_, &vlk::EditKeeper::safe, unsaved_, &vlk::UnsavedBar::drop);
     connect(&keeper_, &vlk::EditKeeper::failed, this, [this] { unsaved_->tellFailure(keeper_.failure()); });

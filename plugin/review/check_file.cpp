@@ -68,7 +68,7 @@ private:
         seen_.insert(path);
         if (isDoubled)
             add(path, "rev_023", known);
-        else if (changed_.contains(path) && !isOfQuickSetup(changed_.value(path)))
+        else if (changed_.contains(path))
             addChanged(changed_.value(path));
     }
 
@@ -92,7 +92,7 @@ private:
     }
 
     // Quick setup has keys of its own, and would write this one as it stands; of a field of the record it
-    // switches on a half.
+    // switches on a half. Full setup drops the one and completes the other.
     bool isOfQuickSetup(const Difference& difference)
     {
         const bool isItsOwn = difference.key < 0 || difference.change == Change::Completed;
@@ -117,12 +117,16 @@ private:
         const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
         const DifferenceText text = textOf(differences_, difference, loaded_.tables()[table], secrets_);
         FileRemark remark{.path = difference.path, .paths = {difference.path}, .text = text.note};
-        if (difference.key >= 0) {
-            name(&remark, difference.path);
-            remark.text =
-                difference.after.isNull()
-                    ? QStringLiteral("%1. %2").arg(text.beforeText, text.note)
-                    : QStringLiteral("%1 \u2192 %2. %3").arg(text.beforeText, text.afterText, text.note);
+        const bool isOfQuick = isOfQuickSetup(difference);
+        if (isOfQuick)
+            remark.severity = Severity::Hint;
+        if (difference.key >= 0 || isOfQuick) {
+            name(&remark, text);
+            const QString change = difference.after.isNull()
+                                       ? text.beforeText
+                                       : QStringLiteral("%1 \u2192 %2").arg(text.beforeText, text.afterText);
+            if (!change.isEmpty())
+                remark.text = QStringLiteral("%1. %2").arg(change, text.note);
         }
         remarks_.push_back(remark);
     }
@@ -163,7 +167,11 @@ private:
         if (key < 0)
             return;
         const FileKey& place = FileKeys::all()[key];
-        const SettingWords words = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
+        name(remark, wordsOf(FileKeys::all().layout(place.table), place.rows.front()));
+    }
+
+    static void name(FileRemark* remark, const SettingWords& words)
+    {
         remark->page = words.page;
         remark->group = words.group;
         remark->caption = words.caption;

@@ -169,13 +169,19 @@ EditedFile withEdits(const QByteArray& text, const std::vector<KeyEdit>& edits)
     XmlDocument after(result.text, QStringLiteral("DEVICE"));
     Configuration loaded(allSettings());
     loaded.read(*after.root());
+    const std::vector<Finding> findings = advise(loaded);
     for (std::size_t i = 0; i < done.size(); ++i) {
         const FileKey& place = FileKeys::all()[target.keys[i]];
         const Values& values = loaded.tables()[place.table];
         const int holder = values.holder(place.rows.front());
-        if (isDoubted(loaded, target.keys[i]))
-            problems.push_back({What::BadValue, done[i].first.path, done[i].first.value, Change::UnknownCode,
-                                &values.setting(holder), values.limits(holder)});
+        if (const Finding* error = errorOf(findings, target.keys[i], done[i].second))
+            problems.push_back({.what = What::BadValue,
+                                .path = done[i].first.path,
+                                .text = done[i].first.value,
+                                .change = Change::UnknownCode,
+                                .setting = &values.setting(holder),
+                                .limits = values.limits(holder),
+                                .error = adviceText(*error)});
     }
     return problems.empty() ? result : EditedFile{true, text, std::move(problems)};
 }

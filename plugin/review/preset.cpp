@@ -175,6 +175,8 @@ DifferenceText textOf(const PresetProblem& problem, Secrets secrets)
         static_cast<SettingWords&>(text) = wordsOf(FileKeys::all().layout(place.table), place.rows.front());
     }
     text.note = translated(noteKey(problem));
+    if (!problem.error.isEmpty())
+        text.note = translated("rev_740").arg(problem.error);
     tellCause(problem, &text);
     return text;
 }
@@ -185,6 +187,7 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
     AppliedPreset applied{configuration, {}, {}, {}};
     Texts texts = textsOf(preset, &applied.problems);
     const FileState tried = stateWith(texts, configuration, &applied.result);
+    const std::vector<Finding> findings = advise(applied.result);
     const auto isUnfit = [&](const auto& entry) {
         const FileKey& place = FileKeys::all()[entry.first];
         const Held& held = tried.at(entry.first);
@@ -194,14 +197,16 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
         // A long period is lost by the next load alone, which advice tells.
         const bool isLong = held.isOfEdit && held.change == Change::Wrapped;
         const bool isLost = !held.isSaved || (!isLong && held.saved != held.meaning);
-        const bool isUnfit = isLost || !isSettable(setting, entry.second, held.change) ||
-                             isDoubted(applied.result, entry.first);
+        const Finding* error = isLost ? nullptr : errorOf(findings, entry.first, entry.second);
+        const bool isUnfit = isLost || error || !isSettable(setting, entry.second, held.change);
         if (isUnfit)
             applied.problems.push_back({!held.isSaved && held.isWhole ? What::NoPlace : What::BadValue,
                                         place.path, entry.second, isLost ? held.change : Change::UnknownCode,
                                         &setting, values.limits(holder)});
         if (isUnfit && held.change == Change::ByRule)
             addCause(&applied.problems.back(), entry.first, applied.result);
+        if (error)
+            applied.problems.back().error = adviceText(*error);
         return isUnfit;
     };
     std::erase_if(texts, isUnfit);

@@ -56,6 +56,7 @@ struct PresetProblem
     // The row in the same table of the setting that forbids the value, and what that one is worth.
     int cause = -1;
     QString causeValue{};
+    QString error{}; // a sentence, where the value is one that the window marks as an error (settable.h)
 };
 
 // In words: what the preset holds stands before, why it is left out is the note.

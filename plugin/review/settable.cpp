@@ -68,13 +68,12 @@ bool isSettable(const Setting& setting, const QString& text, Change change)
            (!number || !number->isPort || leadingLong(text) <= kHighestPort);
 }
 
-bool isDoubted(const Configuration& configuration, int key)
+const Finding* errorOf(const std::vector<Finding>& findings, int key, const QString& value)
 {
-    const FileKey& place = FileKeys::all()[key];
-    const Values& values = configuration.tables()[place.table];
-    return std::ranges::any_of(values.table().all<Doubt>(), [&](const Doubt& rule) {
-        return std::ranges::find(place.rows, rule.path.row) != place.rows.end() && values.holds(rule.when);
+    const auto found = std::ranges::find_if(findings, [&](const Finding& finding) {
+        return finding.severity == Severity::Error && finding.paths == QStringList{FileKeys::all()[key].path};
     });
+    return value.isEmpty() || found == findings.end() ? nullptr : &*found;
 }
 
 } // namespace vlk::review

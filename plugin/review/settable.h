@@ -2,8 +2,9 @@
 
 // What a person may set: stricter than a load, which takes a text for the nearest value there is.
 
-#include "document/configuration.h"
+#include "review/advice.h"
 #include "review/change.h"
+#include "settings/setting.h"
 
 namespace vlk::review {
 
@@ -15,8 +16,9 @@ inline constexpr int kHighestPort = 65535;
 // takes it for another one is `change` (takenAs), which tells of ranges, codes and lengths.
 bool isSettable(const Setting& setting, const QString& text, Change change);
 
-// Whether the window marks the value that the configuration has at the key beside its others: a port of 0
-// beside the address of a server.
-bool isDoubted(const Configuration& configuration, int key);
+// What the window marks as an error of the value that the key has beside the others, of what there is to
+// advise: a PIN that is too short, a port of 0 beside the address of a server. Null where there is none; a
+// value that is empty waits for one.
+const Finding* errorOf(const std::vector<Finding>& findings, int key, const QString& value);
 
 } // namespace vlk::review

@@ -103,6 +103,7 @@ private Q_SLOTS:
             QTest::keyClick(window, Qt::Key_Escape);
         }
         open(source, full);
+        QCOMPARE(tellsRemoval(), !full && source != "new");
         QCOMPARE(offer(), QString("rev_345: 2"));
         const auto* backup = window->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Reserv_1");
         const QString address = full ? backup->text() : QString();

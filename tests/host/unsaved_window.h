@@ -62,13 +62,20 @@ protected:
         QFile::remove(path);
         return content;
     }
+    // What quick setup would remove or replace, in front of any offer.
+    bool tellsRemoval() const
+    {
+        const auto* label = child<QLabel>("label_Unsaved");
+        return label->isVisible() &&
+               (label->text().startsWith("rev_435") || label->text().startsWith("rev_503"));
+    }
     // Empty while nothing is offered.
     QString offer() const
     {
+        if (tellsRemoval())
+            press("label_Unsaved_Close");
         const auto* label = child<QLabel>("label_Unsaved");
-        // What quick setup would remove or replace is no offer.
-        const bool isOffer = !label->text().startsWith("rev_435") && !label->text().startsWith("rev_503");
-        return label->isVisible() && isOffer ? label->text().section(" (", 0, 0) : QString();
+        return label->isVisible() ? label->text().section(" (", 0, 0) : QString();
     }
     QStringList files() const
     {

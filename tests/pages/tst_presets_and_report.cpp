@@ -389,6 +389,18 @@ private Q_SLOTS:
         QVERIFY(report.contains("rev_370") && !report.contains("rev_352"));
     }
 
+    // As it is named before a write; what is secret stays so.
+    void reportOfWhatWasNotTaken()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml");
+        type(child<QSpinBox>("GPRSSrv_spinBox_Port_Main"), "12x");
+        type(child<QLineEdit>("Transfer_lineEdit_GSM_Pin1"), "1234a");
+        QTest::keyClick(dialog_.get(), Qt::Key_P, Qt::ControlModifier);
+        const QString report = child<QTextBrowser>("textBrowser_Report")->toPlainText();
+        QVERIFY2(report.contains(": typed_number") && report.contains(": \u2022\u2022\u2022"),
+                 qPrintable(report.left(400)));
+    }
+
     // One page is filled, with letters that can be read.
     void onePageIsFilled()
     {

@@ -464,6 +464,7 @@ private Q_SLOTS:
                 qobject_cast<vlk::DifferenceModel*>(child<QTableView>("tableView_Differences")->model());
             for (int line = 0; line < model->rowCount(); ++line)
                 paths << model->at(line).path;
+            paths = paths.filter("/"); // without what was filled in on loading, behind a line for each page
             paths.sort();
             return paths;
         };
@@ -477,6 +478,17 @@ private Q_SLOTS:
         advice.sort();
         QCOMPARE(toldPaths({"check", bad}, "advice"), advice);
         QVERIFY(!advice.isEmpty());
+
+        open(factory, 0);
+        const QString quick = folder.filePath("quick.xml");
+        QVERIFY(dialog_->saveQuickToFile(quick));
+        open(quick);
+        QCOMPARE(toldPaths({"check", quick}, "finding"), shown());
+        QVERIFY(shown().contains("TRANS/SRV1/format"));
+        // With another file it is compared as it would be saved, which the panel says.
+        QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, bad));
+        QCOMPARE(child<QLabel>("label_UneditedSummary")->text(), QString("rev_741"));
+        QCOMPARE(toldPaths({"diff", bad, writeFile(folder.filePath("full.xml"), saved())}, {}), shown());
 
         open(good);
         QVERIFY(dialog_->review().compareWith(vlk::ConfigurationReview::Against::OtherFile, factory));

@@ -141,6 +141,9 @@ private Q_SLOTS:
             .row("an empty one, and one without signs",
                  "BLUETOOTH/SENS1/macaddr= BLUETOOTH/SENS2/macaddr=aabbccddeeff TRANS/SRV1/addr=", "")
             .row("marked by the window", "TRANS/SRV1/addr=http://x.y/?", "2 TRANS/SRV1/addr")
+            .row("an error by itself, and beside another one",
+                 "TRANS/AP1/pin=12 TRANS/CRYPTO/srv1Mode=1 TRANS/CRYPTO/key=12 TRANS/SRV1/addr=a.b",
+                 "2 TRANS/AP1/pin 2 TRANS/CRYPTO/key")
             .row("no digits", "TRACK/COORDAVER/sensors=zzzz", "2 TRACK/COORDAVER/sensors")
             .row("fewer digits", "TRACK/COORDAVER/sensors=1", "2 TRACK/COORDAVER/sensors")
             .row("neither 0 nor 1", "TRACK/POINTS/useDist=7", "2 TRACK/POINTS/useDist")

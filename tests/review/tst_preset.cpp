@@ -76,8 +76,8 @@ private Q_SLOTS:
                  "TRACK/POINTS/maxSpeed=70",
                  "2 TRACK/POINTS/angle 2 TRACK/POINTS/angleMode 2 TRACK/POINTS/dist")
             .row("what a window would not take",
-                 "<TRANS><SRV1 addr=\"a b\"/></TRANS><TRACK><POINTS useDist=\"7\"/></TRACK>", "",
-                 "2 TRANS/SRV1/addr 2 TRACK/POINTS/useDist")
+                 "<TRANS><SRV1 addr=\"a b\"/><AP1 pin=\"12\"/></TRANS><TRACK><POINTS useDist=\"7\"/></TRACK>",
+                 "", "2 TRANS/SRV1/addr 2 TRANS/AP1/pin 2 TRACK/POINTS/useDist")
             .row("signs that no file holds", "<TRANS><OBJECT name=\"Truck \u2603\"/></TRANS>", "",
                  "2 TRANS/OBJECT/name")
             .row("a period of a day and one beyond its range",

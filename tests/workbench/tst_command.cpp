@@ -238,8 +238,9 @@ private Q_SLOTS:
             .row("a preset", "check good.xml bad.xml", 1,
                  "bad.xml: warning: TRACK/POINTS/bend: Unknown key, left out\n", "")
             .row("ports in a preset", "check ports.xml", 1,
-                 "ports.xml: warning: TRANS/SRV1/port: Data transfer / Port: 65536. No such "
-                 "value, left out\n",
+                 "ports.xml: warning: TRANS/SRV1/port: Data transfer / Port: 65536. "
+                 "Server \"Main\" has port 65536, which does not exist: set a number from 1 to 65535. Left "
+                 "out.\n",
                  "")
             .row("a setting of many parts", "check motion.xml", 1,
                  "motion.xml: warning: SENSORS/IN1/IN1ADIN/ign: Input lines / Assign as ignition: Motion is "

@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <csignal>
+
 class CommandEditsTest : public QObject, private CommandFolder
 {
     Q_OBJECT
@@ -84,6 +86,10 @@ private Q_SLOTS:
                  "a.xml: TRANS/SRV1/port cannot be 65536; expected: a whole number, 1 to 65535\n", a)
             .row("no port beside an address", "set TRANS/SRV1/port=0 factory.xml", 2, "",
                  "factory.xml: TRANS/SRV1/port cannot be 0; expected: a whole number, 1 to 65535\n", a)
+            .row("an error by itself", "set TRANS/AP1/pin=12 a.xml", 2, "",
+                 "a.xml: TRANS/AP1/pin cannot be •••: The SIM card PIN has fewer than 4 digits. A wrong PIN "
+                 "blocks the SIM card.\n",
+                 a)
             .row("out of all ranges, and too exact",
                  "set TRACK/POINTS/maxSpeed=99999999999 TRACK/COORDFLT/maxHDOP=2.55 a.xml", 2, "",
                  "a.xml: TRACK/POINTS/maxSpeed: 99999999999 is out of range; expected: a whole number, 1 to "
@@ -196,6 +202,28 @@ private Q_SLOTS:
         QCOMPARE(shell.readAllStandardError(), QByteArray("0\n"));
         for (int i = 0; i < 60; ++i)
             QVERIFY(readFile(path(QString("many/%1.xml").arg(i))).contains("maxSpeed='80'"));
+    }
+
+    // Whatever Ctrl+C has let be changed is told.
+    void editsInterrupted()
+    {
+        constexpr int files = 200;
+        QDir(folder_->path()).mkpath("many");
+        for (int speed = 80; speed < 86; ++speed) {
+            for (int i = 0; i < files; ++i)
+                put(QString("many/%1.xml").arg(i), readFile(path("a.xml")));
+            QProcess call;
+            call.setWorkingDirectory(folder_->path());
+            call.start(VLK_COMMAND, {"set", QString("TRACK/POINTS/maxSpeed=%1").arg(speed), "many"});
+            QVERIFY(call.waitForReadyRead());
+            kill(static_cast<pid_t>(call.processId()), SIGINT);
+            QVERIFY(call.waitForFinished());
+            int changed = 0;
+            for (int i = 0; i < files; ++i)
+                changed += readFile(path(QString("many/%1.xml").arg(i))).contains("maxSpeed='90'") ? 0 : 1;
+            QCOMPARE(call.readAllStandardOutput().count('\n'), changed);
+            QVERIFY(changed == files || call.exitStatus() == QProcess::CrashExit);
+        }
     }
 };
 

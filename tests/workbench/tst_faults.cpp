@@ -67,7 +67,7 @@ private Q_SLOTS:
             delay{.delayMs = 20}, power{.powerLoss = true}, page{.skipsPage = true},
             late{.delayMs = workbench::AnswerWatch::kPatienceMs + 1000};
         const QString ready = QStringLiteral("Ready");
-        const QString written = QStringLiteral("Written and confirmed: 1 of 1 settings");
+        const QString written = QStringLiteral("Written and confirmed: 1 of 1 setting");
         const QString notConfirmedWrite =
             QStringLiteral("sent but not confirmed: what the tracker holds is not known");
         const QString closed = QStringLiteral("so its telemetry window was closed");
@@ -105,7 +105,7 @@ private Q_SLOTS:
             .row("send, unplugged", Send, unplug, "not written. The tracker was unplugged during", true,
                  false)
             .row("send, power loss", Send, power, notConfirmedWrite, true, false)
-            .row("send, a page", Send, page, "Not taken: 1 of 1 settings", true, false)
+            .row("send, a page", Send, page, "Not taken: 1 of 1 setting", true, false)
             .row("send, short", Send, shortened, notConfirmedWrite, true, false)
             .row("send, full disk", Send, none, "could not be backed up, so nothing was sent", true, true)
             .row("back, silence", Back, silence, notConfirmedWrite, true, false)
@@ -177,12 +177,12 @@ private Q_SLOTS:
             .row("Russian read, garbled", Read, garbled, "Это не конфигурация", false, false)
             .row("Russian read, unplugged", Read, unplug, "Трекер отключился во время ответа", false, false)
             .row("Russian read, full disk", Read, none, "Освободите место на диске и", false, true)
-            .row("Russian write", Write, none, "Записано и подтверждено: 1 из 1", true, false)
+            .row("Russian write", Write, none, "Записано и подтверждено: 1 из 1 параметра", true, false)
             .row("Russian write, silence", Write, silence, "не записана. Трекер не отвечает", true, false)
             .row("Russian write, full disk", Write, none, "поэтому ничего не отправлено", true, true)
             .row("Russian send, unplugged", Send, unplug, "не записана. Трекер отключился во время записи",
                  true, false)
-            .row("Russian send, a page", Send, page, "Не принято: 1 из 1 параметров", true, false)
+            .row("Russian send, a page", Send, page, "Не принято: 1 из 1 параметра", true, false)
             .row("Russian tachograph, silence", Tacho, silence, "Ответа от трекера нет с ", true, false)
             .row("Russian period", Period, none, "Сохранено: ", true, false)
             .row("Russian period, silence", Period, silence, "Ответа от трекера нет с .* продолжится", true,

@@ -266,6 +266,7 @@ private Q_SLOTS:
             QVERIFY(Bench::isReviewed());
             const QString said = Bench::find<QLabel>("label_Origin")->text();
             QVERIFY2(said.contains("has to be seen: the tracker holds something else"), qPrintable(said));
+            QCOMPARE(said.count("holds something else"), 1);
             QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
             Bench::press("pushButton_Cancel");
             QVERIFY(Bench::goes("dialog_Review"));
@@ -289,6 +290,11 @@ private Q_SLOTS:
         QVERIFY(Bench::comes("dialog_Report"));
         QCOMPARE(bench.nameInTracker(), field->text());
         Bench::press("pushButton_Close");
+        // A write ends what could be taken over, whatever is typed again.
+        field->selectAll();
+        QTest::keyClicks(field, "Van 1");
+        QTRY_COMPARE(Bench::find<QAbstractButton>("toolButton_Differences")->text(), QString("1"));
+        QVERIFY(!Bench::find("label_Unsaved"));
         QTest::keyClick(field, Qt::Key_Escape);
         QCOMPARE(field->text(), bench.nameInTracker());
     }

@@ -1,5 +1,6 @@
 #include "command/each_file.h"
 
+#include "command/interruption.h"
 #include "window/languages.h"
 
 namespace workbench::command {
@@ -34,8 +35,9 @@ int eachFile(const QStringList& names, const std::function<Outcome(const File&)>
             folders.found(file);
         return outcome;
     };
-    const int status = workInTurn<File>([&walk] { return walk.next(); }, workAndTell, output);
-    return std::max(status, folders.tell(walk, "cli_294"));
+    const auto next = [&walk] { return isInterrupted() ? std::nullopt : walk.next(); };
+    const int status = workInTurn<File>(next, workAndTell, output);
+    return isInterrupted() ? status : std::max(status, folders.tell(walk, "cli_294"));
 }
 
 } // namespace workbench::command

@@ -8,6 +8,7 @@
 #include "command/expected_value.h"
 #include "command/file_names.h"
 #include "command/file_turn.h"
+#include "command/interruption.h"
 #include "command/preset_problems.h"
 #include "command/system_reason.h"
 #include "plugin/base/replace_file.h"
@@ -159,8 +160,10 @@ int edit(const Call& call, Output& output, const Edit& edit)
     // Whoever interrupts it is told of every file that was changed.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     // All files are changed, although nobody reads on what became of them.
-    if (!call.dryRun && !call.files.contains(QStringLiteral("-")))
+    if (!call.dryRun && !call.files.contains(QStringLiteral("-"))) {
         std::signal(SIGPIPE, SIG_IGN);
+        awaitInterruption();
+    }
     const auto work = [&](const File& file) {
         const FileTurn turn(file.isStandardInput() ? QString() : file.name);
         if (!turn.has())

@@ -98,6 +98,9 @@ QString withExpected(const QString& sentence, const vlk::review::PresetProblem& 
 {
     if (!problem.setting || problem.change == Change::ByRule)
         return sentence;
+    const vlk::Number* number = problem.setting->number();
+    if (!problem.error.isEmpty() && !(number && number->isPort))
+        return QStringLiteral("%1: %2").arg(sentence, problem.error);
     const auto* line = problem.setting->as<vlk::Text>();
     if (line && line->unexpectedKey && problem.change != Change::TooLong)
         return QStringLiteral("%1: %2").arg(sentence, text(line->unexpectedKey));

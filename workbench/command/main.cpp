@@ -3,6 +3,7 @@
 #include "command/arguments.h"
 #include "command/commands.h"
 #include "command/file_names.h"
+#include "command/interruption.h"
 #include "command/output.h"
 #include "command/output_ending.h"
 #include "command/output_guard.h"
@@ -60,7 +61,9 @@ int run(const Call& call)
             output.drop();
         if (output.hasMask() && !call.secrets && !call.json)
             writeError(complaint(QStringLiteral("r7106"), text("cli_326")));
-        return output.close() ? status : Failed;
+        const bool isWritten = output.close();
+        endIfInterrupted();
+        return isWritten ? status : Failed;
     }
     return Failed;
 }

@@ -123,7 +123,7 @@ QStringList notesOf(const WriteReview& review, bool isUnasked)
     add("wb_review_alongside", alongside);
     add("wb_review_lost", review.request.lost);
     add("wb_report_kept_sections", review.keptSections);
-    if (review.isKnownNoMore)
+    if (review.isKnownNoMore && !isUnasked) // else it is the reason below
         notes.append(text("wb_review_known"));
     if (review.isUnchecked)
         notes.append(text("wb_review_unchecked"));

@@ -6,6 +6,7 @@
 #include "window/write_report_model.h"
 
 #include <QFile>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -106,6 +107,14 @@ QString seenLater(const RoadReport& report)
     return says("wb_report_seen_else");
 }
 
+// The noun follows the second number: "1 из 21 параметра".
+QString someOf(const char* key, const char* singularKey, int some, int all)
+{
+    const bool isRussian = QLocale().language() == QLocale::Russian;
+    const bool isSingular = isRussian ? all % 10 == 1 && all % 100 != 11 : all == 1;
+    return text(isSingular ? singularKey : key).arg(number(some), number(all));
+}
+
 QString firstLine(const RoadReport& report)
 {
     const int all = static_cast<int>(report.settings.size());
@@ -114,10 +123,9 @@ QString firstLine(const RoadReport& report)
         return seenLater(report);
     switch (report.outcome) {
     case Outcome::Confirmed:
-        return all == 0 ? text("wb_report_same")
-                        : text("wb_report_confirmed").arg(number(all - missed), number(all));
+        return all == 0 ? text("wb_report_same") : someOf("wb_report_confirmed", "wb_820", all - missed, all);
     case Outcome::NotTaken:
-        return text("wb_report_missed").arg(number(missed), number(all));
+        return someOf("wb_report_missed", "wb_821", missed, all);
     case Outcome::Unknown:
         if (report.fault == Fault::Interrupted)
             return text("wb_report_left").arg(report.tracker.number, moment(report.time));

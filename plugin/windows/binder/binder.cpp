@@ -251,8 +251,7 @@ void Binder::takeBackNews()
         qCWarning(lcRetyped).noquote() << name;
 }
 
-// Told every time: what is written is not what was wanted, as long as the field is marked.
-void Binder::logNews()
+std::map<int, QStringList> Binder::news() const
 {
     std::map<int, QStringList> told;
     for (const auto& adapter : adapters_) {
@@ -261,6 +260,13 @@ void Binder::logNews()
         if (!all.isEmpty())
             told[adapter->row()] = all;
     }
+    return told;
+}
+
+// Told every time: what is written is not what was wanted, as long as the field is marked.
+void Binder::logNews()
+{
+    const std::map<int, QStringList> told = news();
     std::erase_if(told_, [&](const auto& earlier) {
         const bool isOver = !told.contains(earlier.first);
         if (isOver)

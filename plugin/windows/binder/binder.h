@@ -48,6 +48,8 @@ public:
     void evaluateRules();
     // Takes what is being typed.
     void finishTyping();
+    // By row: what could not be taken as it was typed and stands so, and what is doubtful about the value.
+    std::map<int, QStringList> news() const;
     // Logs what could not be taken as it was typed and stands so, and values that are doubtful; before that
     // of which fields what was logged earlier holds no longer.
     void logNews();
