@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <span>
 
 namespace vlk {
@@ -18,9 +19,10 @@ constexpr double kSpread = 3 * 1.4826;
 // At most kSide of them.
 double litresOf(std::span<const LevelMedian> medians)
 {
-    std::array<double, kSide> litres{};
-    const auto end = std::ranges::transform(medians, litres.begin(), &LevelMedian::litres).out;
-    std::ranges::sort(litres.begin(), end);
+    std::array<double, kSide> litres;
+    litres.fill(std::numeric_limits<double>::infinity());
+    std::ranges::transform(medians, litres.begin(), &LevelMedian::litres);
+    std::ranges::sort(litres);
     return (litres[(medians.size() - 1) / 2] + litres[medians.size() / 2]) / 2;
 }
 
