@@ -249,9 +249,9 @@ struct FileComparison
 
 // ConfirmWrite: edits are kept on disk until they are written. A host that compares what it has written with
 // what the tracker holds then says so once, after SetHostMode, and then of each configuration that came out
-// right. Of a host that says nothing WriteConfiguration itself is taken for that. `held` tells of a tracker
+// right. Of a host that says nothing WriteConfiguration itself is taken for that. `Held` tells of a tracker
 // that has been brought back, or has taken something else than was sent: what it holds now, while a
-// configuration of it is open. `asked` asks whether that window has taken over what was told last by `held`.
+// configuration of it is open. `Asked` asks whether that window has taken over what was told last by `Held`.
 struct WriteConfirmation
 {
     enum Step : std::uint32_t { WillConfirm, Confirmed, Held, Asked };
