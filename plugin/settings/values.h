@@ -11,7 +11,6 @@
 // A value is known by its row, counted from 0 in the order of the table, or by its path below the section:
 // "POINTS/angle". All tables together are a Configuration (document/configuration.h).
 
-#include "base/masked_text.h"
 #include "settings/table_layout.h"
 
 #include <functional>

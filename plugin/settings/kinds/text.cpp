@@ -18,9 +18,8 @@ QString fileText(const Text&, const DefaultText& text)
 QString normalised(const Text& row, const Reading& reading)
 {
     const QString carried = sectionText(reading.text);
-    if (row.mask)
-        return maskedText(QString::fromLatin1(row.mask), carried);
-    return row.maxLength > 0 ? carried.left(row.maxLength) : carried;
+    return row.mask ? maskedText(QString::fromLatin1(row.mask), carried)
+                    : carried.left(row.maxLength > 0 ? row.maxLength : carried.size());
 }
 
 } // namespace vlk

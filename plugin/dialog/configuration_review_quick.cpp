@@ -1,0 +1,170 @@
+// What nobody has edited and changes all the same: by a load, or by quick setup, which makes sections anew.
+
+#include "dialog/configuration_review.h"
+
+#include "base/translated.h"
+#include "review/setting_parts.h"
+#include "review/setting_words.h"
+#include "review/take_over.h"
+#include "review/value_text.h"
+#include "settings/quick_settings.h"
+
+#include <algorithm>
+
+namespace vlk {
+
+using review::Differences;
+using review::FileKeys;
+
+namespace {
+
+// Keys of choices that decide whether a file has others.
+const std::vector<int>& deciders()
+{
+    static const std::vector<int> all = [] {
+        std::vector<int> keys;
+        for (int table = 0; table < FileKeys::all().tables(); ++table) {
+            const TableLayout& layout = FileKeys::all().layout(table);
+            for (int row = 0; row < static_cast<int>(layout.rows.size()); ++row) {
+                for (const int decider : review::decidersOf(layout, row)) {
+                    const int key = FileKeys::all().of(table, decider);
+                    if (key >= 0 && std::ranges::find(keys, key) == keys.end())
+                        keys.push_back(key);
+                }
+            }
+        }
+        return keys;
+    }();
+    return all;
+}
+
+// With its page.
+QString groupOf(const TableLayout& layout, int row)
+{
+    const review::SettingWords words = review::wordsOf(layout, row);
+    QStringList parts{words.page, words.group};
+    parts.removeAll(QString());
+    parts.removeDuplicates();
+    return parts.join(QLatin1Char(' '));
+}
+} // namespace
+
+bool ConfigurationReview::isUnedited(const review::Difference& difference) const
+{
+    if (difference.key >= 0)
+        return isUnedited(difference.key);
+    return isQuick()
+               ? !difference.after.isNull() && quickStrangers_.value(difference.path) == difference.after
+               : difference.byLoad;
+}
+
+bool ConfigurationReview::isUnedited(int key) const
+{
+    return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
+}
+
+const char* ConfigurationReview::noteKey(const Differences& differences,
+                                         const review::Difference& difference) const
+{
+    const char* key = review::noteKey(difference);
+    const bool isOfFile = &differences == &edited_ || against_ == Against::File;
+    if (isOfFile && isQuick() && isUnedited(difference) && (!difference.byLoad || !key))
+        return difference.after.isNull() ? "rev_700" : "rev_701";
+    return difference.isAlong && !difference.byLoad && (isOfFile || otherName_) ? "rev_702" : key;
+}
+
+review::DifferenceText ConfigurationReview::textOf(const Differences& differences,
+                                                   const review::Difference& difference) const
+{
+    const Values* values = difference.key < 0 ? nullptr : valuesOf(FileKeys::all()[difference.key].table);
+    review::DifferenceText text =
+        values ? review::textOf(differences, difference, *values) : review::textOf(difference);
+    text.note = translated(noteKey(differences, difference));
+    return text;
+}
+
+QString ConfigurationReview::quickBefore(const PageSettings& page, int row) const
+{
+    const Values& values = page.values();
+    if (&values.table() != &kQuickSettings || values.row(row).base->stored)
+        return {};
+    const QString& before = quickAsItCame_.value(row);
+    return before == values.value(row) ? QString() : before;
+}
+
+QStringList ConfigurationReview::takenForUsed() const
+{
+    QStringList captions;
+    if (!isQuick())
+        return captions;
+    const Values& quick = open_.quickPage().values();
+    for (int row = 0; row < quick.count(); ++row) {
+        const int holder = quick.holder(row);
+        const Setting& setting = quick.setting(holder);
+        const int key = FileKeys::all().at(quick.row(row).filePath);
+        const bool isSwitch = setting.is<Flag>() || setting.is<Choice>();
+        if (holder == row || key < 0 || !isSwitch || !review::canBeShown(setting) ||
+            asItCame_.at(key).isThere)
+            continue;
+        // By the file, and not by an edit.
+        if (quickAsItCame_.value(holder) != QLatin1String("1") || quick.value(holder) != QLatin1String("1"))
+            continue;
+        const QString caption = captionText(setting);
+        captions << (caption.isEmpty() ? valueText(quick, holder) : caption);
+    }
+    return captions;
+}
+
+bool ConfigurationReview::isChosenInFull(int key) const
+{
+    const review::FileKey& place = FileKeys::all()[key];
+    const Values& full = present_.tables()[place.table];
+    const int row = place.rows.front();
+    return full.isWritten(row) && full.value(row) != full.row(row).loadDefault();
+}
+
+std::vector<int> ConfigurationReview::leftOutKeys() const
+{
+    std::vector<int> keys;
+    for (const int key : isQuick() ? deciders() : std::vector<int>()) {
+        const review::FileKey& place = FileKeys::all()[key];
+        const review::Held& after = edited_.after().at(key);
+        const bool isKept =
+            after.isThere && after.meaning == present_.tables()[place.table].value(place.rows.front());
+        if (isChosenInFull(key) && !isKept && isUnedited(key))
+            keys.push_back(key);
+    }
+    return keys;
+}
+
+QStringList ConfigurationReview::leftOut() const
+{
+    QStringList told;
+    for (const int key : leftOutKeys()) {
+        if (std::ranges::find(gone_, key) != gone_.end())
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        const Values& full = present_.tables()[place.table];
+        const int row = place.rows.front();
+        told << QStringLiteral("%1: %2").arg(groupOf(full.layout(), row), valueText(full, row));
+    }
+    return told;
+}
+
+QStringList ConfigurationReview::madeAnew() const
+{
+    static const QStringList anew = review::sectionsMadeAnew(layoutOf(kQuickSettings));
+    QStringList told;
+    for (const int key : isQuick() ? edited_.keys() : std::vector<int>()) {
+        const bool stays = edited_.before().at(key).isThere && edited_.after().at(key).isThere;
+        const QString section = edited_.differenceAt(key).path.section(QLatin1Char('/'), 0, 0);
+        if (!stays || !isUnedited(key) || !anew.contains(section))
+            continue;
+        const review::FileKey& place = FileKeys::all()[key];
+        told << groupOf(FileKeys::all().layout(place.table), place.rows.front());
+    }
+    told.removeDuplicates();
+    return told;
+}
+
+} // namespace vlk
