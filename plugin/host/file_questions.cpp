@@ -72,6 +72,7 @@ FileDifference toldDifference(const review::Difference& difference, const review
     told.after = orNull(text.after);
     told.beforeText = told.before ? &text.beforeText : nullptr;
     told.afterText = told.after ? &text.afterText : nullptr;
+    told.readsAlike = difference.readsAlike ? 1 : 0;
     return told;
 }
 

@@ -230,6 +230,7 @@ struct FileDifference
     enum Cause : std::uint32_t { Unknown, Edited, Unedited, Opened };
     const QString* note = nullptr;
     std::uint32_t cause = Unknown;
+    std::uint32_t readsAlike = 0; // 1: `after` lacks the key, and is read as `before` holds it
 };
 
 // The plug-in calls `take` with each difference, during the message; the texts are valid during the call.

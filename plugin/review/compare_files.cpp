@@ -45,9 +45,12 @@ Comparison compareFiles(const QString& before, const QString& after, Secrets sec
                         const std::function<void(const Difference&, const DifferenceText&)>& take)
 {
     const ComparedFiles files = comparedFiles(before, after);
-    for (const Difference& difference : files.differences.all()) {
-        const int table = difference.key < 0 ? 0 : FileKeys::all()[difference.key].table;
-        take(difference, textOf(files.differences, difference, files.after.tables()[table], secrets));
+    for (Difference& difference : files.differences.all()) {
+        const int key = difference.key;
+        const Values& values = files.after.tables()[key < 0 ? 0 : FileKeys::all()[key].table];
+        difference.readsAlike = key >= 0 && difference.after.isNull() &&
+                                files.differences.before().at(key).meaning == values.value(difference.row);
+        take(difference, textOf(files.differences, difference, values, secrets));
     }
     return files.outcome;
 }

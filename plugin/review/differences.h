@@ -22,6 +22,8 @@ struct Difference
     bool byLoad = false;
     Change change = Change::None;
     bool isAlong = false; // Differences::isAlong()
+    // A file lacks the key, and is read as the one before held it (compareFiles()).
+    bool readsAlike = false;
 };
 
 class Differences

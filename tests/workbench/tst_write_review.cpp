@@ -96,13 +96,16 @@ private Q_SLOTS:
         {
             const char* button;
             const char* port;
+            const char* removed;
             QStringList order;
         };
         for (const Write& write : {Write{"pushButton_Light_LoadToDevice",
                                          "5555",
+                                         "Bluetooth, Sensor 1",
                                          {"– Quick setup removes it", "5555 ", "Quick setup sets it anew"}},
                                    Write{"pushButton_LoadToDevice",
                                          "5556",
+                                         "XX",
                                          {"– Full setup does not use it, a write from there drops it",
                                           "5556 ", "Not in the file, its default value counts"}}}) {
             auto* port = Bench::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
@@ -129,6 +132,9 @@ private Q_SLOTS:
                 return lines;
             };
             QCOMPARE(shown(), write.order);
+            // A sensor in use before those that are not.
+            const QString first = table->model()->index(0, 0).data().toString();
+            QVERIFY2(first.contains(write.removed), qPrintable(first));
             QTest::keyClick(own, Qt::Key_Space);
             QCOMPARE(shown(), QStringList(write.order[1]));
             Bench::press("pushButton_Write");

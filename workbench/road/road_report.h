@@ -34,7 +34,8 @@ struct WriteReview
 {
     TrackerIdentity tracker;
     WriteRequest request;
-    // What is removed comes first, then what the user has edited, then what goes along.
+    // What is removed comes first, what had a value of its own before the rest, then what the user has
+    // edited, then what goes along.
     SettingChanges changes;
     QVector<SettingAdvice> advice;
     QStringList keptSections; // of the tracker, which the file does not have

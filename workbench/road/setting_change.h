@@ -29,6 +29,7 @@ struct SettingChange
     enum class Cause { Unknown, Edited, Unedited, Opened };
     Cause cause = Cause::Unknown;
     QString note{};
+    bool readsAlike = false; // the tracker lacks the key then, and takes for it what it holds now
 
     bool isAdded() const { return before.isNull(); }
     bool isRemoved() const { return after.isNull(); }

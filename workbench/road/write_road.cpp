@@ -22,10 +22,11 @@ void leaveKeptSections(SettingChanges& changes, const QSet<QString>& sent, QStri
                   changes.end());
 }
 
-// In the review: what is removed, what the user has edited, what goes along.
-std::pair<bool, bool> placeInReview(const SettingChange& change)
+// In the review: what is removed, that with which nothing goes last, what the user has edited, what goes
+// along.
+std::tuple<bool, bool, bool> placeInReview(const SettingChange& change)
 {
-    return {!change.isRemoved(), change.cause != SettingChange::Cause::Edited};
+    return {!change.isRemoved(), change.readsAlike, change.cause != SettingChange::Cause::Edited};
 }
 
 RoadReport::Fault faultOf(PortAnswer::Outcome outcome)

@@ -162,6 +162,7 @@ std::optional<SettingChanges> FileComparer::compareWritten(const QByteArray& bef
         if (told->size >= sizeof(FileDifference)) {
             change.cause = causeOf(*told);
             change.note = orNull(told->note);
+            change.readsAlike = told->readsAlike != 0;
         }
         static_cast<SettingChanges*>(context)->append(change);
     };
