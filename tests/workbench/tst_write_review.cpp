@@ -105,7 +105,7 @@ private Q_SLOTS:
                                          {"– Quick setup removes it", "5555 ", "Quick setup sets it anew"}},
                                    Write{"pushButton_LoadToDevice",
                                          "5556",
-                                         "XX",
+                                         "Server, Protocol",
                                          {"– Full setup does not use it, a write from there drops it",
                                           "5556 ", "Not in the file, its default value counts"}}}) {
             auto* port = Bench::find<QSpinBox>("GPRSSrv_spinBox_Port_Main");
