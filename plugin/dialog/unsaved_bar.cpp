@@ -170,17 +170,23 @@ void UnsavedBar::refresh()
 
 std::vector<int> UnsavedBar::replaced() const
 {
+    std::vector<int> keys = replacedWithAll();
+    std::erase_if(keys, [this](int key) { return !review_.isOwn(key); });
+    return keys;
+}
+
+std::vector<int> UnsavedBar::replacedWithAll() const
+{
     std::vector<int> keys = replaced_;
     const review::FileState& now = review_.edits().after();
-    std::erase_if(keys,
-                  [&](int key) { return !review_.isOwn(key) || !(now.at(key) == unreplaced_.at(key)); });
+    std::erase_if(keys, [&](int key) { return !(now.at(key) == unreplaced_.at(key)); });
     return keys;
 }
 
 void UnsavedBar::tellReplaced(std::vector<int> keys)
 {
     // What was told before and not taken over still stands here.
-    for (const int key : replaced()) {
+    for (const int key : replacedWithAll()) {
         if (std::ranges::find(keys, key) == keys.end())
             keys.push_back(key);
     }
@@ -198,7 +204,7 @@ void UnsavedBar::endReplaced()
 Notice UnsavedBar::noticeOfReplaced()
 {
     const Notice::Action take{words("rev_761"), [this] {
-                                  review_.bringBack(replaced(), [] { return words("rev_762"); });
+                                  review_.bringBack(replacedWithAll(), [] { return words("rev_762"); });
                                   Q_EMIT tookOver();
                               }};
     const Notice::Action show{words("rev_141"), [this] {

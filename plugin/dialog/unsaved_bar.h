@@ -83,6 +83,8 @@ private:
     void tellSensors(int number, std::vector<Sentence> sentences);
     // Settings that the tracker was brought back to and that stand in the window as they did then.
     std::vector<int> replaced() const;
+    // With what goes along with them.
+    std::vector<int> replacedWithAll() const;
     Notice noticeOfReplaced();
     void refresh();
     void tellOffer(int number);

@@ -117,6 +117,26 @@ private Q_SLOTS:
         window->close();
     }
 
+    // What the tracker was brought back to is taken over as the tracker holds it.
+    void takesOver()
+    {
+        open("tracker");
+        vlk::WriteConfirmation told;
+        told.size = sizeof told;
+        host_.send(Message::ConfirmWrite, &told);
+        const QByteArray first = written();
+        child<QComboBox>("comboBox_NormState_In2")->setCurrentIndex(0);
+        const QByteArray second = written();
+        told.step = vlk::WriteConfirmation::Confirmed;
+        told.content = &second;
+        host_.send(Message::ConfirmWrite, &told);
+        told.step = vlk::WriteConfirmation::Held;
+        told.content = &first;
+        host_.send(Message::ConfirmWrite, &told);
+        press("label_Unsaved_Action1");
+        QCOMPARE(written(), first);
+    }
+
     // A write that its run did not see the end of is tried again by the next run, which knows of it by what
     // the tracker has now alone.
     void confirmedInTheNextRun_data()
