@@ -1826,6 +1826,7 @@
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
+    <message id="rev_763"><translation>В трекер возвращено другое значение</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>

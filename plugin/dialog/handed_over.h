@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QString>
 
+#include <vector>
+
 namespace vlk {
 
 class ConfigurationReview;
@@ -19,6 +21,8 @@ struct HandedOver
     QHash<QString, const char*> notes{}; // keys by path, of what nobody has edited
 };
 
-HandedOver handedOver(const ConfigurationReview& review, const QByteArray& document);
+// `replaced`: keys of settings that stand as they were written, while the tracker was brought back since.
+HandedOver handedOver(const ConfigurationReview& review, const std::vector<int>& replaced,
+                      const QByteArray& document);
 
 } // namespace vlk

@@ -38,6 +38,8 @@ public:
     void tellReplaced(std::vector<int> keys);
     // It has what the window has written.
     void endReplaced();
+    // Settings that the tracker was brought back to and that stand in the window as they did then.
+    std::vector<int> replaced() const;
     // Whether nothing of that stands as it did when it was told, and the user has not declined it.
     bool hasTakenOver() const { return !replaced_.empty() && replaced().empty(); }
     // That the disk keeps nothing; an empty reason ends it.
@@ -81,9 +83,7 @@ private:
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
     void tellSensors(int number, std::vector<Sentence> sentences);
-    // Settings that the tracker was brought back to and that stand in the window as they did then.
-    std::vector<int> replaced() const;
-    // With what goes along with them.
+    // replaced() with what goes along with them.
     std::vector<int> replacedWithAll() const;
     Notice noticeOfReplaced();
     void refresh();

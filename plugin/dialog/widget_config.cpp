@@ -310,7 +310,7 @@ void VLK_Widget_Config::write(const QString& path)
     vlk::TextEntry::settleIn(this);
     history_.keepState();
     history_.settle();
-    handedOver_ = vlk::handedOver(review_, content);
+    handedOver_ = vlk::handedOver(review_, unsaved_->replaced(), content);
     keeper_.handedOver(content);
     vlk::requests::writeConfiguration(path);
     if (!vlkDevice->confirmsWrites())

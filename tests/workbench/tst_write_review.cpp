@@ -273,6 +273,10 @@ private Q_SLOTS:
             const QString said = Bench::find<QLabel>("label_Origin")->text();
             QVERIFY2(said.contains("has to be seen: the tracker holds something else"), qPrintable(said));
             QCOMPARE(said.count("holds something else"), 1);
+            // That is nobody's edit of now.
+            const auto* lines = Bench::find<QTableView>("tableView_Review")->model();
+            QCOMPARE(lines->index(0, 3).data().toString(),
+                     QString("The tracker was brought back to another value"));
             QVERIFY(Bench::find("pushButton_Cancel")->hasFocus());
             Bench::press("pushButton_Cancel");
             QVERIFY(Bench::goes("dialog_Review"));
