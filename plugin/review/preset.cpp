@@ -4,6 +4,7 @@
 #include "review/document_walk.h"
 #include "review/settable.h"
 #include "review/setting_parts.h"
+#include "review/take_over.h"
 #include "review/value_text.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
@@ -16,8 +17,6 @@
 namespace vlk::review {
 
 namespace {
-
-using Texts = std::vector<std::pair<int, QString>>; // by key
 
 // What a document says of itself at its root.
 const QString kCreator = QStringLiteral("creator");
@@ -55,10 +54,10 @@ const char* noteKey(const PresetProblem& problem)
     }
 }
 
-Texts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
+KeyTexts textsOf(CXmlSection& preset, std::vector<PresetProblem>* problems)
 {
     using What = PresetProblem::What;
-    Texts texts;
+    KeyTexts texts;
     QSet<int> seen;
     eachKey(preset, [&](const QString& path, const QString& text) {
         const int key = FileKeys::all().at(path);
@@ -105,12 +104,13 @@ void tellCause(const PresetProblem& problem, DifferenceText* text)
 }
 
 // The document that the configuration would be saved as, with the texts laid over it.
-FileState stateWith(const Texts& texts, const Configuration& configuration, Configuration* result)
+FileState stateWith(const KeyTexts& texts, const Configuration& configuration, Configuration* result)
 {
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
     configuration.write(*document.root());
     for (const auto& [key, text] : texts)
         setKey(*document.root(), key, text);
+    addWhatComes(*document.root(), configuration, texts);
     *result = configuration;
     readAsEdited(*result, *document.root());
     return FileState::ofDocument(*document.root());
@@ -185,7 +185,7 @@ AppliedPreset applied(CXmlSection& preset, const Configuration& configuration)
 {
     using What = PresetProblem::What;
     AppliedPreset applied{configuration, {}, {}, {}};
-    Texts texts = textsOf(preset, &applied.problems);
+    KeyTexts texts = textsOf(preset, &applied.problems);
     const FileState tried = stateWith(texts, configuration, &applied.result);
     const std::vector<Finding> findings = advise(applied.result);
     const auto isUnfit = [&](const auto& entry) {

@@ -132,6 +132,23 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
     }
 }
 
+void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts)
+{
+    Configuration edited = before;
+    std::vector<int> given;
+    for (const auto& [key, text] : texts) {
+        edited.edit(FileKeys::all()[key].path, text);
+        given.push_back(key);
+    }
+    const FileState had = FileState::ofConfiguration(before);
+    const FileState has = FileState::ofConfiguration(edited);
+    for (int key = 0; key < FileKeys::all().count(); ++key) {
+        const bool comes = !had.at(key).isSaved && has.at(key).isSaved;
+        if (comes && std::ranges::find(given, key) == given.end())
+            setKey(root, key, has.at(key).saved);
+    }
+}
+
 void readAsEdited(Configuration& configuration, CXmlSection& root)
 {
     configuration.read(root);
@@ -166,6 +183,12 @@ void takeOver(Configuration& configuration, const FileState& from, const std::ve
     Configuration unchanged = configuration;
     readAsEdited(unchanged, *document.root());
     layOver(*document.root(), from, keys);
+    KeyTexts texts;
+    for (const int key : keys) {
+        if (const Held& held = from.at(key); held.isSaved)
+            texts.emplace_back(key, held.isOfEdit ? held.text : held.saved);
+    }
+    addWhatComes(*document.root(), before, texts);
     readAsEdited(configuration, *document.root());
     keepTheRest(configuration, before, unchanged);
 }

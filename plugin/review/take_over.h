@@ -25,6 +25,12 @@ void setKey(CXmlSection& root, int key, const QString& text);
 // but for the root.
 void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& keys);
 
+using KeyTexts = std::vector<std::pair<int, QString>>; // by key
+
+// What comes with these texts is in the document as a window would write it, not as a file that lacks it is
+// read: a line that is used again claims no ignition. `before`: what the document held without them.
+void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts);
+
 // Reads what windows would save, with that which edits alone can give them.
 void readAsEdited(Configuration& configuration, CXmlSection& root);
 

@@ -83,6 +83,12 @@ private Q_SLOTS:
             .row("a period of a day and one beyond its range",
                  "<TRANS><RULES blockTimer=\"86700\" cnctTimer=\"999999999\"/></TRANS>",
                  "TRANS/RULES/blockTimer=86700", "2 TRANS/RULES/cnctTimer")
+            .row("a line that is used as a switch claims no ignition",
+                 "<SENSORS><IN3 normState=\"NS+\"/></SENSORS>",
+                 "SENSORS/IN3/normState=NS+ SENSORS/IN3/IN3ADIN/cntlRestore=0 SENSORS/IN3/IN3ADIN/ign=0 "
+                 "SENSORS/IN3/IN3ADIN/analysTime=2500 SENSORS/IN3/IN3ADIN/lowLvl=5000 "
+                 "SENSORS/IN3/IN3ADIN/highLvl=6000",
+                 "")
             .row("nothing", "", "", "");
     }
     void applied()
@@ -106,13 +112,15 @@ private Q_SLOTS:
             told << QString::number(static_cast<int>(problem.what)) << problem.path;
         QCOMPARE(told.join(' '), problems);
 
-        // Taking over all that differs gives the same configuration.
-        vlk::Configuration taken = configuration;
-        std::vector<int> keys;
+        // Taking over all that differs, or what the preset holds, gives the same configuration.
+        std::vector<int> all;
         for (const vlk::review::Difference& difference : differences.all())
-            keys.push_back(difference.key);
-        takeOver(taken, applied.state, keys);
-        QCOMPARE(Differences(applied.state, FileState::ofConfiguration(taken)).count(), 0);
+            all.push_back(difference.key);
+        for (const std::vector<int>& keys : {all, applied.keys}) {
+            vlk::Configuration taken = configuration;
+            takeOver(taken, applied.state, keys);
+            QCOMPARE(Differences(applied.state, FileState::ofConfiguration(taken)).count(), 0);
+        }
     }
 
     void isSurvived()
