@@ -178,12 +178,14 @@ bool TextEntry::takes(const QString& text) const
            (!validator || validator->validate(whole, place) != QValidator::Invalid);
 }
 
-// Blanks and ends of lines that come along with a text from elsewhere are not meant.
+// Blanks and ends of lines around a text from elsewhere are not meant where it is the whole one or they do
+// not fit.
 bool TextEntry::pastesTrimmed()
 {
     const QString trimmed = typed_.trimmed();
-    if (line_->isReadOnly() || !line_->inputMask().isEmpty() || trimmed.isEmpty() || takes(typed_) ||
-        !takes(trimmed))
+    const bool isWhole = isBlank() || line_->selectedText().size() == line_->text().size();
+    if (line_->isReadOnly() || !line_->inputMask().isEmpty() || trimmed.isEmpty() || trimmed == typed_ ||
+        (takes(typed_) && !isWhole) || !takes(trimmed))
         return false;
     line_->insert(trimmed);
     return true;

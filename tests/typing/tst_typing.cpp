@@ -348,6 +348,16 @@ private Q_SLOTS:
         QCOMPARE(line_->toolTip().left(mark.isEmpty() ? -1 : mark.size()), mark);
     }
 
+    // Blanks are meant within a text.
+    void pastedWithBlanks()
+    {
+        QApplication::clipboard()->setText(" ab ");
+        type(line_, "<All><Paste>");
+        QCOMPARE(line_->text(), QString("ab"));
+        type(line_, "<Home><Paste>");
+        QCOMPARE(line_->text(), QString(" ab ab"));
+    }
+
     void beginningOfALongText()
     {
         line_->setFixedWidth(60);
