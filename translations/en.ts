@@ -1810,9 +1810,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_382"><translation>&quot;%1&quot; as a whole, %2 of %3 on: all others go off where it is applied.</translation></message>
     <message id="rev_383"><translation>&quot;%1&quot; as a whole, %2 of %3 set.</translation></message>
     <message id="rev_430"><translation>Filled in on loading, was not there: %1</translation></message>
-    <message id="rev_431"><translation>Without any edit, loading filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
-    <message id="rev_432"><translation>Behind the plus: what loading filled in, changed or dropped. Nobody edited it.</translation></message>
-    <message id="rev_433"><translation>Filled in, changed or dropped on loading, without any edit: %1</translation></message>
+    <message id="rev_431"><translation>Without any edit, loading or quick setup filled in settings: %1, changed or dropped: %2. Your changes: %3.</translation></message>
+    <message id="rev_432"><translation>Behind the plus: what loading or quick setup filled in, changed or dropped. Nobody edited it.</translation></message>
+    <message id="rev_433"><translation>Filled in, changed or dropped by loading or quick setup, without any edit: %1</translation></message>
     <message id="rev_434"><translation>%2 more: in %1</translation></message>
     <message id="rev_435"><translation>Quick setup does not show these, and writing it removes them: %1.</translation></message>
     <message id="rev_720"><translation>Letters that a configuration cannot hold, left out</translation></message>
@@ -1823,6 +1823,10 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_702"><translation>Changes along with another setting</translation></message>
     <message id="rev_740"><translation>%1 Left out.</translation></message>
     <message id="rev_741"><translation>Compared is what a write would bring. Settings that differ from what was opened without any edit: %1.</translation></message>
+    <message id="rev_750"><translation>Quick setup has removed these: %1.</translation></message>
+    <message id="rev_751"><translation>Quick setup has set these anew: %1.</translation></message>
+    <message id="rev_752"><translation>what quick setup removed and set anew, brought back</translation></message>
+    <message id="rev_753"><translation>nothing</translation></message>
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>
@@ -2936,6 +2940,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_782"><translation>Removed from the tracker: %1</translation></message>
     <message id="wb_820"><translation>Written and confirmed: %1 of %2 setting</translation></message>
     <message id="wb_821"><translation>Not taken: %1 of %2 setting</translation></message>
+    <message id="wb_830"><translation>The tracker was brought back to an earlier configuration, and this window has not taken that over.</translation></message>
+    <message id="wb_831"><translation>the tracker was brought back, and this window has not taken that over</translation></message>
     <message id="wb_saved"><translation>Saved: %1</translation></message>
     <message id="wb_saved_changes"><translation>Saved: %1. Differences from what was opened: %2</translation></message>
     <message id="wb_saved_part"><translation>Saved in part: %1. It holds %2 of %3 records, until %4, and the last of the period. Name and end of the file are those of the whole period.</translation></message>

@@ -1810,9 +1810,9 @@
     <message id="rev_382"><translation>«%1» целиком, включено %2 из %3: остальное выключится там, где шаблон применят.</translation></message>
     <message id="rev_383"><translation>«%1» целиком, задано %2 из %3.</translation></message>
     <message id="rev_430"><translation>Дополнено при загрузке, этого не было: %1</translation></message>
-    <message id="rev_431"><translation>Без правок загрузка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
-    <message id="rev_432"><translation>После плюса: что загрузка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
-    <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке, без правок: %1</translation></message>
+    <message id="rev_431"><translation>Без правок загрузка или быстрая настройка дополнила параметров: %1, изменила или отбросила: %2. Ваши изменения: %3.</translation></message>
+    <message id="rev_432"><translation>После плюса: что загрузка или быстрая настройка дополнила, изменила или отбросила. Этого никто не правил.</translation></message>
+    <message id="rev_433"><translation>Дополнено, изменено или отброшено при загрузке или быстрой настройкой, без правок: %1</translation></message>
     <message id="rev_434"><translation>Ещё %2: в %1</translation></message>
     <message id="rev_435"><translation>Быстрая настройка этого не показывает, и запись из неё это удалит: %1.</translation></message>
     <message id="rev_720"><translation>Есть буквы, которых в конфигурации быть не может, пропущен</translation></message>
@@ -1823,6 +1823,10 @@
     <message id="rev_702"><translation>Меняется вместе с другим параметром</translation></message>
     <message id="rev_740"><translation>%1 Пропущен.</translation></message>
     <message id="rev_741"><translation>Сравнивается то, что даст запись. Параметров, которые и без правок отличаются от открытого: %1.</translation></message>
+    <message id="rev_750"><translation>Быстрая настройка это удалила: %1.</translation></message>
+    <message id="rev_751"><translation>Быстрая настройка задала заново: %1.</translation></message>
+    <message id="rev_752"><translation>возврат того, что удалила и задала заново быстрая настройка</translation></message>
+    <message id="rev_753"><translation>ничего</translation></message>
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
@@ -2936,6 +2940,8 @@
     <message id="wb_782"><translation>Удалено из трекера: %1</translation></message>
     <message id="wb_820"><translation>Записано и подтверждено: %1 из %2 параметра</translation></message>
     <message id="wb_821"><translation>Не принято: %1 из %2 параметра</translation></message>
+    <message id="wb_830"><translation>В трекер возвращена прежняя конфигурация, и это окно её не взяло.</translation></message>
+    <message id="wb_831"><translation>в трекер возвращена прежняя конфигурация, и это окно её не взяло</translation></message>
     <message id="wb_saved"><translation>Сохранено: %1</translation></message>
     <message id="wb_saved_changes"><translation>Сохранено: %1. Отличий от открытого: %2</translation></message>
     <message id="wb_saved_part"><translation>Сохранено не целиком: %1. Записей в нём %2 из %3, до %4, и последняя запись периода. Имя и конец файла как у целого периода.</translation></message>

@@ -51,6 +51,7 @@ void ConfigurationReview::begin(CXmlSection* root)
     asItCame_ = opened_;
     isWritten_ = false;
     gone_.clear();
+    made_.reset();
     newInFull_.reset();
     if (!root && isQuick()) {
         XmlDocument document(this->document(), QStringLiteral("DEVICE"));
@@ -100,6 +101,7 @@ void ConfigurationReview::setWritten(const QByteArray& document, const QMap<QStr
     asItCame_ = FileState::ofDocument(*file.root());
     isWritten_ = true;
     newInFull_.reset();
+    made_.reset();
     Configuration loaded(allSettings());
     loaded.read(*file.root());
     keepQuick(file.root(), loaded, quick);
@@ -123,7 +125,9 @@ std::vector<int> ConfigurationReview::setReplaced(const QByteArray& document)
         return {};
     std::vector<int> keys = moved.keys();
     std::erase_if(keys, [this](int key) { return edited_.isDifferent(key); });
+    const std::optional<Made> made = made_;
     setWritten(document, {});
+    made_ = made;
     return keys;
 }
 
@@ -217,7 +221,7 @@ bool ConfigurationReview::isBeyond(int key) const
 
 bool ConfigurationReview::isOwn(int key) const
 {
-    const bool isLeftOut = isQuick() ? isUnedited(key) : edited_.isFilledIn(key);
+    const bool isLeftOut = isQuick() ? isUnedited(key) : edited_.isFilledIn(key) || isMade(key);
     return edited_.isDifferent(key) && !edited_.isAlong(key) && !isLeftOut;
 }
 
@@ -299,7 +303,7 @@ void ConfigurationReview::refresh(const QVector<int>& pages)
     const bool isWhole = isQuick || isOther || pages.size() == static_cast<int>(history_.pages().size());
     wasQuick_ = isQuick;
     if (!isQuick) // chosen again, they would go again
-        std::erase_if(gone_, [this](int key) { return isChosenInFull(key); });
+        std::erase_if(gone_, [this](int key) { return isChosenIn(present_, key); });
     if (isWhole) {
         const FileState state = now();
         edited_ = Differences(asItCame(), state);

@@ -67,12 +67,13 @@ public:
     // another setting and that which nobody has edited.
     int edited() const;
     // What a write would change besides: in the quick window what it makes of any file, in the full one what
-    // the load has changed.
+    // the load or the change from the quick window has made.
     int unedited() const;
-    // Whether the full window has lost something of the file on loading.
+    // Whether the full window has lost something of the file by that.
     bool isLossy() const;
     const review::Differences& edits() const { return edited_; }
-    // Has a mark: edited, or changed by the load. What that has filled in reads as it did.
+    // Has a mark: edited, or changed by the load. What that has filled in reads as it did; what the quick
+    // window has made is told in the bar.
     bool isOwn(int key) const;
     // Whether a write from the window on show would change it without any edit.
     bool isUnedited(int key) const;
@@ -92,11 +93,18 @@ public:
     // What is checked in the quick window because the file says nothing of it: a sensor that is not there.
     QStringList takenForUsed() const;
     // What full setup has chosen and a write from the quick window, which does not show it, would remove: a
-    // sensor, a device.
+    // sensor, a device. With the full window on show, what the change to it has removed.
     QStringList leftOut() const;
-    // Where such a write would change settings of what stays and which the quick window does not show: the
-    // filter of a sensor, the name of a line.
+    // Where settings of what stays are changed that way, which the quick window does not show: the filter of
+    // a sensor, the name of a line.
     QStringList madeAnew() const;
+    // Puts the full window on show, which takes over what the quick one would write: what that has made
+    // without an edit is none there either.
+    void moveToFull(const std::function<void()>& move);
+    // What the full window held of it before, as long as nothing else stands there.
+    void bringBackMade(const EditHistory::Words& words);
+    // A document with what of it the user has brought back, so or one by one.
+    QByteArray withBroughtBack(const QByteArray& document) const;
     // From what was there when the window opened, before anything was written.
     review::Differences sinceOpened() const { return {opened_, now()}; }
     bool isEdited(int table, int row) const;
@@ -145,6 +153,15 @@ Q_SIGNALS:
     void compared();
 
 private:
+    // By the quick window, when the full one took over from it.
+    struct Made
+    {
+        Configuration before; // in the full window
+        review::FileState stateBefore;
+        review::FileState after;
+        std::vector<int> keys; // in their order
+    };
+
     // Without a root the configuration, which is new, is what it came as.
     void keepQuick(CXmlSection* root, const Configuration& asItCame,
                    const QMap<QString, QString>& quick = {});
@@ -162,7 +179,14 @@ private:
     std::vector<review::Finding> advise() const;
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
-    bool isChosenInFull(int key) const;
+    bool isChosenIn(const Configuration& full, int key) const;
+    // And stands as it was made then.
+    bool isMade(int key) const;
+    // What the full window holds, or held before the change to it; null where there was none.
+    const Configuration* beforeQuick() const
+    {
+        return isQuick() ? &present_ : made_ ? &made_->before : nullptr;
+    }
     std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
@@ -175,6 +199,7 @@ private:
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window
     bool isWritten_ = false;
     std::vector<int> gone_; // of leftOutKeys(), with what the quick window has written
+    std::optional<Made> made_;
     Values quickAsItCame_;
     review::FileState quickState_; // with that over what the full window makes of it
     QHash<QString, QString> quickStrangers_;

@@ -7,7 +7,9 @@
 #include "review/setting_words.h"
 #include "review/take_over.h"
 #include "review/value_text.h"
+#include "settings/all_settings.h"
 #include "settings/quick_settings.h"
+#include "xml/xml_document.h"
 
 #include <algorithm>
 
@@ -15,6 +17,7 @@ namespace vlk {
 
 using review::Differences;
 using review::FileKeys;
+using review::FileState;
 
 namespace {
 
@@ -39,9 +42,11 @@ const std::vector<int>& deciders()
 }
 
 // With its page.
-QString groupOf(const TableLayout& layout, int row)
+QString groupOf(int key)
 {
-    const review::SettingWords words = review::wordsOf(layout, row);
+    const review::FileKey& place = FileKeys::all()[key];
+    const review::SettingWords words =
+        review::wordsOf(FileKeys::all().layout(place.table), place.rows.front());
     QStringList parts{words.page, words.group};
     parts.removeAll(QString());
     parts.removeDuplicates();
@@ -60,7 +65,7 @@ bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 
 bool ConfigurationReview::isUnedited(int key) const
 {
-    return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key);
+    return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key) || isMade(key);
 }
 
 const char* ConfigurationReview::noteKey(const Differences& differences,
@@ -68,7 +73,8 @@ const char* ConfigurationReview::noteKey(const Differences& differences,
 {
     const char* key = review::noteKey(difference);
     const bool isOfFile = &differences == &edited_ || against_ == Against::File;
-    if (isOfFile && isQuick() && isUnedited(difference) && (!difference.byLoad || !key))
+    const bool isByQuick = isQuick() ? isUnedited(difference) : difference.key >= 0 && isMade(difference.key);
+    if (isOfFile && isByQuick && (!difference.byLoad || !key))
         return difference.after.isNull() ? "rev_700" : "rev_701";
     return difference.isAlong && !difference.byLoad && (isOfFile || otherName_) ? "rev_702" : key;
 }
@@ -115,23 +121,24 @@ QStringList ConfigurationReview::takenForUsed() const
     return captions;
 }
 
-bool ConfigurationReview::isChosenInFull(int key) const
+bool ConfigurationReview::isChosenIn(const Configuration& full, int key) const
 {
     const review::FileKey& place = FileKeys::all()[key];
-    const Values& full = present_.tables()[place.table];
+    const Values& values = full.tables()[place.table];
     const int row = place.rows.front();
-    return full.isWritten(row) && full.value(row) != full.row(row).loadDefault();
+    return values.isWritten(row) && values.value(row) != values.row(row).loadDefault();
 }
 
 std::vector<int> ConfigurationReview::leftOutKeys() const
 {
     std::vector<int> keys;
-    for (const int key : isQuick() ? deciders() : std::vector<int>()) {
+    const Configuration* full = beforeQuick();
+    for (const int key : full ? deciders() : std::vector<int>()) {
         const review::FileKey& place = FileKeys::all()[key];
         const review::Held& after = edited_.after().at(key);
         const bool isKept =
-            after.isThere && after.meaning == present_.tables()[place.table].value(place.rows.front());
-        if (isChosenInFull(key) && !isKept && isUnedited(key))
+            after.isThere && after.meaning == full->tables()[place.table].value(place.rows.front());
+        if (isChosenIn(*full, key) && !isKept && (isQuick() ? isUnedited(key) : isMade(key)))
             keys.push_back(key);
     }
     return keys;
@@ -144,9 +151,8 @@ QStringList ConfigurationReview::leftOut() const
         if (std::ranges::find(gone_, key) != gone_.end())
             continue;
         const review::FileKey& place = FileKeys::all()[key];
-        const Values& full = present_.tables()[place.table];
-        const int row = place.rows.front();
-        told << QStringLiteral("%1: %2").arg(groupOf(full.layout(), row), valueText(full, row));
+        const Values& full = beforeQuick()->tables()[place.table];
+        told << QStringLiteral("%1: %2").arg(groupOf(key), valueText(full, place.rows.front()));
     }
     return told;
 }
@@ -155,16 +161,84 @@ QStringList ConfigurationReview::madeAnew() const
 {
     static const QStringList anew = review::sectionsMadeAnew(layoutOf(kQuickSettings));
     QStringList told;
-    for (const int key : isQuick() ? edited_.keys() : std::vector<int>()) {
+    for (const int key : isQuick() || made_ ? edited_.keys() : std::vector<int>()) {
         const bool stays = edited_.before().at(key).isThere && edited_.after().at(key).isThere;
         const QString section = edited_.differenceAt(key).path.section(QLatin1Char('/'), 0, 0);
-        if (!stays || !isUnedited(key) || !anew.contains(section))
+        if (!stays || !(isQuick() ? isUnedited(key) : isMade(key)) || !anew.contains(section))
             continue;
-        const review::FileKey& place = FileKeys::all()[key];
-        told << groupOf(FileKeys::all().layout(place.table), place.rows.front());
+        told << groupOf(key);
     }
     told.removeDuplicates();
+    // The full window keeps empty what is gone.
+    for (const int key : leftOutKeys())
+        told.removeAll(groupOf(key));
     return told;
+}
+
+bool ConfigurationReview::isMade(int key) const
+{
+    return made_ && std::ranges::binary_search(made_->keys, key) &&
+           made_->after.at(key) == edited_.after().at(key);
+}
+
+void ConfigurationReview::moveToFull(const std::function<void()>& move)
+{
+    std::vector<int> unedited;
+    for (int key = 0; key < FileKeys::all().count(); ++key) {
+        if (isUnedited(key))
+            unedited.push_back(key);
+    }
+    Made made{present_, {}, {}, {}};
+    // What an earlier change has removed, and nobody has set since.
+    if (made_) {
+        std::vector<int> gone = made_->keys;
+        const FileState now = FileState::ofConfiguration(present_);
+        std::erase_if(gone, [&](int key) { return !(made_->after.at(key) == now.at(key)); });
+        review::takeOver(made.before, made_->stateBefore, gone);
+    }
+    move();
+    made.stateBefore = FileState::ofConfiguration(made.before);
+    made.after = FileState::ofConfiguration(open_.inFull());
+    const Differences differences(asItCame(), made.after);
+    // After a write from the quick window the full one held, until now, what is gone by then.
+    const bool isStale = !gone_.empty();
+    for (const int key : unedited) {
+        const bool isMoved = !isStale && !(made.stateBefore.at(key) == made.after.at(key));
+        if (isMoved || (differences.isDifferent(key) && !differences.isByLoad(key)))
+            made.keys.push_back(key);
+    }
+    made_ = std::move(made);
+}
+
+void ConfigurationReview::bringBackMade(const EditHistory::Words& words)
+{
+    history_.settle();
+    if (!made_)
+        return;
+    const Differences differences(made_->stateBefore, edited_.after());
+    std::vector<int> keys = differences.keys();
+    std::erase_if(keys, [this](int key) { return !isMade(key); });
+    takeOverFrom(differences, keys, words);
+}
+
+QByteArray ConfigurationReview::withBroughtBack(const QByteArray& document) const
+{
+    if (isQuick() || !made_)
+        return document;
+    std::vector<int> keys = made_->keys;
+    std::erase_if(keys, [this](int key) {
+        return isMade(key) || !(made_->stateBefore.at(key) == edited_.after().at(key));
+    });
+    if (keys.empty() || document.isEmpty())
+        return document;
+    XmlDocument file(document, QStringLiteral("DEVICE"));
+    Configuration configuration(allSettings());
+    configuration.read(*file.root());
+    review::takeOver(configuration, made_->stateBefore, keys);
+    XmlDocument written(QString(), QStringLiteral("DEVICE"));
+    configuration.write(*written.root());
+    written.root()->commit();
+    return written.text();
 }
 
 } // namespace vlk

@@ -147,6 +147,7 @@ void EditKeeper::beginOpened(const QByteArray& document)
     beginWith(document);
     opened_ = beginning_;
     savedTo_.clear();
+    isSaved_ = false;
 }
 
 bool EditKeeper::keep()
@@ -154,11 +155,11 @@ bool EditKeeper::keep()
     due_.stop();
     if (subject_.isEmpty())
         return true;
-    const QByteArray& beginning = beginning_[review_.isQuick()];
+    const QByteArray beginning = this->beginning();
     // What changes behind the closed window, as lists do with the language, is nobody's edit.
     const QByteArray now = isInSight_ ? review_.document() : shown_;
     QString reason;
-    const bool isEdited = now != beginning && now != inFile_[review_.isQuick()];
+    const bool isEdited = now != beginning && now != inSight(inFile_);
     shown_ = now;
     if (now == kept_)
         return true;
@@ -210,7 +211,7 @@ bool EditKeeper::tellLost() const
 {
     if (failure_.isEmpty())
         return false;
-    const QByteArray& before = kept_.isEmpty() ? beginning_[review_.isQuick()] : kept_;
+    const QByteArray before = kept_.isEmpty() ? beginning() : kept_;
     std::vector<int> lost = review::ownKeys({subject_, {}, before, shown_});
     // What was brought back from an earlier time is kept there.
     for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
@@ -231,7 +232,7 @@ bool EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
         return false;
-    const auto own = review::ownKeys({subject_, {}, beginning_[review_.isQuick()], kept_});
+    const auto own = review::ownKeys({subject_, {}, beginning(), kept_});
     if (own.empty())
         return false;
     // With what was kept of it earlier and still waits.
@@ -264,18 +265,29 @@ QByteArray EditKeeper::inOtherWindow(const QByteArray& document) const
     return edited == now ? unedited : review_.rewritten(review::withEdits(unedited, {{}, {}, edited, now}));
 }
 
+QByteArray EditKeeper::inSight(const Beginning& state) const
+{
+    return review_.withBroughtBack(state[review_.isQuick()]);
+}
+
+QByteArray EditKeeper::beginning() const
+{
+    return isSaved_ ? beginning_[review_.isQuick()] : inSight(beginning_);
+}
+
 void EditKeeper::saved(const QString& path)
 {
     if (!subject_.startsWith(kTracker) && !subject_.startsWith(kUnknownTracker)) {
         QFile::remove(path_);
         setSubject(editSubject(path, true));
     } else {
-        const QByteArray& opened = opened_[review_.isQuick()];
         savedTo_ = path;
-        saved_ = static_cast<int>(review::ownKeys({subject_, {}, opened, review_.document()}).size());
+        saved_ =
+            static_cast<int>(review::ownKeys({subject_, {}, inSight(opened_), review_.document()}).size());
     }
     beginWith(review_.document());
     inFile_ = {};
+    isSaved_ = true;
     keep();
     Q_EMIT safe();
 }

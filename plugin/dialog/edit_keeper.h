@@ -84,6 +84,10 @@ private:
     // The tracker has that.
     void beginOpened(const QByteArray& document);
     QByteArray inOtherWindow(const QByteArray& document) const;
+    // In the window on show, with what quick setup had made and the user has brought back since.
+    QByteArray inSight(const Beginning& state) const;
+    // Where that is no edit: as long as no file holds what quick setup made.
+    QByteArray beginning() const;
     void setFailure(const QString& reason);
     // What the disk refused goes with the window. False when nothing does.
     bool tellLost() const;
@@ -101,6 +105,7 @@ private:
     Beginning opened_;                   // as opened or written last
     QString savedTo_;                    // where edits of a tracker were saved since then
     int saved_ = 0;                      // how many settings they have changed
+    bool isSaved_ = false;               // since opened or written last
     QByteArray kept_;                    // what the file of the edits is known to hold
     QByteArray shown_;                   // what there was when it was asked to keep last
     bool isInSight_ = false;             // until the window is closed

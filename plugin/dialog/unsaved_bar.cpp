@@ -159,7 +159,14 @@ void UnsavedBar::refresh()
     }
     using Review = ConfigurationReview;
     tellSensors(kTakenForUsed, {{"rev_371", &Review::takenForUsed}});
-    tellSensors(kLeftOut, {{"rev_435", &Review::leftOut}, {"rev_503", &Review::madeAnew}});
+    if (review_.isQuick()) {
+        tellSensors(kLeftOut, {{"rev_435", &Review::leftOut}, {"rev_503", &Review::madeAnew}});
+    } else {
+        tellSensors(kLeftOut, {{"rev_750", &Review::leftOut}, {"rev_751", &Review::madeAnew}}, [this] {
+            const auto bring = [this] { review_.bringBackMade([] { return words("rev_752"); }); };
+            return std::vector{Notice::Action{words("rev_142"), bring}};
+        });
+    }
     const std::size_t count = replaced().size();
     if (std::exchange(toldReplaced_, count) == count)
         return;
@@ -215,7 +222,8 @@ Notice UnsavedBar::noticeOfReplaced()
     return {Mark::Advice, words("rev_760").arg(count), {take, show}};
 }
 
-void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences)
+void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences,
+                             const std::function<std::vector<Notice::Action>()>& actions)
 {
     const auto text = [this, all = std::move(sentences)] {
         QStringList told;
@@ -230,7 +238,9 @@ void UnsavedBar::tellSensors(int number, std::vector<Sentence> sentences)
         return;
     if (now.isEmpty())
         return end(number);
-    tell(number, [text] { return Notice{Mark::Advice, text(), {}}; });
+    tell(number, [text, actions] {
+        return Notice{Mark::Advice, text(), actions ? actions() : std::vector<Notice::Action>()};
+    });
 }
 
 void UnsavedBar::tellOffer(int number)

@@ -4,8 +4,8 @@
 // the tracker, above the pages: how many settings of the configuration on show it would change. Each time of
 // editing is a notice of its own, the newest first. The cross leaves it for the next opening; once it has
 // been shown it can be discarded, which happens when the window closes. It tells, too, which sensors quick
-// setup takes for used though the file has none, and which it would remove, and offers to take over what the
-// tracker was brought back to.
+// setup takes for used though the file has none, and which it would remove, or has removed when full setup
+// took over from it, with the way back, and offers to take over what the tracker was brought back to.
 
 #include "dialog/configuration_review.h"
 #include "review/recovery.h"
@@ -82,7 +82,8 @@ private:
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
-    void tellSensors(int number, std::vector<Sentence> sentences);
+    void tellSensors(int number, std::vector<Sentence> sentences,
+                     const std::function<std::vector<Notice::Action>()>& actions = {});
     // replaced() with what goes along with them.
     std::vector<int> replacedWithAll() const;
     Notice noticeOfReplaced();

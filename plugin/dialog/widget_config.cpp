@@ -383,7 +383,8 @@ void VLK_Widget_Config::leaveWindow()
 void VLK_Widget_Config::switchToFull()
 {
     leaveWindow();
-    history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); }, [this] { showFull(); });
+    history_.asOne([] { return QCoreApplication::translate("vlk", "rev_128"); },
+                   [this] { review_.moveToFull([this] { showFull(); }); });
     keeper_.switched();
     unsaved_->endFile();
 }

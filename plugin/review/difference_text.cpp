@@ -99,6 +99,21 @@ void mask(DifferenceText* text)
     }
 }
 
+// What stands above the settings of the full window in the same element; empty where there are none.
+QString groupBeside(const QString& path)
+{
+    const QString element = path.section(QLatin1Char('/'), 0, -2, QString::SectionIncludeTrailingSep);
+    const FileKeys& keys = FileKeys::all();
+    for (int key = 0; key < keys.count(); ++key) {
+        if (!keys[key].path.startsWith(element))
+            continue;
+        const SettingWords words = wordsOf(keys.layout(keys[key].table), keys[key].rows.front());
+        if (!words.group.isEmpty() && words.group != words.page)
+            return words.group;
+    }
+    return {};
+}
+
 } // namespace
 
 const char* noteKey(const Difference& difference)
@@ -198,7 +213,8 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
     const int row = quick.rowAt(difference.path);
     if (row >= 0) {
         const SettingWords words = wordsOf(quick, row);
-        text.group = words.group;
+        const QString group = groupBeside(difference.path);
+        text.group = group.isEmpty() ? words.group : group;
         text.caption = words.caption;
     } else {
         text.group = difference.path.section(QLatin1Char('/'), 0, -2);
@@ -210,6 +226,9 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
          {std::pair(&text.beforeText, &text.before), std::pair(&text.afterText, &text.after)}) {
         const bool isChoice = row >= 0 && quick.rows[row].setting->is<Choice>();
         *told = isChoice ? valueText(*quick.rows[row].setting, *value, nullptr) : withoutEmptyAddress(*value);
+        // Empty is a value of its own: no other device on the line.
+        if (row >= 0 && !value->isNull() && value->isEmpty())
+            *told = translated("rev_753");
     }
     if (keys.looksSecret(difference.path) && secrets == Secrets::Masked)
         mask(&text);

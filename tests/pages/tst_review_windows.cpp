@@ -330,6 +330,57 @@ private Q_SLOTS:
         QVERIFY(dialog_->review().isQuick() && !told->isVisible());
     }
 
+    // What quick setup has made of sensors and lines is nobody's edit in full setup either, and goes back as
+    // one step.
+    void whatQuickSetupMadeInFullSetup()
+    {
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        const auto* told = child<QLabel>("label_Unsaved");
+        const auto* button = child<QToolButton>("toolButton_Differences");
+        auto& review = dialog_->review();
+        const auto counted = [&] { return button->text().split('+'); };
+        for (const int edits : {0, 1}) {
+            if (edits > 0)
+                type(child<QWidget>("page_Light")->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main"), "5555");
+            const QStringList gone = review.leftOut();
+            child<QPushButton>("pushButton_Light_ConfigFull")->click();
+            QCOMPARE(counted().value(0).toInt(), edits);
+            QVERIFY(counted().value(1).toInt() > 10);
+            QVERIFY(told->isVisible() && told->text() == "rev_750 rev_751");
+            QCOMPARE(review.leftOut(), gone);
+            int own = 0;
+            for (const vlk::review::Difference& difference : review.edits().all()) {
+                const QString note = review.noteKey(review.edits(), difference);
+                own += note.isEmpty() ? 1 : 0;
+                QVERIFY(note.isEmpty() || review.isUnedited(difference) || difference.isAlong);
+                QVERIFY(difference.key < 0 || review.isOwn(difference.key) == note.isEmpty());
+            }
+            QCOMPARE(own, edits);
+            const QByteArray made = review.document();
+            child<QAbstractButton>("label_Unsaved_Action1")->click();
+            QCOMPARE(counted(), QStringList(QString::number(edits)));
+            QVERIFY(!told->isVisible());
+            history().undo();
+            QCOMPARE(review.document(), made);
+            QVERIFY(told->isVisible());
+            // One setting more is edited, and it alone counts.
+            type(child<QWidget>("page_Full")->findChild<QLineEdit*>("lineEdit_Name"), "KAMAZ");
+            QCOMPARE(counted().value(0).toInt(), edits + 1);
+            history().undo();
+            history().undo();
+            QVERIFY(review.isQuick() && told->text() == "rev_435 rev_503");
+        }
+        history().redo();
+        QCOMPARE(told->text(), QString("rev_750 rev_751"));
+        // There and back again.
+        dialog_->switchToQuick();
+        dialog_->switchToFull();
+        QCOMPARE(told->text(), QString("rev_750 rev_751"));
+        QCOMPARE(counted().value(0).toInt(), 1);
+        review.setWritten(review.document(), {});
+        QVERIFY(!told->isVisible() && button->text() == "0");
+    }
+
     // What is not chosen stays, in quick setup too.
     void oneOfTwoInQuickSetup()
     {

@@ -100,7 +100,7 @@ private Q_SLOTS:
         table.row("keys of quick setup", "<SRV1 ", "<SRV1 format=\"VLKB_ZETA\" ",
                   "hint TRANS/SRV1/format named: ZETA. rev_299");
         table.row("constant of quick setup", "<OPTIONS ", "<OPTIONS owner2=\"\" ",
-                  "hint RS485/OPTIONS/owner2 named: rev_299");
+                  "hint RS485/OPTIONS/owner2 named: rev_753. rev_299");
         table.row("levels of quick setup, one of them as it writes it", "<IN1ADIN ",
                   "<IN1ADIN lowLvl=\"5000\" highLvl=\"7000\" ",
                   "hint SENSORS/IN1/IN1ADIN/lowLvl named: 5000. rev_299; "

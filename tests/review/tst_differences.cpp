@@ -199,6 +199,11 @@ private Q_SLOTS:
         QCOMPARE(bare.join(" "), QString());
         const auto text = textOf(vlk::review::Difference{-1, -1, "RS485/OPTIONS/owner2", {}, "", {}});
         QCOMPARE(text.page + '|' + text.group + '|' + text.caption, QString("cfgt6_001|cfgwl_011|rev_247"));
+        QCOMPARE(text.afterText, QString("rev_753"));
+        // Each line has these.
+        const auto level =
+            textOf(vlk::review::Difference{-1, -1, "SENSORS/IN2/IN2ADIN/lowLvl", {}, "5000", {}});
+        QCOMPARE(level.group + '|' + level.caption, QString("cfgt8_011|cfgt8_024"));
         const auto zeta =
             textOf(vlk::review::Difference{-1, -1, "TRANS/SRV1/format", "EGTS", "VLKB_ZETA", {}});
         QCOMPARE(zeta.after + '|' + zeta.afterText, QString("VLKB_ZETA|ZETA"));

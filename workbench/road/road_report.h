@@ -28,6 +28,9 @@ struct WriteRequest
     QStringList lost;    // paths of the keys that were opened and that nobody knows: the document lacks them
     QStringList typed{}; // a line for each field that was not taken as it was typed
     QByteArray known{};  // what the user has last seen of what the tracker holds; empty: nothing
+    QByteArray broughtBack{}; // to which the tracker has been brought back since; empty: it has not
+
+    bool isBringBack() const { return origin == Origin::Backup || origin == Origin::Previous; }
 };
 
 struct WriteReview
@@ -46,6 +49,7 @@ struct WriteReview
     bool isOfThisTracker = false;
     bool isUnchecked = false;   // nobody could look for errors
     bool isKnownNoMore = false; // the tracker holds something else than the user has seen last
+    bool isBroughtBack = false; // namely what it was brought back to, which the window has not taken over
 
     // Why it has to be looked at.
     enum class Why {
@@ -55,6 +59,7 @@ struct WriteReview
         IsUnchecked,
         IsOfAnother,
         IsKnownNoMore,
+        IsBroughtBack,
         LosesKeys,
         BringsMore,
         BringsBack
@@ -155,7 +160,6 @@ struct RoadReport
 
 inline QVector<WriteReview::Why> WriteReview::reasons() const
 {
-    using Origin = WriteRequest::Origin;
     QVector<Why> all;
     const auto add = [&all](Why why, bool holds) {
         if (holds)
@@ -166,11 +170,12 @@ inline QVector<WriteReview::Why> WriteReview::reasons() const
     add(Why::HasTyped, typed > 0);
     add(Why::IsUnchecked, isUnchecked);
     add(Why::IsOfAnother, !isOfThisTracker);
-    add(Why::IsKnownNoMore, isKnownNoMore);
+    add(Why::IsKnownNoMore, isKnownNoMore && !isBroughtBack);
+    add(Why::IsBroughtBack, isBroughtBack);
     add(Why::LosesKeys, !request.lost.isEmpty());
     add(Why::BringsMore, !alongside().isEmpty());
     // Nobody has edited what is brought back: the review is the one look at it.
-    add(Why::BringsBack, request.origin == Origin::Backup || request.origin == Origin::Previous);
+    add(Why::BringsBack, request.isBringBack());
     return all;
 }
 

@@ -241,6 +241,8 @@ void WriteRoad::presentCame(const QByteArray& document)
     review_.typed = static_cast<int>(std::ranges::count_if(review_.advice, &SettingAdvice::isTyped));
     review_.isOfThisTracker = review_.request.readFrom == review_.tracker.number;
     review_.isKnownNoMore = review_.isOfThisTracker && isChanged(review_.request.known);
+    const QByteArray& broughtBack = review_.request.broughtBack;
+    review_.isBroughtBack = review_.isKnownNoMore && !broughtBack.isEmpty() && !isChanged(broughtBack);
     setStep(Step::Review);
     Q_EMIT reviewReady(review_);
 }

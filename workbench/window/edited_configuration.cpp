@@ -74,6 +74,12 @@ void EditedConfiguration::trackerHolds(const QByteArray& document)
     tracker_ = ConfigurationValues(document);
 }
 
+void EditedConfiguration::offered(const QByteArray& held, bool isBack)
+{
+    offered_ = held;
+    isBack_ = isBack;
+}
+
 void EditedConfiguration::tookOver()
 {
     if (offered_)

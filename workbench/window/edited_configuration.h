@@ -27,8 +27,9 @@ public:
     void writtenInPart(const QString& number, const QByteArray& held);
     // The tracker took one that was open before, or has been brought back.
     void trackerHolds(const QByteArray& document);
-    // The window has been told that the tracker holds this, and may take it over.
-    void offered(const QByteArray& held) { offered_ = held; }
+    // The window has been told that the tracker holds this, and may take it over; `isBack`: it was brought
+    // back to that.
+    void offered(const QByteArray& held, bool isBack);
     bool isOffered() const { return offered_.has_value(); }
     void tookOver();
     // The window is closed.
@@ -40,6 +41,8 @@ public:
     QString seenIn() const { return seenIn_; }
     // What that tracker held then; empty where no tracker has seen it.
     QByteArray known() const { return known_; }
+    // What it was brought back to since then; empty where it was not.
+    QByteArray broughtBack() const { return isBack_ ? offered_.value_or(QByteArray()) : QByteArray(); }
     // What a write loses of the file that was opened.
     QStringList unknown() const { return unknown_; }
     bool isNew() const { return source_ == Source::New; }
@@ -62,6 +65,7 @@ private:
     QString seenIn_;
     QByteArray known_;
     std::optional<QByteArray> offered_;
+    bool isBack_ = false; // what was offered
     QStringList unknown_;
     Compare compare_;
     QByteArray document_; // that was read

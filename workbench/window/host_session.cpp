@@ -233,6 +233,7 @@ void HostSession::takeWritten(const QString& path)
     if (edited_.isOffered() && link_.hasTakenOver())
         edited_.tookOver();
     request.known = edited_.known();
+    request.broughtBack = edited_.broughtBack();
     const QString error = file.isOpen() ? QString() : file.errorString();
     file.close();
     const UnwrittenFiles::Taken taken =
@@ -286,7 +287,7 @@ void HostSession::finish(const RoadReport& report)
     if (!report.readBack.isEmpty() && !(isConfirmed && isOfOpen) &&
         edited_.seenIn() == report.tracker.number) {
         link_.tellHeld(report.readBack);
-        edited_.offered(report.readBack);
+        edited_.offered(report.readBack, request.isBringBack());
     }
     if (isGivenUp)
         removeKept(request.file);

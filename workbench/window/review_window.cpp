@@ -78,6 +78,7 @@ constexpr WhyRow kWhyRows[] = {
     {WriteReview::Why::IsUnchecked, "wb_review_why_unchecked"},
     {WriteReview::Why::IsOfAnother, "wb_review_why_other"},
     {WriteReview::Why::IsKnownNoMore, "wb_review_why_known"},
+    {WriteReview::Why::IsBroughtBack, "wb_831"},
     {WriteReview::Why::LosesKeys, "wb_review_why_lost"},
     {WriteReview::Why::BringsMore, "wb_review_why_more"},
     {WriteReview::Why::BringsBack, "wb_review_why_back"},
@@ -124,7 +125,7 @@ QStringList notesOf(const WriteReview& review, bool isUnasked)
     add("wb_review_lost", review.request.lost);
     add("wb_report_kept_sections", review.keptSections);
     if (review.isKnownNoMore && !isUnasked) // else it is the reason below
-        notes.append(text("wb_review_known"));
+        notes.append(text(review.isBroughtBack ? "wb_830" : "wb_review_known"));
     if (review.isUnchecked)
         notes.append(text("wb_review_unchecked"));
     if (isUnasked)

@@ -176,9 +176,7 @@ QString broughtBack(const RoadReport& report)
 // Where something was to be brought back, no button repeats the write before it.
 QString earlierWrite(const RoadReport& report)
 {
-    using Origin = WriteRequest::Origin;
-    const bool isOfBack =
-        report.request.origin == Origin::Backup || report.request.origin == Origin::Previous;
+    const bool isOfBack = report.request.isBringBack();
     const QString said =
         text(isOfBack ? "wb_report_earlier_back" : "wb_report_earlier").arg(number(report.earlier));
     return isOfBack && QFile::exists(report.earlierFile)
