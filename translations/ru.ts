@@ -1826,6 +1826,8 @@
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
+    <message id="rev_770"><translation>Несохранённые изменения быстрой настройки: %1 (%2). В полной настройке этих параметров нет: вернуть их можно в быстрой.</translation></message>
+    <message id="rev_771"><translation>Ещё в быстрой настройке, вернуть можно только там: %1</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>

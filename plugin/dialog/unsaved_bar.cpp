@@ -72,7 +72,8 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
         std::vector<int> keys = editedKeys(kept.unsaved);
         std::vector<int> own = ownKeys(kept.unsaved);
-        Offer offer{std::move(kept), std::move(keys), std::move(own),
+        QMap<QString, QString> alone = heldByQuickAlone(kept.unsaved);
+        Offer offer{std::move(kept), std::move(keys), std::move(own), std::move(alone),
                     review::FileState::ofDocument(*after.root())};
         if (isInNewer(offer))
             QFile::remove(offer.kept.path);
@@ -98,10 +99,11 @@ void UnsavedBar::tellDamaged()
 bool UnsavedBar::isInNewer(const Offer& offer) const
 {
     return std::ranges::any_of(offers_, [&](const Offer& newer) {
-        return std::ranges::all_of(offer.keys, [&](int key) {
-            return std::ranges::find(newer.keys, key) != newer.keys.end() &&
-                   newer.after.at(key) == offer.after.at(key);
-        });
+        return (offer.alone.isEmpty() || newer.alone == offer.alone) &&
+               std::ranges::all_of(offer.keys, [&](int key) {
+                   return std::ranges::find(newer.keys, key) != newer.keys.end() &&
+                          newer.after.at(key) == offer.after.at(key);
+               });
     });
 }
 
@@ -110,6 +112,14 @@ int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
     const review::FileState& now = review_.differences().after();
     return static_cast<int>(
         std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
+}
+
+int UnsavedBar::count(const Offer& offer) const
+{
+    int count = changes(offer, offer.own);
+    if (review_.isQuick() != offer.kept.unsaved.quick.isEmpty())
+        count = review::countOf(offer.kept.unsaved, count, static_cast<int>(offer.own.size()));
+    return std::max(count, 1);
 }
 
 // Once it was brought back it is over, whatever else becomes of its keys; but where that was taken back it
@@ -139,20 +149,23 @@ QString UnsavedBar::replacedBy(const Offer& offer) const
     return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
 }
 
-// An offer whose changes are there is over, and comes again when they are taken back.
+// An offer whose changes are there is over, and comes again when they are taken back. Of what only the quick
+// window has the full one cannot say that it is there.
 void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
         follow(offer);
         const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
-        const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
+        const int count = isOver ? 0 : this->count(offer);
+        const int alone = offer.isClosed ? 0 : this->alone(offer);
         const QString replaces = isOver ? QString() : replacedBy(offer);
-        if (count == offer.told && replaces == offer.replaces)
+        if (count == offer.told && alone == offer.toldAlone && replaces == offer.replaces)
             continue;
         offer.told = count;
+        offer.toldAlone = alone;
         offer.replaces = replaces;
-        if (count > 0)
+        if (count > 0 || alone > 0)
             tellOffer(number);
         else
             end(number);
@@ -236,8 +249,13 @@ Notice UnsavedBar::noticeOf(int number)
 {
     const Offer& offer = offers_[number - 1];
     const review::Unsaved& unsaved = offer.kept.unsaved;
-    QString text = QStringLiteral("%1: %2 (%3)")
-                       .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    const QString alone = QLocale().toString(offer.toldAlone);
+    QString text = offer.told == 0
+                       ? words("rev_770").arg(alone, momentOf(unsaved))
+                       : QStringLiteral("%1: %2 (%3)")
+                             .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    if (offer.told > 0 && offer.toldAlone > 0)
+        text += QStringLiteral(". ") + words("rev_771").arg(alone);
     if (!offer.replaces.isEmpty())
         text += QStringLiteral(". ") + words("rev_721").arg(offer.replaces);
     if (unsaved.inFile > 0 && QFile::exists(unsaved.file))
@@ -249,6 +267,8 @@ Notice UnsavedBar::noticeOf(int number)
     const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
     if (offer.isDiscarded)
         return {Mark::Advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
+    if (offer.told == 0)
+        return {Mark::Advice, text, {drop}};
     return {Mark::Advice, text, // What gives them back stays where it is.
             offer.isShown ? std::vector{drop, bring} : std::vector{show, bring}};
 }
@@ -289,7 +309,8 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || offer.isBroughtBack() || changes(offer, offer.keys) == 0)
+        const bool isThere = offer.isBroughtBack() || changes(offer, offer.keys) == 0;
+        if (offer.isDiscarded || (isThere && alone(offer) == 0))
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -59,7 +59,8 @@ private:
     {
         review::KeptUnsaved kept;
         std::vector<int> keys;
-        std::vector<int> own; // of the keys, those that are counted
+        std::vector<int> own;         // of the keys, those that are counted
+        QMap<QString, QString> alone; // that only the quick window brings back
         review::FileState after;
         bool isShown = false;
         bool isDiscarded = false;
@@ -67,6 +68,7 @@ private:
         std::optional<review::FileState> replaced{}; // by bringing it back
         bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
+        int toldAlone = 0;                           // and how many only in the quick window
         QString replaces{};                          // and which of those that were edited later
 
         bool isBroughtBack() const { return replaced && !isTakenBack; }
@@ -75,6 +77,10 @@ private:
     bool isInNewer(const Offer& offer) const;
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
+    // As a person would count them, one at least.
+    int count(const Offer& offer) const;
+    // None while the quick window is on show.
+    int alone(const Offer& offer) const { return review_.isQuick() ? 0 : offer.alone.size(); }
     void follow(Offer& offer) const;
     QString replacedBy(const Offer& offer) const;
     void tellDamaged();
