@@ -5,6 +5,7 @@
 #include "base/replace_file.h"
 #include "document/values_document.h"
 #include "review/take_over.h"
+#include "settings/all_settings.h"
 #include "settings/quick_settings.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
@@ -67,6 +68,18 @@ FileState stateOf(const QByteArray& text)
 {
     XmlDocument document(text, kRoot);
     return FileState::ofDocument(*document.root());
+}
+
+// What the full window makes of a document.
+QByteArray inFull(const QByteArray& text)
+{
+    XmlDocument read(text, kRoot);
+    XmlDocument written(QString(), kRoot);
+    Configuration all(allSettings());
+    all.read(*read.root());
+    all.write(*written.root());
+    written.root()->commit();
+    return written.text();
 }
 
 Values quickValuesIn(const QByteArray& text)
@@ -197,14 +210,14 @@ QMap<QString, QString> heldByQuickAlone(const Unsaved& unsaved)
     QMap<QString, QString> alone;
     if (unsaved.quick.isEmpty())
         return alone;
-    const Values before = quickValuesIn(unsaved.before);
-    const Values after = quickValuesIn(unsaved.after);
+    const Values before = quickValuesIn(inFull(unsaved.before));
+    const Values after = quickValuesIn(inFull(unsaved.after));
     for (int row = 0; row < after.count(); ++row) {
         for (const int decider : decidersOf(after.layout(), row)) {
             const QString& path = after.row(decider).path;
             const QString value = unsaved.quick.value(path, after.value(decider));
-            if (!after.row(decider).base->stored && value != after.value(decider) &&
-                value != before.value(decider))
+            if (!after.row(decider).base->stored && after.setting(decider).is<Flag>() &&
+                value != after.value(decider) && value != before.value(decider))
                 alone.insert(path, value);
         }
     }

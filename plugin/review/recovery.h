@@ -60,8 +60,8 @@ std::vector<int> editedKeys(const Unsaved& unsaved);
 std::vector<int> ownKeys(const Unsaved& unsaved);
 // How many changes these are, of all that a person would count, in the window in which they were made.
 int countOf(const Unsaved& unsaved, int own, int all);
-// What was chosen in the quick window and can be read from no document: that it uses sensors over Bluetooth,
-// as long as it has none.
+// What was checked in the quick window and is lost in the full one: that it uses sensors over Bluetooth, as
+// long as it has none.
 QMap<QString, QString> heldByQuickAlone(const Unsaved& unsaved);
 // Whether a document is, by what it means, what a save would have written after the edits.
 bool isResult(const QByteArray& document, const Unsaved& unsaved);
