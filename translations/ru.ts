@@ -1828,6 +1828,7 @@
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
     <message id="rev_770"><translation>Несохранённые изменения быстрой настройки: %1 (%2). В полной настройке этих параметров нет: вернуть их можно в быстрой.</translation></message>
     <message id="rev_771"><translation>Ещё в быстрой настройке, вернуть можно только там: %1</translation></message>
+    <message id="rev_772"><translation>Возвращены не с тем значением, что хранилось, так как этого требуют настройки: %1</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>
     <message id="rev_355"><translation>В полной настройке уровень и температура включаются вместе</translation></message>

@@ -24,6 +24,7 @@ constexpr int kReplaced = -1;
 constexpr int kLeftOut = -2;
 constexpr int kFile = -3;
 constexpr int kDamaged = -4;
+constexpr int kOtherwise = -5;
 // Behind the offers.
 constexpr int kTakenForUsed = std::numeric_limits<int>::max();
 
@@ -62,6 +63,8 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     end(kFailure);
     end(kFile);
     end(kReplaced);
+    end(kOtherwise);
+    otherwise_.clear();
     replaced_.clear();
     toldReplaced_ = 0;
     for (auto& [number, sensors] : sensors_)
@@ -127,7 +130,8 @@ int UnsavedBar::count(const Offer& offer) const
 void UnsavedBar::follow(Offer& offer) const
 {
     const review::FileState& now = review_.differences().after();
-    if (changes(offer, offer.keys) == 0)
+    const auto isBrought = [&](int key) { return now.at(key) == offer.brought->at(key); };
+    if (changes(offer, offer.keys) == 0 || (offer.brought && std::ranges::all_of(offer.keys, isBrought)))
         offer.isTakenBack = false;
     else if (offer.replaced &&
              std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); }))
@@ -147,6 +151,28 @@ QString UnsavedBar::replacedBy(const Offer& offer) const
     }
     constexpr int most = 2;
     return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
+}
+
+QStringList UnsavedBar::broughtOtherwise() const
+{
+    const review::Differences& edits = review_.edits();
+    QStringList told;
+    for (const Offer& offer : offers_) {
+        if (!offer.brought || !offer.isBroughtBack())
+            continue;
+        for (const int key : offer.own) {
+            const review::Held& now = edits.after().at(key);
+            const bool isOther = !(now == offer.after.at(key)) && now == offer.brought->at(key);
+            if (!isOther || !now.isThere || !offer.after.at(key).isThere)
+                continue;
+            const review::FileKey& place = review::FileKeys::all()[key];
+            const QString caption =
+                placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
+            told << QStringLiteral("%1: %2").arg(caption,
+                                                 review_.textOf(edits, edits.differenceAt(key)).afterText);
+        }
+    }
+    return told;
 }
 
 // An offer whose changes are there is over, and comes again when they are taken back. Of what only the quick
@@ -169,6 +195,16 @@ void UnsavedBar::refresh()
             tellOffer(number);
         else
             end(number);
+    }
+    if (QStringList otherwise = broughtOtherwise(); otherwise != otherwise_) {
+        otherwise_ = std::move(otherwise);
+        if (otherwise_.isEmpty())
+            end(kOtherwise);
+        else
+            tell(kOtherwise, [this] {
+                const QString settings = broughtOtherwise().join(QStringLiteral("; "));
+                return Notice{Mark::Advice, words("rev_772").arg(settings), {}};
+            });
     }
     using Review = ConfigurationReview;
     tellSensors(kTakenForUsed, {{"rev_371", &Review::takenForUsed}});
@@ -288,8 +324,11 @@ void UnsavedBar::bringBack(int number)
 {
     Offer& offer = offers_[number - 1];
     offer.replaced = review_.differences().after();
+    offer.brought.reset();
     offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
+    offer.brought = review_.differences().after();
+    refresh();
     endComparison();
 }
 

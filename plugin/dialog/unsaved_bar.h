@@ -66,6 +66,7 @@ private:
         bool isDiscarded = false;
         bool isClosed = false;
         std::optional<review::FileState> replaced{}; // by bringing it back
+        std::optional<review::FileState> brought{};  // what that has made of it
         bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
         int toldAlone = 0;                           // and how many only in the quick window
@@ -83,6 +84,8 @@ private:
     int alone(const Offer& offer) const { return review_.isQuick() ? 0 : offer.alone.size(); }
     void follow(Offer& offer) const;
     QString replacedBy(const Offer& offer) const;
+    // Settings that were brought back with another value than was kept, and that.
+    QStringList broughtOtherwise() const;
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
@@ -100,6 +103,7 @@ private:
 
     ConfigurationReview& review_;
     QStringList damaged_;            // what is left of changes that cannot be offered; the last one is told
+    QStringList otherwise_;          // that was told of what was brought back
     std::map<int, QString> sensors_; // that a notice told last
     std::vector<int> replaced_;      // by the tracker
     review::FileState unreplaced_;   // the window when it was told

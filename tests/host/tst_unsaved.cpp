@@ -269,6 +269,28 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 0);
     }
 
+    // The number that a sensor has in quick setup is another one's in full setup.
+    void broughtBackOtherwise()
+    {
+        host_.attach();
+        open("tracker", false);
+        for (const char* box : {"checkBox_BT_Use", "checkBox_BT_1"})
+            child<QCheckBox>(box)->click();
+        type(child<QLineEdit>("lineEdit_BT_Mac_1"), "112233445566<Tab>");
+        QCoreApplication::processEvents();
+        window->close();
+        open("tracker");
+        QVERIFY(offer().startsWith("rev_345: "));
+        press("label_Unsaved_Action2");
+        QCOMPARE(offer(), QString("rev_772"));
+        press("toolButton_Undo");
+        QVERIFY(offer().startsWith("rev_345: "));
+        press("toolButton_Redo");
+        QCOMPARE(offer(), QString("rev_772"));
+        press("label_Unsaved_Close");
+        QVERIFY(offer().isEmpty());
+    }
+
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
     void countedAlike()
     {
