@@ -1830,6 +1830,9 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="rev_760"><translation>The tracker was brought back to another configuration. Settings with other values: %1</translation></message>
     <message id="rev_761"><translation>Ta&amp;ke over from the tracker</translation></message>
     <message id="rev_762"><translation>values taken over from the tracker</translation></message>
+    <message id="rev_770"><translation>Unsaved changes of quick setup: %1 (%2). Full setup does not have these settings: go to quick setup to bring them back.</translation></message>
+    <message id="rev_771"><translation>Of quick setup, which alone brings them back: %1</translation></message>
+    <message id="rev_772"><translation>Brought back with another value than was kept, as the settings here ask for it: %1</translation></message>
     <message id="rev_763"><translation>The tracker was brought back to another value</translation></message>
     <message id="rev_353"><translation>Yes, without its temperature</translation></message>
     <message id="rev_354"><translation>Its temperature only</translation></message>

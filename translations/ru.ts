@@ -1830,6 +1830,9 @@
     <message id="rev_760"><translation>В трекер возвращена другая конфигурация. Параметров с другими значениями: %1</translation></message>
     <message id="rev_761"><translation>&amp;Взять из трекера</translation></message>
     <message id="rev_762"><translation>значения взяты из трекера</translation></message>
+    <message id="rev_770"><translation>Несохранённые изменения быстрой настройки: %1 (%2). В полной настройке этих параметров нет: вернуть их можно в быстрой.</translation></message>
+    <message id="rev_771"><translation>Ещё в быстрой настройке, вернуть можно только там: %1</translation></message>
+    <message id="rev_772"><translation>Возвращены не с тем значением, что хранилось, так как этого требуют настройки: %1</translation></message>
     <message id="rev_763"><translation>В трекер возвращено другое значение</translation></message>
     <message id="rev_353"><translation>Да, без температуры</translation></message>
     <message id="rev_354"><translation>Только температура</translation></message>

@@ -86,24 +86,23 @@ QString TextEntry::complaint() const
 
 void TextEntry::forget()
 {
-    cutNews_.clear();
+    cut_.clear();
     tell({});
 }
 
-// A text that was taken back and is set again is still not the one that was meant.
 void TextEntry::follow()
 {
-    if (line_->isModified())
-        cutNews_ = news_;
-    else if (!cutNews_.isEmpty() && line_->text() == cut_)
-        return remind();
     if (!news_.isEmpty())
-        cut_ = line_->text();
+        cut_.insert(line_->text(), news_);
+    else if (!line_->isModified())
+        retell();
 }
 
-void TextEntry::remind()
+void TextEntry::retell()
 {
-    tell(cutNews_);
+    tell(cut_.value(line_->text()));
+    if (news_.isEmpty())
+        return;
     isKeyOnly_ = false;
     if (!line_->hasFocus())
         markField(line_, MarkReason::Typing, Mark::Advice, news_);
@@ -149,8 +148,7 @@ void TextEntry::rejected()
     isKeyOnly_ = (isKeyOnly_ || !isMarked_) && !isTooLong && !isPasted_;
     tell(isTooLong ? QCoreApplication::translate("vlk", "typed_long").arg(fit)
                    : QCoreApplication::translate("vlk", "typed_sign"));
-    cut_ = line_->text();
-    cutNews_ = news_;
+    cut_.insert(shown_, news_);
     beginsAnew_ = false;
     // By the menu: a key has been through here before.
     if (isPasted_)
@@ -197,7 +195,9 @@ void TextEntry::leave()
     const bool isMissed = !isKeyOnly_ || (wasTyped_ && !isBlank());
     if (!isMissed && complaint().isEmpty())
         tell({});
-    else if (isMarked_)
+    if (news_.isEmpty() && (!isMissed || wasTyped_))
+        cut_.remove(line_->text());
+    if (isMarked_)
         markField(line_, MarkReason::Typing, Mark::Advice, news_);
 }
 

@@ -6,6 +6,7 @@
 // gives back the text that stood there when the field was entered and closes no window, and Enter presses no
 // button. In an input mask the caret stays where the next sign is missing unless more stands behind it.
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 
@@ -34,8 +35,11 @@ public:
     QString news() const { return news_; }
     // Takes that mark away: the text is to be shown as it is.
     void giveUp() { tell({}); }
-    // The same; it does not come again either, with the text beside which it was told, when that is set.
+    // The same; it does not come again either.
     void forget();
+    // Tells it again where a text is set again beside which it was told: it is still not the one that was
+    // meant.
+    void retell();
 
     // What is doubtful about the text that stands there; empty if nothing is.
     QString complaint() const;
@@ -50,7 +54,6 @@ private:
     void rejected();
     void leave();
     void follow();
-    void remind();
     void keepInMask();
     bool isBlank() const;
     // The next text that comes, by a key or the menu.
@@ -66,16 +69,15 @@ private:
     QString before_;
     QString shown_; // the text before a change
     QString news_;
-    QString cut_; // the text that was told of last, and what was
-    QString cutNews_;
-    bool isMarked_ = false;   // for what was typed
-    bool isKeyOnly_ = false;  // for no more than keys that did not fit
-    bool wasTyped_ = false;   // on this visit, or on the one that the mark is of
-    bool isDoubted_ = false;  // for what stands there
-    bool beginsAnew_ = false; // nothing was left out of what is typed next
-    bool isPasted_ = false;   // by the key being pressed
-    QString typed_;           // that comes with it
-    int chosen_ = 0;          // signs that it takes the place of
+    QHash<QString, QString> cut_; // texts beside which something was told, and what
+    bool isMarked_ = false;       // for what was typed
+    bool isKeyOnly_ = false;      // for no more than keys that did not fit
+    bool wasTyped_ = false;       // on this visit, or on the one that the mark is of
+    bool isDoubted_ = false;      // for what stands there
+    bool beginsAnew_ = false;     // nothing was left out of what is typed next
+    bool isPasted_ = false;       // by the key being pressed
+    QString typed_;               // that comes with it
+    int chosen_ = 0;              // signs that it takes the place of
     std::function<QString(const QString&)> complaint_;
 };
 

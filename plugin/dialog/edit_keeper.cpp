@@ -140,6 +140,7 @@ void EditKeeper::beginWith(const QByteArray& document)
 {
     beginning_.fill(document);
     kept_.clear();
+    told_.reset();
 }
 
 void EditKeeper::beginOpened(const QByteArray& document)
@@ -148,6 +149,8 @@ void EditKeeper::beginOpened(const QByteArray& document)
     opened_ = beginning_;
     savedTo_.clear();
     isSaved_ = false;
+    if (document == review_.document())
+        told_ = review_.edited();
 }
 
 bool EditKeeper::keep()
@@ -169,7 +172,8 @@ bool EditKeeper::keep()
         kept_.clear();
         claim_.reset();
     } else if (review::keepUnsaved(
-                   path_, {subject_, vlk::now(), beginning, now, review_.quickValues(), savedTo_, saved_},
+                   path_,
+                   {subject_, vlk::now(), beginning, now, review_.quickValues(), savedTo_, saved_, count()},
                    &reason)) {
         kept_ = now;
         if (!claim_)
@@ -184,6 +188,11 @@ bool EditKeeper::keep()
     }
     setFailure({});
     return true;
+}
+
+int EditKeeper::count() const
+{
+    return told_ ? std::max(review_.edited() - *told_, 0) : 0;
 }
 
 void EditKeeper::leave()
@@ -232,22 +241,26 @@ bool EditKeeper::tellKept() const
 {
     if (kept_.isEmpty())
         return false;
-    const auto own = review::ownKeys({subject_, {}, beginning(), kept_});
-    if (own.empty())
-        return false;
     // With what was kept of it earlier and still waits.
-    std::set<int> keys(own.begin(), own.end());
+    std::set<int> keys;
+    int count = 0;
     for (const review::KeptUnsaved& kept : review::keptUnsaved(folder_, subject_)) {
-        if (kept.path != path_)
-            std::ranges::copy(review::ownKeys(kept.unsaved), std::inserter(keys, keys.end()));
+        const std::vector<int> own = review::ownKeys(kept.unsaved);
+        if (kept.path == path_ && own.empty())
+            return false;
+        const std::size_t known = keys.size();
+        keys.insert(own.begin(), own.end());
+        count += review::countOf(kept.unsaved, static_cast<int>(keys.size() - known),
+                                 static_cast<int>(own.size()));
     }
-    qCWarning(lcKept).noquote().nospace() << keys.size() << " changes are kept: " << nameOfSubject(subject_);
+    qCWarning(lcKept).noquote().nospace() << count << " changes are kept: " << nameOfSubject(subject_);
     return true;
 }
 
 void EditKeeper::switched()
 {
     const bool isQuick = review_.isQuick();
+    told_.reset();
     // shown_ is what was kept last, before the change.
     for (Beginning* state : {&beginning_, &inFile_, &opened_})
         (*state)[isQuick] = inOtherWindow((*state)[!isQuick]);

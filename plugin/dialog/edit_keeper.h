@@ -88,6 +88,8 @@ private:
     QByteArray inSight(const Beginning& state) const;
     // Where that is no edit: as long as no file holds what quick setup made.
     QByteArray beginning() const;
+    // How many edits the window tells; 0 where it has told of others before and it cannot be known.
+    int count() const;
     void setFailure(const QString& reason);
     // What the disk refused goes with the window. False when nothing does.
     bool tellLost() const;
@@ -106,6 +108,7 @@ private:
     QString savedTo_;                    // where edits of a tracker were saved since then
     int saved_ = 0;                      // how many settings they have changed
     bool isSaved_ = false;               // since opened or written last
+    std::optional<int> told_;            // how many edits the window told of opened_
     QByteArray kept_;                    // what the file of the edits is known to hold
     QByteArray shown_;                   // what there was when it was asked to keep last
     bool isInSight_ = false;             // until the window is closed

@@ -125,8 +125,8 @@ void OpenConfiguration::bringBack(const review::Unsaved& unsaved, const EditHist
     Configuration unchanged = inFull();
     review::readAsEdited(unchanged, *unedited.root());
     review::keepTheRest(changed, written(), unchanged);
-    // They belong to the configuration on which they were made.
-    put(changed, now == unsaved.before ? unsaved.quick : QMap<QString, QString>(), words);
+    // They belong to the configuration on which they were made, but for what the full window loses.
+    put(changed, now == unsaved.before ? unsaved.quick : heldByQuickAlone(unsaved), words);
 }
 
 void OpenConfiguration::put(const Configuration& changed, const QMap<QString, QString>& quick,

@@ -24,6 +24,7 @@ constexpr int kReplaced = -1;
 constexpr int kLeftOut = -2;
 constexpr int kFile = -3;
 constexpr int kDamaged = -4;
+constexpr int kOtherwise = -5;
 // Behind the offers.
 constexpr int kTakenForUsed = std::numeric_limits<int>::max();
 
@@ -62,6 +63,8 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     end(kFailure);
     end(kFile);
     end(kReplaced);
+    end(kOtherwise);
+    otherwise_.clear();
     replaced_.clear();
     toldReplaced_ = 0;
     for (auto& [number, sensors] : sensors_)
@@ -72,7 +75,8 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
         XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
         std::vector<int> keys = editedKeys(kept.unsaved);
         std::vector<int> own = ownKeys(kept.unsaved);
-        Offer offer{std::move(kept), std::move(keys), std::move(own),
+        QMap<QString, QString> alone = heldByQuickAlone(kept.unsaved);
+        Offer offer{std::move(kept), std::move(keys), std::move(own), std::move(alone),
                     review::FileState::ofDocument(*after.root())};
         if (isInNewer(offer))
             QFile::remove(offer.kept.path);
@@ -98,10 +102,11 @@ void UnsavedBar::tellDamaged()
 bool UnsavedBar::isInNewer(const Offer& offer) const
 {
     return std::ranges::any_of(offers_, [&](const Offer& newer) {
-        return std::ranges::all_of(offer.keys, [&](int key) {
-            return std::ranges::find(newer.keys, key) != newer.keys.end() &&
-                   newer.after.at(key) == offer.after.at(key);
-        });
+        return (offer.alone.isEmpty() || newer.alone == offer.alone) &&
+               std::ranges::all_of(offer.keys, [&](int key) {
+                   return std::ranges::find(newer.keys, key) != newer.keys.end() &&
+                          newer.after.at(key) == offer.after.at(key);
+               });
     });
 }
 
@@ -112,12 +117,21 @@ int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
         std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
 }
 
+int UnsavedBar::count(const Offer& offer) const
+{
+    int count = changes(offer, offer.own);
+    if (review_.isQuick() != offer.kept.unsaved.quick.isEmpty())
+        count = review::countOf(offer.kept.unsaved, count, static_cast<int>(offer.own.size()));
+    return std::max(count, 1);
+}
+
 // Once it was brought back it is over, whatever else becomes of its keys; but where that was taken back it
 // waits until all of it stands there again.
 void UnsavedBar::follow(Offer& offer) const
 {
     const review::FileState& now = review_.differences().after();
-    if (changes(offer, offer.keys) == 0)
+    const auto isBrought = [&](int key) { return now.at(key) == offer.brought->at(key); };
+    if (changes(offer, offer.keys) == 0 || (offer.brought && std::ranges::all_of(offer.keys, isBrought)))
         offer.isTakenBack = false;
     else if (offer.replaced &&
              std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); }))
@@ -139,23 +153,58 @@ QString UnsavedBar::replacedBy(const Offer& offer) const
     return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
 }
 
-// An offer whose changes are there is over, and comes again when they are taken back.
+QStringList UnsavedBar::broughtOtherwise() const
+{
+    const review::Differences& edits = review_.edits();
+    QStringList told;
+    for (const Offer& offer : offers_) {
+        if (!offer.brought || !offer.isBroughtBack())
+            continue;
+        for (const int key : offer.own) {
+            const review::Held& now = edits.after().at(key);
+            const bool isOther = !(now == offer.after.at(key)) && now == offer.brought->at(key);
+            if (!isOther || !now.isThere || !offer.after.at(key).isThere)
+                continue;
+            const review::FileKey& place = review::FileKeys::all()[key];
+            const QString caption =
+                placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
+            told << QStringLiteral("%1: %2").arg(caption,
+                                                 review_.textOf(edits, edits.differenceAt(key)).afterText);
+        }
+    }
+    return told;
+}
+
+// An offer whose changes are there is over, and comes again when they are taken back. Of what only the quick
+// window has the full one cannot say that it is there.
 void UnsavedBar::refresh()
 {
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
         follow(offer);
         const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
-        const int count = isOver ? 0 : std::max(changes(offer, offer.own), 1);
+        const int count = isOver ? 0 : this->count(offer);
+        const int alone = offer.isClosed ? 0 : this->alone(offer);
         const QString replaces = isOver ? QString() : replacedBy(offer);
-        if (count == offer.told && replaces == offer.replaces)
+        if (count == offer.told && alone == offer.toldAlone && replaces == offer.replaces)
             continue;
         offer.told = count;
+        offer.toldAlone = alone;
         offer.replaces = replaces;
-        if (count > 0)
+        if (count > 0 || alone > 0)
             tellOffer(number);
         else
             end(number);
+    }
+    if (QStringList otherwise = broughtOtherwise(); otherwise != otherwise_) {
+        otherwise_ = std::move(otherwise);
+        if (otherwise_.isEmpty())
+            end(kOtherwise);
+        else
+            tell(kOtherwise, [this] {
+                const QString settings = broughtOtherwise().join(QStringLiteral("; "));
+                return Notice{Mark::Advice, words("rev_772").arg(settings), {}};
+            });
     }
     using Review = ConfigurationReview;
     tellSensors(kTakenForUsed, {{"rev_371", &Review::takenForUsed}});
@@ -252,8 +301,13 @@ Notice UnsavedBar::noticeOf(int number)
 {
     const Offer& offer = offers_[number - 1];
     const review::Unsaved& unsaved = offer.kept.unsaved;
-    QString text = QStringLiteral("%1: %2 (%3)")
-                       .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    const QString alone = QLocale().toString(offer.toldAlone);
+    QString text = offer.told == 0
+                       ? words("rev_770").arg(alone, momentOf(unsaved))
+                       : QStringLiteral("%1: %2 (%3)")
+                             .arg(words("rev_345"), QLocale().toString(offer.told), momentOf(unsaved));
+    if (offer.told > 0 && offer.toldAlone > 0)
+        text += QStringLiteral(". ") + words("rev_771").arg(alone);
     if (!offer.replaces.isEmpty())
         text += QStringLiteral(". ") + words("rev_721").arg(offer.replaces);
     if (unsaved.inFile > 0 && QFile::exists(unsaved.file))
@@ -265,6 +319,8 @@ Notice UnsavedBar::noticeOf(int number)
     const Notice::Action keep{words("rev_147"), [this, number] { discard(number, false); }};
     if (offer.isDiscarded)
         return {Mark::Advice, words("rev_146").arg(nameOf(offer.kept.unsaved)), {keep}};
+    if (offer.told == 0)
+        return {Mark::Advice, text, {drop}};
     return {Mark::Advice, text, // What gives them back stays where it is.
             offer.isShown ? std::vector{drop, bring} : std::vector{show, bring}};
 }
@@ -284,8 +340,11 @@ void UnsavedBar::bringBack(int number)
 {
     Offer& offer = offers_[number - 1];
     offer.replaced = review_.differences().after();
+    offer.brought.reset();
     offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
+    offer.brought = review_.differences().after();
+    refresh();
     endComparison();
 }
 
@@ -305,7 +364,8 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        if (offer.isDiscarded || offer.isBroughtBack() || changes(offer, offer.keys) == 0)
+        const bool isThere = offer.isBroughtBack() || changes(offer, offer.keys) == 0;
+        if (offer.isDiscarded || (isThere && alone(offer) == 0))
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -61,14 +61,17 @@ private:
     {
         review::KeptUnsaved kept;
         std::vector<int> keys;
-        std::vector<int> own; // of the keys, those that are counted
+        std::vector<int> own;         // of the keys, those that are counted
+        QMap<QString, QString> alone; // that only the quick window brings back
         review::FileState after;
         bool isShown = false;
         bool isDiscarded = false;
         bool isClosed = false;
         std::optional<review::FileState> replaced{}; // by bringing it back
+        std::optional<review::FileState> brought{};  // what that has made of it
         bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
+        int toldAlone = 0;                           // and how many only in the quick window
         QString replaces{};                          // and which of those that were edited later
 
         bool isBroughtBack() const { return replaced && !isTakenBack; }
@@ -77,8 +80,14 @@ private:
     bool isInNewer(const Offer& offer) const;
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
+    // As a person would count them, one at least.
+    int count(const Offer& offer) const;
+    // None while the quick window is on show.
+    int alone(const Offer& offer) const { return review_.isQuick() ? 0 : offer.alone.size(); }
     void follow(Offer& offer) const;
     QString replacedBy(const Offer& offer) const;
+    // Settings that were brought back with another value than was kept, and that.
+    QStringList broughtOtherwise() const;
     void tellDamaged();
     // A key, and what it tells of while there is some.
     using Sentence = std::pair<const char*, QStringList (ConfigurationReview::*)() const>;
@@ -97,6 +106,7 @@ private:
 
     ConfigurationReview& review_;
     QStringList damaged_;            // what is left of changes that cannot be offered; the last one is told
+    QStringList otherwise_;          // that was told of what was brought back
     std::map<int, QString> sensors_; // that a notice told last
     std::vector<int> replaced_;      // by the tracker
     review::FileState unreplaced_;   // the window when it was told

@@ -3,7 +3,10 @@
 #include "base/clock.h"
 #include "base/file_claim.h"
 #include "base/replace_file.h"
+#include "document/values_document.h"
 #include "review/take_over.h"
+#include "settings/all_settings.h"
+#include "settings/quick_settings.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 
@@ -67,6 +70,26 @@ FileState stateOf(const QByteArray& text)
     return FileState::ofDocument(*document.root());
 }
 
+// What the full window makes of a document.
+QByteArray inFull(const QByteArray& text)
+{
+    XmlDocument read(text, kRoot);
+    XmlDocument written(QString(), kRoot);
+    Configuration all(allSettings());
+    all.read(*read.root());
+    all.write(*written.root());
+    written.root()->commit();
+    return written.text();
+}
+
+Values quickValuesIn(const QByteArray& text)
+{
+    XmlDocument document(text, kRoot);
+    Values values(kQuickSettings);
+    readFrom(*document.root(), values);
+    return values;
+}
+
 } // namespace
 
 QString recoveryPath(const QString& folder, const QString& subject)
@@ -86,7 +109,7 @@ bool keepUnsaved(const QString& path, const Unsaved& unsaved, QString* reason)
     QDataStream stream(&content, QIODevice::Append);
     stream.setVersion(kStreamVersion);
     stream << unsaved.subject << unsaved.moment << unsaved.before << unsaved.after << unsaved.quick
-           << unsaved.file << unsaved.inFile;
+           << unsaved.file << unsaved.inFile << unsaved.count;
     QDir().mkpath(QFileInfo(path).path());
     return replacePrivateFile(path, content + sumOf(content), reason);
 }
@@ -107,9 +130,11 @@ std::optional<Unsaved> unsavedIn(const QString& path)
     stream >> unsaved.subject >> unsaved.moment >> unsaved.before >> unsaved.after >> unsaved.quick;
     if (stream.status() != QDataStream::Ok)
         return {};
-    // Earlier versions end here.
+    // Earlier versions end here, or behind what is in the file.
     if (!stream.atEnd())
         stream >> unsaved.file >> unsaved.inFile;
+    if (!stream.atEnd())
+        stream >> unsaved.count;
     return unsaved;
 }
 
@@ -173,6 +198,30 @@ std::vector<int> editedKeys(const Unsaved& unsaved)
 std::vector<int> ownKeys(const Unsaved& unsaved)
 {
     return Differences(stateOf(unsaved.before), stateOf(unsaved.after)).ownKeys();
+}
+
+int countOf(const Unsaved& unsaved, int own, int all)
+{
+    return own == all && unsaved.count > 0 ? unsaved.count : own;
+}
+
+QMap<QString, QString> heldByQuickAlone(const Unsaved& unsaved)
+{
+    QMap<QString, QString> alone;
+    if (unsaved.quick.isEmpty())
+        return alone;
+    const Values before = quickValuesIn(inFull(unsaved.before));
+    const Values after = quickValuesIn(inFull(unsaved.after));
+    for (int row = 0; row < after.count(); ++row) {
+        for (const int decider : decidersOf(after.layout(), row)) {
+            const QString& path = after.row(decider).path;
+            const QString value = unsaved.quick.value(path, after.value(decider));
+            if (!after.row(decider).base->stored && after.setting(decider).is<Flag>() &&
+                value != after.value(decider) && value != before.value(decider))
+                alone.insert(path, value);
+        }
+    }
+    return alone;
 }
 
 bool isResult(const QByteArray& document, const Unsaved& unsaved)

@@ -28,6 +28,8 @@ struct Unsaved
     // settings.
     QString file{};
     int inFile = 0;
+    // How many changes the window told while they were made; 0 where that is not known.
+    int count = 0;
 };
 
 struct KeptUnsaved
@@ -56,6 +58,11 @@ QString momentOf(const Unsaved& unsaved);
 // The keys (file_keys.h) that the edits have changed, and of these the ones that a person would count.
 std::vector<int> editedKeys(const Unsaved& unsaved);
 std::vector<int> ownKeys(const Unsaved& unsaved);
+// How many changes these are, of all that a person would count, in the window in which they were made.
+int countOf(const Unsaved& unsaved, int own, int all);
+// What was checked in the quick window and is lost in the full one: that it uses sensors over Bluetooth, as
+// long as it has none.
+QMap<QString, QString> heldByQuickAlone(const Unsaved& unsaved);
 // Whether a document is, by what it means, what a save would have written after the edits.
 bool isResult(const QByteArray& document, const Unsaved& unsaved);
 // The document of a save with the edits laid over it. Whatever else has changed since then stays.

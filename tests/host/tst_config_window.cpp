@@ -449,13 +449,30 @@ private Q_SLOTS:
             QCOMPARE(pin->accessibleDescription().contains("typed_sign"), isMarked);
         }
         // Nor with a step of another field, and what a step takes away the next one brings again.
-        auto* name = full()->findChild<QLineEdit*>("lineEdit_Name");
-        type(name, "<All>" + QString(70, 'x') + "<Tab>");
-        QApplication::processEvents();
-        for (const char* step : {"toolButton_Undo", "toolButton_Redo", "toolButton_Undo"}) {
-            child<QToolButton>(step)->click();
-            QVERIFY(pin->accessibleDescription().contains("typed_sign"));
-            QCOMPARE(name->accessibleDescription().contains("typed_long"), step[11] == 'R');
+        for (const auto& [field, keys, told] : {std::tuple("lineEdit_Name", QString(70, 'x'), "typed_long"),
+                                                {"lineEdit_Name_In1", QString("Key ☃"), "typed_sign"}}) {
+            auto* line = full()->findChild<QLineEdit*>(field);
+            int count = 0;
+            // Once with nothing behind it, and once under another text, with another edit between the two.
+            for (const char* steps : {"URU", "URLURUUU"}) {
+                type(line, "<All>" + keys + "<Tab>");
+                QApplication::processEvents();
+                for (const char* step = steps; *step; ++step) {
+                    if (*step == 'L') {
+                        type(full()->findChild<QSpinBox*>("spinBox_RegTimer"), "<All>77<Tab>");
+                        QApplication::processEvents();
+                        type(line, "<All>Lock<Tab>");
+                    } else {
+                        press(*step == 'U' ? "toolButton_Undo" : "toolButton_Redo");
+                    }
+                    QApplication::processEvents();
+                    const bool isTold = keys.startsWith(line->text()) && !line->text().isEmpty();
+                    QVERIFY(pin->accessibleDescription().contains("typed_sign"));
+                    QCOMPARE(line->accessibleDescription().contains(told), isTold);
+                    count += isTold ? 1 : 0;
+                }
+            }
+            QCOMPARE(count, 5);
         }
         host_.open(path);
         QVERIFY(pin->text().isEmpty() && !pin->accessibleDescription().contains("typed_sign"));

@@ -220,6 +220,77 @@ private Q_SLOTS:
         QVERIFY(offer().isEmpty());
     }
 
+    // The full window cannot say of what only the quick one has that it is there, whatever else it brings
+    // back.
+    void keptForQuickSetup_data()
+    {
+        DataTable<bool, QString>({"others", "offer"})
+            .row("alone", false, "rev_770")
+            .row("with others", true, "rev_345: 2");
+    }
+    void keptForQuickSetup()
+    {
+        QFETCH(bool, others);
+        host_.attach(); // one that knows Bluetooth
+        open("tracker", false);
+        child<QCheckBox>("checkBox_BT_Use")->click();
+        QCoreApplication::processEvents();
+        if (others)
+            edit(false);
+        const int changes = child<QToolButton>("toolButton_Differences")->text().section('+', 0, 0).toInt();
+        QCOMPARE(changes, others ? 3 : 1);
+        const QString told = QString("^%1 changes are kept: ").arg(changes);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(told));
+        window->close();
+        for (int opening = 0; opening < 2; ++opening) {
+            open("tracker");
+            QTEST(offer(), "offer");
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^changes of [\\d:]+: "));
+            window->close();
+        }
+        open("tracker");
+        if (others) {
+            press("label_Unsaved_Action2");
+            QCOMPARE(offer(), QString("rev_770"));
+            press("toolButton_Undo");
+        }
+        window->close();
+        open("tracker", false);
+        QCOMPARE(offer(), QString("rev_345: %1").arg(changes));
+        press("label_Unsaved_Action2");
+        QVERIFY(offer().isEmpty() && child<QCheckBox>("checkBox_BT_Use")->isChecked());
+        window->close();
+        open("tracker");
+        press("label_Unsaved_Action1"); // discard, or show
+        if (others)
+            press("label_Unsaved_Action1");
+        QCOMPARE(offer(), QString("rev_146"));
+        window->close();
+        QCOMPARE(files().size(), 0);
+    }
+
+    // The number that a sensor has in quick setup is another one's in full setup.
+    void broughtBackOtherwise()
+    {
+        host_.attach();
+        open("tracker", false);
+        for (const char* box : {"checkBox_BT_Use", "checkBox_BT_1"})
+            child<QCheckBox>(box)->click();
+        type(child<QLineEdit>("lineEdit_BT_Mac_1"), "112233445566<Tab>");
+        QCoreApplication::processEvents();
+        window->close();
+        open("tracker");
+        QVERIFY(offer().startsWith("rev_345: "));
+        press("label_Unsaved_Action2");
+        QCOMPARE(offer(), QString("rev_772"));
+        press("toolButton_Undo");
+        QVERIFY(offer().startsWith("rev_345: "));
+        press("toolButton_Redo");
+        QCOMPARE(offer(), QString("rev_772"));
+        press("label_Unsaved_Close");
+        QVERIFY(offer().isEmpty());
+    }
+
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
     void countedAlike()
     {

@@ -75,7 +75,7 @@ void TextAdapter::show(const QString& value)
     if (edit_->text() != value)
         edit_->setText(value);
     else
-        TextEntry::join(edit_)->forget();
+        TextEntry::join(edit_)->retell();
 }
 
 void TextAdapter::forgetTyping()
