@@ -52,6 +52,12 @@ CXmlNode& nodeOf(const CXmlSection& root)
     return *root.document()->node(nullptr, QStringLiteral("DEVICE"));
 }
 
+// What a load makes of it, or an edit alone would.
+QString textToLay(const Held& held)
+{
+    return held.isOfEdit ? held.text : held.saved;
+}
+
 void removeKey(CXmlNode& root, const QString& path)
 {
     QStringList names = path.split(QLatin1Char('/'));
@@ -126,13 +132,14 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
     root.commit();
     for (const int key : keys) {
         if (const Held& held = from.at(key); held.isSaved)
-            setKey(root, key, held.isOfEdit ? held.text : held.saved);
+            setKey(root, key, textToLay(held));
         else
             removeKey(nodeOf(root), FileKeys::all()[key].path);
     }
 }
 
-void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts)
+void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts,
+                  const FileState* from)
 {
     Configuration edited = before;
     std::vector<int> given;
@@ -144,8 +151,10 @@ void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts
     const FileState has = FileState::ofConfiguration(edited);
     for (int key = 0; key < FileKeys::all().count(); ++key) {
         const bool comes = !had.at(key).isSaved && has.at(key).isSaved;
-        if (comes && std::ranges::find(given, key) == given.end())
-            setKey(root, key, has.at(key).saved);
+        if (!comes || std::ranges::find(given, key) != given.end())
+            continue;
+        const Held* held = from && from->at(key).isSaved ? &from->at(key) : nullptr;
+        setKey(root, key, held ? textToLay(*held) : has.at(key).saved);
     }
 }
 
@@ -186,9 +195,9 @@ void takeOver(Configuration& configuration, const FileState& from, const std::ve
     KeyTexts texts;
     for (const int key : keys) {
         if (const Held& held = from.at(key); held.isSaved)
-            texts.emplace_back(key, held.isOfEdit ? held.text : held.saved);
+            texts.emplace_back(key, textToLay(held));
     }
-    addWhatComes(*document.root(), before, texts);
+    addWhatComes(*document.root(), before, texts, &from);
     readAsEdited(configuration, *document.root());
     keepTheRest(configuration, before, unchanged);
 }

@@ -27,9 +27,11 @@ void layOver(CXmlSection& root, const FileState& from, const std::vector<int>& k
 
 using KeyTexts = std::vector<std::pair<int, QString>>; // by key
 
-// What comes with these texts is in the document as a window would write it, not as a file that lacks it is
-// read: a line that is used again claims no ignition. `before`: what the document held without them.
-void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts);
+// What comes with these texts is in the document as `from` holds it, else as a window would write it, not as
+// a file that lacks it is read: a line that is used again claims no ignition. `before`: what the document
+// held without them.
+void addWhatComes(CXmlSection& root, const Configuration& before, const KeyTexts& texts,
+                  const FileState* from = nullptr);
 
 // Reads what windows would save, with that which edits alone can give them.
 void readAsEdited(Configuration& configuration, CXmlSection& root);

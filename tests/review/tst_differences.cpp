@@ -352,6 +352,23 @@ private Q_SLOTS:
         QCOMPARE(configuration.value(path), QString("90060"));
     }
 
+    // What comes with a setting alone that is taken over is what the other side holds.
+    void bringsAlongWhatTheOtherSideHolds()
+    {
+        const QByteArray file = factory()
+                                    .replace("ign=\"1\"", "ign=\"0\"")
+                                    .replace("<IN2DIN cntlRestore=\"1\" ign=\"0\" analysTime=\"2500\"/>",
+                                             "<IN2DIN cntlRestore=\"1\" ign=\"1\" analysTime=\"5000\"/>");
+        vlk::Configuration configuration = loaded(file);
+        const QByteArray first = saved(configuration);
+        QVERIFY(first.contains("<IN2DIN cntlRestore=\"1\" ign=\"1\" analysTime=\"5000\"/>"));
+        configuration.edit("SENSORS/IN2/normState", "NU");
+        const FileState now = FileState::ofConfiguration(configuration);
+        takeOver(configuration, Differences(stateOf(file), now),
+                 {vlk::review::FileKeys::all().at("SENSORS/IN2/normState")});
+        QCOMPARE(saved(configuration), first);
+    }
+
     // What a read would make of the rest of a new configuration stays as it is.
     void nothingElseIsTakenOver()
     {
