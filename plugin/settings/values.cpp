@@ -1,5 +1,7 @@
 #include "settings/values.h"
 
+#include "base/masked_text.h"
+
 #include <algorithm>
 #include <map>
 

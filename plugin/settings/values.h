@@ -79,7 +79,6 @@ private:
     bool holdsToo(const auto& rule) const { return holds(rule.when) && holds(rule.also); }
     // Whatever other settings of a shared list hold.
     Limits ownLimits(int row) const;
-    // What others hold.
     QStringList takenFrom(const ExclusiveChoice& sharer) const;
     QString normalised(int row, const QString& text, const Limits& limits,
                        Source source = Source::File) const;

@@ -3,6 +3,8 @@
 
 #include "settings/values.h"
 
+#include "base/masked_text.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -44,8 +46,7 @@ void Values::change(int row, const QString& text, Changes* changed)
     const QString before = values_[row];
     assign(row, value, changed);
     for (const RangeWhen* rule : place.follows) {
-        const int ranged = rule->path.row;
-        if (!rule->startsOver)
+        if (const int ranged = rule->path.row; !rule->startsOver)
             put(ranged, normalised(ranged, values_[ranged], limits(ranged)), changed);
     }
     setBy(row, false, before, changed);
@@ -94,8 +95,7 @@ void Values::assign(int row, const QString& value, Changes* changed)
     if (!isNew)
         return;
     for (const RangeWhen* rule : place.follows) {
-        const int list = rule->path.row;
-        if (rule->startsOver)
+        if (const int list = rule->path.row; rule->startsOver)
             put(list, offeredCode(*choice(list), limits(list)), changed);
     }
     for (const ExclusiveChoice* sharer : place.sharers)
@@ -147,7 +147,6 @@ void Values::keepDistances(int row, Changes* changed)
         const double lowBefore = shownNumber(lowest, values_[rule->first.row]);
         const double highBefore = shownNumber(highest, values_[rule->second.row]);
         const double gap = gapOf(*rule);
-        const double tiny = 1e-9;
         double first = lowBefore;
         double second = highBefore;
         if (row == rule->first.row) {
@@ -156,7 +155,7 @@ void Values::keepDistances(int row, Changes* changed)
         } else if (row == rule->second.row) {
             second = std::max(second, lowest.least + gap);
             first = std::min(first, second - gap);
-        } else if (second - first < gap - tiny) {
+        } else if (second - first < gap - 1e-9) {
             if (first - gap >= lowest.least)
                 first = second - gap;
             else
