@@ -73,16 +73,13 @@ void ConfigurationReview::begin(CXmlSection* root)
 void ConfigurationReview::keepQuick(CXmlSection* root, const Configuration& asItCame,
                                     const QMap<QString, QString>& quick)
 {
-    quickAsItCame_ = Values(kQuickSettings);
     if (root) {
+        quickAsItCame_ = Values(kQuickSettings);
         readFrom(*root, quickAsItCame_);
     } else if (isQuick()) {
         quickAsItCame_.putBack(open_.quickPage().values().held());
     } else {
-        XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        asItCame.write(*document.root());
-        document.root()->commit();
-        readFrom(*document.root(), quickAsItCame_);
+        quickAsItCame_ = review::quickOf(asItCame);
     }
     std::vector<QString> held = quickAsItCame_.held();
     for (int row = 0; row < quickAsItCame_.count(); ++row)

@@ -180,7 +180,7 @@ private:
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
     bool isChosenIn(const Configuration& full, int key) const;
-    // And stands as it was made then.
+    // By quick setup, and stands as it was made then.
     bool isMade(int key) const;
     // What the full window holds, or held before the change to it; null where there was none.
     const Configuration* beforeQuick() const

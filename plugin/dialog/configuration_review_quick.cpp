@@ -3,13 +3,13 @@
 #include "dialog/configuration_review.h"
 
 #include "base/translated.h"
+#include "document/configuration_text.h"
+#include "review/quick_reach.h"
 #include "review/setting_parts.h"
 #include "review/setting_words.h"
 #include "review/take_over.h"
 #include "review/value_text.h"
-#include "settings/all_settings.h"
 #include "settings/quick_settings.h"
-#include "xml/xml_document.h"
 
 #include <algorithm>
 
@@ -52,6 +52,7 @@ QString groupOf(int key)
     parts.removeDuplicates();
     return parts.join(QLatin1Char(' '));
 }
+
 } // namespace
 
 bool ConfigurationReview::isUnedited(const review::Difference& difference) const
@@ -65,7 +66,7 @@ bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 
 bool ConfigurationReview::isUnedited(int key) const
 {
-    return isQuick() ? quickState_.at(key) == edited_.after().at(key) : edited_.isByLoad(key) || isMade(key);
+    return isMade(key) || (isQuick() ? review::isFixedByQuick(key) : edited_.isByLoad(key));
 }
 
 const char* ConfigurationReview::noteKey(const Differences& differences,
@@ -138,7 +139,7 @@ std::vector<int> ConfigurationReview::leftOutKeys() const
         const review::Held& after = edited_.after().at(key);
         const bool isKept =
             after.isThere && after.meaning == full->tables()[place.table].value(place.rows.front());
-        if (isChosenIn(*full, key) && !isKept && (isQuick() ? isUnedited(key) : isMade(key)))
+        if (isChosenIn(*full, key) && !isKept && isMade(key))
             keys.push_back(key);
     }
     return keys;
@@ -164,7 +165,7 @@ QStringList ConfigurationReview::madeAnew() const
     for (const int key : isQuick() || made_ ? edited_.keys() : std::vector<int>()) {
         const bool stays = edited_.before().at(key).isThere && edited_.after().at(key).isThere;
         const QString section = edited_.differenceAt(key).path.section(QLatin1Char('/'), 0, 0);
-        if (!stays || !(isQuick() ? isUnedited(key) : isMade(key)) || !anew.contains(section))
+        if (!stays || !isMade(key) || !anew.contains(section))
             continue;
         told << groupOf(key);
     }
@@ -177,15 +178,21 @@ QStringList ConfigurationReview::madeAnew() const
 
 bool ConfigurationReview::isMade(int key) const
 {
-    return made_ && std::ranges::binary_search(made_->keys, key) &&
-           made_->after.at(key) == edited_.after().at(key);
+    const review::Held& after = edited_.after().at(key);
+    if (isQuick())
+        return quickState_.at(key) == after;
+    return made_ && std::ranges::binary_search(made_->keys, key) && made_->after.at(key) == after;
 }
 
 void ConfigurationReview::moveToFull(const std::function<void()>& move)
 {
+    // What it gives its own value by a choice made there is that edit's.
+    FileState ofFull = FileState::ofConfiguration(present_);
+    ofFull.lay(review::quickOf(present_));
     std::vector<int> unedited;
     for (int key = 0; key < FileKeys::all().count(); ++key) {
-        if (isUnedited(key))
+        const bool isFixed = review::isFixedByQuick(key) && ofFull.at(key) == edited_.after().at(key);
+        if (isMade(key) || isFixed)
             unedited.push_back(key);
     }
     Made made{present_, {}, {}, {}};
@@ -231,14 +238,9 @@ QByteArray ConfigurationReview::withBroughtBack(const QByteArray& document) cons
     });
     if (keys.empty() || document.isEmpty())
         return document;
-    XmlDocument file(document, QStringLiteral("DEVICE"));
-    Configuration configuration(allSettings());
-    configuration.read(*file.root());
+    Configuration configuration = configurationIn(document);
     review::takeOver(configuration, made_->stateBefore, keys);
-    XmlDocument written(QString(), QStringLiteral("DEVICE"));
-    configuration.write(*written.root());
-    written.root()->commit();
-    return written.text();
+    return documentOf(configuration);
 }
 
 } // namespace vlk

@@ -1,5 +1,6 @@
 #include "dialog/open_configuration.h"
 
+#include "document/configuration_text.h"
 #include "document/values_document.h"
 #include "review/file_keys.h"
 #include "review/take_over.h"
@@ -63,17 +64,13 @@ QByteArray OpenConfiguration::document() const
 
 QByteArray OpenConfiguration::rewritten(const QByteArray& document) const
 {
-    XmlDocument read(document, QStringLiteral("DEVICE"));
     XmlDocument written(QString(), QStringLiteral("DEVICE"));
-    Configuration all(allSettings());
-    all.read(*read.root());
-    all.write(*written.root());
+    configurationIn(document).write(*written.root());
     if (isQuick()) {
         Values quick(kQuickSettings);
-        readFrom(*read.root(), quick);
+        readFrom(*XmlDocument(document, QStringLiteral("DEVICE")).root(), quick);
         writeTo(*written.root(), quick);
     }
-    written.root()->commit();
     return written.text();
 }
 

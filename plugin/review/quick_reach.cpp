@@ -10,20 +10,39 @@
 
 namespace vlk::review {
 
-std::vector<int> beyondQuick(Configuration written, const FileState& from, const std::vector<int>& keys)
+Values quickOf(const Configuration& configuration)
 {
-    takeOver(written, from, keys);
     XmlDocument document(QString(), QStringLiteral("DEVICE"));
-    written.write(*document.root());
+    configuration.write(*document.root());
     document.root()->commit();
     Values quick(kQuickSettings);
     readFrom(*document.root(), quick);
+    return quick;
+}
+
+std::vector<int> beyondQuick(Configuration written, const FileState& from, const std::vector<int>& keys)
+{
+    takeOver(written, from, keys);
     FileState state = FileState::ofConfiguration(written);
-    state.lay(quick);
+    state.lay(quickOf(written));
     std::vector<int> beyond;
     std::ranges::copy_if(keys, std::back_inserter(beyond),
                          [&](int key) { return !(state.at(key) == from.at(key)); });
     return beyond;
+}
+
+bool isFixedByQuick(int key)
+{
+    static const std::vector<int> fixed = [] {
+        std::vector<int> keys;
+        for (const TableLayout::Row& row : layoutOf(kQuickSettings).rows) {
+            if (row.setting->is<Constant>())
+                keys.push_back(FileKeys::all().at(row.filePath));
+        }
+        std::ranges::sort(keys);
+        return keys;
+    }();
+    return key >= 0 && std::ranges::binary_search(fixed, key);
 }
 
 } // namespace vlk::review

@@ -9,8 +9,15 @@
 
 namespace vlk::review {
 
+// What it shows of a configuration.
+Values quickOf(const Configuration& configuration);
+
 // Those of the keys that would not become what `from` has, were all of them taken over from it into the
 // configuration that quick setup would write. It is written and read for that, which takes its time.
 std::vector<int> beyondQuick(Configuration written, const FileState& from, const std::vector<int>& keys);
+
+// Whether quick setup gives the key a value that nobody can choose there: the name of a line, the filter of a
+// sensor.
+bool isFixedByQuick(int key);
 
 } // namespace vlk::review

@@ -3,10 +3,9 @@
 #include "base/clock.h"
 #include "base/file_claim.h"
 #include "base/replace_file.h"
-#include "document/values_document.h"
+#include "document/configuration_text.h"
+#include "review/quick_reach.h"
 #include "review/take_over.h"
-#include "settings/all_settings.h"
-#include "settings/quick_settings.h"
 #include "xml/serialize.h"
 #include "xml/xml_document.h"
 
@@ -70,24 +69,16 @@ FileState stateOf(const QByteArray& text)
     return FileState::ofDocument(*document.root());
 }
 
-// What the full window makes of a document.
-QByteArray inFull(const QByteArray& text)
+// Without what quick setup gives its own value in what stays.
+std::vector<int> edited(std::vector<int> keys, const Differences& differences, const Unsaved& unsaved)
 {
-    XmlDocument read(text, kRoot);
-    XmlDocument written(QString(), kRoot);
-    Configuration all(allSettings());
-    all.read(*read.root());
-    all.write(*written.root());
-    written.root()->commit();
-    return written.text();
-}
-
-Values quickValuesIn(const QByteArray& text)
-{
-    XmlDocument document(text, kRoot);
-    Values values(kQuickSettings);
-    readFrom(*document.root(), values);
-    return values;
+    const auto isFixed = [&](int key) {
+        return isFixedByQuick(key) && differences.before().at(key).isThere &&
+               differences.after().at(key).isThere;
+    };
+    if (!unsaved.quick.isEmpty())
+        std::erase_if(keys, isFixed);
+    return keys;
 }
 
 } // namespace
@@ -187,17 +178,14 @@ QString momentOf(const Unsaved& unsaved)
 
 std::vector<int> editedKeys(const Unsaved& unsaved)
 {
-    std::vector<int> keys;
-    for (const Difference& difference : Differences(stateOf(unsaved.before), stateOf(unsaved.after)).all()) {
-        if (difference.key >= 0)
-            keys.push_back(difference.key);
-    }
-    return keys;
+    const Differences differences(stateOf(unsaved.before), stateOf(unsaved.after));
+    return edited(differences.keys(), differences, unsaved);
 }
 
 std::vector<int> ownKeys(const Unsaved& unsaved)
 {
-    return Differences(stateOf(unsaved.before), stateOf(unsaved.after)).ownKeys();
+    const Differences differences(stateOf(unsaved.before), stateOf(unsaved.after));
+    return edited(differences.ownKeys(), differences, unsaved);
 }
 
 int countOf(const Unsaved& unsaved, int own, int all)
@@ -210,8 +198,8 @@ QMap<QString, QString> heldByQuickAlone(const Unsaved& unsaved)
     QMap<QString, QString> alone;
     if (unsaved.quick.isEmpty())
         return alone;
-    const Values before = quickValuesIn(inFull(unsaved.before));
-    const Values after = quickValuesIn(inFull(unsaved.after));
+    const Values before = quickOf(configurationIn(unsaved.before));
+    const Values after = quickOf(configurationIn(unsaved.after));
     for (int row = 0; row < after.count(); ++row) {
         for (const int decider : decidersOf(after.layout(), row)) {
             const QString& path = after.row(decider).path;

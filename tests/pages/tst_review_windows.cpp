@@ -381,6 +381,36 @@ private Q_SLOTS:
         QVERIFY(!told->isVisible() && button->text() == "0");
     }
 
+    // What quick setup gives its own value is nobody's edit, whether what it follows was chosen there or
+    // before: a line that is not used has no name.
+    void whatFollowsInQuickSetupIsNoEdit()
+    {
+        auto& review = dialog_->review();
+        const int name = vlk::review::FileKeys::all().at("SENSORS/IN2/name");
+        const auto edited = [&] {
+            QCoreApplication::processEvents();
+            const bool hasName = !review.edits().after().at(name).text.isEmpty();
+            return QString::number(review.edited()) + (hasName ? " named" : "");
+        };
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
+        QTest::keyClick(child<QComboBox>("comboBox_NormState_In_2"), Qt::Key_Home);
+        QCOMPARE(edited(), QString("1"));
+        history().undo();
+
+        open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 1);
+        QTest::keyClick(child<QComboBox>("comboBox_NormState_In2"), Qt::Key_Home);
+        QCOMPARE(edited(), QString("1 named"));
+        dialog_->switchToQuick();
+        QCOMPARE(edited(), QString("1"));
+        dialog_->switchToFull();
+        QCOMPARE(edited(), QString("1"));
+        child<QAbstractButton>("label_Unsaved_Action1")->click();
+        QCOMPARE(edited(), QString("1 named"));
+        for (int step = 0; step < 4; ++step)
+            history().undo();
+        QCOMPARE(edited(), QString("0 named"));
+    }
+
     // What is not chosen stays, in quick setup too.
     void oneOfTwoInQuickSetup()
     {
