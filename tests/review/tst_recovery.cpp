@@ -111,6 +111,14 @@ private Q_SLOTS:
         const QByteArray later = document("<TRACK><POINTS angle=\"5\" dist=\"70\"/></TRACK>");
         QByteArray expected = later;
         QCOMPARE(withEdits(later, unsaved()), expected.replace("angle=\"5\"", "angle=\"9\""));
+        // Quick setup gives a line that is not used no name, which is no edit.
+        const auto line = [](const QByteArray& name, const QByteArray& state) {
+            return document("<SENSORS><IN2 name=\"" + name + "\" normState=\"" + state + "\"/></SENSORS>");
+        };
+        Unsaved quick{"file a", {}, line("UIN2", "NB-"), line("", "NU"), {{"SENSORS/IN2/use", "NU"}}};
+        QCOMPARE(withEdits(line("Door", "NB-"), quick), line("Door", "NU"));
+        quick.quick.clear();
+        QCOMPARE(withEdits(line("Door", "NB-"), quick), line("", "NU"));
         for (const char* text : {"", "<DEVICE", "<OTHER/>"}) {
             const Unsaved odd{"file a", {}, text, text};
             QVERIFY(editedKeys(odd).empty());
