@@ -388,7 +388,7 @@ private Q_SLOTS:
         auto& review = dialog_->review();
         const int name = vlk::review::FileKeys::all().at("SENSORS/IN2/name");
         const auto edited = [&] {
-            QCoreApplication::processEvents();
+            history().settle();
             const bool hasName = !review.edits().after().at(name).text.isEmpty();
             return QString::number(review.edited()) + (hasName ? " named" : "");
         };
@@ -398,7 +398,8 @@ private Q_SLOTS:
         history().undo();
 
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 1);
-        QTest::keyClick(child<QComboBox>("comboBox_NormState_In2"), Qt::Key_Home);
+        auto* use = child<QComboBox>("comboBox_NormState_In2");
+        QTest::keyClick(use, Qt::Key_Home);
         QCOMPARE(edited(), QString("1 named"));
         dialog_->switchToQuick();
         QCOMPARE(edited(), QString("1"));
@@ -406,7 +407,11 @@ private Q_SLOTS:
         QCOMPARE(edited(), QString("1"));
         child<QAbstractButton>("label_Unsaved_Action1")->click();
         QCOMPARE(edited(), QString("1 named"));
-        for (int step = 0; step < 4; ++step)
+        // It is used again as it was.
+        use = child<QComboBox>("comboBox_NormState_In2");
+        QTest::keyClick(use, Qt::Key_End);
+        QCOMPARE(edited(), QString("0 named"));
+        for (int step = 0; step < 5; ++step)
             history().undo();
         QCOMPARE(edited(), QString("0 named"));
     }
