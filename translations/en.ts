@@ -3067,5 +3067,6 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wrd_067"><translation>Password</translation></message>
     <message id="wrd_401"><translation>%1 of %2</translation></message>
     <message id="wrd_402"><translation>Close this notice</translation></message>
+    <message id="wrd_403"><translation>Next notice</translation></message>
 </context>
 </TS>

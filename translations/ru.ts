@@ -3067,5 +3067,6 @@
     <message id="wrd_067"><translation>Пароль</translation></message>
     <message id="wrd_401"><translation>%1 из %2</translation></message>
     <message id="wrd_402"><translation>Закрыть сообщение</translation></message>
+    <message id="wrd_403"><translation>Следующее сообщение</translation></message>
 </context>
 </TS>

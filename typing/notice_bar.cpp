@@ -9,7 +9,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
@@ -34,16 +33,18 @@ constexpr int kReactionMs = 300; // a click by then was meant for the notice bef
 } // namespace
 
 NoticeBar::NoticeBar(QWidget* parent, const QString& name)
-    : QFrame(parent), text_(new TwoLineLabel(this)), buttons_(new QHBoxLayout), place_(new QLabel(this)),
+    : QFrame(parent), text_(new TwoLineLabel(this)), buttons_(new QHBoxLayout), place_(new QToolButton(this)),
       close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("noticeBar"));
     text_->setObjectName(name);
     place_->setObjectName(QStringLiteral("label_NoticePlace"));
     close_->setObjectName(name + QStringLiteral("_Close"));
-    close_->setAutoRaise(true);
-    close_->setFocusPolicy(Qt::TabFocus);
-    close_->installEventFilter(this);
+    for (QToolButton* button : {place_, close_}) {
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->installEventFilter(this);
+    }
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin + kMarkSize + kGap, kEdge, kEdge, kEdge);
     row->setSpacing(kGap);
@@ -52,6 +53,7 @@ NoticeBar::NoticeBar(QWidget* parent, const QString& name)
     row->addWidget(place_);
     row->addWidget(close_);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(place_, &QToolButton::clicked, this, &NoticeBar::showNext);
     connect(close_, &QToolButton::clicked, this, &NoticeBar::closeShown);
     // The window may have the same key for its areas.
     auto* keys = new QShortcut(Qt::Key_F6, this);
@@ -131,8 +133,11 @@ void NoticeBar::setBehind(int count)
 void NoticeBar::showPlace()
 {
     const int count = static_cast<int>(told_.size()) + behind_;
-    place_->setText(tr("wrd_401").arg(1).arg(count));
-    place_->setVisible(isTelling() && count > 1);
+    const Told* shown = onShow();
+    const auto isBefore = [&](const Told& told) { return shown && comesBefore(told, *shown); };
+    place_->setText(tr("wrd_401").arg(1 + std::ranges::count_if(told_, isBefore)).arg(count));
+    place_->setVisible(shown && count > 1);
+    place_->setEnabled(told_.size() > 1);
 }
 
 bool NoticeBar::event(QEvent* event)
@@ -160,13 +165,26 @@ void NoticeBar::showEvent(QShowEvent* event)
 
 const Notice* NoticeBar::shown() const
 {
-    const Told* told = worst();
+    const Told* told = onShow();
     return told ? &told->notice : nullptr;
+}
+
+void NoticeBar::showNext()
+{
+    const Told* shown = onShow();
+    const Told* next = nullptr;
+    for (const Told& told : told_) {
+        if (shown && comesBefore(*shown, told) && (!next || comesBefore(told, *next)))
+            next = &told;
+    }
+    chosen_ = next ? std::optional(next->number) : std::nullopt;
+    refresh();
+    replaced_.invalidate();
 }
 
 void NoticeBar::closeShown()
 {
-    const Told* told = worst();
+    const Told* told = onShow();
     if (!told)
         return;
     const int number = told->number;
@@ -209,7 +227,9 @@ bool NoticeBar::eventFilter(QObject* watched, QEvent* event)
 
 void NoticeBar::put(Told told)
 {
-    std::erase_if(told_, [&told](const Told& other) { return other.number == told.number; });
+    const auto isSame = [&told](const Told& other) { return other.number == told.number; };
+    if (std::erase_if(told_, isSame) == 0 || told.notice.mark == Mark::Invalid)
+        chosen_.reset();
     told_.push_back(std::move(told));
     refresh();
 }
@@ -249,18 +269,22 @@ void NoticeBar::tell(const std::function<QString()>& sentence)
 
 void NoticeBar::end(int number)
 {
+    if (chosen_ == number)
+        chosen_.reset();
     if (std::erase_if(told_, [number](const Told& told) { return told.number == number; }) > 0)
         refresh();
 }
 
 bool NoticeBar::isOnShow(int number) const
 {
-    const Told* shown = worst();
+    const Told* shown = onShow();
     return shown && !isCovered_ && shown->number == number;
 }
 
 void NoticeBar::retranslate()
 {
+    place_->setToolTip(tr("wrd_403"));
+    place_->setAccessibleDescription(tr("wrd_403"));
     close_->setToolTip(tr("wrd_402"));
     close_->setAccessibleName(tr("wrd_402"));
     for (Told& told : told_) {
@@ -270,19 +294,27 @@ void NoticeBar::retranslate()
     refresh();
 }
 
-const NoticeBar::Told* NoticeBar::worst() const
+bool NoticeBar::comesBefore(const Told& a, const Told& b) const
 {
-    const auto found = std::ranges::min_element(told_, [this](const Told& a, const Told& b) {
-        const auto rank = [](const Told& told) {
-            return std::pair(told.notice.mark == Mark::Invalid, told.isNews);
-        };
-        if (rank(a) != rank(b))
-            return rank(a) > rank(b);
-        if (a.notice.mark != b.notice.mark)
-            return a.notice.mark > b.notice.mark;
-        return isNewestFirst_ ? &a > &b : a.number < b.number;
-    });
-    return found == told_.end() ? nullptr : &*found;
+    const auto rank = [](const Told& told) {
+        return std::pair(told.notice.mark == Mark::Invalid, told.isNews);
+    };
+    if (rank(a) != rank(b))
+        return rank(a) > rank(b);
+    if (a.notice.mark != b.notice.mark)
+        return a.notice.mark > b.notice.mark;
+    return isNewestFirst_ ? &a > &b : a.number < b.number;
+}
+
+const NoticeBar::Told* NoticeBar::onShow() const
+{
+    const auto chosen =
+        std::ranges::find_if(told_, [this](const Told& told) { return chosen_ == told.number; });
+    if (chosen != told_.end())
+        return &*chosen;
+    const auto worst =
+        std::ranges::min_element(told_, [this](const Told& a, const Told& b) { return comesBefore(a, b); });
+    return worst == told_.end() ? nullptr : &*worst;
 }
 
 void NoticeBar::refresh()
@@ -296,7 +328,7 @@ void NoticeBar::refresh()
         delete item;
     }
     setProperty(kCount, static_cast<int>(told_.size()));
-    const Told* shown = worst();
+    const Told* shown = onShow();
     if (shown && onShow_ && onShow_ != shown->number)
         replaced_.start();
     onShow_ = shown ? std::optional(shown->number) : std::nullopt;
@@ -323,7 +355,8 @@ void NoticeBar::refresh()
         button->show();
     }
     // The cross is the last one.
-    setTabOrder(before, close_);
+    setTabOrder(before, place_);
+    setTabOrder(place_, close_);
     showPlace();
     const bool isNews = text_->text() != shown->notice.text || isHidden();
     text_->setText(shown->notice.text);
@@ -360,7 +393,7 @@ void NoticeBar::takeFocus()
 
 void NoticeBar::paintEvent(QPaintEvent* /*event*/)
 {
-    const Told* shown = worst();
+    const Told* shown = onShow();
     if (!shown)
         return;
     QPainter painter(this);

@@ -2,8 +2,9 @@
 
 // The bar at the top of a window's content in which the window tells what the user should know and may act
 // on: a mark, a sentence, at most two buttons and a cross. Of several notices the worst is on show, among
-// equals the one of the lowest number, or the newest, with "1 of 3" behind it. The bar takes the focus from
-// nobody; F6 goes to it, and back, or on where the window has more areas (area_keys.h).
+// equals the one of the lowest number, or the newest, with "1 of 3" behind it, which leads on to the next one
+// until there is something new. The bar takes the focus from nobody; F6 goes to it, and back, or on where the
+// window has more areas (area_keys.h).
 
 #include "typing/field_mark.h"
 
@@ -17,7 +18,6 @@
 #include <vector>
 
 class QHBoxLayout;
-class QLabel;
 class QToolButton;
 
 namespace vlk {
@@ -70,7 +70,7 @@ public:
     void keepPlace(Place place = Place::Lines);
     // Cuts longer sentences; the tool tip has them whole.
     void keepToTwoLines();
-    bool isTelling() const { return worst() != nullptr; }
+    bool isTelling() const { return !told_.empty(); }
     // The property in which the host says how many pixels its own notice wants. A bar with a place has
     // it stand there, over what the bar tells, which waits as in any bar that tells several things. Another
     // bar gives the room below what is on show, or alone.
@@ -118,8 +118,10 @@ private:
 
     void put(Told told);
     void endNews();
-    // Null when there is none.
-    const Told* worst() const;
+    bool comesBefore(const Told& a, const Told& b) const;
+    // The worst, or what the user went on to; null when there is none.
+    const Told* onShow() const;
+    void showNext();
     void refresh();
     // With the room below; that of a kept place, and more where something else in the bar is higher.
     void claimHeight();
@@ -130,7 +132,7 @@ private:
 
     TwoLineLabel* text_;
     QHBoxLayout* buttons_;
-    QLabel* place_;
+    QToolButton* place_;
     QToolButton* close_;
     std::vector<Told> told_; // the newest is the last
     bool isNewestFirst_ = false;
@@ -141,6 +143,7 @@ private:
     int behind_ = 0;            // notices in another bar
     QTimer news_;               // at whose end there are none
     std::optional<int> onShow_; // number of the notice that is on show
+    std::optional<int> chosen_; // number of the one that the user went on to
     QElapsedTimer replaced_;    // since another one, or the host's, gave way to it
     QPointer<QWidget> before_;  // had the focus before F6
 };

@@ -103,6 +103,7 @@ protected:
                icon.pixelColor(icon.rect().center()).alpha() > 0 && !tabs.tabToolTip(at).isEmpty();
     }
     QWidget* bar() { return fuel_.child<QWidget>("noticeBar"); }
+    QToolButton* noticePlace() { return fuel_.child<QToolButton>("label_NoticePlace"); }
     void pressInBar(const QString& caption)
     {
         for (auto* button : bar()->findChildren<QPushButton*>()) {

@@ -233,7 +233,7 @@ private Q_SLOTS:
         mark("A3", 0);
         answerBox("wrd_001");
         form("A3")->findChild<QPushButton*>("pushButton_Del")->click();
-        QVERIFY(rows("A3") == "20=8" && fuel_.text("label_NoticePlace") == "wrd_401");
+        QVERIFY(rows("A3") == "20=8" && noticePlace()->text() == "wrd_401");
         fuel_.window->close();
         press("pushButton_FuelSensor");
         // One is brought back and saved, the other given up.
@@ -276,13 +276,13 @@ private Q_SLOTS:
         {
             const vlk::FileClaim ofOtherProgram(drafts.filePath("killed.xml"));
             press("pushButton_FuelSensor");
-            QVERIFY(bar()->isVisible() && fuel_.child("label_NoticePlace")->isHidden());
+            QVERIFY(bar()->isVisible() && noticePlace()->isHidden());
             fuel_.window->close();
         }
         const QByteArray killedOne = "2147483647\nworkbench\n" + QSysInfo::machineHostName().toUtf8() + '\n';
         writeFile(drafts.filePath(".killed.xml.lock"), killedOne);
         press("pushButton_FuelSensor");
-        QCOMPARE(fuel_.text("label_NoticePlace"), QString("wrd_401"));
+        QCOMPARE(noticePlace()->text(), QString("wrd_401"));
         // The one that is still offered stands before what can be done with the first.
         for (const int left : {1, 0}) {
             pressInBar("cfgt6_406");

@@ -510,8 +510,8 @@ private Q_SLOTS:
         auto* notices = dialog_->findChild<vlk::UnsavedBar*>();
         notices->tell(9, {vlk::Mark::Advice, "told", {{"one", [] {}}, {"two", [] {}}}});
         QTest::keyClick(dialog_.get(), Qt::Key_F6);
-        for (const char* name :
-             {"label_Unsaved_Action1", "label_Unsaved_Action2", "label_Unsaved_Close", "toolButton_Undo"}) {
+        for (const char* name : {"label_Unsaved_Action1", "label_Unsaved_Action2", "label_NoticePlace",
+                                 "label_Unsaved_Close", "toolButton_Undo"}) {
             QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }

@@ -56,6 +56,52 @@ private Q_SLOTS:
         QVERIFY(!bar.isTelling());
     }
 
+    // What waits behind another notice is seen without closing that one, by a click or Enter, until there is
+    // something new.
+    void ledOn()
+    {
+        QWidget window;
+        NoticeBar bar(&window);
+        window.resize(600, 60);
+        bar.resize(window.size());
+        window.show();
+        auto* const place = bar.findChild<QToolButton*>(QStringLiteral("label_NoticePlace"));
+        const auto tell = [&](int number, Mark mark) {
+            bar.tell(number, Notice{mark, QString::number(number), {{QStringLiteral("Do it"), [] {}}}});
+        };
+        tell(1, Mark::Advice);
+        QVERIFY(place->isHidden());
+        tell(2, Mark::Advice);
+        tell(3, Mark::Advice);
+        for (const int number : {2, 3, 1, 2}) {
+            if (number == 3)
+                QTest::keyClick(place, Qt::Key_Return);
+            else
+                QTest::mouseClick(place, Qt::LeftButton);
+            QVERIFY(bar.isOnShow(number));
+        }
+        // One that is told anew stays where it is.
+        tell(1, Mark::Advice);
+        QVERIFY(bar.isOnShow(2));
+        tell(4, Mark::Advice);
+        QVERIFY(bar.isOnShow(1));
+        QTest::mouseClick(place, Qt::LeftButton);
+        tell(3, Mark::Invalid);
+        QVERIFY(bar.isOnShow(3));
+        // What is closed gives way to the worst.
+        QTest::keyClick(place, Qt::Key_Return);
+        QTest::keyClick(place, Qt::Key_Return);
+        QVERIFY(bar.isOnShow(2));
+        bar.end(2);
+        QVERIFY(bar.isOnShow(3));
+        QVERIFY(place->isEnabled());
+        bar.end(1);
+        bar.end(4);
+        QVERIFY(place->isHidden());
+        bar.setBehind(1);
+        QVERIFY(place->isVisible() && !place->isEnabled());
+    }
+
     void movesNothing_data()
     {
         using Place = NoticeBar::Place;

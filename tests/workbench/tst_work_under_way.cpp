@@ -81,7 +81,7 @@ private Q_SLOTS:
         bench.take(Output);
         QTRY_VERIFY(Bench::notice().contains(QLatin1String("Output 1")));
         const auto* bar = view->findChild<QFrame*>(QStringLiteral("frame_WindowNotice"));
-        QCOMPARE(bar->findChild<QLabel*>(QStringLiteral("label_NoticePlace"))->text(),
+        QCOMPARE(bar->findChild<QToolButton*>(QStringLiteral("label_NoticePlace"))->text(),
                  QStringLiteral("1 of 2"));
         QCOMPARE(button->mapToGlobal(QPoint()), before);
         Bench::press(view, "label_WindowNotice_Close");
@@ -177,7 +177,8 @@ private Q_SLOTS:
         const auto* notice = calibration->findChild<QLabel*>(QStringLiteral("label_WindowNotice"));
         QTRY_COMPARE(notice->text(), bench.status());
         QVERIFY(bench.status().contains(bench.file()));
-        const auto* place = notice->parentWidget()->findChild<QLabel*>(QStringLiteral("label_NoticePlace"));
+        const auto* place =
+            notice->parentWidget()->findChild<QToolButton*>(QStringLiteral("label_NoticePlace"));
         QCOMPARE(place->text(), QStringLiteral("1 of 2"));
         // The name is to be saved, too.
         QApplication::setActiveWindow(calibration);
