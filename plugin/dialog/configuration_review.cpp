@@ -41,6 +41,7 @@ void ConfigurationReview::hold(const PageSettings& page)
 {
     if (const int table = FileKeys::all().tableOf(page.values().table()); table >= 0)
         present_.tables()[table].putBack(page.values().held());
+    inFull_.reset();
 }
 
 void ConfigurationReview::begin(CXmlSection* root)

@@ -162,6 +162,13 @@ private:
         std::vector<int> keys; // in their order
     };
 
+    // What the full window holds, and what quick setup makes of it.
+    struct InFull
+    {
+        review::FileState state;
+        review::FileState byQuick;
+    };
+
     // Without a root the configuration, which is new, is what it came as.
     void keepQuick(CXmlSection* root, const Configuration& asItCame,
                    const QMap<QString, QString>& quick = {});
@@ -180,7 +187,7 @@ private:
     void takeOverFrom(const review::Differences& differences, const std::vector<int>& keys,
                       const EditHistory::Words& words);
     bool isChosenIn(const Configuration& full, int key) const;
-    // By quick setup, and stands as it was made then.
+    // By quick setup, out of the file or of what full setup holds, and stands as it was made then.
     bool isMade(int key) const;
     // What the full window holds, or held before the change to it; null where there was none.
     const Configuration* beforeQuick() const
@@ -190,10 +197,12 @@ private:
     std::vector<int> leftOutKeys() const;
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
+    const InFull& inFull() const;
 
     EditHistory& history_;
     OpenConfiguration open_;
-    Configuration present_; // what the pages of the full window hold since the last step
+    Configuration present_;                // what the pages of the full window hold since the last step
+    mutable std::optional<InFull> inFull_; // of that; none until it is asked for
     review::FileState opened_;
     review::FileState asItCame_;                 // the same, or what has been written since then
     std::optional<review::FileState> newInFull_; // of a new one that began in the quick window

@@ -201,19 +201,27 @@ bool ConfigurationReview::isMade(int key) const
 {
     const review::Held& after = edited_.after().at(key);
     if (isQuick())
-        return quickState_.at(key) == after;
+        return quickState_.at(key) == after ||
+               (review::isFixedByQuick(key) && inFull().byQuick.at(key) == after &&
+                !(inFull().state.at(key) == after));
     return made_ && std::ranges::binary_search(made_->keys, key) && made_->after.at(key) == after;
+}
+
+const ConfigurationReview::InFull& ConfigurationReview::inFull() const
+{
+    if (!inFull_) {
+        const FileState state = FileState::ofConfiguration(present_);
+        inFull_ = {state, state};
+        inFull_->byQuick.lay(review::quickOf(present_));
+    }
+    return *inFull_;
 }
 
 void ConfigurationReview::moveToFull(const std::function<void()>& move)
 {
-    // What it gives its own value by a choice made there is that edit's.
-    FileState ofFull = FileState::ofConfiguration(present_);
-    ofFull.lay(review::quickOf(present_));
     std::vector<int> unedited;
     for (int key = 0; key < FileKeys::all().count(); ++key) {
-        const bool isFixed = review::isFixedByQuick(key) && ofFull.at(key) == edited_.after().at(key);
-        if (isMade(key) || isFixed)
+        if (isMade(key))
             unedited.push_back(key);
     }
     Made made{present_, {}, {}, {}};

@@ -403,10 +403,13 @@ private Q_SLOTS:
         QCOMPARE(edited(), QString("1 named"));
         dialog_->switchToQuick();
         QCOMPARE(edited(), QString("1"));
+        QVERIFY(review.madeAnew().contains("cfgt8_001 cfgt8_011"));
         dialog_->switchToFull();
         QCOMPARE(edited(), QString("1"));
+        QVERIFY(review.madeAnew().contains("cfgt8_001 cfgt8_011"));
         child<QAbstractButton>("label_Unsaved_Action1")->click();
         QCOMPARE(edited(), QString("1 named"));
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
         // It is used again as it was.
         use = child<QComboBox>("comboBox_NormState_In2");
         QTest::keyClick(use, Qt::Key_End);
