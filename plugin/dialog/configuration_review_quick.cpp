@@ -202,8 +202,7 @@ bool ConfigurationReview::isMade(int key) const
     const review::Held& after = edited_.after().at(key);
     if (isQuick())
         return quickState_.at(key) == after ||
-               (review::isFixedByQuick(key) && inFull().byQuick.at(key) == after &&
-                !(inFull().state.at(key) == after));
+               (inFull().byQuick.at(key) == after && !(inFull().state.at(key) == after));
     return made_ && std::ranges::binary_search(made_->keys, key) && made_->after.at(key) == after;
 }
 

@@ -1,5 +1,6 @@
 // The panels of differences and of advice.
 
+#include "catalogue/field_catalogue.h"
 #include "dialog/difference_model.h"
 #include "dialog/tab_navigation.h"
 #include "dialog/unsaved_bar.h"
@@ -386,37 +387,42 @@ private Q_SLOTS:
     void whatFollowsInQuickSetupIsNoEdit()
     {
         auto& review = dialog_->review();
-        const int name = vlk::review::FileKeys::all().at("SENSORS/IN2/name");
-        const auto edited = [&] {
+        const auto held = [&](const char* path) {
+            return review.edits().after().at(vlk::review::FileKeys::all().at(path)).text;
+        };
+        // How many edits, the name, and the voltage of the analogue line in records.
+        const auto state = [&] {
             history().settle();
-            const bool hasName = !review.edits().after().at(name).text.isEmpty();
-            return QString::number(review.edited()) + (hasName ? " named" : "");
+            const QString name = held("SENSORS/IN2/name").isEmpty() ? "" : " named";
+            const QString mask = held("PROTOCOL/ZETA/mask").at(vlk::field("StateU_Ain3"));
+            return QString("%1%2 %3").arg(review.edited()).arg(name, mask);
         };
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 0);
         QTest::keyClick(child<QComboBox>("comboBox_NormState_In_2"), Qt::Key_Home);
-        QCOMPARE(edited(), QString("1"));
+        QCOMPARE(state(), QString("1 1"));
         history().undo();
 
         open(VLK_SOURCE "/fuzz/corpus/settings/factory.xml", 1);
-        auto* use = child<QComboBox>("comboBox_NormState_In2");
-        QTest::keyClick(use, Qt::Key_Home);
-        QCOMPARE(edited(), QString("1 named"));
+        for (const char* line : {"comboBox_NormState_In2", "comboBox_NormState_In3"})
+            QTest::keyClick(child<QComboBox>(line), Qt::Key_Home);
+        const QString asEdited = state();
+        QCOMPARE(asEdited, QString("3 named 1")); // with a threshold that is used no more
         dialog_->switchToQuick();
-        QCOMPARE(edited(), QString("1"));
+        QCOMPARE(state(), QString("2 0"));
         QVERIFY(review.madeAnew().contains("cfgt8_001 cfgt8_011"));
         dialog_->switchToFull();
-        QCOMPARE(edited(), QString("1"));
+        QCOMPARE(state(), QString("3 0"));
         QVERIFY(review.madeAnew().contains("cfgt8_001 cfgt8_011"));
         child<QAbstractButton>("label_Unsaved_Action1")->click();
-        QCOMPARE(edited(), QString("1 named"));
-        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("1"));
-        // It is used again as it was.
-        use = child<QComboBox>("comboBox_NormState_In2");
-        QTest::keyClick(use, Qt::Key_End);
-        QCOMPARE(edited(), QString("0 named"));
-        for (int step = 0; step < 5; ++step)
+        QCOMPARE(state(), asEdited);
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString::number(review.edited()));
+        // They are used again as they were.
+        for (const char* line : {"comboBox_NormState_In2", "comboBox_NormState_In3"})
+            QTest::keyClick(child<QComboBox>(line), Qt::Key_End);
+        QCOMPARE(state(), QString("0 named 1"));
+        for (int step = 0; step < 7; ++step)
             history().undo();
-        QCOMPARE(edited(), QString("0 named"));
+        QCOMPARE(state(), QString("0 named 1"));
     }
 
     // What is not chosen stays, in quick setup too.
