@@ -244,7 +244,7 @@ int ConfigurationReview::unedited() const
 
 int ConfigurationReview::edited() const
 {
-    return counted(edited_.ownKeys(), false);
+    return counted(edited_.ownKeys(), false) + static_cast<int>(ofQuickAlone().size());
 }
 
 bool ConfigurationReview::isLossy() const

@@ -58,11 +58,9 @@ public:
     QString comparison() const { return QString::number(static_cast<int>(against_)) + otherName() + path_; }
 
     const review::Differences& differences() const { return differences_; }
-    // In the order of a save; with the quick window on show those of the sections first that it makes anew.
-    std::vector<review::Difference> listed() const
-    {
-        return isQuick() ? differences_.allForQuick() : differences_.all();
-    }
+    // In the order of a save; with the quick window on show those of the sections first that it makes anew,
+    // and what no file holds beside the rest of its section.
+    std::vector<review::Difference> listed() const;
     // To the file, whatever is compared: what a person would count, without that which comes along with
     // another setting and that which nobody has edited.
     int edited() const;
@@ -198,6 +196,9 @@ private:
     void refresh(const QVector<int>& pages);
     void hold(const PageSettings& page);
     const InFull& inFull() const;
+    // Edits of what the quick window shows and no file holds, where no other edit tells of them: that sensors
+    // over Bluetooth are used, as long as there is none. They have no key.
+    std::vector<review::Difference> ofQuickAlone() const;
 
     EditHistory& history_;
     OpenConfiguration open_;

@@ -80,14 +80,57 @@ bool ConfigurationReview::isUnedited(const review::Difference& difference) const
 {
     if (difference.key >= 0)
         return isUnedited(difference.key);
-    return isQuick()
-               ? !difference.after.isNull() && quickStrangers_.value(difference.path) == difference.after
-               : difference.byLoad;
+    if (!isQuick())
+        return difference.byLoad;
+    return !difference.after.isNull() && (quickStrangers_.value(difference.path) == difference.after ||
+                                          review::isFixedByQuick(difference.path));
 }
 
 bool ConfigurationReview::isUnedited(int key) const
 {
-    return isMade(key) || (isQuick() ? review::isFixedByQuick(key) : edited_.isByLoad(key));
+    if (isMade(key) || !isQuick())
+        return isMade(key) || edited_.isByLoad(key);
+    // What nobody can choose there follows what was chosen there, but for an edit of full setup.
+    const review::Held& came = edited_.before().at(key);
+    const review::Held& full = inFull().state.at(key);
+    return review::isFixedByQuick(key) && came.isSaved == full.isThere && came.saved == full.text;
+}
+
+std::vector<review::Difference> ConfigurationReview::listed() const
+{
+    if (!isQuick())
+        return differences_.all();
+    std::vector<review::Difference> all = differences_.allForQuick();
+    if (against_ != Against::File)
+        return all;
+    for (review::Difference& alone : ofQuickAlone()) {
+        const auto isBeside = [&](const review::Difference& other) {
+            return other.path.section(QLatin1Char('/'), 0, 0) == alone.path.section(QLatin1Char('/'), 0, 0);
+        };
+        all.insert(std::ranges::find_if(all, isBeside), std::move(alone));
+    }
+    return all;
+}
+
+std::vector<review::Difference> ConfigurationReview::ofQuickAlone() const
+{
+    std::vector<review::Difference> alone;
+    if (!isQuick())
+        return alone;
+    const PageSettings& page = open_.quickPage();
+    const Values& values = page.values();
+    const auto isEdited = [&](int row) {
+        const int key = FileKeys::all().at(values.row(row).filePath);
+        return key >= 0 && edited_.isDifferent(key) && !edited_.isAlong(key) && !isUnedited(key);
+    };
+    for (int row = 0; row < values.count(); ++row) {
+        const QString before = quickBefore(page, row);
+        const bool isShown = values.holder(row) == row && review::canBeShown(values.setting(row));
+        if (!before.isNull() && isShown &&
+            std::ranges::none_of(review::followersOf(values.layout(), row), isEdited))
+            alone.push_back({-1, -1, values.row(row).filePath, before, values.value(row)});
+    }
+    return alone;
 }
 
 const char* ConfigurationReview::noteKey(const Differences& differences,

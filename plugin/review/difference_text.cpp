@@ -91,12 +91,28 @@ QString withoutEmptyAddress(const QString& text)
     return isEmpty ? QStringLiteral("") : text;
 }
 
+// An empty one hides nothing.
 void mask(DifferenceText* text)
 {
-    for (QString* shown : {&text->before, &text->after, &text->beforeText, &text->afterText}) {
-        if (!shown->isEmpty())
-            *shown = QString::fromUtf8(kSecretDots);
+    for (const auto& [value, shown] :
+         {std::pair(&text->before, &text->beforeText), std::pair(&text->after, &text->afterText)}) {
+        if (!value->isEmpty())
+            *value = *shown = QString::fromUtf8(kSecretDots);
     }
+}
+
+// A rule may give it by another setting, of which the side before has a value of its own.
+const char* unitBefore(const FileState& before, Values values, int table, int row)
+{
+    std::vector<QString> held = values.held();
+    for (const RangeWhen* rule : values.row(values.holder(row)).ranges) {
+        const int decider = rule->when.row < 0 ? -1 : values.holder(rule->when.row);
+        const int key = rule->unit && decider >= 0 ? FileKeys::all().of(table, decider) : -1;
+        if (key >= 0 && before.at(key).isThere)
+            held[decider] = before.at(key).meaning;
+    }
+    values.putBack(held);
+    return values.unitKey(row);
 }
 
 // What stands above the settings of the full window in the same element; empty where there are none.
@@ -192,7 +208,9 @@ DifferenceText textOf(const Differences& differences, const Difference& differen
     const char* unit = values.unitKey(difference.row);
     const Held& before = differences.before().at(difference.key);
     const Held& after = differences.after().at(difference.key);
-    text.beforeText = textBeside(setting, before, {after}, unit);
+    text.beforeText = textBeside(
+        setting, before, {after},
+        unitBefore(differences.before(), values, FileKeys::all()[difference.key].table, difference.row));
     text.afterText = textBeside(setting, after, {before}, unit);
     if (values.row(difference.row).base->secret && secrets == Secrets::Masked)
         mask(&text);
@@ -224,8 +242,9 @@ DifferenceText textOf(const Difference& difference, Secrets secrets)
     text.after = difference.after;
     for (const auto& [told, value] :
          {std::pair(&text.beforeText, &text.before), std::pair(&text.afterText, &text.after)}) {
-        const bool isChoice = row >= 0 && quick.rows[row].setting->is<Choice>();
-        *told = isChoice ? valueText(*quick.rows[row].setting, *value, nullptr) : withoutEmptyAddress(*value);
+        const Setting* setting = row < 0 ? nullptr : quick.rows[row].setting;
+        const bool isChoice = setting && (setting->is<Choice>() || setting->is<Flag>());
+        *told = isChoice ? valueText(*setting, *value, nullptr) : withoutEmptyAddress(*value);
         // Empty is a value of its own: no other device on the line.
         if (row >= 0 && !value->isNull() && value->isEmpty())
             *told = translated("rev_753");

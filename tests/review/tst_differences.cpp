@@ -178,6 +178,22 @@ private Q_SLOTS:
         QCOMPARE(text.after, QString(":::::"));
     }
 
+    // A side that has the value has its unit, though the line of now would have none.
+    void unitOfTheOtherSide()
+    {
+        const vlk::TextSource source = textsOf("en");
+        const vlk::TextsFrom texts(source);
+        vlk::Configuration configuration = loaded(factory());
+        const FileState before = FileState::ofConfiguration(configuration);
+        configuration.edit("SENSORS/IN3/normState", "NB+");
+        const Differences differences(before, FileState::ofConfiguration(configuration));
+        const vlk::review::Difference difference =
+            differences.differenceAt(vlk::review::FileKeys::all().at("SENSORS/IN3/IN3AIN/thld"));
+        const int table = vlk::review::FileKeys::all()[difference.key].table;
+        QCOMPARE(textOf(differences, difference, configuration.tables()[table]).beforeText,
+                 QString("500 mV"));
+    }
+
     // Also those that no window shows, and those that the quick window alone writes or shows.
     void everyKeyHasACaption()
     {
@@ -207,6 +223,9 @@ private Q_SLOTS:
         const auto zeta =
             textOf(vlk::review::Difference{-1, -1, "TRANS/SRV1/format", "EGTS", "VLKB_ZETA", {}});
         QCOMPARE(zeta.after + '|' + zeta.afterText, QString("VLKB_ZETA|ZETA"));
+        // An empty secret hides nothing.
+        QCOMPARE(textOf(vlk::review::Difference{-1, -1, "BLUETOOTH/CHANNEL1/pass", {}, "", {}}).afterText,
+                 QString("rev_753"));
     }
 
     void secretsAreToldOnDemandAlone()
