@@ -368,6 +368,7 @@ void ConfigurationReview::takeOverFrom(const Differences& differences, const std
 {
     Configuration changed = written();
     review::takeOver(changed, differences, keys);
+    review::keepUnwritten(changed, open_.inFull());
     open_.put(changed, {}, words);
 }
 

@@ -53,27 +53,6 @@ QString groupOf(int key)
     return parts.join(QLatin1Char(' '));
 }
 
-// What neither of the two writes to a file, of a line that is not used its times: a change of windows loses
-// it.
-void bringUnwritten(Configuration& configuration, const Configuration& before)
-{
-    const FileState states[] = {FileState::ofConfiguration(configuration),
-                                FileState::ofConfiguration(before)};
-    const auto isWritten = [&](int key) {
-        return std::ranges::any_of(states, [&](const FileState& state) { return state.at(key).isThere; });
-    };
-    for (int table = 0; table < FileKeys::all().tables(); ++table) {
-        Values& values = configuration.tables()[table];
-        std::vector<QString> held = values.held();
-        for (int row = 0; row < values.count(); ++row) {
-            const std::vector<int>& keys = FileKeys::all().heldBy(table, row);
-            if (!keys.empty() && std::ranges::none_of(keys, isWritten))
-                held[row] = before.tables()[table].held()[row];
-        }
-        values.putBack(held);
-    }
-}
-
 } // namespace
 
 bool ConfigurationReview::isUnedited(const review::Difference& difference) const
@@ -298,7 +277,7 @@ void ConfigurationReview::bringBackMade(const EditHistory::Words& words)
     std::erase_if(keys, [this](int key) { return !isMade(key); });
     Configuration changed = written();
     review::takeOver(changed, differences, keys);
-    bringUnwritten(changed, made_->before);
+    review::keepUnwritten(changed, made_->before);
     open_.put(changed, {}, words);
 }
 

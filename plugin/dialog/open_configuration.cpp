@@ -122,6 +122,7 @@ void OpenConfiguration::bringBack(const review::Unsaved& unsaved, const EditHist
     Configuration unchanged = inFull();
     review::readAsEdited(unchanged, *unedited.root());
     review::keepTheRest(changed, written(), unchanged);
+    review::keepUnwritten(changed, inFull());
     // They belong to the configuration on which they were made, but for what the full window loses.
     put(changed, now == unsaved.before ? unsaved.quick : heldByQuickAlone(unsaved), words);
 }
@@ -130,12 +131,16 @@ void OpenConfiguration::put(const Configuration& changed, const QMap<QString, QS
                             const EditHistory::Words& words)
 {
     const QByteArray now = document();
+    // What quick setup would write otherwise stays in the full window as it is there.
+    Configuration full = changed;
+    if (isQuick())
+        review::keepTheRest(full, inFull(), written());
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
-            const auto found = std::ranges::find_if(changed.tables(), [&](const Values& values) {
+            const auto found = std::ranges::find_if(full.tables(), [&](const Values& values) {
                 return &values.table() == &page->values().table();
             });
-            if (found != changed.tables().end())
+            if (found != full.tables().end())
                 page->putBack(found->held());
         }
         if (!isQuick())

@@ -158,7 +158,7 @@ QStringList UnsavedBar::broughtOtherwise() const
     const review::Differences& edits = review_.edits();
     QStringList told;
     for (const Offer& offer : offers_) {
-        if (!offer.brought || !offer.isBroughtBack())
+        if (!offer.brought || !isThere(offer))
             continue;
         for (const int key : offer.own) {
             const review::Held& now = edits.after().at(key);
@@ -168,8 +168,8 @@ QStringList UnsavedBar::broughtOtherwise() const
             const review::FileKey& place = review::FileKeys::all()[key];
             const QString caption =
                 placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
-            told << QStringLiteral("%1: %2").arg(caption,
-                                                 review_.textOf(edits, edits.differenceAt(key)).afterText);
+            const QString value = review_.textOf(edits, edits.differenceAt(key)).afterText;
+            told << QStringLiteral("%1: %2").arg(caption, value.isEmpty() ? words("rev_753") : value);
         }
     }
     return told;
@@ -182,7 +182,7 @@ void UnsavedBar::refresh()
     for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
         Offer& offer = offers_[number - 1];
         follow(offer);
-        const bool isOver = offer.isClosed || offer.isBroughtBack() || changes(offer, offer.keys) == 0;
+        const bool isOver = offer.isClosed || isThere(offer) || changes(offer, offer.keys) == 0;
         const int count = isOver ? 0 : this->count(offer);
         const int alone = offer.isClosed ? 0 : this->alone(offer);
         const QString replaces = isOver ? QString() : replacedBy(offer);
@@ -344,6 +344,7 @@ void UnsavedBar::bringBack(int number)
     offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
     offer.brought = review_.differences().after();
+    offer.isInFullAlone = review_.isQuick() && changes(offer, offer.own) > 0;
     refresh();
     endComparison();
 }
@@ -364,8 +365,8 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        const bool isThere = offer.isBroughtBack() || changes(offer, offer.keys) == 0;
-        if (offer.isDiscarded || (isThere && alone(offer) == 0))
+        const bool isOver = (isThere(offer) && !offer.isInFullAlone) || changes(offer, offer.keys) == 0;
+        if (offer.isDiscarded || (isOver && alone(offer) == 0))
             offer.isClosed |= QFile::remove(offer.kept.path);
     }
 }

@@ -69,6 +69,7 @@ private:
         bool isClosed = false;
         std::optional<review::FileState> replaced{}; // by bringing it back
         std::optional<review::FileState> brought{};  // what that has made of it
+        bool isInFullAlone = false;                  // some of that, which quick setup could not bring back
         bool isTakenBack = false;                    // since then
         int told = 0;                                // how many settings it was said to change
         int toldAlone = 0;                           // and how many only in the quick window
@@ -78,6 +79,11 @@ private:
     };
 
     bool isInNewer(const Offer& offer) const;
+    // Brought back, all that the window on show can.
+    bool isThere(const Offer& offer) const
+    {
+        return offer.isBroughtBack() && (review_.isQuick() || !offer.isInFullAlone);
+    }
     // How many of these keys the offer would change.
     int changes(const Offer& offer, const std::vector<int>& keys) const;
     // As a person would count them, one at least.

@@ -184,6 +184,22 @@ void keepTheRest(Configuration& read, const Configuration& before, const Configu
         keepTheRest(read.tables()[table], before.tables()[table], unchanged.tables()[table]);
 }
 
+void keepUnwritten(Configuration& configuration, const Configuration& before)
+{
+    const FileState state = FileState::ofConfiguration(configuration);
+    const auto isWritten = [&](int key) { return state.at(key).isThere; };
+    for (int table = 0; table < FileKeys::all().tables(); ++table) {
+        Values& values = configuration.tables()[table];
+        std::vector<QString> held = values.held();
+        for (int row = 0; row < values.count(); ++row) {
+            const std::vector<int>& keys = FileKeys::all().heldBy(table, row);
+            if (!keys.empty() && std::ranges::none_of(keys, isWritten))
+                held[row] = before.tables()[table].held()[row];
+        }
+        values.putBack(held);
+    }
+}
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys)
 {
     const Configuration before = configuration;

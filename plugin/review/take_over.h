@@ -41,6 +41,10 @@ void readAsEdited(Configuration& configuration, CXmlSection& root);
 void keepTheRest(Values& read, const Values& before, const Values& unchanged);
 void keepTheRest(Configuration& read, const Configuration& before, const Configuration& unchanged);
 
+// What a file of this state does not hold, of a line that is not used its times, stays as it was: a read
+// alone would start it anew.
+void keepUnwritten(Configuration& configuration, const Configuration& before);
+
 void takeOver(Configuration& configuration, const FileState& from, const std::vector<int>& keys);
 
 // Takes keys over from the side before, with those that are needed; where a rule of a load stands against one
