@@ -2882,6 +2882,8 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="wb_report_of_backup"><translation>It was backup No.&#160;%1 that was to be brought back.</translation></message>
     <message id="wb_report_of_previous"><translation>It was the previous configuration, which the tracker keeps, that was to be brought back.</translation></message>
     <message id="wb_report_other"><translation>Re&amp;port of %1</translation></message>
+    <message id="wb_report_part"><translation>An earlier write was taken in part. Try again, or bring back No.&#160;%1.</translation></message>
+    <message id="wb_report_part_back"><translation>An earlier write was taken in part. Bring back No.&#160;%1, or write that configuration again from its window.</translation></message>
     <message id="wb_report_refused"><translation>Configuration not written. %1</translation></message>
     <message id="wb_report_same"><translation>Written and confirmed: the tracker holds what it held before.</translation></message>
     <message id="wb_report_seen_before"><translation>Configuration not written: tracker %1 holds what it held before; read at %2.</translation></message>

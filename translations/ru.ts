@@ -2882,6 +2882,8 @@
     <message id="wb_report_of_backup"><translation>Возвращалась резервная копия №&#160;%1.</translation></message>
     <message id="wb_report_of_previous"><translation>Возвращалась предыдущая конфигурация, которую хранит трекер.</translation></message>
     <message id="wb_report_other"><translation>&amp;Отчёт за %1</translation></message>
+    <message id="wb_report_part"><translation>Прежняя запись принята не полностью. Повторите запись или верните №&#160;%1.</translation></message>
+    <message id="wb_report_part_back"><translation>Прежняя запись принята не полностью. Верните №&#160;%1 или запишите ту конфигурацию из её окна.</translation></message>
     <message id="wb_report_refused"><translation>Конфигурация не записана. %1</translation></message>
     <message id="wb_report_same"><translation>Записано и подтверждено: в трекере то же, что и было.</translation></message>
     <message id="wb_report_seen_before"><translation>Конфигурация не записана: в трекере %1 то же, что и было; прочитано в %2.</translation></message>

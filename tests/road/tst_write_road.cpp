@@ -297,6 +297,16 @@ private Q_SLOTS:
         bench.port.held = kOld;
         QVERIFY(write(Step::Writing, Wrong::PowerLoss).toBringBack() == 2);
         QCOMPARE(write(Step::Writing, Wrong::Unplugged).earlier, 0);
+        // What was taken in part is told until a write is confirmed.
+        const RoadReport half = write(Step::Writing, Wrong::TakesHalf);
+        QVERIFY(half.outcome == Outcome::NotTaken && half.backup > 0);
+        for (const Step at : {Step::Reading, Step::Writing}) {
+            const RoadReport retry = write(at, Wrong::Unplugged);
+            QVERIFY(retry.outcome == Outcome::NotWritten && retry.isEarlierInPart);
+            QCOMPARE(retry.toBringBack(), half.backup);
+        }
+        QVERIFY(write(Step::Review, Wrong::Nothing).outcome == Outcome::Confirmed);
+        QCOMPARE(write(Step::Reading, Wrong::Unplugged).earlier, 0);
     }
 
     // The next run of the program tells of it, once.

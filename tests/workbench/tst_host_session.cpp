@@ -355,6 +355,10 @@ private Q_SLOTS:
                 "write that configuration again from its window. Its file is kept: " +
                 report.earlierFile),
             qPrintable(workbench::summary(report)));
+        report.request.origin = workbench::WriteRequest::Origin::Tracker;
+        report.isEarlierInPart = true;
+        QVERIFY(workbench::summary(report).contains(
+            "\nAn earlier write was taken in part. Try again, or bring back No.\u00A01."));
         report = {};
         report.fault = RoadReport::Fault::Unsaved;
         report.detail = "x.xml: " + qt_error_string(ENOSPC);

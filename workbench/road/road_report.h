@@ -137,9 +137,10 @@ struct RoadReport
     QString detail;
     WriteRequest request;
     TrackerIdentity tracker;
-    int backup = 0;  // its number; 0 where there is none
-    int earlier = 0; // the backup of an earlier write that may have been taken, while nothing is known of it
-    QString earlierFile{};            // what that was to write
+    int backup = 0;               // its number; 0 where there is none
+    int earlier = 0;              // the backup of an earlier write that may have been taken, or was in part
+    bool isEarlierInPart = false; // it was
+    QString earlierFile{};        // what that was to write
     QVector<WrittenSetting> settings; // what was not taken comes first
     QByteArray readBack;              // the document, of which they tell
     QStringList keptSections;

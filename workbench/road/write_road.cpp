@@ -371,6 +371,7 @@ std::optional<RoadReport> WriteRoad::settledBy(const QByteArray& document)
     report.time = QDateTime::currentDateTime();
     report.isSeenLater = true;
     unsettled_ = {};
+    keepInPart(report);
     return report;
 }
 
@@ -422,14 +423,30 @@ void WriteRoad::end(Outcome outcome)
 void WriteRoad::settle(RoadReport& report)
 {
     // One that is not attached may be the same.
-    const bool maybeSame =
-        report.tracker.number.isEmpty() || report.tracker.number == unsettled_.tracker.number;
-    if (report.outcome == Outcome::Unknown)
+    const auto maybeSame = [&report](const RoadReport& earlier) {
+        return earlier.backup > 0 &&
+               (report.tracker.number.isEmpty() || report.tracker.number == earlier.tracker.number);
+    };
+    if (report.outcome == Outcome::Unknown) {
         unsettled_ = report;
-    else if (report.outcome == Outcome::NotWritten && maybeSame)
-        std::tie(report.earlier, report.earlierFile) = std::tie(unsettled_.backup, unsettled_.request.file);
-    else if (report.outcome != Outcome::Cancelled && maybeSame)
-        unsettled_ = {};
+    } else if (report.outcome == Outcome::NotWritten) {
+        report.isEarlierInPart = !maybeSame(unsettled_) && maybeSame(inPart_);
+        const RoadReport& earlier = report.isEarlierInPart ? inPart_ : unsettled_;
+        if (maybeSame(earlier))
+            std::tie(report.earlier, report.earlierFile) = std::tie(earlier.backup, earlier.request.file);
+    } else if (report.outcome != Outcome::Cancelled) {
+        if (maybeSame(unsettled_))
+            unsettled_ = {};
+        keepInPart(report);
+    }
+}
+
+void WriteRoad::keepInPart(const RoadReport& seen)
+{
+    if (seen.outcome == Outcome::NotTaken)
+        inPart_ = seen;
+    else if (seen.outcome == Outcome::Confirmed && seen.tracker.number == inPart_.tracker.number)
+        inPart_ = {};
 }
 
 } // namespace workbench

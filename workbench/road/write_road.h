@@ -91,6 +91,8 @@ private:
     std::optional<RoadReport> settledBy(const QByteArray& document);
     // What the report of a write tells of an earlier one.
     void settle(RoadReport& report);
+    // What a read of the tracker has shown of a write.
+    void keepInPart(const RoadReport& seen);
 
     TrackerPort& port_;
     Backups& backups_;
@@ -110,6 +112,7 @@ private:
     WriteReview review_;
     RoadReport report_;
     RoadReport unsettled_; // the last one that ended unknown, until the tracker shows what became of it
+    RoadReport inPart_;    // the last one that was taken in part, until one is confirmed
 };
 
 } // namespace workbench

@@ -177,8 +177,10 @@ QString broughtBack(const RoadReport& report)
 QString earlierWrite(const RoadReport& report)
 {
     const bool isOfBack = report.request.isBringBack();
-    const QString said =
-        text(isOfBack ? "wb_report_earlier_back" : "wb_report_earlier").arg(number(report.earlier));
+    const char* key = report.isEarlierInPart ? (isOfBack ? "wb_report_part_back" : "wb_report_part")
+                      : isOfBack             ? "wb_report_earlier_back"
+                                             : "wb_report_earlier";
+    const QString said = text(key).arg(number(report.earlier));
     return isOfBack && QFile::exists(report.earlierFile)
                ? said + QLatin1Char(' ') + text("wb_report_earlier_kept").arg(report.earlierFile)
                : said;
