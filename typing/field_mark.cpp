@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -63,11 +64,16 @@ public:
     {
         setObjectName(QStringLiteral("mark_") + field->objectName());
         resize(kMarkSize, kMarkSize);
-        const auto labels = parentWidget()->findChildren<QLabel*>();
-        const auto caption =
-            std::ranges::find_if(labels, [field](const QLabel* label) { return label->buddy() == field; });
-        if (caption != labels.end())
-            caption_ = *caption;
+        // The field may stand in a frame of its own.
+        for (QWidget* form = field->parentWidget(); form && !caption_; form = form->parentWidget()) {
+            const auto labels = form->findChildren<QLabel*>();
+            const auto caption = std::ranges::find_if(
+                labels, [field](const QLabel* label) { return label->buddy() == field; });
+            if (caption != labels.end())
+                caption_ = *caption;
+            if (form->layout() && form->layout()->count() > 1)
+                break;
+        }
         field->installEventFilter(this);
         if (caption_)
             caption_->installEventFilter(this);
@@ -190,17 +196,19 @@ private:
     Spot spot() const
     {
         QWidget* form = field_->parentWidget();
-        const QRect field = field_->geometry();
+        while (caption_ && !form->isAncestorOf(caption_) && !form->isWindow())
+            form = form->parentWidget();
+        const QRect field(field_->mapTo(form, QPoint(0, 0)), field_->size());
         if (caption_ && !caption_->isHidden()) {
             const QRect caption(caption_->mapTo(form, QPoint(0, 0)), caption_->size());
-            if (const auto before = leftOf(caption))
+            if (const auto before = leftOf(caption, form))
                 return *before;
             const int words = caption.left() + std::min(caption.width(), caption_->sizeHint().width());
             const QPoint between(field.left() - kMarkSize - kMarkGap, caption.center().y() - kMarkSize / 2);
             if (between.x() >= words && isFree(*form, between, nullptr))
                 return {form, between};
         } else if (qobject_cast<QAbstractButton*>(field_)) {
-            if (const auto before = leftOf(field))
+            if (const auto before = leftOf(field, form))
                 return *before;
         }
         // Over the corner rather than in it, where it would hide what the field holds.
@@ -208,11 +216,11 @@ private:
     }
 
     // A spot beside a part of the form; where that begins at its edge, in the margin of what is around it.
-    std::optional<Spot> leftOf(const QRect& part) const
+    std::optional<Spot> leftOf(const QRect& part, QWidget* form) const
     {
         QPoint corner(part.left() - kMarkSize - kMarkGap, part.center().y() - kMarkSize / 2);
         const QWidget* inner = nullptr;
-        for (QWidget* host = field_->parentWidget();; host = host->parentWidget()) {
+        for (QWidget* host = form;; host = host->parentWidget()) {
             // A margin may be as narrow as the shape.
             const QPoint close(std::max(corner.x(), std::min(corner.x() + kMarkGap, 0)), corner.y());
             if (close.x() >= -1)

@@ -161,6 +161,20 @@ private Q_SLOTS:
         }
     }
 
+    // Left of the caption, also where the field stands in a frame of its own.
+    void besideTheCaption()
+    {
+        child<QTabWidget>("tabWidget")->setCurrentIndex(6);
+        auto* field = child<QSpinBox>("spinBox_Response_In3");
+        type(field, "7");
+        const auto leftEnd = [this](const QWidget* widget) {
+            return widget->mapTo(dialog_.get(), QPoint()).x();
+        };
+        const auto* mark = child<QWidget>("mark_spinBox_Response_In3");
+        QVERIFY(mark->isVisible() &&
+                leftEnd(mark) + mark->width() <= leftEnd(child<QLabel>("label_Title_Response_In3")));
+    }
+
     // A code that two lines of a list have is told at both, and only the one that was typed is a changed one.
     void cellsOfAList()
     {
