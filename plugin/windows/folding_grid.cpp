@@ -107,6 +107,9 @@ void FoldingGrid::learn()
             qobject_cast<QAbstractButton*>(item->widget()) && !qobject_cast<QPushButton*>(item->widget()) &&
             isAlone(place))
             place.columns = kColumnsOfPair;
+        // Columns of its own need no room beside those of a second pair, which other grids of the page have.
+        if (place.column == 0 && columns == kColumnsOfPair && !hasSecondPair_ && holdsFoldingGrid(item))
+            place.columns = 2 * kColumnsOfPair;
         if (place.columns != columns || place.column + columns > kColumnsOfPair) {
             grid_->removeItem(item);
             putBack(item, place);

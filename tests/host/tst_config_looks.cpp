@@ -120,14 +120,23 @@ private Q_SLOTS:
     }
 
     // Lines of all uses, and sensors of all types.
-    void choices_data() { DataTable<QString>({"language"}).row("Russian", "ru").row("English", "en"); }
+    void choices_data()
+    {
+        // Some widths have just room for pairs side by side.
+        DataTable<QString, QSize>({"language", "size"})
+            .row("Russian, small", "ru", {960, 500})
+            .row("English, small", "en", {960, 500})
+            .row("Russian, pairs", "ru", {1350, 600})
+            .row("English, pairs", "en", {1110, 600});
+    }
     void choices()
     {
         QFETCH(QString, language);
+        QFETCH(QSize, size);
         QVERIFY(languages_.set(language));
         host_.send(vlk::Message::LanguageChanged);
         host_.open({});
-        setSize({960, 500});
+        setSize(size);
         for (const char* name : {"comboBox_NormState_In3", "comboBox_Type_Sens_1", "comboBox_ServerType",
                                  "comboBox_RS485_Owner_1"}) {
             auto* list = tabs_->findChild<QComboBox*>(name);
