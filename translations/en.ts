@@ -1508,6 +1508,7 @@ Exit status: 0 nothing to tell, 1 findings or differences, 2 a file or the comma
     <message id="cli_340"><translation>%1: none holds %2</translation></message>
     <message id="cli_345"><translation>the calibration table of %4 has one reading, %3, for %1 to %2&#160;l: the middle is taken, what happens between them goes unseen</translation></message>
     <message id="cli_360"><translation>part of a period: in front of the last record %1 are missing, between No.&#160;%2 and No.&#160;%3</translation></message>
+    <message id="cli_361"><translation>interrupted: files that nothing was told of are as they were</translation></message>
     <message id="rev_001"><translation>Not in the file, its default value counts</translation></message>
     <message id="rev_002"><translation>Was not there before</translation></message>
     <message id="rev_003"><translation>Unknown key, a write drops it</translation></message>

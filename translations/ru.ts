@@ -1508,6 +1508,7 @@
     <message id="cli_340"><translation>%1: ни в одной нет %2</translation></message>
     <message id="cli_345"><translation>в тарировочной таблице %4 одно показание %3 для объёмов от %1 до %2&#160;л: взята середина, изменения между ними не видны</translation></message>
     <message id="cli_360"><translation>часть периода: перед последней записью пропуск, нет записей: %1 (между №&#160;%2 и №&#160;%3)</translation></message>
+    <message id="cli_361"><translation>прервано: файлы, о которых ничего не сказано, остались как были</translation></message>
     <message id="rev_001"><translation>В файле этого не было, взято начальное значение</translation></message>
     <message id="rev_002"><translation>Раньше этого не было</translation></message>
     <message id="rev_003"><translation>Неизвестный ключ, запись его не сохранит</translation></message>

@@ -223,6 +223,7 @@ private Q_SLOTS:
                 changed += readFile(path(QString("many/%1.xml").arg(i))).contains("maxSpeed='90'") ? 0 : 1;
             QCOMPARE(call.readAllStandardOutput().count('\n'), changed);
             QVERIFY(changed == files || call.exitStatus() == QProcess::CrashExit);
+            QCOMPARE(call.readAllStandardError().count("interrupted: "), changed == files ? 0 : 1);
         }
     }
 };

@@ -37,7 +37,11 @@ int eachFile(const QStringList& names, const std::function<Outcome(const File&)>
     };
     const auto next = [&walk] { return isInterrupted() ? std::nullopt : walk.next(); };
     const int status = workInTurn<File>(next, workAndTell, output);
-    return isInterrupted() ? status : std::max(status, folders.tell(walk, "cli_294"));
+    if (!isInterrupted())
+        return std::max(status, folders.tell(walk, "cli_294"));
+    if (walk.next())
+        writeError(complaint(QStringLiteral("r7106"), text("cli_361")));
+    return status;
 }
 
 } // namespace workbench::command
