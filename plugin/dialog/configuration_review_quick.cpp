@@ -177,7 +177,9 @@ std::vector<int> ConfigurationReview::leftOutKeys() const
 {
     std::vector<int> keys;
     const Configuration* full = beforeQuick();
-    for (const int key : full ? deciders() : std::vector<int>()) {
+    if (!full)
+        return keys;
+    for (const int key : deciders()) {
         const review::FileKey& place = FileKeys::all()[key];
         const review::Held& after = edited_.after().at(key);
         const bool isKept =
