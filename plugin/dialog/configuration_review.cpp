@@ -366,9 +366,11 @@ void ConfigurationReview::bringBack(const std::vector<int>& keys, const EditHist
 void ConfigurationReview::takeOverFrom(const Differences& differences, const std::vector<int>& keys,
                                        const EditHistory::Words& words)
 {
-    Configuration changed = written();
-    review::takeOver(changed, differences, keys);
-    review::keepUnwritten(changed, open_.inFull());
+    OpenConfiguration::Changed changed{open_.inFull(), written()};
+    const std::vector<int> taken = review::takeOver(changed.written, differences, keys);
+    review::takeOver(changed.inFull, differences.before(), taken);
+    for (Configuration* side : {&changed.inFull, &changed.written})
+        review::keepUnwritten(*side, open_.inFull());
     open_.put(changed, {}, words);
 }
 

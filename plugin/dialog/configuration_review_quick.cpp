@@ -280,7 +280,7 @@ void ConfigurationReview::bringBackMade(const EditHistory::Words& words)
     Configuration changed = written();
     review::takeOver(changed, differences, keys);
     review::keepUnwritten(changed, made_->before);
-    open_.put(changed, {}, words);
+    open_.put({.inFull = changed, .written = changed}, {}, words);
 }
 
 QByteArray ConfigurationReview::withBroughtBack(const QByteArray& document) const

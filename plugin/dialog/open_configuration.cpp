@@ -114,39 +114,39 @@ const Values* OpenConfiguration::valuesOf(int table) const
 void OpenConfiguration::bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words)
 {
     history_.settle();
+    const auto brought = [&](const Configuration& present, const QByteArray& now) {
+        XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
+        Configuration changed = inFull();
+        review::readAsEdited(changed, *edited.root());
+        XmlDocument unedited(now, QStringLiteral("DEVICE"));
+        Configuration unchanged = inFull();
+        review::readAsEdited(unchanged, *unedited.root());
+        review::keepTheRest(changed, present, unchanged);
+        review::keepUnwritten(changed, inFull());
+        return changed;
+    };
     const QByteArray now = document();
-    XmlDocument edited(withEdits(now, unsaved), QStringLiteral("DEVICE"));
-    Configuration changed = inFull();
-    review::readAsEdited(changed, *edited.root());
-    XmlDocument unedited(now, QStringLiteral("DEVICE"));
-    Configuration unchanged = inFull();
-    review::readAsEdited(unchanged, *unedited.root());
-    review::keepTheRest(changed, written(), unchanged);
-    review::keepUnwritten(changed, inFull());
     // They belong to the configuration on which they were made, but for what the full window loses.
-    put(changed, now == unsaved.before ? unsaved.quick : heldByQuickAlone(unsaved), words);
+    put({.inFull = brought(inFull(), documentOf(inFull())), .written = brought(written(), now)},
+        now == unsaved.before ? unsaved.quick : heldByQuickAlone(unsaved), words);
 }
 
-void OpenConfiguration::put(const Configuration& changed, const QMap<QString, QString>& quick,
+void OpenConfiguration::put(const Changed& changed, const QMap<QString, QString>& quick,
                             const EditHistory::Words& words)
 {
     const QByteArray now = document();
-    // What quick setup would write otherwise stays in the full window as it is there.
-    Configuration full = changed;
-    if (isQuick())
-        review::keepTheRest(full, inFull(), written());
     history_.asOne(words, [&] {
         for (PageSettings* page : history_.pages()) {
-            const auto found = std::ranges::find_if(full.tables(), [&](const Values& values) {
-                return &values.table() == &page->values().table();
-            });
-            if (found != full.tables().end())
+            const std::vector<Values>& tables = changed.inFull.tables();
+            const auto found = std::ranges::find_if(
+                tables, [&](const Values& values) { return &values.table() == &page->values().table(); });
+            if (found != tables.end())
                 page->putBack(found->held());
         }
         if (!isQuick())
             return;
         XmlDocument document(QString(), QStringLiteral("DEVICE"));
-        changed.write(*document.root());
+        changed.written.write(*document.root());
         document.root()->commit();
         PageSettings& page = quickPage();
         const Values before = page.values();
@@ -157,7 +157,7 @@ void OpenConfiguration::put(const Configuration& changed, const QMap<QString, QS
         review::keepTheRest(read, before, unchanged);
         std::vector<QString> held = read.held();
         for (const Presets& presets : read.table().all<Presets>())
-            followPresets(presets, before, page.values(), changed, &held);
+            followPresets(presets, before, page.values(), changed.written, &held);
         for (auto value = quick.begin(); value != quick.end(); ++value) {
             if (const int row = page.rowAt(value.key()); row >= 0)
                 held[row] = value.value();

@@ -43,9 +43,15 @@ public:
     // What the window on show would write had it been given this document.
     QByteArray rewritten(const QByteArray& document) const;
 
+    // What the full window comes to hold, and what a write would bring then: the same while it is on show.
+    // What quick setup has no place for stands in the first alone.
+    struct Changed
+    {
+        Configuration inFull;
+        Configuration written;
+    };
     // `quick`: values of that window that stand whatever the configuration makes of them.
-    void put(const Configuration& changed, const QMap<QString, QString>& quick,
-             const EditHistory::Words& words);
+    void put(const Changed& changed, const QMap<QString, QString>& quick, const EditHistory::Words& words);
     // What was edited earlier.
     void bringBack(const review::Unsaved& unsaved, const EditHistory::Words& words);
 

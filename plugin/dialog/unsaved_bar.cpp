@@ -1,5 +1,6 @@
 #include "dialog/unsaved_bar.h"
 
+#include "review/quick_reach.h"
 #include "review/setting_words.h"
 #include "typing/file_error.h"
 #include "xml/xml_document.h"
@@ -108,6 +109,13 @@ bool UnsavedBar::isInNewer(const Offer& offer) const
                           newer.after.at(key) == offer.after.at(key);
                });
     });
+}
+
+bool UnsavedBar::hasNoPlace(const Offer& offer) const
+{
+    return review_.isQuick() && offer.kept.unsaved.quick.isEmpty() &&
+           std::ranges::any_of(
+               offer.own, [this](int key) { return review::isFixedByQuick(key) && review_.isUnedited(key); });
 }
 
 int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
@@ -344,7 +352,7 @@ void UnsavedBar::bringBack(int number)
     offer.isTakenBack = false;
     review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
     offer.brought = review_.differences().after();
-    offer.isInFullAlone = review_.isQuick() && changes(offer, offer.own) > 0;
+    offer.isInFullAlone = review_.isQuick() && (changes(offer, offer.own) > 0 || hasNoPlace(offer));
     refresh();
     endComparison();
 }
@@ -365,7 +373,8 @@ void UnsavedBar::endComparison()
 void UnsavedBar::drop()
 {
     for (Offer& offer : offers_) {
-        const bool isOver = (isThere(offer) && !offer.isInFullAlone) || changes(offer, offer.keys) == 0;
+        const bool isOver =
+            isThere(offer) ? !offer.isInFullAlone : changes(offer, offer.keys) == 0 && !hasNoPlace(offer);
         if (offer.isDiscarded || (isOver && alone(offer) == 0))
             offer.isClosed |= QFile::remove(offer.kept.path);
     }

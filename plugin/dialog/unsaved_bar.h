@@ -79,6 +79,9 @@ private:
     };
 
     bool isInNewer(const Offer& offer) const;
+    // Whether quick setup, which is on show, has its own value for something that was edited in full setup,
+    // even if it is the same one.
+    bool hasNoPlace(const Offer& offer) const;
     // Brought back, all that the window on show can.
     bool isThere(const Offer& offer) const
     {

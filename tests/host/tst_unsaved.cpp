@@ -297,37 +297,51 @@ private Q_SLOTS:
         const auto state = [this] {
             QCoreApplication::processEvents();
             auto* page = child<QWidget>("page_Full");
-            return QString("%1 %2 %3")
+            return QString("%1 %2 %3 %4")
                 .arg(page->findChild<QSpinBox*>("GPRSSrv_spinBox_Port_Main")->value())
                 .arg(child<QLineEdit>("lineEdit_Name_In2")->text())
-                .arg(child<QComboBox>("comboBox_NormState_In2")->currentIndex());
+                .arg(child<QComboBox>("comboBox_NormState_In2")->currentIndex())
+                .arg(child<QCheckBox>("checkBox_ControlRestore_In1")->isChecked());
         };
         host_.attach();
         open("tracker");
         edit();
         type(child<QLineEdit>("lineEdit_Name_In2"), "<All>Cab<Tab>");
+        // As quick setup has it of itself.
+        QTest::keyClick(child<QCheckBox>("checkBox_ControlRestore_In1"), Qt::Key_Space);
         QTest::keyClick(child<QComboBox>("comboBox_NormState_In2"), Qt::Key_Home);
-        QCOMPARE(state(), QString("5555 Cab 0"));
+        QCOMPARE(state(), QString("5555 Cab 0 0"));
         window->close();
         open("tracker", false);
         QCOMPARE(offer(), QString("rev_345: 4"));
         press("label_Unsaved_Action2");
         press("pushButton_Light_ConfigFull");
-        QCOMPARE(state(), QString("5555  0"));
+        QCOMPARE(state(), QString("5555  0 0"));
         press("label_Unsaved_Action1");
-        QCOMPARE(state(), QString("5555 Cab 0"));
+        QCOMPARE(state(), QString("5555 Cab 0 0"));
         for (int step = 0; step < 3; ++step)
             press("toolButton_Undo");
         QCOMPARE(offer(), QString("rev_345: 4"));
         press("label_Unsaved_Action2");
         window->close();
         open("tracker");
-        for (const QString& told : {"rev_345: 3", "rev_345: 1"}) {
+        for (const QString& told : {"rev_345: 3", "rev_345: 2"}) {
             QCOMPARE(offer(), told);
             press("label_Unsaved_Action2");
         }
         QCOMPARE(offer(), QString());
-        QCOMPARE(state(), QString("5555 Cab 0"));
+        QCOMPARE(state(), QString("5555 Cab 0 0"));
+        window->close();
+        // Nor does it go where quick setup has the same value.
+        begin();
+        open("tracker");
+        QTest::keyClick(child<QCheckBox>("checkBox_ControlRestore_In1"), Qt::Key_Space);
+        window->close();
+        open("tracker", false);
+        QCOMPARE(offer(), QString());
+        window->close();
+        open("tracker");
+        QCOMPARE(offer(), QString("rev_345: 1"));
     }
 
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
