@@ -287,14 +287,20 @@ QByteArray ConfigurationReview::withBroughtBack(const QByteArray& document) cons
 {
     if (isQuick() || !made_)
         return document;
-    std::vector<int> keys = made_->keys;
-    std::erase_if(keys, [this](int key) {
-        return isMade(key) || !(made_->stateBefore.at(key) == edited_.after().at(key));
-    });
+    const FileState& now = edited_.after();
+    std::vector<int> keys;
+    for (int key = 0; key < FileKeys::all().count(); ++key) {
+        const bool wasMade = std::ranges::binary_search(made_->keys, key);
+        // Of a line that was not used then, and is used again as in the file.
+        const bool wasNowhere = !made_->stateBefore.at(key).isThere && !made_->after.at(key).isThere;
+        if (wasMade ? !isMade(key) && made_->stateBefore.at(key) == now.at(key)
+                    : wasNowhere && now.at(key).isThere && !edited_.isDifferent(key))
+            keys.push_back(key);
+    }
     if (keys.empty() || document.isEmpty())
         return document;
     Configuration configuration = configurationIn(document);
-    review::takeOver(configuration, made_->stateBefore, keys);
+    review::takeOver(configuration, now, keys);
     return documentOf(configuration);
 }
 

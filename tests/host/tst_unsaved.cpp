@@ -344,6 +344,29 @@ private Q_SLOTS:
         QCOMPARE(offer(), QString("rev_345: 1"));
     }
 
+    // Nor is what quick setup made of a line an edit once it is brought back and the line is used again.
+    void broughtBackAfterQuickSetup()
+    {
+        host_.attach();
+        open("tracker");
+        auto* use = child<QComboBox>("comboBox_NormState_In1");
+        const int before = use->currentIndex();
+        QTest::keyClick(use, Qt::Key_Home);
+        toQuick();
+        press("pushButton_Light_ConfigFull");
+        press("label_Unsaved_Action1");
+        use = child<QComboBox>("comboBox_NormState_In1");
+        for (int line = 0; line < before; ++line)
+            QTest::keyClick(use, Qt::Key_Down);
+        QCOMPARE(use->currentIndex(), before);
+        QCoreApplication::processEvents();
+        edit();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^3 changes are kept: ")); // with the ignition
+        window->close();
+        open("tracker");
+        QCOMPARE(offer(), QString("rev_345: 3"));
+    }
+
     // In the button, at the end and in the offer. Whoever shows what is logged tells of it at the next start.
     void countedAlike()
     {
@@ -427,10 +450,6 @@ private Q_SLOTS:
     // A change of windows alone is no edit.
     void switchedWindows()
     {
-        const auto toQuick = [this] {
-            ScriptedHost::whenModal([](QWidget* box) { box->findChildren<QAbstractButton*>()[0]->click(); });
-            press("pushButton_ConfigLight");
-        };
         toQuick();
         window->close();
         QCOMPARE(files().size(), 0);

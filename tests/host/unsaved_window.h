@@ -53,6 +53,12 @@ protected:
         type(page->findChild<QLineEdit*>("GPRSSrv_lineEdit_IP_DNS_Main"), "<All>10.0.0.1<Tab>");
         QCoreApplication::processEvents();
     }
+    // It asks first.
+    void toQuick() const
+    {
+        ScriptedHost::whenModal([](QWidget* box) { box->findChildren<QAbstractButton*>()[0]->click(); });
+        press("pushButton_ConfigLight");
+    }
     // What the button for the tracker hands over.
     QByteArray written(bool full = true)
     {
