@@ -1,7 +1,5 @@
 #include "dialog/unsaved_bar.h"
 
-#include "review/quick_reach.h"
-#include "review/setting_words.h"
 #include "typing/file_error.h"
 #include "xml/xml_document.h"
 
@@ -42,12 +40,12 @@ QString nameOf(const review::Unsaved& unsaved)
 } // namespace
 
 UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
-    : NoticeBar(parent, QStringLiteral("label_Unsaved")), review_(review)
+    : NoticeBar(parent, QStringLiteral("label_Unsaved")), review_(review), offers_(review)
 {
     connect(&review_, &ConfigurationReview::changed, this, &UnsavedBar::refresh);
     connect(this, &NoticeBar::closed, this, [this](int number) {
         if (number > kFailure && number < kTakenForUsed)
-            offers_[number - 1].isClosed = true;
+            offers_.at(number).isClosed = true;
         if (number == kReplaced)
             endReplaced();
         if (number == kDamaged) {
@@ -59,8 +57,8 @@ UnsavedBar::UnsavedBar(ConfigurationReview& review, QWidget* parent)
 
 void UnsavedBar::begin(const QString& folder, const QString& subject)
 {
-    for (std::size_t i = 0; i < offers_.size(); ++i)
-        end(static_cast<int>(i) + 1);
+    for (int number = 1; number <= offers_.count(); ++number)
+        end(number);
     end(kFailure);
     end(kFile);
     end(kReplaced);
@@ -71,19 +69,7 @@ void UnsavedBar::begin(const QString& folder, const QString& subject)
     for (auto& [number, sensors] : sensors_)
         end(number);
     sensors_.clear();
-    offers_.clear();
-    for (review::KeptUnsaved& kept : review::keptUnsaved(folder, subject)) {
-        XmlDocument after(kept.unsaved.after, QStringLiteral("DEVICE"));
-        std::vector<int> keys = editedKeys(kept.unsaved);
-        std::vector<int> own = ownKeys(kept.unsaved);
-        QMap<QString, QString> alone = heldByQuickAlone(kept.unsaved);
-        Offer offer{std::move(kept), std::move(keys), std::move(own), std::move(alone),
-                    review::FileState::ofDocument(*after.root())};
-        if (isInNewer(offer))
-            QFile::remove(offer.kept.path);
-        else
-            offers_.push_back(std::move(offer));
-    }
+    offers_.read(folder, subject);
     damaged_ = review::setDamagedAside(folder, subject);
     tellDamaged();
     drop();
@@ -99,101 +85,17 @@ void UnsavedBar::tellDamaged()
     });
 }
 
-// Brought back once, and kept again with the edits that followed, when the process died.
-bool UnsavedBar::isInNewer(const Offer& offer) const
-{
-    return std::ranges::any_of(offers_, [&](const Offer& newer) {
-        return (offer.alone.isEmpty() || newer.alone == offer.alone) &&
-               std::ranges::all_of(offer.keys, [&](int key) {
-                   return std::ranges::find(newer.keys, key) != newer.keys.end() &&
-                          newer.after.at(key) == offer.after.at(key);
-               });
-    });
-}
-
-bool UnsavedBar::hasNoPlace(const Offer& offer) const
-{
-    return review_.isQuick() && offer.kept.unsaved.quick.isEmpty() &&
-           std::ranges::any_of(
-               offer.own, [this](int key) { return review::isFixedByQuick(key) && review_.isUnedited(key); });
-}
-
-int UnsavedBar::changes(const Offer& offer, const std::vector<int>& keys) const
-{
-    const review::FileState& now = review_.differences().after();
-    return static_cast<int>(
-        std::ranges::count_if(keys, [&](int key) { return !(offer.after.at(key) == now.at(key)); }));
-}
-
-int UnsavedBar::count(const Offer& offer) const
-{
-    int count = changes(offer, offer.own);
-    if (review_.isQuick() != offer.kept.unsaved.quick.isEmpty())
-        count = review::countOf(offer.kept.unsaved, count, static_cast<int>(offer.own.size()));
-    return std::max(count, 1);
-}
-
-// Once it was brought back it is over, whatever else becomes of its keys; but where that was taken back it
-// waits until all of it stands there again.
-void UnsavedBar::follow(Offer& offer) const
-{
-    const review::FileState& now = review_.differences().after();
-    const auto isBrought = [&](int key) { return now.at(key) == offer.brought->at(key); };
-    if (changes(offer, offer.keys) == 0 || (offer.brought && std::ranges::all_of(offer.keys, isBrought)))
-        offer.isTakenBack = false;
-    else if (offer.replaced &&
-             std::ranges::all_of(offer.keys, [&](int key) { return now.at(key) == offer.replaced->at(key); }))
-        offer.isTakenBack = true;
-}
-
-// What has been edited since, in this window or by a newer offer, and would be lost: captions, or how many.
-QString UnsavedBar::replacedBy(const Offer& offer) const
-{
-    const review::Differences& edits = review_.edits();
-    QStringList names;
-    for (const int key : offer.own) {
-        if (!review_.isOwn(key) || offer.after.at(key) == edits.after().at(key))
-            continue;
-        const review::FileKey& place = review::FileKeys::all()[key];
-        names << placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
-    }
-    constexpr int most = 2;
-    return names.size() > most ? QLocale().toString(names.size()) : names.join(QStringLiteral("; "));
-}
-
-QStringList UnsavedBar::broughtOtherwise() const
-{
-    const review::Differences& edits = review_.edits();
-    QStringList told;
-    for (const Offer& offer : offers_) {
-        if (!offer.brought || !isThere(offer))
-            continue;
-        for (const int key : offer.own) {
-            const review::Held& now = edits.after().at(key);
-            const bool isOther = !(now == offer.after.at(key)) && now == offer.brought->at(key);
-            if (!isOther || !now.isThere || !offer.after.at(key).isThere)
-                continue;
-            const review::FileKey& place = review::FileKeys::all()[key];
-            const QString caption =
-                placeText(review::wordsOf(review::FileKeys::all().layout(place.table), place.rows.front()));
-            const QString value = review_.textOf(edits, edits.differenceAt(key)).afterText;
-            told << QStringLiteral("%1: %2").arg(caption, value.isEmpty() ? words("rev_753") : value);
-        }
-    }
-    return told;
-}
-
 // An offer whose changes are there is over, and comes again when they are taken back. Of what only the quick
 // window has the full one cannot say that it is there.
 void UnsavedBar::refresh()
 {
-    for (int number = 1; number <= static_cast<int>(offers_.size()); ++number) {
-        Offer& offer = offers_[number - 1];
-        follow(offer);
-        const bool isOver = offer.isClosed || isThere(offer) || changes(offer, offer.keys) == 0;
-        const int count = isOver ? 0 : this->count(offer);
-        const int alone = offer.isClosed ? 0 : this->alone(offer);
-        const QString replaces = isOver ? QString() : replacedBy(offer);
+    for (int number = 1; number <= offers_.count(); ++number) {
+        KeptOffer& offer = offers_.at(number);
+        offers_.follow(offer);
+        const bool isOver = offers_.isOver(offer);
+        const int count = isOver ? 0 : offers_.changesOf(offer);
+        const int alone = offer.isClosed ? 0 : offers_.alone(offer);
+        const QString replaces = isOver ? QString() : offers_.replacedBy(offer);
         if (count == offer.told && alone == offer.toldAlone && replaces == offer.replaces)
             continue;
         offer.told = count;
@@ -204,13 +106,13 @@ void UnsavedBar::refresh()
         else
             end(number);
     }
-    if (QStringList otherwise = broughtOtherwise(); otherwise != otherwise_) {
+    if (QStringList otherwise = offers_.broughtOtherwise(); otherwise != otherwise_) {
         otherwise_ = std::move(otherwise);
         if (otherwise_.isEmpty())
             end(kOtherwise);
         else
             tell(kOtherwise, [this] {
-                const QString settings = broughtOtherwise().join(QStringLiteral("; "));
+                const QString settings = offers_.broughtOtherwise().join(QStringLiteral("; "));
                 return Notice{Mark::Advice, words("rev_772").arg(settings), {}};
             });
     }
@@ -307,7 +209,7 @@ void UnsavedBar::tellOffer(int number)
 
 Notice UnsavedBar::noticeOf(int number)
 {
-    const Offer& offer = offers_[number - 1];
+    const KeptOffer& offer = offers_.at(number);
     const review::Unsaved& unsaved = offer.kept.unsaved;
     const QString alone = QLocale().toString(offer.toldAlone);
     QString text = offer.told == 0
@@ -335,7 +237,7 @@ Notice UnsavedBar::noticeOf(int number)
 
 void UnsavedBar::showOffer(int number)
 {
-    Offer& offer = offers_[number - 1];
+    KeptOffer& offer = offers_.at(number);
     offer.isShown = true;
     XmlDocument edited(withEdits(review_.document(), offer.kept.unsaved), QStringLiteral("DEVICE"));
     review_.compareWith(review::FileState::ofDocument(*edited.root()),
@@ -346,20 +248,14 @@ void UnsavedBar::showOffer(int number)
 
 void UnsavedBar::bringBack(int number)
 {
-    Offer& offer = offers_[number - 1];
-    offer.replaced = review_.differences().after();
-    offer.brought.reset();
-    offer.isTakenBack = false;
-    review_.bringBack(offer.kept.unsaved, [] { return words("rev_144"); });
-    offer.brought = review_.differences().after();
-    offer.isInFullAlone = review_.isQuick() && (changes(offer, offer.own) > 0 || hasNoPlace(offer));
+    offers_.bringBack(offers_.at(number), [] { return words("rev_144"); });
     refresh();
     endComparison();
 }
 
 void UnsavedBar::discard(int number, bool isDiscarded)
 {
-    offers_[number - 1].isDiscarded = isDiscarded;
+    offers_.at(number).isDiscarded = isDiscarded;
     tellOffer(number);
     endComparison();
 }
@@ -368,16 +264,6 @@ void UnsavedBar::endComparison()
 {
     if (!review_.otherName().isEmpty())
         review_.compareWith(ConfigurationReview::Against::File);
-}
-
-void UnsavedBar::drop()
-{
-    for (Offer& offer : offers_) {
-        const bool isOver =
-            isThere(offer) ? !offer.isInFullAlone : changes(offer, offer.keys) == 0 && !hasNoPlace(offer);
-        if (offer.isDiscarded || (isOver && alone(offer) == 0))
-            offer.isClosed |= QFile::remove(offer.kept.path);
-    }
 }
 
 void UnsavedBar::tellFile(const std::function<Notice()>& notice)
