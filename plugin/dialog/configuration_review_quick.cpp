@@ -262,8 +262,9 @@ void ConfigurationReview::moveToFull(const std::function<void()>& move)
     // After a write from the quick window the full one held, until now, what is gone by then.
     const bool isStale = !gone_.empty();
     for (const int key : unedited) {
-        const bool isMoved = !isStale && !(made.stateBefore.at(key) == made.after.at(key));
-        if (isMoved || (differences.isDifferent(key) && !differences.isByLoad(key)))
+        // What the full window held so already was edited there.
+        const bool isMoved = !(made.stateBefore.at(key) == made.after.at(key));
+        if (isMoved && (!isStale || (differences.isDifferent(key) && !differences.isByLoad(key))))
             made.keys.push_back(key);
     }
     made_ = std::move(made);

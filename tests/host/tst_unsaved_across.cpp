@@ -115,6 +115,7 @@ private Q_SLOTS:
         QCOMPARE(state(), QString("5555  0 0"));
         press("label_Unsaved_Action1");
         QCOMPARE(state(), QString("5555 Cab 0 0"));
+        QCOMPARE(child<QToolButton>("toolButton_Differences")->text(), QString("5"));
         for (int step = 0; step < 3; ++step)
             press("toolButton_Undo");
         QCOMPARE(offer(), QString("rev_345: 4"));
