@@ -1,7 +1,9 @@
 #include "review/bring_settings.h"
 
+#include "document/configuration_text.h"
 #include "review/advice.h"
 #include "review/edit_file.h"
+#include "review/setting_parts.h"
 #include "review/take_over.h"
 #include "settings/all_settings.h"
 #include "xml/xml_document.h"
@@ -53,6 +55,8 @@ public:
             keys_ = takeOver(result_, differences_, keys_);
             for (std::size_t i = 0; i < known; ++i)
                 addSwitches(keys_[i]);
+            if (known == keys_.size())
+                addAdvised();
         }
         mendAdvice();
         return withConfiguration(text, result_, keys_);
@@ -101,14 +105,44 @@ private:
             keys_.push_back(key);
     }
 
-    // What the settings would be told of here and are not there, as far as the rules know what to do.
-    void mendAdvice()
+    // What is told without them, here or of the source.
+    QSet<QString> knownAdvice() const
     {
         QSet<QString> known;
         for (const Configuration* configuration : {&present_, &source_}) {
             for (const Finding& finding : advise(*configuration))
                 known.insert(nameOf(finding));
         }
+        return known;
+    }
+
+    // Settings without which these would be told of here and are not there: the port of a server. Of what has
+    // many parts, as the record, the rules know better which.
+    void addAdvised()
+    {
+        const QSet<QString> known = knownAdvice();
+        // As it is read: whether a server is used shows then.
+        for (const Finding& finding : advise(configurationIn(documentOf(result_)))) {
+            if (known.contains(nameOf(finding)) || !finding.mends.empty())
+                continue;
+            for (const QString& path : finding.paths) {
+                const int key = FileKeys::all().at(path);
+                if (key >= 0 && partCount(settingOf(key)) == 0)
+                    add(FileKeys::all()[key].table, FileKeys::all()[key].rows.front());
+            }
+        }
+    }
+
+    const Setting& settingOf(int key) const
+    {
+        const FileKey& place = FileKeys::all()[key];
+        return present_.tables()[place.table].setting(place.rows.front());
+    }
+
+    // What the settings would be told of here and are not there, as far as the rules know what to do.
+    void mendAdvice()
+    {
+        QSet<QString> known = knownAdvice();
         for (bool isMended = true; isMended;) {
             isMended = false;
             for (const Finding& finding : advise(result_)) {

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void settingsAreBrought_data()
     {
         const QByteArray line = "<OUTPUTS><LINE1 mode='GP' autoOff='%' autoOffDelay='%'/></OUTPUTS>";
+        const QByteArray server = "<TRANS><SRV2 addr='%' port='%'/></TRANS>";
         const QByteArray fuel = "<PROTOCOL><ZETA mask='%'/></PROTOCOL><RS485><OPTIONS owner1='FLDS'/>"
                                 "<FS1 use='%' address='%'/></RS485>";
         const auto of = [](QByteArray text, const QByteArrayList& values) {
@@ -102,6 +103,10 @@ private Q_SLOTS:
                  "RS485/OPTIONS/owner1 RS485/TPMS/type RS485/TPMS/holdTime")
             .row("the switch that closes it", "OUTPUTS/LINE1/autoOffDelay", of(line, {"0", "0"}),
                  of(line, {"1", "9"}), "OUTPUTS/LINE1/autoOff OUTPUTS/LINE1/autoOffDelay")
+            .row("the port of its address", "TRANS/SRV2/addr", of(server, {"0.0.0.0", "0"}),
+                 of(server, {"a.example.com", "4321"}), "TRANS/SRV2/addr TRANS/SRV2/port")
+            .row("a port that is there", "TRANS/SRV2/addr", of(server, {"b.example.com", "5000"}),
+                 of(server, {"a.example.com", "4321"}), "TRANS/SRV2/addr")
             .row("the field of the record", "RS485/FS1/address", of(fuel, {QByteArray(255, '0'), "0", "1"}),
                  of(fuel, {QByteArray(255, '1'), "1", "7"}),
                  "PROTOCOL/ZETA/mask RS485/FS1/use RS485/FS1/address");
