@@ -79,13 +79,18 @@ private:
                     add(place.table, condition.other);
                 }
             }
+            const auto isOn = [&](int other) {
+                const QString& value = wanted.value(other);
+                return !value.isEmpty() && value != QLatin1String("0");
+            };
             const TableLayout::Element& element = layout.elements[layout.rows[row].group];
             for (int other = element.firstRow; other < element.endRow; ++other) {
-                const QString& value = wanted.value(other);
-                if (layout.rows[other].key == QLatin1String("use") && !value.isEmpty() &&
-                    value != QLatin1String("0"))
+                if (layout.rows[other].key == QLatin1String("use") && isOn(other))
                     add(place.table, other);
             }
+            // That of a whole section.
+            if (const int whole = layout.rowAt(QStringLiteral("GLOBAL/use")); isOn(whole))
+                add(place.table, whole);
         }
     }
 

@@ -107,6 +107,12 @@ private Q_SLOTS:
                  of(server, {"a.example.com", "4321"}), "TRANS/SRV2/addr TRANS/SRV2/port")
             .row("a port that is there", "TRANS/SRV2/addr", of(server, {"b.example.com", "5000"}),
                  of(server, {"a.example.com", "4321"}), "TRANS/SRV2/addr")
+            .row("the type of its sensor", "BLUETOOTH/SENS1/macaddr",
+                 "<BLUETOOTH><GLOBAL use='0'/></BLUETOOTH>",
+                 "<BLUETOOTH><GLOBAL use='1'/><CHANNEL1 device='SENS'/><SENS1 type='2' "
+                 "macaddr='00:11:22:33:44:55'/></BLUETOOTH>",
+                 "BLUETOOTH/GLOBAL/use BLUETOOTH/SENS1/type BLUETOOTH/SENS1/macaddr BLUETOOTH/TS1/type "
+                 "BLUETOOTH/TS1/idx")
             .row("the field of the record", "RS485/FS1/address", of(fuel, {QByteArray(255, '0'), "0", "1"}),
                  of(fuel, {QByteArray(255, '1'), "1", "7"}),
                  "PROTOCOL/ZETA/mask RS485/FS1/use RS485/FS1/address");
