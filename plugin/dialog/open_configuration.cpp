@@ -126,8 +126,9 @@ void OpenConfiguration::bringBack(const review::Unsaved& unsaved, const EditHist
         return changed;
     };
     const QByteArray now = document();
+    const Configuration changed = brought(written(), now);
     // They belong to the configuration on which they were made, but for what the full window loses.
-    put({.inFull = brought(inFull(), documentOf(inFull())), .written = brought(written(), now)},
+    put({.inFull = isQuick() ? brought(inFull(), documentOf(inFull())) : changed, .written = changed},
         now == unsaved.before ? unsaved.quick : heldByQuickAlone(unsaved), words);
 }
 

@@ -102,17 +102,21 @@ void mask(DifferenceText* text)
 }
 
 // A rule may give it by another setting, of which the side before has a value of its own.
-const char* unitBefore(const FileState& before, Values values, int table, int row)
+const char* unitBefore(const FileState& before, const Values& values, int table, int row)
 {
+    const std::vector<const RangeWhen*>& rules = values.row(values.holder(row)).ranges;
+    if (std::ranges::none_of(rules, [](const RangeWhen* rule) { return rule->unit; }))
+        return values.unitKey(row);
     std::vector<QString> held = values.held();
-    for (const RangeWhen* rule : values.row(values.holder(row)).ranges) {
+    for (const RangeWhen* rule : rules) {
         const int decider = rule->when.row < 0 ? -1 : values.holder(rule->when.row);
         const int key = rule->unit && decider >= 0 ? FileKeys::all().of(table, decider) : -1;
         if (key >= 0 && before.at(key).isThere)
             held[decider] = before.at(key).meaning;
     }
-    values.putBack(held);
-    return values.unitKey(row);
+    Values asBefore = values;
+    asBefore.putBack(held);
+    return asBefore.unitKey(row);
 }
 
 // What stands above the settings of the full window in the same element; empty where there are none.

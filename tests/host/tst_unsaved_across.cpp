@@ -9,11 +9,7 @@ class UnsavedAcrossTest : public QObject, private UnsavedWindow
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QDir::setCurrent(folder_.path());
-        host_.start();
-    }
+    void initTestCase() { start(); }
     void init() { begin(); }
 
     // The full window cannot say of what only the quick one has that it is there, whatever else it brings

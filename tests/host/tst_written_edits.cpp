@@ -8,11 +8,7 @@ class WrittenEditsTest : public QObject, private UnsavedWindow
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QDir::setCurrent(folder_.path());
-        host_.start();
-    }
+    void initTestCase() { start(); }
     void init() { begin(); }
 
     // From then on the tracker has what was written; a file that was opened stays as it is.

@@ -25,6 +25,11 @@ inline void useFolder(ScriptedHost& host, const QString& folder)
 class UnsavedWindow : protected WindowParts
 {
 protected:
+    void start()
+    {
+        QDir::setCurrent(folder_.path());
+        host_.start();
+    }
     // With a folder in which nothing is kept.
     void begin()
     {

@@ -18,6 +18,23 @@ using vlk::NoticeBar;
 
 Q_DECLARE_METATYPE(NoticeBar::Place)
 
+namespace {
+
+class BarOnShow : public QWidget
+{
+public:
+    BarOnShow()
+    {
+        resize(600, 60);
+        bar.resize(size());
+        show();
+    }
+
+    NoticeBar bar{this};
+};
+
+} // namespace
+
 class NoticeBarTest : public QObject
 {
     Q_OBJECT
@@ -27,11 +44,8 @@ private Q_SLOTS:
     // one after the other is not held up.
     void lateClick()
     {
-        QWidget window;
-        NoticeBar bar(&window);
-        window.resize(600, 60);
-        bar.resize(window.size());
-        window.show();
+        BarOnShow window;
+        NoticeBar& bar = window.bar;
         auto* const cross = bar.findChild<QToolButton*>(QStringLiteral("label_Notice_Close"));
         const auto tell = [&bar] {
             for (const int number : {3, 2, 1})
@@ -60,11 +74,8 @@ private Q_SLOTS:
     // something new.
     void ledOn()
     {
-        QWidget window;
-        NoticeBar bar(&window);
-        window.resize(600, 60);
-        bar.resize(window.size());
-        window.show();
+        BarOnShow window;
+        NoticeBar& bar = window.bar;
         auto* const place = bar.findChild<QToolButton*>(QStringLiteral("label_NoticePlace"));
         const auto tell = [&](int number, Mark mark) {
             bar.tell(number, Notice{mark, QString::number(number), {{QStringLiteral("Do it"), [] {}}}});
